@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "platform/runtime_error.h"
+
+/// A table of fixed size. Reaching past it raises subscript out of range (9).
+template <class Entry, std::size_t Size>
+class CheckedTable {
+ public:
+    CheckedTable() : entries_(Size) {}
+
+    Entry& operator[](long index) { return entries_[checked(index)]; }
+    const Entry& operator[](long index) const { return entries_[checked(index)]; }
+
+ private:
+    static std::size_t checked(long index) {
+        if (index < 0 || static_cast<std::size_t>(index) >= Size) {
+            throw errors::subscriptOutOfRange();
+        }
+        return static_cast<std::size_t>(index);
+    }
+
+    std::vector<Entry> entries_;
+};

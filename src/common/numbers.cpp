@@ -1,0 +1,68 @@
+#include "common/numbers.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "common/text.h"
+#include "platform/runtime_error.h"
+
+namespace {
+
+bool isDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+
+std::size_t digitsAt(std::wstring_view text, std::size_t from) {
+    std::size_t end = from;
+    while (end < text.size() && isDigit(text[end])) ++end;
+    return end - from;
+}
+
+/// Where the decimals stand against one half: negative below, 0 exactly half, positive above.
+int againstHalf(std::wstring_view decimals) {
+    if (decimals.empty() || decimals[0] < L'5') return -1;
+    if (decimals[0] > L'5') return 1;
+    return decimals.find_first_not_of(L'0', 1) == std::wstring_view::npos ? 0 : 1;
+}
+
+long rounded(long whole, std::wstring_view decimals) {
+    const int half = againstHalf(decimals);
+    return half > 0 || (half == 0 && whole % 2 == 1) ? whole + 1 : whole;
+}
+
+}  // namespace
+
+long numericValue(std::wstring_view text) {
+    constexpr long kLargest = std::numeric_limits<long>::max();
+    long value = 0;
+    for (std::size_t i = 0; i < text.size() && isDigit(text[i]); ++i) {
+        const long digit = text[i] - L'0';
+        if (value > (kLargest - digit) / 10) return kLargest;
+        value = value * 10 + digit;
+    }
+    return value;
+}
+
+std::int16_t wholeNumber(std::wstring_view text) {
+    std::wstring_view rest = trimmed(text);
+    const bool negative = !rest.empty() && rest[0] == L'-';
+    if (negative || (!rest.empty() && rest[0] == L'+')) rest.remove_prefix(1);
+
+    const std::wstring_view whole = rest.substr(0, digitsAt(rest, 0));
+    rest.remove_prefix(whole.size());
+    std::wstring_view decimals;
+    if (!rest.empty() && (rest[0] == L'.' || rest[0] == L',')) {
+        decimals = rest.substr(1, digitsAt(rest, 1));
+        rest.remove_prefix(1 + decimals.size());
+    }
+    if (!rest.empty() || (whole.empty() && decimals.empty())) throw errors::typeMismatch();
+
+    constexpr long kPastAll = 1L << 20;
+    const long magnitude = rounded(std::min(numericValue(whole), kPastAll), decimals);
+    const long value = negative ? -magnitude : magnitude;
+    if (value < std::numeric_limits<std::int16_t>::min() ||
+        value > std::numeric_limits<std::int16_t>::max()) {
+        throw errors::overflow();
+    }
+    return static_cast<std::int16_t>(value);
+}
+
+std::wstring decimal(long number) { return std::to_wstring(number); }

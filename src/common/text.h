@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// The text without the blanks around it.
+std::wstring_view trimmed(std::wstring_view text);
+
+/// Whether two texts differ in case only.
+bool equalIgnoringCase(std::wstring_view a, std::wstring_view b);
+
+/// Takes the next line off the front of `rest`: up to CR LF, LF or CR, which is dropped.
+std::wstring_view takeLine(std::wstring_view& rest);

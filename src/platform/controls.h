@@ -1,0 +1,73 @@
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+
+// The controls of a window as the forms see them. What code changes through these interfaces
+// never raises an event; a form that owes itself one calls its own handler.
+
+/// Any control: label, button, text box, frame.
+class Control {
+ public:
+    virtual ~Control() = default;
+    virtual std::wstring text() const = 0;
+    virtual void setText(const std::wstring& text) = 0;
+    virtual void setEnabled(bool enabled) = 0;
+    virtual void setVisible(bool visible) = 0;
+    /// Draws the control now rather than when the program is next idle.
+    virtual void repaint() = 0;
+};
+
+class CheckBox : public Control {
+ public:
+    virtual bool checked() const = 0;
+    virtual void setChecked(bool checked) = 0;
+};
+
+/// A list of lines (zero-based), each with a number beside it that the user doesn't see.
+class ListBox : public Control {
+ public:
+    virtual int count() const = 0;
+    virtual std::wstring line(int index) const = 0;
+    virtual bool selected(int index) const = 0;
+    virtual void select(int index, bool selected) = 0;
+    virtual void clearSelection() = 0;
+    virtual int mark(int index) const = 0;
+    virtual void setMark(int index, int mark) = 0;
+    /// Replaces all lines; none is selected and every mark is 0.
+    virtual void setLines(int count, const std::function<std::wstring(int)>& line) = 0;
+    /// Removes a line and inserts another in its place: not selected, its mark 0.
+    virtual void replaceLine(int index, const std::wstring& line) = 0;
+    /// Between these two nothing is drawn. Use DrawingPause.
+    virtual void stopDrawing() = 0;
+    virtual void resumeDrawing() = 0;
+};
+
+/// While it lives a list is not drawn; then it is drawn once.
+class DrawingPause {
+ public:
+    explicit DrawingPause(ListBox& list) : list_(list) { list_.stopDrawing(); }
+    ~DrawingPause() { list_.resumeDrawing(); }
+    DrawingPause(const DrawingPause&) = delete;
+    DrawingPause& operator=(const DrawingPause&) = delete;
+
+ private:
+    ListBox& list_;
+};
+
+/// A drop-down list; its text is typed in or that of the selected line.
+class ComboBox : public Control {
+ public:
+    virtual void setLines(std::span<const std::wstring> lines) = 0;
+    /// Zero-based, -1 for none.
+    virtual int selectedLine() const = 0;
+    virtual void selectLine(int index) = 0;
+};
+
+/// A row of tabs; which page shows is up to the form.
+class TabStrip : public Control {
+ public:
+    virtual int selectedTab() const = 0;  ///< zero-based
+    virtual void selectTab(int index) = 0;
+};

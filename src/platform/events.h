@@ -1,0 +1,35 @@
+#pragma once
+
+#include <span>
+
+/// What a user does to a control. `Close` is the window's frame asking to be closed.
+enum class Event { Click, DoubleClick, Change, Validate, Close };
+
+/// The id under which a window's own events are raised.
+inline constexpr int kTheWindow = 0;
+
+/// Who handles the events of a window.
+class EventSink {
+ public:
+    virtual ~EventSink() = default;
+    virtual void raise(int controlId, Event event) = 0;
+};
+
+/// One line of a form's table of handlers.
+template <class Form>
+struct Binding {
+    int controlId;
+    Event event;
+    void (Form::*handler)();
+};
+
+/// Calls the form's handler for an event, if its table has one.
+template <class Form>
+void dispatch(Form& form, std::span<const Binding<Form>> bindings, int controlId, Event event) {
+    for (const auto& binding : bindings) {
+        if (binding.controlId == controlId && binding.event == event) {
+            (form.*binding.handler)();
+            return;
+        }
+    }
+}

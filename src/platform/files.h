@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// One name in a directory, valid only while it is being visited.
+struct DirectoryEntry {
+    std::wstring_view name;
+    bool isDirectory;
+    bool isHidden;
+    bool isLink;  ///< a junction or symbolic link: it may lead back up
+};
+
+/// What tells one directory from all others, whatever path leads to it.
+struct DirectoryId {
+    unsigned long long volume;
+    unsigned long long file;
+    bool operator==(const DirectoryId&) const = default;
+};
+
+/// The file system. Paths are full paths; long ones need no prefix.
+class Files {
+ public:
+    virtual ~Files() = default;
+
+    /// The whole text of a file: UTF-8 when its bytes are valid UTF-8, else the system's
+    /// single-byte code page. Raises 53, 70, 75 or 76.
+    virtual std::wstring readText(const std::wstring& path) = 0;
+
+    /// Creates or replaces a file whole, as UTF-8: an interrupted write leaves the old one.
+    /// Raises 5 for text that can't be encoded, else 70, 75 or 76.
+    virtual void replaceText(const std::wstring& path, std::wstring_view text) = 0;
+
+    /// Visits every entry of a directory but "." and "..", in no order. Raises 70 or 76.
+    virtual void visit(const std::wstring& directory,
+                       const std::function<void(const DirectoryEntry&)>& visitor) = 0;
+
+    /// Raises 70 or 76 when the directory can't be opened.
+    virtual DirectoryId identify(const std::wstring& directory) = 0;
+
+    /// The drives present, as lower-case letters in order.
+    virtual std::vector<wchar_t> drives() = 0;
+
+    /// The program's current directory on a drive, the drive's root when it has none of its own.
+    virtual std::wstring currentDirectory(wchar_t drive) = 0;
+};

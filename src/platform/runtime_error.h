@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+/// A failure that ends the program: its number is the exit code, its text a French sentence for
+/// the user. Caught in one place only, where the platform calls a handler.
+struct RuntimeError {
+    int number;
+    std::wstring text;
+};
+
+/// The program ends at once and without a message, with exit code 0.
+struct ProgramEnd {};
+
+/// The run-time errors that rules of the program raise. Their numbers are part of the interface.
+namespace errors {
+RuntimeError invalidArgument();                            ///< 5
+RuntimeError overflow();                                   ///< 6
+RuntimeError outOfMemory();                                ///< 7
+RuntimeError subscriptOutOfRange();                        ///< 9
+RuntimeError typeMismatch();                               ///< 13
+RuntimeError fileNotFound(const std::wstring& path);       ///< 53
+RuntimeError permissionDenied(const std::wstring& path);   ///< 70
+RuntimeError fileAccess(const std::wstring& path);         ///< 75
+RuntimeError pathNotFound(const std::wstring& path);       ///< 76
+RuntimeError emptyObject();                                ///< 91
+RuntimeError unknownMember(const std::wstring& name);      ///< 438
+RuntimeError automation(const std::wstring& description);  ///< 440; empty: a general sentence
+}  // namespace errors

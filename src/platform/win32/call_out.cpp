@@ -1,0 +1,57 @@
+#include "platform/win32/call_out.h"
+
+#include "platform/retry_policy.h"
+#include "platform/win32/modal_box.h"
+
+namespace {
+
+bool isBusy(HRESULT result) {
+    return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER;
+}
+
+void pumpMessages() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+void waitWhileDrawing(unsigned milliseconds) {
+    const ULONGLONG end = GetTickCount64() + milliseconds;
+    for (ULONGLONG now = GetTickCount64(); now < end; now = GetTickCount64()) {
+        MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(end - now), QS_ALLINPUT, 0);
+        pumpMessages();
+    }
+}
+
+bool userGoesOn() {
+    return showModalBox({.text = L"SolidWorks est occupé.",
+                         .title = L"Tarnwick",
+                         .style = MB_RETRYCANCEL | MB_ICONEXCLAMATION}) == IDRETRY;
+}
+
+}  // namespace
+
+HRESULT callPatiently(const std::function<HRESULT()>& call) {
+    RetryPolicy policy;
+    HRESULT result = call();
+    ULONGLONG since = GetTickCount64();
+    while (isBusy(result)) {
+        if (const auto wait = policy.next(GetTickCount64() - since)) {
+            const CallOut waiting;
+            waitWhileDrawing(*wait);
+        } else if (userGoesOn()) {
+            policy.restart();
+            since = GetTickCount64();
+        } else {
+            return result;
+        }
+        result = call();
+    }
+    return result;
+}

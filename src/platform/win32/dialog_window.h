@@ -1,0 +1,62 @@
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+#include <memory>
+
+#include "platform/win32/window_fonts.h"
+#include "platform/window.h"
+
+class EventGate;
+
+/// A window of the program, made from a dialog resource. One procedure serves all of them: it
+/// turns notifications into events and sends those through the gate.
+class DialogWindow : public Window {
+ public:
+    DialogWindow(const WindowTemplate& windowTemplate, EventSink& events, EventGate& gate);
+    ~DialogWindow() override;
+    DialogWindow(const DialogWindow&) = delete;
+    DialogWindow& operator=(const DialogWindow&) = delete;
+
+    Control& control(int id) override;
+    CheckBox& checkBox(int id) override;
+    ListBox& listBox(int id) override;
+    ComboBox& comboBox(int id) override;
+    TabStrip& tabStrip(int id) override;
+
+    int top() const override;
+    int left() const override;
+    void moveTo(int top, int left) override;
+    void resize(int width, int height) override;
+    void show() override;
+    void hide() override;
+    void unload() override;
+
+ private:
+    static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam);
+    void onCommand(int id, WORD code, HWND control);
+    void chooseFonts(int headingId);
+    POINT restoredCorner() const;
+    template <class Kind>
+    Kind& find(int id);
+
+    HWND window_ = nullptr;
+    EventSink& events_;
+    EventGate& gate_;
+    std::map<int, std::unique_ptr<Control>> controls_;
+    UniqueFont listFont_;
+    UniqueFont headingFont_;
+};
+
+/// Makes the program's windows.
+class DialogFactory : public WindowFactory {
+ public:
+    explicit DialogFactory(EventGate& gate) : gate_(gate) {}
+    std::unique_ptr<Window> create(const WindowTemplate& windowTemplate,
+                                   EventSink& events) override;
+
+ private:
+    EventGate& gate_;
+};

@@ -1,0 +1,10 @@
+#include "platform/win32/fatal_error.h"
+
+#include "platform/runtime_error.h"
+#include "platform/win32/modal_box.h"
+
+void showFatalError(const RuntimeError& error) {
+    const std::wstring text =
+        L"Erreur d'exécution '" + std::to_wstring(error.number) + L"' :\r\n" + error.text;
+    showModalBox({.text = text, .title = L"Tarnwick", .style = MB_OK | MB_ICONERROR});
+}

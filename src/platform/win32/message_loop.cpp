@@ -1,0 +1,14 @@
+#include "platform/win32/message_loop.h"
+
+#include <windows.h>
+
+int runMessageLoop() {
+    MSG message;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        HWND window = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
+        if (window && IsDialogMessageW(window, &message)) continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    return static_cast<int>(message.wParam);
+}

@@ -1,0 +1,24 @@
+#include "platform/win32/win_controls.h"
+
+#include <commctrl.h>
+
+bool WinCheckBox::checked() const { return send(BM_GETCHECK) == BST_CHECKED; }
+
+void WinCheckBox::setChecked(bool checked) {
+    send(BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void WinComboBox::setLines(std::span<const std::wstring> lines) {
+    send(CB_RESETCONTENT);
+    for (const std::wstring& line : lines) {
+        send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
+    }
+}
+
+int WinComboBox::selectedLine() const { return sendForInt(CB_GETCURSEL); }
+
+void WinComboBox::selectLine(int index) { send(CB_SETCURSEL, static_cast<WPARAM>(index)); }
+
+int WinTabStrip::selectedTab() const { return sendForInt(TCM_GETCURSEL); }
+
+void WinTabStrip::selectTab(int index) { send(TCM_SETCURSEL, static_cast<WPARAM>(index)); }

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <memory>
+#include <span>
+
+#include "platform/controls.h"
+#include "platform/events.h"
+
+/// A window of the program. Lengths are twips: 1440 to an inch at the window's own resolution.
+class Window {
+ public:
+    virtual ~Window() = default;
+
+    // The controls, by the ids of the form's *_ids.h.
+    virtual Control& control(int id) = 0;
+    virtual CheckBox& checkBox(int id) = 0;
+    virtual ListBox& listBox(int id) = 0;
+    virtual ComboBox& comboBox(int id) = 0;
+    virtual TabStrip& tabStrip(int id) = 0;
+
+    virtual int top() const = 0;
+    virtual int left() const = 0;
+    virtual void moveTo(int top, int left) = 0;
+    virtual void resize(int width, int height) = 0;
+    virtual void show() = 0;
+    virtual void hide() = 0;
+    /// Closes the window for good: its controls are gone.
+    virtual void unload() = 0;
+};
+
+/// The hint shown while the pointer rests on a control.
+struct Tooltip {
+    int controlId;
+    const wchar_t* text;
+};
+
+/// What a window is made from: a dialog resource, whose id and texts are the form's own.
+struct WindowTemplate {
+    int dialogId;
+    std::span<const Tooltip> tooltips;
+    int headingId = 0;  ///< the label shown as the window's heading
+};
+
+class WindowFactory {
+ public:
+    virtual ~WindowFactory() = default;
+
+    /// A new window, not yet shown; its events go to `events`, which must outlive it.
+    virtual std::unique_ptr<Window> create(const WindowTemplate& windowTemplate,
+                                           EventSink& events) = 0;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "tracking/form3.h"
+#include "tracking/form3_ids.h"
+
+/// Which handler each event of the tracking window goes to.
+inline constexpr Binding<Form3> kForm3Bindings[] = {
+    {kTheWindow, Event::Close, &Form3::Form_Close},
+    {IDC_FORM3_CMDSUIV, Event::Click, &Form3::CmdSuiv_Click},
+    {IDC_FORM3_CMDSUIVQUITTER, Event::Click, &Form3::CmdSuivQuitter_Click},
+    {IDC_FORM3_CMDSUIVSAUTER, Event::Click, &Form3::CmdSuivSauter_Click},
+    {IDC_FORM3_CMDPRECEDENT, Event::Click, &Form3::CmdPrecedent_Click},
+    {IDC_FORM3_CMD1, Event::Click, &Form3::Cmd1_Click},
+    {IDC_FORM3_CMD2, Event::Click, &Form3::Cmd2_Click},
+    {IDC_FORM3_CMD3, Event::Click, &Form3::Cmd3_Click},
+    {IDC_FORM3_CMD4, Event::Click, &Form3::Cmd4_Click},
+    {IDC_FORM3_CMDFICHIERLISTE, Event::Click, &Form3::CmdFichierListe_Click},
+    {IDC_FORM3_CMDPLUS1, Event::Click, &Form3::CmdPlus1_Click},
+    {IDC_FORM3_CMDMOINS1, Event::Click, &Form3::CmdMoins1_Click},
+    {IDC_FORM3_CMDMEMO, Event::Click, &Form3::CmdMemo_Click},
+    {IDC_FORM3_CMDSORTIE, Event::Click, &Form3::CmdSortie_Click},
+};

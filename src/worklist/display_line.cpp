@@ -1,0 +1,18 @@
+#include "worklist/display_line.h"
+
+#include "common/numbers.h"
+#include "worklist/chemin_court.h"
+
+std::wstring shownPath(std::wstring_view path, std::wstring_view depth) {
+    return numericValue(depth) > 0 ? CheminCourt(depth, path) : std::wstring(path);
+}
+
+std::wstring displayLine(int index, std::wstring_view label, std::wstring_view path,
+                         std::wstring_view depth) {
+    std::wstring line = decimal(index + 1);
+    if (line.size() < 4) line.insert(0, 4 - line.size(), L'0');
+    line += L"  ";
+    line += label;
+    line += shownPath(path, depth);
+    return line;
+}

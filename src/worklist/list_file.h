@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "worklist/work_list.h"
+
+// The list file: one line per document, its state code, two blanks, its full path, CR LF.
+
+/// Reads the text of a list file into the list and sets DerFich. A code over 9 is stored less 10
+/// with the reload flag set. False, the list untouched, for an empty text.
+/// Raises 5 for a line shorter than three characters, 9 past 8001 lines.
+bool parseListFile(std::wstring_view text, WorkList& list);
+
+/// The text for the first `lineCount` lines. As a side effect the code of every flagged line is
+/// given a leading 1 in the list, once more at each call. Raises 9 past the table.
+std::wstring formatListFile(WorkList& list, long lineCount);
+
+/// Appends the line of a document still to do, as a freshly launched pass writes it.
+void appendFreshLine(std::wstring& text, std::wstring_view path);

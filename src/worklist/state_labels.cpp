@@ -1,0 +1,18 @@
+#include "worklist/state_labels.h"
+
+StateLabels standardLabels() {
+    return {.LibAFaire = std::wstring(14, L' '),
+            .LibX = L" X   ",
+            .LibVu = L" Vu            ",
+            .LibEnCours = L" EnCours  ",
+            .LibFait = L" Fait          "};
+}
+
+const std::wstring* labelOf(const StateLabels& labels, std::wstring_view code) {
+    if (code.size() == 2 && code[0] == L'1') code.remove_prefix(1);
+    if (code == L"0") return &labels.LibAFaire;
+    if (code == L"1") return &labels.LibFait;
+    if (code == L"2") return &labels.LibVu;
+    if (code == L"3") return &labels.LibEnCours;
+    return nullptr;
+}
