@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# Installs what building, testing and running Tarnwick needs on Debian 12. Asks the network only for what is missing.
+set -euo pipefail
+
+packages=(
+    cmake make g++
+    g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64
+    libgtest-dev libbenchmark-dev
+    clang libclang-rt-14-dev clang-tidy clang-format cppcheck
+    wine wine64 xvfb xauth imagemagick
+    fonts-liberation fonts-dejavu-core
+)
+
+installed() {
+    [[ "$(dpkg-query -W -f '${Status}' "$1" 2>/dev/null)" == "install ok installed" ]]
+}
+
+missing=()
+for package in "${packages[@]}"; do
+    installed "$package" || missing+=("$package")
+done
+((${#missing[@]})) || exit 0
+
+as_root=()
+if ((EUID != 0)); then
+    command -v sudo >/dev/null || { echo "sudo is needed to install: ${missing[*]}" >&2; exit 1; }
+    as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+quietly=(-qq -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=300)
+"${as_root[@]}" apt-get "${quietly[@]}" update
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get "${quietly[@]}" install --yes --no-install-recommends "${missing[@]}" >/dev/null

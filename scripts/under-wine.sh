@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# under-wine.sh PROGRAM ARGUMENTS...: runs a Windows program on a virtual screen; its exit code is ours.
+set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/wine-env.sh"
+
+wine_start_on_virtual_screen
+unlocked wine "$@"

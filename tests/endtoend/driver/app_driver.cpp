@@ -1,0 +1,93 @@
+#include "driver/app_driver.h"
+
+#include "driver/wait.h"
+#include "driver/winapi.h"
+
+namespace endtoend {
+
+void AppDriver::Start() {
+    process_ = std::make_unique<Process>(sandbox_.Program(), std::vector<std::wstring>{},
+                                         sandbox_.Directory());
+}
+
+HWND AppDriver::Window(const std::string& caption) const {
+    HWND found = nullptr;
+    WaitFor("the window \"" + caption + "\"", [&] {
+        for (HWND window : TopLevelWindows(process_->Id()))
+            if (IsWindowVisible(window) && endtoend::TextOf(window) == caption) found = window;
+        return found != nullptr;
+    });
+    return found;
+}
+
+std::vector<std::string> AppDriver::ShownWindows() const {
+    std::vector<std::string> captions;
+    for (HWND window : TopLevelWindows(process_->Id()))
+        if (IsWindowVisible(window)) captions.push_back(endtoend::TextOf(window));
+    return captions;
+}
+
+void AppDriver::CloseByFrame(const std::string& caption) const {
+    Post(Window(caption), WM_SYSCOMMAND, SC_CLOSE);
+}
+
+HWND AppDriver::FindControl(int id) const {
+    for (HWND window : TopLevelWindows(process_->Id()))
+        if (HWND control = Descendant(window, id)) return control;
+    return nullptr;
+}
+
+HWND AppDriver::Control(int id) const {
+    HWND control = nullptr;
+    WaitFor("control " + std::to_string(id),
+            [&] { return (control = FindControl(id)) != nullptr; });
+    return control;
+}
+
+void AppDriver::Click(int id) const { Post(Control(id), BM_CLICK); }
+
+std::string AppDriver::TextOf(int id) const { return endtoend::TextOf(Control(id)); }
+
+bool AppDriver::Enabled(int id) const { return IsWindowEnabled(Control(id)); }
+
+bool AppDriver::Visible(int id) const { return IsWindowVisible(Control(id)); }
+
+bool AppDriver::Checked(int id) const { return Send(Control(id), BM_GETCHECK) == BST_CHECKED; }
+
+std::vector<std::string> AppDriver::Lines(int list) const { return ListLines(Control(list)); }
+
+std::vector<int> AppDriver::Selected(int list) const { return SelectedLines(Control(list)); }
+
+void AppDriver::Select(int list, const std::vector<int>& lines) const {
+    SelectLines(Control(list), lines);
+}
+
+void AppDriver::WaitForText(int id, const std::string& text) const {
+    const std::string shown = Eventually<std::string>(text, [&] { return TextOf(id); });
+    if (shown != text)
+        throw TimedOut("control " + std::to_string(id) + " shows \"" + shown + "\", not \"" + text +
+                       "\"");
+}
+
+HWND AppDriver::FindBox() const {
+    for (HWND window : TopLevelWindows(process_->Id()))
+        if (ModalBox::Is(window)) return window;
+    return nullptr;
+}
+
+ModalBox AppDriver::Box() const {
+    HWND box = nullptr;
+    WaitFor("a message box", [&] { return (box = FindBox()) != nullptr; });
+    return ModalBox(box);
+}
+
+bool AppDriver::ShowsBox() const { return FindBox() != nullptr; }
+
+std::string AppDriver::Describe() const {
+    if (!Running()) return "tarnwick does not run\n";
+    std::string text;
+    for (HWND window : TopLevelWindows(process_->Id())) text += endtoend::Describe(window);
+    return text;
+}
+
+}  // namespace endtoend

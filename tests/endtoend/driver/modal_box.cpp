@@ -1,0 +1,63 @@
+#include "driver/modal_box.h"
+
+#include <algorithm>
+
+#include "driver/wait.h"
+#include "driver/winapi.h"
+
+namespace endtoend {
+namespace {
+
+constexpr int kTextId = 0xFFFF;  // of the label that holds a message box's text
+
+bool IsButton(HWND window) {
+    const int id = GetDlgCtrlID(window);
+    return ClassOf(window) == "Button" && IsWindowVisible(window) && id >= IDOK && id <= IDCONTINUE;
+}
+
+bool IsShownIcon(HWND window) {
+    return ClassOf(window) == "Static" && IsWindowVisible(window) &&
+           (GetWindowLongW(window, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
+}
+
+HWND Label(HWND box) {
+    for (HWND child : Descendants(box))
+        if (static_cast<WORD>(GetDlgCtrlID(child)) == kTextId && !TextOf(child).empty())
+            return child;
+    return nullptr;
+}
+
+bool AnyChild(HWND window, bool (*holds)(HWND)) {
+    const std::vector<HWND> children = Descendants(window);
+    return std::any_of(children.begin(), children.end(), holds);
+}
+
+}  // namespace
+
+bool ModalBox::Is(HWND window) {
+    return IsWindowVisible(window) && ClassOf(window) == "#32770" && Label(window) &&
+           AnyChild(window, IsButton);
+}
+
+std::string ModalBox::Title() const { return TextOf(window_); }
+
+std::string ModalBox::Text() const { return TextOf(Label(window_)); }
+
+std::vector<int> ModalBox::Buttons() const {
+    std::vector<int> ids;
+    for (HWND child : Descendants(window_))
+        if (IsButton(child)) ids.push_back(GetDlgCtrlID(child));
+    std::sort(ids.begin(), ids.end());
+    return ids;
+}
+
+int ModalBox::DefaultButton() const { return LOWORD(Send(window_, DM_GETDEFID)); }
+
+bool ModalBox::HasIcon() const { return AnyChild(window_, IsShownIcon); }
+
+void ModalBox::Answer(int button) const {
+    Post(GetDlgItem(window_, button), BM_CLICK);
+    WaitFor("a message box to close", [this] { return !IsWindow(window_); });
+}
+
+}  // namespace endtoend

@@ -1,0 +1,54 @@
+#include "driver/process.h"
+
+#include "driver/text.h"
+#include "driver/wait.h"
+
+namespace endtoend {
+namespace {
+
+/// Quotes an argument that holds no quotation mark of its own.
+std::wstring Quoted(const std::wstring& argument) {
+    std::wstring quoted = L"\"" + argument;
+    if (!argument.empty() && argument.back() == L'\\') quoted += L'\\';
+    return quoted + L"\"";
+}
+
+}  // namespace
+
+Process::Process(const std::wstring& program, const std::vector<std::wstring>& arguments,
+                 const std::wstring& directory) {
+    std::wstring commandLine = Quoted(program);
+    for (const std::wstring& argument : arguments) commandLine += L" " + Quoted(argument);
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION information{};
+    if (!CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                        directory.c_str(), &startup, &information))
+        throw std::runtime_error("could not start " + Utf8(commandLine));
+    CloseHandle(information.hThread);
+    handle_ = information.hProcess;
+    id_ = information.dwProcessId;
+}
+
+Process::~Process() {
+    Kill();
+    CloseHandle(handle_);
+}
+
+bool Process::Running() const { return WaitForSingleObject(handle_, 0) == WAIT_TIMEOUT; }
+
+DWORD Process::WaitForExit() const {
+    if (WaitForSingleObject(handle_, kPatience) != WAIT_OBJECT_0)
+        throw TimedOut("process " + std::to_string(id_) + " does not end");
+    DWORD code = 0;
+    GetExitCodeProcess(handle_, &code);
+    return code;
+}
+
+void Process::Kill() {
+    if (!Running()) return;
+    TerminateProcess(handle_, 1);
+    WaitForSingleObject(handle_, kPatience);
+}
+
+}  // namespace endtoend

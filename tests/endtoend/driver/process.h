@@ -1,0 +1,33 @@
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace endtoend {
+
+/// A process that we started; ended, if it still runs, when this object goes.
+class Process {
+ public:
+    Process(const std::wstring& program, const std::vector<std::wstring>& arguments,
+            const std::wstring& directory);
+    ~Process();
+    Process(const Process&) = delete;
+    Process& operator=(const Process&) = delete;
+
+    DWORD Id() const { return id_; }
+    bool Running() const;
+
+    /// Throws TimedOut if the process does not end by itself.
+    DWORD WaitForExit() const;
+
+    void Kill();
+
+ private:
+    HANDLE handle_ = nullptr;
+    DWORD id_ = 0;
+};
+
+}  // namespace endtoend

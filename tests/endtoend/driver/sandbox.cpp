@@ -1,0 +1,79 @@
+#include "driver/sandbox.h"
+
+#include <windows.h>
+
+#include <fstream>
+#include <iterator>
+
+#include "driver/text.h"
+
+namespace endtoend {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path NewTemporaryDirectory() {
+    fs::path directory =
+        fs::temp_directory_path() / ("tarnwick essai " + std::to_string(GetCurrentProcessId()));
+    fs::remove_all(directory);
+    return directory;
+}
+
+}  // namespace
+
+Sandbox::Sandbox() : directory_(NewTemporaryDirectory()), temporary_(true) { CopyProgram(); }
+
+Sandbox::Sandbox(fs::path directory) : directory_(std::move(directory)), temporary_(false) {
+    CopyProgram();
+}
+
+Sandbox::~Sandbox() {
+    std::error_code ignored;
+    if (temporary_) fs::remove_all(directory_, ignored);
+}
+
+void Sandbox::CopyProgram() const {
+    fs::create_directories(Documents());
+    fs::copy_file(BuiltPrograms() / "tarnwick.exe", Program(),
+                  fs::copy_options::overwrite_existing);
+}
+
+fs::path Sandbox::BuiltPrograms() {
+    wchar_t self[MAX_PATH];
+    GetModuleFileNameW(nullptr, self, MAX_PATH);
+    return fs::path(self).parent_path();
+}
+
+std::string Sandbox::AddDocument(std::string_view relativePath) const {
+    const fs::path document = Documents() / Wide(relativePath);
+    fs::create_directories(document.parent_path());
+    WriteFileBytes(document, "sample document\r\n");
+    return Utf8(document.wstring());
+}
+
+void Sandbox::WriteList(std::string_view bytes) const { WriteFileBytes(ListFile(), bytes); }
+
+std::optional<std::string> Sandbox::ReadList() const { return ReadFileBytes(ListFile()); }
+
+std::string Sandbox::Describe() const {
+    std::string text;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory_))
+        if (entry.is_regular_file())
+            text +=
+                Utf8(entry.path().wstring()) + " " + std::to_string(entry.file_size()) + " bytes\n";
+    return text + "list file:\n" + ReadList().value_or("(none)\n");
+}
+
+std::optional<std::string> ReadFileBytes(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(stream), {});
+}
+
+void WriteFileBytes(const fs::path& file, std::string_view bytes) {
+    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
+    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (!stream.flush()) throw std::runtime_error("could not write " + Utf8(file.wstring()));
+}
+
+}  // namespace endtoend

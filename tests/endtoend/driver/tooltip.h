@@ -1,0 +1,13 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace endtoend {
+
+/// The text of the tool that a tooltip window of the same process keeps for a control; empty if
+/// there is none.
+std::string ToolTipOf(HWND control);
+
+}  // namespace endtoend

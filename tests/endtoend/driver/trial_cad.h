@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "driver/process.h"
+#include "driver/sandbox.h"
+
+namespace endtoend {
+
+/// A trial CAD session, with its journal in the sandbox.
+class TrialCad {
+ public:
+    explicit TrialCad(const Sandbox& sandbox) : sandbox_(sandbox) {}
+
+    /// Starts it with these command-line options and waits until programs can attach to it.
+    void Start(const std::vector<std::string>& options = {});
+    /// Ends it by its window, and waits.
+    void Close();
+
+    HWND Window() const;
+
+    /// Every call received so far, as the journal tells it.
+    std::vector<std::string> Calls() const;
+
+ private:
+    std::filesystem::path Journal() const { return sandbox_.Directory() / "journal.txt"; }
+
+    const Sandbox& sandbox_;
+    std::unique_ptr<Process> process_;
+};
+
+}  // namespace endtoend

@@ -1,0 +1,118 @@
+#include "driver/winapi.h"
+
+#include "driver/text.h"
+#include "driver/wait.h"
+
+namespace endtoend {
+namespace {
+
+struct Search {
+    DWORD processId;
+    std::vector<HWND> found;
+};
+
+BOOL CALLBACK AddIfOfProcess(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<Search*>(parameter);
+    DWORD processId = 0;
+    GetWindowThreadProcessId(window, &processId);
+    if (processId == search.processId) search.found.push_back(window);
+    return TRUE;
+}
+
+BOOL CALLBACK Add(HWND window, LPARAM parameter) {
+    reinterpret_cast<std::vector<HWND>*>(parameter)->push_back(window);
+    return TRUE;
+}
+
+std::string DescribeOne(HWND window) {
+    std::string line = ClassOf(window) + " " + std::to_string(GetDlgCtrlID(window)) + " \"" +
+                       TextOf(window) + "\"";
+    if (!IsWindowVisible(window)) line += " hidden";
+    if (!IsWindowEnabled(window)) line += " disabled";
+    return line + "\n";
+}
+
+}  // namespace
+
+std::vector<HWND> TopLevelWindows(DWORD processId) {
+    Search search{processId, {}};
+    EnumWindows(AddIfOfProcess, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+std::vector<HWND> Descendants(HWND window) {
+    std::vector<HWND> found;
+    EnumChildWindows(window, Add, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+HWND Descendant(HWND window, int id) {
+    for (HWND child : Descendants(window))
+        if (GetDlgCtrlID(child) == id) return child;
+    return nullptr;
+}
+
+std::string ClassOf(HWND window) {
+    wchar_t name[256];
+    return Utf8({name, static_cast<size_t>(GetClassNameW(window, name, 256))});
+}
+
+std::string TextOf(HWND window) {
+    std::wstring text(static_cast<size_t>(Send(window, WM_GETTEXTLENGTH)) + 1, L'\0');
+    const LRESULT length =
+        Send(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<size_t>(length));
+    return Utf8(text);
+}
+
+LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    DWORD_PTR result = 0;
+    if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kPatience, &result))
+        throw TimedOut("a window did not answer message " + std::to_string(message));
+    return static_cast<LRESULT>(result);
+}
+
+void Post(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (!PostMessageW(window, message, wParam, lParam))
+        throw std::runtime_error("message " + std::to_string(message) + " could not be posted");
+}
+
+std::vector<std::string> ListLines(HWND list) {
+    std::vector<std::string> lines;
+    const LRESULT count = Send(list, LB_GETCOUNT);
+    for (WPARAM i = 0; i < static_cast<WPARAM>(count); ++i) {
+        const LRESULT length = Send(list, LB_GETTEXTLEN, i);
+        if (length < 0) break;  // the list shrank meanwhile
+        std::wstring line(static_cast<size_t>(length) + 1, L'\0');
+        Send(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(line.data()));
+        lines.push_back(Utf8(line.c_str()));
+    }
+    return lines;
+}
+
+std::vector<int> SelectedLines(HWND list) {
+    std::vector<int> lines;
+    const LRESULT count = Send(list, LB_GETCOUNT);
+    for (int i = 0; i < count; ++i)
+        if (Send(list, LB_GETSEL, static_cast<WPARAM>(i)) > 0) lines.push_back(i);
+    return lines;
+}
+
+void SelectLines(HWND list, const std::vector<int>& lines) {
+    Send(list, LB_SETSEL, FALSE, -1);
+    for (int line : lines) Send(list, LB_SETSEL, TRUE, line);
+    Post(GetParent(list), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), LBN_SELCHANGE),
+         reinterpret_cast<LPARAM>(list));
+}
+
+std::string Describe(HWND window) {
+    std::string text = DescribeOne(window);
+    for (HWND child : Descendants(window)) {
+        text += "  " + DescribeOne(child);
+        if (ClassOf(child) != "ListBox") continue;
+        for (const std::string& line : ListLines(child)) text += "    | " + line + "\n";
+    }
+    return text;
+}
+
+}  // namespace endtoend

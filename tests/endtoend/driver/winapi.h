@@ -1,0 +1,42 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace endtoend {
+
+/// All top-level windows of a process, hidden ones included.
+std::vector<HWND> TopLevelWindows(DWORD processId);
+
+/// The window's descendants at any depth, parents first.
+std::vector<HWND> Descendants(HWND window);
+
+/// The descendant with this control id, or null.
+HWND Descendant(HWND window, int id);
+
+std::string ClassOf(HWND window);
+
+/// The text as the window itself answers it (works for controls of other processes).
+std::string TextOf(HWND window);
+
+/// Sends a message; throws if the other process does not answer in time.
+LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+/// Posts a message and does not wait: what it starts may open a modal box.
+void Post(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+/// The lines of a list box of another process.
+std::vector<std::string> ListLines(HWND list);
+
+/// The indices of the selected lines of a list box, ascending.
+std::vector<int> SelectedLines(HWND list);
+
+/// Selects exactly these lines of a multi-selection list box, and tells its parent.
+void SelectLines(HWND list, const std::vector<int>& lines);
+
+/// A readable picture of a window and all that is in it, for the report of a failed test.
+std::string Describe(HWND window);
+
+}  // namespace endtoend

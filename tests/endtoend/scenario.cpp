@@ -1,0 +1,52 @@
+#include "scenario.h"
+
+#include <iostream>
+
+#include "driver/wait.h"
+
+namespace endtoend {
+
+Scenario::Scenario() : cad(sandbox), app(sandbox) {}
+
+void Scenario::TearDown() {
+    if (!HasFailure()) return;
+    std::cout << "-- windows\n"
+              << app.Describe() << "-- files\n"
+              << sandbox.Describe() << "-- settings\n"
+              << settings.Describe() << "-- calls received\n";
+    for (const std::string& call : cad.Calls()) std::cout << call << "\n";
+}
+
+calls::Calls Scenario::NewCalls() const {
+    const calls::Calls all = cad.Calls();
+    const size_t seen = std::min(callsSeen_, all.size());
+    return {all.begin() + static_cast<std::ptrdiff_t>(seen), all.end()};
+}
+
+void Scenario::ExpectCalls(const calls::Calls& expected) {
+    EXPECT_EQ(Eventually<calls::Calls>(expected, [this] { return NewCalls(); }), expected);
+    callsSeen_ += expected.size();
+}
+
+void Scenario::ExpectList(const std::string& bytes) const {
+    EXPECT_EQ(Eventually<std::string>(bytes, [this] { return sandbox.ReadList().value_or(""); }),
+              bytes);
+}
+
+std::string Scenario::ExpectFatalError(int number) {
+    const ModalBox box = app.Box();
+    const std::string text = box.Text();
+    const std::string start = "Erreur d'exécution '" + std::to_string(number) + "' :";
+    EXPECT_EQ(box.Title(), "Tarnwick");
+    EXPECT_EQ(text.substr(0, start.size()), start);
+    EXPECT_EQ(box.Buttons(), std::vector{IDOK});
+    box.Answer(IDOK);
+    EXPECT_EQ(app.WaitForExit(), number);
+    return text;
+}
+
+std::string ListLine(const std::string& code, const std::string& path) {
+    return code + "  " + path + "\r\n";
+}
+
+}  // namespace endtoend
