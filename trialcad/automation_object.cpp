@@ -1,0 +1,61 @@
+#include "automation_object.h"
+
+#include <wrl/client.h>
+
+#include "call_desk.h"
+
+HRESULT AutomationObject::QueryInterface(REFIID iid, void** object) {
+    if (!object) return E_POINTER;
+    const bool known = iid == IID_IUnknown || iid == IID_IDispatch;
+    *object = known ? static_cast<IDispatch*>(this) : nullptr;
+    if (!known) return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+}
+
+// Everything runs on the one apartment's thread, so plain counting will do.
+ULONG AutomationObject::AddRef() { return ++references_; }
+
+ULONG AutomationObject::Release() {
+    const ULONG left = --references_;
+    if (left == 0) delete this;
+    return left;
+}
+
+HRESULT AutomationObject::GetTypeInfoCount(UINT* count) {
+    if (!count) return E_POINTER;
+    *count = 0;
+    return S_OK;
+}
+
+HRESULT AutomationObject::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
+    if (!info) return E_POINTER;
+    *info = nullptr;
+    return DISP_E_BADINDEX;
+}
+
+HRESULT AutomationObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
+    if (!names || !ids || count == 0) return E_INVALIDARG;
+    if (const auto refusal = desk_.refuseLookUp(names[0])) return *refusal;
+    // Further names would be those of arguments, which have none here.
+    for (UINT i = 0; i < count; ++i) ids[i] = DISPID_UNKNOWN;
+    const std::optional<DISPID> id = names_.lookUp(names[0]);
+    if (id) ids[0] = *id;
+    return id && count == 1 ? S_OK : DISP_E_UNKNOWNNAME;
+}
+
+HRESULT AutomationObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters,
+                                 VARIANT* result, EXCEPINFO* exception, UINT* badArgument) {
+    if (!parameters) return E_INVALIDARG;
+    // A slow call handles messages, one of which may release the caller's last reference.
+    const Microsoft::WRL::ComPtr<IDispatch> alive(this);
+    const Member* member = names_.find(id);
+    const bool put = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
+    const std::wstring name = member ? names_.spelling(id) : L"dispid " + std::to_wstring(id);
+    Call call(*parameters);
+    const Reply reply = desk_.receive({*this, member, journalPrefix() + name, put}, call);
+    if (SUCCEEDED(reply.code)) call.deliver(result);
+    if (reply.code == DISP_E_EXCEPTION && exception) describe(reply, *exception);
+    if (badArgument) *badArgument = reply.argument;
+    return reply.code;
+}

@@ -1,0 +1,70 @@
+#include "call_desk.h"
+
+#include "call_text.h"
+#include "wait.h"
+
+namespace {
+
+std::wstring lineOf(const Request& request, const Call& call) {
+    const std::wstring arguments = argumentsText(call);
+    if (request.put) return request.name + L" = " + arguments;
+    if (request.member && request.member->isProperty && call.count() == 0) return request.name;
+    return request.name + L"(" + arguments + L")";
+}
+
+bool isRefusal(HRESULT code) {
+    return code == RPC_E_CALL_REJECTED || code == RPC_E_SERVERCALL_RETRYLATER;
+}
+
+const wchar_t* outcomeOf(const Reply& reply, const Call& call) {
+    if (isRefusal(reply.code)) return L" -> rejected";
+    return FAILED(reply.code) ? L" -> failed" : call.outcome();
+}
+
+/// The action that the member has for this use of it; throws CallError when it has none.
+Member::Action actionOf(const Request& request, const Call& call) {
+    const Member::Action action = request.put ? request.member->put : request.member->invoke;
+    if (!action) throw CallError{DISP_E_MEMBERNOTFOUND};
+    if (call.count() != (request.put ? 1 : request.member->arity))
+        throw CallError{DISP_E_BADPARAMCOUNT};
+    return action;
+}
+
+}  // namespace
+
+void describe(const Reply& reply, EXCEPINFO& exception) {
+    exception = {};
+    exception.bstrSource = SysAllocString(L"SolidWorks");
+    exception.bstrDescription = SysAllocString(reply.description.c_str());
+    exception.scode = E_FAIL;
+}
+
+Reply CallDesk::receive(const Request& request, Call& call) {
+    // The line shows the arguments as sent, so it is made before any is written back.
+    const std::wstring line = lineOf(request, call);
+    const Reply reply = perform(request, call);
+    record(line + outcomeOf(reply, call));
+    if (!request.member || isRefusal(reply.code)) return reply;
+    if (!waitWithMessages(faults_.delayOf(request.member->name))) return {RPC_E_DISCONNECTED};
+    return reply;
+}
+
+Reply CallDesk::perform(const Request& request, Call& call) {
+    if (!request.member) return {DISP_E_MEMBERNOTFOUND};
+    if (const auto refusal = faults_.refuseCall(request.member->name)) return {*refusal};
+    if (faults_.mustFail(request.member->name))
+        return {DISP_E_EXCEPTION, 0,
+                L"Échec de « " + std::wstring(request.member->name) +
+                    L" » provoqué par la session d'essai."};
+    try {
+        actionOf(request, call)(request.object, call);
+    } catch (const CallError& error) {
+        return {error.code, error.argument};
+    }
+    return {S_OK};
+}
+
+void CallDesk::record(const std::wstring& line) {
+    journal_.write(line);
+    if (watcher_) watcher_(line);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "faults.h"
+#include "journal.h"
+#include "member.h"
+
+/// What a call is about: the object, its member and the name to journal.
+struct Request {
+    AutomationObject& object;
+    const Member* member;  ///< null: the object never gave that DISPID out
+    std::wstring name;
+    bool put;
+};
+
+/// How a call ends for the caller.
+struct Reply {
+    HRESULT code;
+    UINT argument = 0;
+    std::wstring description = {};  ///< with DISP_E_EXCEPTION, in French
+};
+
+/// Fills the caller's exception record from a reply.
+void describe(const Reply& reply, EXCEPINFO& exception);
+
+/// Where every call of every object passes: faults asked for, the call itself, the journal.
+class CallDesk {
+ public:
+    using Watcher = std::function<void(const std::wstring& line)>;
+
+    CallDesk(Faults& faults, Journal& journal) : faults_(faults), journal_(journal) {}
+
+    /// Has each journalled line told as well to the given watcher.
+    void watch(Watcher watcher) { watcher_ = std::move(watcher); }
+
+    std::optional<HRESULT> refuseLookUp(std::wstring_view name) {
+        return faults_.refuseLookUp(name);
+    }
+
+    Reply receive(const Request& request, Call& call);
+
+ private:
+    Reply perform(const Request& request, Call& call);
+    void record(const std::wstring& line);
+
+    Faults& faults_;
+    Journal& journal_;
+    Watcher watcher_;
+};

@@ -1,0 +1,65 @@
+#include "document_file.h"
+
+#include <windows.h>
+
+namespace {
+
+bool isAbsolute(const std::wstring& path) {
+    return path.starts_with(L"\\\\") || (path.size() > 2 && path[1] == L':' && path[2] == L'\\');
+}
+
+/// The form that has no limit of length and in which a name may end with a dot.
+std::wstring verbatim(const std::wstring& path) {
+    if (path.starts_with(L"\\\\?\\") || !isAbsolute(path)) return path;
+    if (path.starts_with(L"\\\\")) return L"\\\\?\\UNC" + path.substr(1);
+    return L"\\\\?\\" + path;
+}
+
+bool hasSteps(const std::wstring& path) {
+    return path.find(L'/') != path.npos || path.find(L"\\.\\") != path.npos ||
+           path.find(L"\\..\\") != path.npos;
+}
+
+std::wstring withoutSteps(const std::wstring& path) {
+    const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+    std::wstring full(size, L'\0');
+    full.resize(GetFullPathNameW(path.c_str(), size, full.data(), nullptr));
+    return full.empty() ? path : full;
+}
+
+}  // namespace
+
+std::wstring absolutePath(const std::wstring& path, const std::wstring& directory) {
+    const std::wstring whole = isAbsolute(path) ? path : directory + L"\\" + path;
+    return hasSteps(whole) && !whole.starts_with(L"\\\\?\\") ? withoutSteps(whole) : whole;
+}
+
+std::wstring fileNameOf(const std::wstring& path) {
+    return path.substr(path.find_last_of(L"\\/") + 1);
+}
+
+std::wstring directoryOf(const std::wstring& path) {
+    const size_t separator = path.find_last_of(L"\\/");
+    return separator == path.npos ? L"" : path.substr(0, separator);
+}
+
+bool fileExists(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(verbatim(path).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+bool touchFile(const std::wstring& path) {
+    const std::wstring name = verbatim(path);
+    const DWORD attributes = GetFileAttributesW(name.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY))
+        return false;
+    const HANDLE file = CreateFileW(name.c_str(), FILE_WRITE_ATTRIBUTES,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return false;
+    FILETIME now;
+    GetSystemTimeAsFileTime(&now);
+    const BOOL dated = SetFileTime(file, nullptr, nullptr, &now);
+    CloseHandle(file);
+    return dated;
+}

@@ -1,0 +1,51 @@
+#include "faults.h"
+
+#include <utility>
+
+#include "known_methods.h"
+#include "text.h"
+
+Faults::Faults(const Options& options) : delays_(options.delay) {
+    for (const MethodRule& rule : options.busy) busy_.push_back({rule, std::nullopt});
+    for (const MethodRule& rule : options.fail) failures_.push_back({rule});
+}
+
+std::optional<HRESULT> Faults::refuseCall(std::wstring_view method) {
+    if (isBusy(method, true)) return nextRefusal();
+    return std::nullopt;
+}
+
+std::optional<HRESULT> Faults::refuseLookUp(std::wstring_view method) {
+    if (isBusy(kNameLookUp, true) || isBusy(method, false)) return nextRefusal();
+    return std::nullopt;
+}
+
+bool Faults::isBusy(std::wstring_view method, bool mayStart) {
+    const ULONGLONG now = GetTickCount64();
+    for (Busy& busy : busy_) {
+        if (!sameText(busy.rule.method, method)) continue;
+        if (!busy.start && mayStart) busy.start = now;
+        if (busy.start && now - *busy.start < busy.rule.number) return true;
+    }
+    return false;
+}
+
+HRESULT Faults::nextRefusal() {
+    return std::exchange(retryLater_, !retryLater_) ? RPC_E_SERVERCALL_RETRYLATER
+                                                    : RPC_E_CALL_REJECTED;
+}
+
+bool Faults::mustFail(std::wstring_view method) {
+    bool fails = false;
+    for (Failure& failure : failures_)
+        if (sameText(failure.rule.method, method) && ++failure.calls == failure.rule.number)
+            fails = true;
+    return fails;
+}
+
+DWORD Faults::delayOf(std::wstring_view method) const {
+    DWORD total = 0;
+    for (const MethodRule& rule : delays_)
+        if (sameText(rule.method, method)) total += rule.number;
+    return total;
+}

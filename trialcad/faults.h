@@ -1,0 +1,45 @@
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "options.h"
+
+/// The faults asked for by --fail, --busy and --delay. Names are matched without regard to case.
+class Faults {
+ public:
+    explicit Faults(const Options& options);
+
+    /// The code to refuse a call with while its method is busy; the first call starts that time.
+    std::optional<HRESULT> refuseCall(std::wstring_view method);
+
+    /// The same for the look-up of a name, which only the name look-up's own rule starts.
+    std::optional<HRESULT> refuseLookUp(std::wstring_view method);
+
+    /// Counts a call that was let through and tells whether it must fail.
+    bool mustFail(std::wstring_view method);
+
+    /// How long the answer is to be held back, in milliseconds.
+    DWORD delayOf(std::wstring_view method) const;
+
+ private:
+    struct Busy {
+        MethodRule rule;
+        std::optional<ULONGLONG> start;
+    };
+    struct Failure {
+        MethodRule rule;
+        unsigned long calls = 0;
+    };
+
+    bool isBusy(std::wstring_view method, bool mayStart);
+    HRESULT nextRefusal();
+
+    std::vector<Busy> busy_;
+    std::vector<Failure> failures_;
+    std::vector<MethodRule> delays_;
+    bool retryLater_ = false;
+};

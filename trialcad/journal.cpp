@@ -1,0 +1,22 @@
+#include "journal.h"
+
+#include "text.h"
+
+Journal::~Journal() {
+    if (file_ != INVALID_HANDLE_VALUE) CloseHandle(file_);
+}
+
+bool Journal::open(const std::wstring& path) {
+    file_ = CreateFileW(path.c_str(), GENERIC_WRITE,
+                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                        CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return file_ != INVALID_HANDLE_VALUE;
+}
+
+void Journal::write(const std::wstring& line) {
+    if (file_ == INVALID_HANDLE_VALUE) return;
+    // One write per line: a reader never sees half of one, and none is lost if we are killed.
+    const std::string bytes = toUtf8(line) + '\n';
+    DWORD written = 0;
+    WriteFile(file_, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+}

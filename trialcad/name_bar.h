@@ -1,0 +1,11 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "window_fonts.h"
+
+/// Draws the bar on top of the window that tells what this is: never a real session.
+void drawNameBar(HDC context, const RECT& bar, const WindowFonts& fonts, UINT dpi,
+                 const std::wstring& facts);

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// How the window's title shows the active document.
+enum class TitleStyle { Plain, Bracket, None };
+
+/// One use of --fail, --busy or --delay: the method's name and N or milliseconds.
+struct MethodRule {
+    std::wstring method;
+    unsigned long number;
+};
+
+/// The command line, read.
+struct Options {
+    std::wstring journal;  ///< empty: none is written
+    std::wstring workingDirectory;
+    std::wstring revision = L"12.0.0";
+    std::wstring searchFolders;
+    TitleStyle title = TitleStyle::Plain;
+    std::vector<MethodRule> fail;
+    std::vector<MethodRule> busy;
+    std::vector<MethodRule> delay;
+    bool hidden = false;
+};
+
+/// A command line that can't be obeyed, with the French text that says why.
+struct OptionError {
+    std::wstring text;
+};
+
+/// Reads the arguments after the program's name; throws OptionError.
+Options parseOptions(const std::vector<std::wstring>& arguments);

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <string>
+
+#include "options.h"
+#include "session.h"
+#include "window_fonts.h"
+
+/// The session's main window: its title in the release's way, what is open, the last calls.
+class SessionWindow {
+ public:
+    /// Creates the window without showing it. With --hidden it never shows, but takes WM_CLOSE.
+    SessionWindow(HINSTANCE instance, const Options& options, const Session& session);
+    ~SessionWindow();
+    SessionWindow(const SessionWindow&) = delete;
+    SessionWindow& operator=(const SessionWindow&) = delete;
+
+    HWND handle() const { return window_; }
+
+    /// Brings title and lists up to date with the session.
+    void refresh();
+
+    /// Adds a call to the list of the last ones.
+    void showCall(const std::wstring& line);
+
+ private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+    void createControls();
+    void changeResolution(const RECT& suggested);
+    void applyFonts();
+    void layOut() const;
+    void paint() const;
+    void showAsAsked() const;
+    UINT dpi() const { return GetDpiForWindow(window_); }
+
+    const Session& session_;
+    const TitleStyle titleStyle_;
+    const std::wstring release_;
+    const std::wstring facts_;
+    const bool hidden_;
+    std::unique_ptr<WindowFonts> fonts_;
+    HWND window_ = nullptr;
+    HWND documentsLabel_ = nullptr;
+    HWND documents_ = nullptr;
+    HWND foldersLabel_ = nullptr;
+    HWND folders_ = nullptr;
+    HWND callsLabel_ = nullptr;
+    HWND calls_ = nullptr;
+};

@@ -1,0 +1,116 @@
+#include <windows.h>
+
+#include <commctrl.h>
+#include <shellapi.h>
+#include <string>
+#include <vector>
+
+#include "application_object.h"
+#include "call_desk.h"
+#include "document_file.h"
+#include "faults.h"
+#include "journal.h"
+#include "options.h"
+#include "registration.h"
+#include "session.h"
+#include "session_window.h"
+
+namespace {
+
+constexpr int kNormalEnd = 0;
+constexpr int kNotRegistered = 1;
+constexpr int kWrongOptions = 2;
+constexpr DISPID kFirstOfApplication = 0x101;
+constexpr wchar_t kOptionHelp[] =
+    L"\n\nOptions :\n"
+    L"--journal FICHIER\n--working-directory RÉPERTOIRE\n--revision TEXTE\n"
+    L"--search-folders \"A;B\"\n--title plain|bracket|none\n--fail MÉTHODE[:N]\n"
+    L"--busy MÉTHODE:MS\n--delay MÉTHODE:MS\n--hidden";
+
+/// COM on this thread, for the life of this object.
+struct Apartment {
+    Apartment() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE); }
+    ~Apartment() { CoUninitialize(); }
+};
+
+std::vector<std::wstring> commandLine() {
+    int count = 0;
+    wchar_t** words = CommandLineToArgvW(GetCommandLineW(), &count);
+    std::vector<std::wstring> arguments(words + 1, words + count);
+    LocalFree(words);
+    return arguments;
+}
+
+std::wstring currentDirectory() {
+    std::wstring directory(GetCurrentDirectoryW(0, nullptr), L'\0');
+    directory.resize(GetCurrentDirectoryW(static_cast<DWORD>(directory.size()), directory.data()));
+    return directory;
+}
+
+Options readOptions() {
+    Options options = parseOptions(commandLine());
+    if (options.workingDirectory.empty()) options.workingDirectory = currentDirectory();
+    return options;
+}
+
+void openJournal(Journal& journal, const std::wstring& path) {
+    if (!path.empty() && !journal.open(path))
+        throw OptionError{L"Le journal « " + path + L" » ne peut pas être créé."};
+}
+
+void complain(const std::wstring& text) {
+    MessageBoxW(nullptr, text.c_str(), L"Session d'essai", MB_OK | MB_ICONERROR);
+}
+
+void runMessageLoop(HWND window) {
+    MSG message;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        if (IsDialogMessageW(window, &message)) continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+/// Documents that clients still hold must answer with an error, not with silence.
+void disconnect(const Session& session) {
+    for (const DocumentPointer& document : session.documents())
+        CoDisconnectObject(document.Get(), 0);
+}
+
+void runSession(HINSTANCE instance, const Options& options) {
+    Faults faults(options);
+    Journal journal;
+    openJournal(journal, options.journal);
+    CallDesk desk(faults, journal);
+    Session session(options.workingDirectory, desk);
+    session.setSearchFolders(Session::kReferencedDocuments, options.searchFolders);
+    MemberNames names(ApplicationObject::members(), kFirstOfApplication);
+
+    const Apartment apartment;
+    Microsoft::WRL::ComPtr<ApplicationObject> application;
+    application.Attach(new ApplicationObject(session, options.revision, names, desk));
+    SessionWindow window(instance, options, session);
+    session.watch([&window] { window.refresh(); });
+    desk.watch([&window](const std::wstring& line) { window.showCall(line); });
+    const Registration registration(*application.Get());
+    session.setVisible(!options.hidden);
+    runMessageLoop(window.handle());
+    disconnect(session);
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
+    INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_LISTVIEW_CLASSES};
+    InitCommonControlsEx(&controls);
+    try {
+        runSession(instance, readOptions());
+        return kNormalEnd;
+    } catch (const OptionError& error) {
+        complain(error.text + kOptionHelp);
+        return kWrongOptions;
+    } catch (const RegistrationError& error) {
+        complain(error.text);
+        return kNotRegistered;
+    }
+}
