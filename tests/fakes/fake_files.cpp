@@ -1,0 +1,91 @@
+#include "fakes/fake_files.h"
+
+#include <functional>
+
+#include "platform/runtime_error.h"
+
+namespace {
+
+std::wstring withoutTrailingBackslash(std::wstring path) {
+    while (!path.empty() && path.back() == L'\\') path.pop_back();
+    return path;
+}
+
+/// The name right below `directory` that leads to `path`, empty when it does not.
+std::wstring nameBelow(const std::wstring& directory, const std::wstring& path) {
+    const std::wstring prefix = directory + L'\\';
+    if (!path.starts_with(prefix) || path.size() == prefix.size()) return {};
+    return path.substr(prefix.size(), path.find(L'\\', prefix.size()) - prefix.size());
+}
+
+}  // namespace
+
+std::wstring FakeFiles::readText(const std::wstring& path) {
+    const auto file = texts.find(path);
+    if (file == texts.end()) throw errors::fileNotFound(path);
+    return file->second;
+}
+
+void FakeFiles::replaceText(const std::wstring& path, std::wstring_view text) {
+    if (unreadable.contains(path)) throw errors::fileAccess(path);
+    texts[path] = text;
+}
+
+std::wstring FakeFiles::resolved(std::wstring path) const {
+    path = withoutTrailingBackslash(std::move(path));
+    for (bool changed = true; changed;) {
+        changed = false;
+        for (const auto& [link, target] : links) {
+            if (path == link || path.starts_with(link + L'\\')) {
+                path = target + path.substr(link.size());
+                changed = true;
+            }
+        }
+    }
+    return path;
+}
+
+bool FakeFiles::exists(const std::wstring& directory) const {
+    if (directory.size() == 2 || directories.contains(directory)) return true;
+    for (const auto& [path, text] : texts) {
+        if (!nameBelow(directory, path).empty()) return true;
+    }
+    for (const auto& path : directories) {
+        if (!nameBelow(directory, path).empty()) return true;
+    }
+    return false;
+}
+
+void FakeFiles::visit(const std::wstring& directory,
+                      const std::function<void(const DirectoryEntry&)>& visitor) {
+    const std::wstring where = resolved(directory);
+    ++visits[withoutTrailingBackslash(directory)];
+    if (unreadable.contains(where)) throw errors::permissionDenied(directory);
+    if (!exists(where)) throw errors::pathNotFound(directory);
+
+    std::map<std::wstring, bool> names;  // name -> is a directory
+    const auto note = [&](const std::wstring& path, bool pathIsDirectory) {
+        const std::wstring name = nameBelow(where, path);
+        if (name.empty()) return;
+        names[name] =
+            names[name] || pathIsDirectory || path.size() > where.size() + 1 + name.size();
+    };
+    for (const auto& [path, text] : texts) note(path, false);
+    for (const auto& path : directories) note(path, true);
+    for (const auto& [path, target] : links) note(path, true);
+    for (const auto& [name, isDirectory] : names) {
+        const std::wstring path = where + L'\\' + name;
+        visitor({name, isDirectory, hidden.contains(path), links.contains(path)});
+    }
+}
+
+DirectoryId FakeFiles::identify(const std::wstring& directory) {
+    const std::wstring where = resolved(directory);
+    if (!exists(where)) throw errors::pathNotFound(directory);
+    return {1, std::hash<std::wstring>()(where)};
+}
+
+std::wstring FakeFiles::currentDirectory(wchar_t drive) {
+    const auto known = currentDirectories.find(drive);
+    return known == currentDirectories.end() ? std::wstring(1, drive) + L":\\" : known->second;
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <map>
+#include <set>
+
+#include "platform/files.h"
+
+/// A file system in memory: texts by path, and directories that come into being with their files.
+struct FakeFiles : Files {
+    std::map<std::wstring, std::wstring> texts;
+    std::set<std::wstring> directories;  ///< made explicitly, empty ones for instance
+    std::set<std::wstring> hidden;
+    std::map<std::wstring, std::wstring> links;  ///< directory path -> where it leads
+    std::set<std::wstring> unreadable;           ///< visiting one of these raises 70
+    std::vector<wchar_t> presentDrives = {L'c'};
+    std::map<wchar_t, std::wstring> currentDirectories;
+    std::map<std::wstring, int> visits;  ///< how often each directory was read
+
+    /// An empty document, and its directories.
+    void add(const std::wstring& path) { texts[path]; }
+
+    std::wstring readText(const std::wstring& path) override;
+    void replaceText(const std::wstring& path, std::wstring_view text) override;
+    void visit(const std::wstring& directory,
+               const std::function<void(const DirectoryEntry&)>& visitor) override;
+    DirectoryId identify(const std::wstring& directory) override;
+    std::vector<wchar_t> drives() override { return presentDrives; }
+    std::wstring currentDirectory(wchar_t drive) override;
+
+ private:
+    /// The path with links on the way replaced by where they lead, without a trailing backslash.
+    std::wstring resolved(std::wstring path) const;
+    bool exists(const std::wstring& directory) const;
+};

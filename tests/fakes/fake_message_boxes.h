@@ -1,0 +1,24 @@
+#pragma once
+
+#include <deque>
+#include <stdexcept>
+#include <vector>
+
+#include "platform/message_boxes.h"
+
+/// Records every box and answers from a queue; a Yes/No box without an answer fails the test.
+struct FakeMessageBoxes : MessageBoxes {
+    std::vector<MessageBoxContent> shown;
+    std::deque<Answer> answers;
+
+    Answer show(const MessageBoxContent& box) override {
+        shown.push_back(box);
+        if (!answers.empty()) {
+            const Answer answer = answers.front();
+            answers.pop_front();
+            return answer;
+        }
+        if (box.buttons == MessageBoxContent::Buttons::Ok) return Answer::Ok;
+        throw std::logic_error("a question was asked that the test did not expect");
+    }
+};
