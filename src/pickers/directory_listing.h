@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+class Files;
+
+/// Names sort ascending without regard to case; names alike but for case, by their own order.
+void sortNames(std::vector<std::wstring>& names);
+
+/// The names of a directory's sub-directories, in order, hidden ones left out. Raises 70 or 76.
+std::vector<std::wstring> subdirectoryNames(Files& files, const std::wstring& directory);
+
+/// A directory's path as it is reported: a drive root with its trailing backslash (c:\), any
+/// other directory without one.
+std::wstring reportedPath(std::wstring_view directory);
+
+/// The path of an entry of a directory, with one backslash between the two.
+std::wstring childPath(const std::wstring& directory, std::wstring_view name);
+
+/// The directory that holds this one; a root is its own parent.
+std::wstring parentPath(const std::wstring& directory);
+
+/// True for the path of a drive root ("c:\").
+bool isDriveRoot(std::wstring_view directory);

@@ -1,0 +1,63 @@
+#include "pickers/directory_picker.h"
+
+#include "pickers/directory_listing.h"
+#include "platform/controls.h"
+
+namespace {
+
+std::vector<std::wstring> lineage(const std::wstring& directory) {
+    std::vector<std::wstring> paths{directory};
+    for (std::wstring above = parentPath(directory); above != paths.front();
+         above = parentPath(above)) {
+        paths.insert(paths.begin(), above);
+    }
+    return paths;
+}
+
+std::wstring lastName(const std::wstring& directory) {
+    if (parentPath(directory) == directory) return directory;
+    return directory.substr(directory.find_last_of(L'\\') + 1);
+}
+
+std::wstring indented(std::size_t level, const std::wstring& name) {
+    return std::wstring(2 * level, L' ') + name;
+}
+
+}  // namespace
+
+bool DirectoryPicker::setPath(const std::wstring& path) {
+    std::wstring wanted = reportedPath(path);
+    // Read first: a directory that can't be read leaves the picker as it was.
+    subdirectories_ = subdirectoryNames(files_, wanted);
+    const bool changed = wanted != path_;
+    path_ = std::move(wanted);
+    ancestors_ = lineage(path_);
+    show();
+    return changed;
+}
+
+bool DirectoryPicker::openSelected() {
+    const int above = static_cast<int>(ancestors_.size());
+    for (int i = 0; i < list_.count(); ++i) {
+        if (!list_.selected(i)) continue;
+        return setPath(i < above ? ancestors_[static_cast<std::size_t>(i)]
+                                 : subdirectory(i - above));
+    }
+    return false;
+}
+
+std::wstring DirectoryPicker::subdirectory(int index) const {
+    return childPath(path_, subdirectories_.at(static_cast<std::size_t>(index)));
+}
+
+std::wstring DirectoryPicker::parent() const { return parentPath(path_); }
+
+void DirectoryPicker::show() {
+    const std::size_t above = ancestors_.size();
+    list_.setLines(static_cast<int>(above) + subdirectoryCount(), [&](int line) {
+        const auto i = static_cast<std::size_t>(line);
+        return i < above ? indented(i, lastName(ancestors_[i]))
+                         : indented(above, subdirectories_[i - above]);
+    });
+    list_.select(static_cast<int>(above) - 1, true);
+}
