@@ -1,30 +1,52 @@
 #include "pickers/directory_listing.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 #include "platform/files.h"
 #include "platform/letter_case.h"
 
-void sortNames(std::vector<std::wstring>& names) {
-    std::vector<std::pair<std::wstring, std::wstring>> keyed;
-    keyed.reserve(names.size());
-    for (std::wstring& name : names) {
-        std::wstring key = upperCase(name);
-        keyed.emplace_back(std::move(key), std::move(name));
+namespace {
+
+template <class Item, class NameOf>
+void sortItems(std::vector<Item>& items, NameOf nameOf) {
+    struct Keyed {
+        std::wstring key;
+        Item item;
+    };
+    std::vector<Keyed> keyed;
+    keyed.reserve(items.size());
+    for (Item& item : items) {
+        std::wstring key = upperCase(nameOf(item));
+        keyed.push_back({std::move(key), std::move(item)});
     }
-    std::ranges::sort(keyed);
-    std::ranges::transform(keyed, names.begin(),
-                           [](auto& entry) { return std::move(entry.second); });
+    std::ranges::sort(keyed, [&](const Keyed& a, const Keyed& b) {
+        return std::tie(a.key, nameOf(a.item)) < std::tie(b.key, nameOf(b.item));
+    });
+    std::ranges::transform(keyed, items.begin(), [](Keyed& one) { return std::move(one.item); });
 }
 
-std::vector<std::wstring> subdirectoryNames(Files& files, const std::wstring& directory) {
-    std::vector<std::wstring> names;
+}  // namespace
+
+void sortByName(std::vector<std::wstring>& names) {
+    sortItems(names, [](const std::wstring& name) -> const std::wstring& { return name; });
+}
+
+void sortByName(std::vector<Subdirectory>& subdirectories) {
+    sortItems(subdirectories,
+              [](const Subdirectory& one) -> const std::wstring& { return one.name; });
+}
+
+std::vector<Subdirectory> listSubdirectories(Files& files, const std::wstring& directory) {
+    std::vector<Subdirectory> found;
     files.visit(directory, [&](const DirectoryEntry& entry) {
-        if (entry.isDirectory && !entry.isHidden) names.emplace_back(entry.name);
+        if (entry.isDirectory && !entry.isHidden) {
+            found.push_back({std::wstring(entry.name), entry.isLink});
+        }
     });
-    sortNames(names);
-    return names;
+    sortByName(found);
+    return found;
 }
 
 bool isDriveRoot(std::wstring_view directory) {

@@ -6,11 +6,17 @@
 
 class Files;
 
-/// Names sort ascending without regard to case; names alike but for case, by their own order.
-void sortNames(std::vector<std::wstring>& names);
+struct Subdirectory {
+    std::wstring name;
+    bool isLink;  ///< a junction or symbolic link: it may lead back up
+};
 
-/// The names of a directory's sub-directories, in order, hidden ones left out. Raises 70 or 76.
-std::vector<std::wstring> subdirectoryNames(Files& files, const std::wstring& directory);
+// Names sort ascending without regard to case; names alike but for case, by their own order.
+void sortByName(std::vector<std::wstring>& names);
+void sortByName(std::vector<Subdirectory>& subdirectories);
+
+/// A directory's sub-directories in order, hidden ones left out. Raises 70 or 76.
+std::vector<Subdirectory> listSubdirectories(Files& files, const std::wstring& directory);
 
 /// A directory's path as it is reported: a drive root with its trailing backslash (c:\), any
 /// other directory without one.

@@ -28,7 +28,7 @@ std::wstring indented(std::size_t level, const std::wstring& name) {
 bool DirectoryPicker::setPath(const std::wstring& path) {
     std::wstring wanted = reportedPath(path);
     // Read first: a directory that can't be read leaves the picker as it was.
-    subdirectories_ = subdirectoryNames(files_, wanted);
+    subdirectories_ = listSubdirectories(files_, wanted);
     const bool changed = wanted != path_;
     path_ = std::move(wanted);
     ancestors_ = lineage(path_);
@@ -47,7 +47,11 @@ bool DirectoryPicker::openSelected() {
 }
 
 std::wstring DirectoryPicker::subdirectory(int index) const {
-    return childPath(path_, subdirectories_.at(static_cast<std::size_t>(index)));
+    return childPath(path_, subdirectories_.at(static_cast<std::size_t>(index)).name);
+}
+
+bool DirectoryPicker::subdirectoryIsLink(int index) const {
+    return subdirectories_.at(static_cast<std::size_t>(index)).isLink;
 }
 
 std::wstring DirectoryPicker::parent() const { return parentPath(path_); }
@@ -57,7 +61,7 @@ void DirectoryPicker::show() {
     list_.setLines(static_cast<int>(above) + subdirectoryCount(), [&](int line) {
         const auto i = static_cast<std::size_t>(line);
         return i < above ? indented(i, lastName(ancestors_[i]))
-                         : indented(above, subdirectories_[i - above]);
+                         : indented(above, subdirectories_[i - above].name);
     });
     list_.select(static_cast<int>(above) - 1, true);
 }

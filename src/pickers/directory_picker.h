@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "pickers/directory_listing.h"
+
 class Files;
 class ListBox;
 
@@ -24,6 +26,7 @@ class DirectoryPicker {
     int subdirectoryCount() const { return static_cast<int>(subdirectories_.size()); }
     /// The full path of a sub-directory, zero-based.
     std::wstring subdirectory(int index) const;
+    bool subdirectoryIsLink(int index) const;
     std::wstring parent() const;
 
  private:
@@ -33,5 +36,5 @@ class DirectoryPicker {
     Files& files_;
     std::wstring path_;
     std::vector<std::wstring> ancestors_;  // full paths, from the root to the open directory
-    std::vector<std::wstring> subdirectories_;
+    std::vector<Subdirectory> subdirectories_;
 };

@@ -1,0 +1,11 @@
+#include "pickers/open_directories.h"
+
+#include <algorithm>
+
+bool OpenDirectories::leadsBack(const std::wstring& link) {
+    const DirectoryId target = files_.identify(link);
+    return std::ranges::any_of(way_, [&](Open& open) {
+        if (!open.id) open.id = files_.identify(open.path);
+        return *open.id == target;
+    });
+}
