@@ -42,7 +42,7 @@ void describe(const Reply& reply, EXCEPINFO& exception) {
 Reply CallDesk::receive(const Request& request, Call& call) {
     // The line shows the arguments as sent, so it is made before any is written back.
     const std::wstring line = lineOf(request, call);
-    const Reply reply = perform(request, call);
+    Reply reply = perform(request, call);
     record(line + outcomeOf(reply, call));
     if (!request.member || isRefusal(reply.code)) return reply;
     if (!waitWithMessages(faults_.delayOf(request.member->name))) return {RPC_E_DISCONNECTED};

@@ -13,8 +13,8 @@ struct Column {
 };
 
 constexpr Column kColumns[] = {
-    {L"Document", 190}, {L"Type", 90},          {L"Actif", 50},
-    {L"Ouverture", 90}, {L"Configuration", 90}, {L"Répertoire", 320},
+    {L"Document", 170},   {L"Actif", 45},     {L"Type", 85},
+    {L"Répertoire", 260}, {L"Ouverture", 85}, {L"Configuration", 95},
 };
 
 void setCell(HWND list, int row, int column, std::wstring text) {
@@ -32,11 +32,11 @@ void addRow(HWND list, int row, const DocumentObject& document, bool active) {
     item.iItem = row;
     item.pszText = title.data();
     SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    setCell(list, row, 1, kindName(facts.kind));
-    setCell(list, row, 2, active ? L"●" : L"");
-    setCell(list, row, 3, facts.silent ? L"silencieuse" : L"normale");
-    setCell(list, row, 4, facts.configuration.empty() ? L"par défaut" : facts.configuration);
-    setCell(list, row, 5, directoryOf(facts.path));
+    setCell(list, row, 1, active ? L"●" : L"");
+    setCell(list, row, 2, kindName(facts.kind));
+    setCell(list, row, 3, directoryOf(facts.path));
+    setCell(list, row, 4, facts.silent ? L"silencieuse" : L"normale");
+    setCell(list, row, 5, facts.configuration.empty() ? L"par défaut" : facts.configuration);
 }
 
 }  // namespace

@@ -5,18 +5,28 @@
 #include "known_methods.h"
 #include "text.h"
 
+namespace {
+
+/// Both codes in turn, since a caller may meet either.
+HRESULT nextCode(bool& retryLater) {
+    return std::exchange(retryLater, !retryLater) ? RPC_E_SERVERCALL_RETRYLATER
+                                                  : RPC_E_CALL_REJECTED;
+}
+
+}  // namespace
+
 Faults::Faults(const Options& options) : delays_(options.delay) {
     for (const MethodRule& rule : options.busy) busy_.push_back({rule, std::nullopt});
     for (const MethodRule& rule : options.fail) failures_.push_back({rule});
 }
 
 std::optional<HRESULT> Faults::refuseCall(std::wstring_view method) {
-    if (isBusy(method, true)) return nextRefusal();
+    if (isBusy(method, true)) return nextCode(callsRetryLater_);
     return std::nullopt;
 }
 
 std::optional<HRESULT> Faults::refuseLookUp(std::wstring_view method) {
-    if (isBusy(kNameLookUp, true) || isBusy(method, false)) return nextRefusal();
+    if (isBusy(kNameLookUp, true) || isBusy(method, false)) return nextCode(lookUpsRetryLater_);
     return std::nullopt;
 }
 
@@ -28,11 +38,6 @@ bool Faults::isBusy(std::wstring_view method, bool mayStart) {
         if (busy.start && now - *busy.start < busy.rule.number) return true;
     }
     return false;
-}
-
-HRESULT Faults::nextRefusal() {
-    return std::exchange(retryLater_, !retryLater_) ? RPC_E_SERVERCALL_RETRYLATER
-                                                    : RPC_E_CALL_REJECTED;
 }
 
 bool Faults::mustFail(std::wstring_view method) {

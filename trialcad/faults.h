@@ -36,10 +36,10 @@ class Faults {
     };
 
     bool isBusy(std::wstring_view method, bool mayStart);
-    HRESULT nextRefusal();
 
     std::vector<Busy> busy_;
     std::vector<Failure> failures_;
     std::vector<MethodRule> delays_;
-    bool retryLater_ = false;
+    bool callsRetryLater_ = false;
+    bool lookUpsRetryLater_ = false;
 };

@@ -24,6 +24,8 @@ void registerClass(HINSTANCE instance, WNDPROC procedure) {
     RegisterClassExW(&description);
 }
 
+int scaled(int pixels) { return MulDiv(pixels, static_cast<int>(GetDpiForSystem()), 96); }
+
 HWND createLabel(HWND parent, const wchar_t* text) {
     return CreateWindowExW(0, L"STATIC", text, WS_CHILD | WS_VISIBLE | SS_NOPREFIX, 0, 0, 0, 0,
                            parent, nullptr, nullptr, nullptr);
@@ -51,8 +53,8 @@ SessionWindow::SessionWindow(HINSTANCE instance, const Options& options, const S
       hidden_(options.hidden) {
     registerClass(instance, procedure);
     CreateWindowExW(0, kClass, release_.c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-                    CW_USEDEFAULT, CW_USEDEFAULT, kWidth, kHeight, nullptr, nullptr, instance,
-                    this);
+                    CW_USEDEFAULT, CW_USEDEFAULT, scaled(kWidth), scaled(kHeight), nullptr, nullptr,
+                    instance, this);
     refresh();
 }
 
@@ -150,6 +152,7 @@ void SessionWindow::layOut() const {
     place(folders_, layout.folders);
     place(callsLabel_, layout.callsLabel);
     place(calls_, layout.calls);
+    showNewestLine(calls_);
     InvalidateRect(window_, &layout.nameBar, FALSE);
 }
 

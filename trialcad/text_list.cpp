@@ -1,5 +1,7 @@
 #include "text_list.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr LRESULT kMostLines = 1000;
@@ -47,8 +49,12 @@ void appendLine(HWND list, const std::wstring& line) {
     if (SendMessageW(list, LB_GETCOUNT, 0, 0) >= kMostLines)
         SendMessageW(list, LB_DELETESTRING, 0, 0);
     add(list, line);
-    const LRESULT last = SendMessageW(list, LB_GETCOUNT, 0, 0) - 1;
-    SendMessageW(list, LB_SETTOPINDEX, static_cast<WPARAM>(last), 0);
+    showNewestLine(list);
     SendMessageW(list, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(list, nullptr, TRUE);
+}
+
+void showNewestLine(HWND list) {
+    const LRESULT count = SendMessageW(list, LB_GETCOUNT, 0, 0);
+    if (count > 0) SendMessageW(list, LB_SETTOPINDEX, static_cast<WPARAM>(count - 1), 0);
 }

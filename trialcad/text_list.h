@@ -12,3 +12,6 @@ void fillTextList(HWND list, const std::wstring& joined);
 
 /// Appends a line, drops the oldest beyond a thousand and shows the newest.
 void appendLine(HWND list, const std::wstring& line);
+
+/// Scrolls down to the last line.
+void showNewestLine(HWND list);

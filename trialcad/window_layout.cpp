@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr int kBarHeight = 82;
+constexpr int kBarHeight = 78;
 constexpr int kMargin = 12;
 constexpr int kLabelHeight = 20;
 constexpr POINT kSmallest = {560, 420};
