@@ -39,6 +39,8 @@ class ListBox : public Control {
     virtual void setLines(int count, const std::function<std::wstring(int)>& line) = 0;
     /// Removes a line and inserts another in its place: not selected, its mark 0.
     virtual void replaceLine(int index, const std::wstring& line) = 0;
+    /// Gives a line another text; it stays selected or not, and where it is on the screen.
+    virtual void changeText(int index, const std::wstring& line) = 0;
     /// Between these two nothing is drawn. Use DrawingPause.
     virtual void stopDrawing() = 0;
     virtual void resumeDrawing() = 0;

@@ -8,6 +8,10 @@ enum class Event { Click, DoubleClick, Change, Validate, Close };
 /// The id under which a window's own events are raised.
 inline constexpr int kTheWindow = 0;
 
+/// The ids under which Enter and Escape are raised, as clicks, when no control takes them.
+inline constexpr int kEnterKey = 1;
+inline constexpr int kEscapeKey = 2;
+
 /// Who handles the events of a window.
 class EventSink {
  public:

@@ -39,6 +39,7 @@ struct WindowTemplate {
     int dialogId;
     std::span<const Tooltip> tooltips;
     int headingId = 0;  ///< the label shown as the window's heading
+    int focusId = 0;    ///< the control that has the focus first; 0: the first one
 };
 
 class WindowFactory {

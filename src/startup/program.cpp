@@ -1,14 +1,26 @@
 #include "startup/program.h"
 
+#include "about/about_window.h"
+#include "selection/form1.h"
+#include "startup/form2.h"
 #include "tracking/form3.h"
 
 Program::Program(const Platform& platform) : platform_(platform) {}
 
 Program::~Program() = default;
 
-void Program::ChargerForm1() {}
+void Program::ChargerForm1() {
+    form1_ = std::make_unique<Form1>(module_, platform_, *this);
+    form1_->Form_Load();
+    form1_->window().show();
+}
 
-void Program::ChargerForm2() { ChargerForm3(); }
+void Program::ChargerForm2() {
+    form2_ = std::make_unique<Form2>(module_, platform_, *this);
+    form2_->Form_Load();
+    FermerAPropos();
+    form2_->window().show();
+}
 
 void Program::ChargerForm3() {
     form3_ = std::make_unique<Form3>(module_, platform_);
@@ -18,6 +30,11 @@ void Program::ChargerForm3() {
 
 void Program::ChargerForm4() {}
 
-void Program::ChargerAPropos() {}
+void Program::ChargerAPropos() {
+    if (!about_ || !about_->isOpen()) about_ = std::make_unique<AboutWindow>(module_, platform_);
+    about_->show();
+}
 
-void Program::FermerAPropos() {}
+void Program::FermerAPropos() {
+    if (about_ && about_->isOpen()) about_->close();
+}

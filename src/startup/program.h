@@ -6,6 +6,9 @@
 #include "startup/module1.h"
 #include "startup/navigation.h"
 
+class AboutWindow;
+class Form1;
+class Form2;
 class Form3;
 
 /// The program: its variables, its windows, and the way from one to the next.
@@ -31,5 +34,8 @@ class Program : public Navigation {
 
     Platform platform_;
     Module1 module_;
+    std::unique_ptr<AboutWindow> about_;
+    std::unique_ptr<Form1> form1_;
+    std::unique_ptr<Form2> form2_;
     std::unique_ptr<Form3> form3_;
 };

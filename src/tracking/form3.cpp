@@ -18,7 +18,8 @@
 Form3::Form3(Module1& module, Platform& platform)
     : module_(module),
       platform_(platform),
-      window_(platform.windows.create({IDD_FORM3, kForm3Tooltips, IDC_FORM3_LABEL2}, *this)),
+      window_(platform.windows.create(
+          {IDD_FORM3, kForm3Tooltips, IDC_FORM3_LABEL2, IDC_FORM3_LIST1}, *this)),
       cad_(module, platform.desktop),
       vue_(window_->listBox(IDC_FORM3_LIST1)),
       TxtEtat(window_->control(IDC_FORM3_TXTETAT)),

@@ -8,9 +8,11 @@
 #include "platform/window.h"
 #include "startup/cad_session.h"
 #include "tracking/work_list_view.h"
+#include "worklist/line_commands.h"
 
 struct Module1;
 struct Platform;
+struct Question;
 
 /// The tracking window: the work list, the document in progress, and the commands that lead the
 /// pass from one document to the next.
@@ -43,6 +45,18 @@ class Form3 : public EventSink {
     void CmdPlus1_Click();
     void CmdMoins1_Click();
 
+    // Many lines at once; none of these writes the list file.
+    void CmdChaF_Click();
+    void CmdChaV_Click();
+    void CmdChaRaz_Click();
+    void CmdEliF_Click();
+    void CmdEliFV_Click();
+    void CmdEliV_Click();
+    void CmdPurge_Click();
+    /// Goes on at the first line to do from the first selected line on.
+    void CmdRepA_Click();
+    void CmdDeSelect_Click();
+
  private:
     void LireListe();
     void CocherOptions();
@@ -64,6 +78,18 @@ class Form3 : public EventSink {
     /// Makes a line the current one: in progress, shown, selected, its document open.
     void PasserEnCours(int index);
     void AfficherListe(std::int16_t mode);
+
+    /// 1 when at least one line is selected, else 0.
+    int AuMoinsUneSelection() const;
+    bool verifierSelection(const wchar_t* reproche);
+    bool confirmer(const Question& question);
+    LineSelected selectionnee() const;
+    void ChangerSelection(const Question& question, std::wstring_view code);
+    void EliminerSelection(const Question& question, Eliminate states);
+    /// Finds the current line again after an edit of the list, and opens its document.
+    void ReprendreCourant();
+    /// Draws the list anew and makes a line the current one, its document open.
+    void ReprendreA(int index);
 
     int ligneCourante() const;
     void fixerLigneCourante(long index);

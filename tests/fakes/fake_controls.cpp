@@ -38,6 +38,10 @@ void FakeListBox::replaceLine(int index, const std::wstring& line) {
     if (has(index)) lines[static_cast<std::size_t>(index)] = {line};
 }
 
+void FakeListBox::changeText(int index, const std::wstring& line) {
+    if (has(index)) lines[static_cast<std::size_t>(index)].text = line;
+}
+
 std::vector<std::wstring> FakeListBox::texts() const {
     std::vector<std::wstring> result;
     for (const Line& line : lines) result.push_back(line.text);

@@ -49,6 +49,7 @@ struct FakeListBox : FakeControlOf<ListBox> {
     void setMark(int index, int mark) override;
     void setLines(int count, const std::function<std::wstring(int)>& line) override;
     void replaceLine(int index, const std::wstring& line) override;
+    void changeText(int index, const std::wstring& line) override;
     void stopDrawing() override { ++drawingStops; }
     void resumeDrawing() override { --drawingStops; }
 

@@ -35,6 +35,7 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
                        nullptr, procedure, reinterpret_cast<LPARAM>(this));
     chooseFonts(windowTemplate.headingId);
     addTooltips(window_, windowTemplate.tooltips);
+    if (windowTemplate.focusId != 0) SetFocus(GetDlgItem(window_, windowTemplate.focusId));
 }
 
 DialogWindow::~DialogWindow() { unload(); }
@@ -68,11 +69,11 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_NOTIFY: {
             const auto* header = reinterpret_cast<NMHDR*>(lParam);
             if (header->code != static_cast<UINT>(TCN_SELCHANGE)) return FALSE;
-            gate_.deliver(events_, static_cast<int>(header->idFrom), Event::Click);
+            gate_.deliver(events_, static_cast<int>(header->idFrom), Event::Click, window_);
             return TRUE;
         }
         case WM_CLOSE:
-            gate_.deliver(events_, kTheWindow, Event::Close);
+            gate_.deliver(events_, kTheWindow, Event::Close, window_);
             return TRUE;
         case WM_SETCURSOR:
             if (!Hourglass::shown()) return FALSE;
@@ -85,13 +86,27 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void DialogWindow::onCommand(int id, WORD code, HWND control) {
+    if (id == kEnterKey || id == kEscapeKey) {
+        onKey(id);
+        return;
+    }
     if (!control) return;
     const auto event = eventOf(control, code);
     if (!event) return;
     if (classOf(control) == ControlClass::ComboBox && *event == Event::Click) {
         showChosenLine(control);
     }
-    gate_.deliver(events_, id, *event);
+    gate_.deliver(events_, id, *event, window_);
+}
+
+void DialogWindow::onKey(int id) {
+    HWND focus = GetFocus();
+    // Enter in a list is a double click on its line.
+    if (id == kEnterKey && focus && classOf(focus) == ControlClass::ListBox) {
+        gate_.deliver(events_, GetDlgCtrlID(focus), Event::DoubleClick, window_);
+    } else {
+        gate_.deliver(events_, id, Event::Click, window_);
+    }
 }
 
 template <class Kind>
@@ -145,6 +160,8 @@ void DialogWindow::resize(int width, int height) {
 void DialogWindow::show() {
     ShowWindow(window_, IsIconic(window_) ? SW_RESTORE : SW_SHOW);
     SetForegroundWindow(window_);
+    // The splash is shown before the program serves any messages.
+    UpdateWindow(window_);
 }
 
 void DialogWindow::hide() { ShowWindow(window_, SW_HIDE); }

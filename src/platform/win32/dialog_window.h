@@ -37,6 +37,7 @@ class DialogWindow : public Window {
     static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam);
     void onCommand(int id, WORD code, HWND control);
+    void onKey(int id);
     void chooseFonts(int headingId);
     POINT restoredCorner() const;
     template <class Kind>

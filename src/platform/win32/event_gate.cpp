@@ -1,17 +1,15 @@
 #include "platform/win32/event_gate.h"
 
-#include <windows.h>
-
 #include <new>
 
 #include "platform/runtime_error.h"
 #include "platform/win32/fatal_error.h"
 #include "platform/win32/hourglass.h"
 
-void EventGate::deliver(EventSink& sink, int controlId, Event event) {
+void EventGate::deliver(EventSink& sink, int controlId, Event event, HWND window) {
     if (ended_) return;
     if (running_) {
-        waiting_.push_back({&sink, controlId, event});
+        waiting_.push_back({&sink, controlId, event, window});
         return;
     }
     run([&] { sink.raise(controlId, event); });
@@ -22,8 +20,14 @@ void EventGate::run(const std::function<void()>& action) {
     while (!waiting_.empty() && !ended_) {
         const Waiting next = waiting_.front();
         waiting_.pop_front();
-        runOne([&] { next.sink->raise(next.controlId, next.event); });
+        if (stillPossible(next)) runOne([&] { next.sink->raise(next.controlId, next.event); });
     }
+}
+
+bool EventGate::stillPossible(const Waiting& waiting) {
+    if (!IsWindowVisible(waiting.window)) return false;
+    HWND control = GetDlgItem(waiting.window, waiting.controlId);
+    return !control || IsWindowEnabled(control);
 }
 
 void EventGate::forget(const EventSink& sink) {

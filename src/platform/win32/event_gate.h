@@ -1,5 +1,7 @@
 #pragma once
 
+#include <windows.h>
+
 #include <deque>
 #include <functional>
 
@@ -9,8 +11,9 @@
 /// One handler runs at a time: an event that arrives meanwhile waits until it has ended.
 class EventGate {
  public:
-    /// Runs the handler of an event now, or after the one that runs.
-    void deliver(EventSink& sink, int controlId, Event event);
+    /// Runs the handler of an event of a window now, or after the one that runs; then only if the
+    /// user could still do what it stands for.
+    void deliver(EventSink& sink, int controlId, Event event, HWND window);
 
     /// Runs anything that may raise a run-time error or end the program.
     void run(const std::function<void()>& action);
@@ -27,7 +30,10 @@ class EventGate {
         EventSink* sink;
         int controlId;
         Event event;
+        HWND window;
     };
+
+    static bool stillPossible(const Waiting& waiting);
 
     void runOne(const std::function<void()>& action);
     void end(int exitCode);

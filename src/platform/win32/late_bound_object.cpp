@@ -29,7 +29,27 @@ struct Failure : EXCEPINFO {
     }
 };
 
+/// The run-time error that a server names by its number (the CTL_E_ codes of olectl.h).
+RuntimeError numberedError(HRESULT code, const std::wstring& description) {
+    switch (HRESULT_CODE(code)) {
+        case 53:
+            return errors::fileNotFound(description);
+        case 70:
+            return errors::permissionDenied(description);
+        case 75:
+            return errors::fileAccess(description);
+        case 76:
+            return errors::pathNotFound(description);
+        default:
+            return errors::automation(description);
+    }
+}
+
 RuntimeError callError(HRESULT result, std::wstring_view name, Failure& failure) {
+    const HRESULT code = result == DISP_E_EXCEPTION ? failure.scode : result;
+    if (HRESULT_FACILITY(code) == FACILITY_CONTROL) {
+        return numberedError(code, failure.description());
+    }
     switch (result) {
         case DISP_E_UNKNOWNNAME:
         case DISP_E_MEMBERNOTFOUND:
@@ -87,13 +107,21 @@ DISPID LateBoundObject::lookUp(std::wstring_view name) {
 
 void LateBoundObject::invoke(std::wstring_view name, WORD flags, DISPPARAMS& parameters,
                              VARIANT* value) {
-    const DISPID id = lookUp(name);
     Failure failure;
-    const HRESULT result = callPatiently([&] {
-        const CallOut out;
-        return dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, value,
-                                 &failure, nullptr);
-    });
+    const auto invokeOnce = [&] {
+        const DISPID id = lookUp(name);
+        return callPatiently([&] {
+            const CallOut out;
+            return dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, value,
+                                     &failure, nullptr);
+        });
+    };
+    HRESULT result = invokeOnce();
+    if (result == DISP_E_MEMBERNOTFOUND) {
+        // The object may be of another kind than those that the name was looked up for.
+        names_.erase(names_.find(name));
+        result = invokeOnce();
+    }
     if (FAILED(result)) throw callError(result, name, failure);
 }
 

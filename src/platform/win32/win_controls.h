@@ -59,6 +59,7 @@ class WinListBox : public ControlOf<ListBox> {
     void setMark(int index, int mark) override;
     void setLines(int count, const std::function<std::wstring(int)>& line) override;
     void replaceLine(int index, const std::wstring& line) override;
+    void changeText(int index, const std::wstring& line) override;
     void stopDrawing() override;
     void resumeDrawing() override;
 

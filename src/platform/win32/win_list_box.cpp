@@ -78,6 +78,16 @@ void WinListBox::replaceLine(int index, const std::wstring& line) {
     if (line.size() > widest_) widenFor(line.size());
 }
 
+void WinListBox::changeText(int index, const std::wstring& line) {
+    const LRESULT top = send(LB_GETTOPINDEX);
+    const bool wasSelected = selected(index);
+    const LRESULT data = send(LB_GETITEMDATA, position(index));
+    replaceLine(index, line);
+    send(LB_SETITEMDATA, position(index), data);
+    if (wasSelected) send(LB_SELITEMRANGEEX, position(index), index);
+    if (send(LB_GETTOPINDEX) != top) send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
+}
+
 void WinListBox::widenFor(std::size_t characters) {
     widest_ = characters;
     send(LB_SETHORIZONTALEXTENT, (characters + 1) * static_cast<WPARAM>(characterWidth(handle())));

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <unordered_set>
+
+#include "common/checked_table.h"
+
+/// The documents found, in the order of their discovery.
+class FoundDocuments {
+ public:
+    static constexpr long kCapacity = 8001;
+
+    long count() const { return count_; }
+    /// A bare file name or, when sub-directories are included, a full path.
+    const std::wstring& entry(long index) const { return TabFich_[index]; }
+
+    bool CheminsComplets() const { return CheminsComplets_; }
+
+    /// Empties the table and says what its next entries will be.
+    void restart(bool CheminsComplets);
+
+    /// Begins a pass over one directory. Unless it appends, the table is emptied but for its very
+    /// last entry, which so still counts as present.
+    void beginPass(bool append);
+
+    /// Stores a document of a directory unless the pass has its bare name already.
+    /// Raises 9 when the table is full.
+    void store(const std::wstring& directory, std::wstring_view name);
+
+ private:
+    bool presentInPass(const std::wstring& entry) const;
+
+    CheckedTable<std::wstring, kCapacity> TabFich_;
+    std::unordered_set<std::wstring> pass_;  ///< the bare names of the current pass
+    long count_ = 0;
+    bool CheminsComplets_ = false;
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+class FoundDocuments;
+class ListBox;
+struct StateLabels;
+
+/// The documents found as lines of a list, each chosen or not: its mark, 1 or 0, and an "X" in
+/// front. The list's own selection (the highlight) is another thing.
+class SelectionList {
+ public:
+    SelectionList(ListBox& list, const FoundDocuments& found, const StateLabels& labels)
+        : list_(list), found_(found), labels_(labels) {}
+
+    /// Draws all lines from the table. Mode 1: anew, none is chosen; mode 0: choices are kept.
+    void RemplirListe(int mode, const std::wstring& depth);
+
+    long chosenCount() const;
+    bool chosen(int line) const;
+
+    void toggleHighlighted();
+    void toggleAll();
+    // These two match a line as it is displayed, label and visible part of the path, in any case.
+    void chooseMatching(std::wstring_view filter) { setMatching(filter, true); }
+    void dropMatching(std::wstring_view filter) { setMatching(filter, false); }
+
+ private:
+    void setChosen(int line, bool chosen);
+    void setMatching(std::wstring_view filter, bool chosen);
+
+    ListBox& list_;
+    const FoundDocuments& found_;
+    const StateLabels& labels_;
+};
