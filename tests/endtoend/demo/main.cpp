@@ -23,6 +23,7 @@ void StartCad(Stage& stage) {
 
 void PlayScript(const std::filesystem::path& directory) {
     const Settings settings;
+    SetCursorPos(GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));  // no tooltips
     Stage stage(directory);
     StartCad(stage);
     PlayTrackingWindow(stage);

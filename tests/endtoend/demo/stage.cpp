@@ -6,6 +6,7 @@
 #include "demo/sample_documents.h"
 #include "driver/text.h"
 #include "driver/wait.h"
+#include "driver/winapi.h"
 
 namespace endtoend::demo {
 namespace {
@@ -56,6 +57,7 @@ void Stage::ShowListFile() const { std::cout << sandbox.ReadList().value_or("(no
 
 void Stage::Picture(const std::string& name, HWND window) const {
     SetForegroundWindow(window);
+    Send(window, WM_NCACTIVATE, TRUE);  // a button pressed from outside leaves the title bar grey
     const std::filesystem::path request = sandbox.Directory() / "picture.request";
     const std::filesystem::path draft = sandbox.Directory() / "picture.draft";
     WriteFileBytes(draft, name + " " + Area(window) + "\n");

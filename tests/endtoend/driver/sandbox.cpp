@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 #include "driver/text.h"
 
@@ -40,8 +41,10 @@ Sandbox::~Sandbox() {
 
 void Sandbox::CopyProgram() const {
     fs::create_directories(Documents());
-    fs::copy_file(BuiltPrograms() / "tarnwick.exe", Program(),
-                  fs::copy_options::overwrite_existing);
+    const fs::path built = BuiltPrograms() / "tarnwick.exe";
+    // mingw's std::filesystem can't overwrite an existing file.
+    if (!CopyFileW(built.c_str(), Program().c_str(), FALSE))
+        throw std::runtime_error("could not copy " + Utf8(built.wstring()));
 }
 
 fs::path Sandbox::BuiltPrograms() {
