@@ -8,7 +8,7 @@ packages=(
     libgtest-dev libbenchmark-dev
     clang libclang-rt-14-dev clang-tidy clang-format cppcheck
     wine wine64 xvfb xauth imagemagick
-    fonts-liberation fonts-dejavu-core
+    fonts-wine fonts-liberation fonts-dejavu-core
 )
 
 installed() {

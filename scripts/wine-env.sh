@@ -46,6 +46,8 @@ prefix_start() {
     [[ -e "$WINEPREFIX/.ready" ]] && return
     rm -rf "$WINEPREFIX"
     unlocked wineboot --init >/dev/null 2>&1
+    # Debian's Wine does not look where Debian's package puts Wine's fonts.
+    cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
     if [[ "$1" == desktop ]]; then
         unlocked wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
         unlocked wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$screen_size" /f >/dev/null

@@ -21,6 +21,9 @@ class AppDriver {
     /// Waits for the program to end by itself.
     int WaitForExit() const { return static_cast<int>(process_->WaitForExit()); }
 
+    /// Waits until its user closes it.
+    void WaitUntilClosed() const { process_->WaitUntilClosed(); }
+
     /// The shown top-level window with this caption.
     HWND Window(const std::string& caption) const;
     /// The captions of all top-level windows that are shown, message boxes included.

@@ -15,9 +15,11 @@ bool IsButton(HWND window) {
     return ClassOf(window) == "Button" && IsWindowVisible(window) && id >= IDOK && id <= IDCONTINUE;
 }
 
-bool IsShownIcon(HWND window) {
-    return ClassOf(window) == "Static" && IsWindowVisible(window) &&
-           (GetWindowLongW(window, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
+// Asks for the picture, too: Wine keeps an empty icon control in boxes without icon.
+bool IsIcon(HWND window) {
+    return ClassOf(window) == "Static" &&
+           (GetWindowLongW(window, GWL_STYLE) & SS_TYPEMASK) == SS_ICON &&
+           Send(window, STM_GETICON) != 0;
 }
 
 HWND Label(HWND box) {
@@ -53,7 +55,7 @@ std::vector<int> ModalBox::Buttons() const {
 
 int ModalBox::DefaultButton() const { return LOWORD(Send(window_, DM_GETDEFID)); }
 
-bool ModalBox::HasIcon() const { return AnyChild(window_, IsShownIcon); }
+bool ModalBox::HasIcon() const { return AnyChild(window_, IsIcon); }
 
 void ModalBox::Answer(int button) const {
     Post(GetDlgItem(window_, button), BM_CLICK);

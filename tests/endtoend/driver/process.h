@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,6 +21,9 @@ class Process {
 
     /// Throws TimedOut if the process does not end by itself.
     DWORD WaitForExit() const;
+
+    /// Waits as long as a person may take.
+    void WaitUntilClosed() const { WaitForSingleObject(handle_, INFINITE); }
 
     void Kill();
 

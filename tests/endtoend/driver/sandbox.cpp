@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 #include "driver/text.h"
 
@@ -13,10 +14,17 @@ namespace {
 namespace fs = std::filesystem;
 
 fs::path NewTemporaryDirectory() {
-    fs::path directory =
-        fs::temp_directory_path() / ("tarnwick essai " + std::to_string(GetCurrentProcessId()));
-    fs::remove_all(directory);
-    return directory;
+    const std::string name = "tarnwick essai " + std::to_string(GetCurrentProcessId()) + "-" +
+                             std::to_string(GetTickCount64());
+    return fs::temp_directory_path() / name;
+}
+
+/// Removes all that can be removed, read-only files too.
+void RemoveDirectoryTree(const fs::path& directory) {
+    std::error_code ignored;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory, ignored))
+        fs::permissions(entry.path(), fs::perms::owner_all, ignored);
+    fs::remove_all(directory, ignored);
 }
 
 }  // namespace
@@ -28,14 +36,15 @@ Sandbox::Sandbox(fs::path directory) : directory_(std::move(directory)), tempora
 }
 
 Sandbox::~Sandbox() {
-    std::error_code ignored;
-    if (temporary_) fs::remove_all(directory_, ignored);
+    if (temporary_) RemoveDirectoryTree(directory_);
 }
 
 void Sandbox::CopyProgram() const {
     fs::create_directories(Documents());
-    fs::copy_file(BuiltPrograms() / "tarnwick.exe", Program(),
-                  fs::copy_options::overwrite_existing);
+    const fs::path built = BuiltPrograms() / "tarnwick.exe";
+    // mingw's std::filesystem can't overwrite an existing file.
+    if (!CopyFileW(built.c_str(), Program().c_str(), FALSE))
+        throw std::runtime_error("could not copy " + Utf8(built.wstring()));
 }
 
 fs::path Sandbox::BuiltPrograms() {

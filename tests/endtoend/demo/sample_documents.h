@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "driver/sandbox.h"
+
+namespace endtoend::demo {
+
+/// Creates a tree of sample documents as a small design office might have it; gives their full
+/// paths.
+std::vector<std::string> CreateSampleDocuments(const Sandbox& sandbox);
+
+}  // namespace endtoend::demo

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "driver/app_driver.h"
+#include "driver/sandbox.h"
+#include "driver/trial_cad.h"
+
+namespace endtoend::demo {
+
+/// Where the demonstration is played: the program, a trial CAD session and sample documents. All
+/// that happens is told on the standard output.
+class Stage {
+ public:
+    explicit Stage(const std::filesystem::path& directory);
+
+    /// Announces what comes next.
+    void Tell(const std::string& step) const;
+
+    /// Presses a button and tells its caption.
+    void Press(int button) const;
+
+    /// Waits for a call that holds this text among those not shown yet, and shows all up to it.
+    void ShowCallsUpTo(const std::string& text);
+
+    void ShowLines(int list) const;
+    void ShowListFile() const;
+
+    /// Leaves NAME.png with this window as it looks on the screen.
+    void Picture(const std::string& name, HWND window) const;
+
+    Sandbox sandbox;
+    std::vector<std::string> documents;
+    TrialCad cad;
+    AppDriver app;
+
+ private:
+    size_t callsShown_ = 0;
+};
+
+}  // namespace endtoend::demo
