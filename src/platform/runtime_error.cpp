@@ -11,6 +11,12 @@ RuntimeError about(int number, const wchar_t* sentence, const std::wstring& subj
 
 RuntimeError invalidArgument() { return {5, L"Appel de procédure ou argument incorrect."}; }
 
+RuntimeError unwritableText() {
+    return {5,
+            L"Un nom de fichier contient des caractères qui ne peuvent pas être écrits dans un "
+            L"fichier. Renommez ce document, puis recommencez."};
+}
+
 RuntimeError overflow() { return {6, L"Dépassement de capacité : le nombre est trop grand."}; }
 
 RuntimeError outOfMemory() { return {7, L"Mémoire insuffisante."}; }

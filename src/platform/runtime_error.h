@@ -15,6 +15,7 @@ struct ProgramEnd {};
 /// The run-time errors that rules of the program raise. Their numbers are part of the interface.
 namespace errors {
 RuntimeError invalidArgument();                            ///< 5
+RuntimeError unwritableText();                             ///< 5, for a text no file can hold
 RuntimeError overflow();                                   ///< 6
 RuntimeError outOfMemory();                                ///< 7
 RuntimeError subscriptOutOfRange();                        ///< 9

@@ -1,6 +1,7 @@
 #include "platform/win32/call_out.h"
 
 #include "platform/retry_policy.h"
+#include "platform/win32/message_pump.h"
 #include "platform/win32/modal_box.h"
 
 namespace {
@@ -9,23 +10,11 @@ bool isBusy(HRESULT result) {
     return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER;
 }
 
-void pumpMessages() {
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-        if (message.message == WM_QUIT) {
-            PostQuitMessage(static_cast<int>(message.wParam));
-            return;
-        }
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
-    }
-}
-
 void waitWhileDrawing(unsigned milliseconds) {
     const ULONGLONG end = GetTickCount64() + milliseconds;
     for (ULONGLONG now = GetTickCount64(); now < end; now = GetTickCount64()) {
         MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(end - now), QS_ALLINPUT, 0);
-        pumpMessages();
+        handleWaitingMessages();
     }
 }
 

@@ -75,6 +75,9 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CLOSE:
             gate_.deliver(events_, kTheWindow, Event::Close, window_);
             return TRUE;
+        case WM_ENDSESSION:
+            if (wParam) gate_.deliver(events_, kTheWindow, Event::Close, window_);
+            return TRUE;
         case WM_SETCURSOR:
             if (!Hourglass::shown()) return FALSE;
             SetCursor(LoadCursorW(nullptr, IDC_WAIT));

@@ -11,9 +11,8 @@ namespace {
 /// The file written beside the old one. Removed unless it took the old one's place.
 class TemporaryFile {
  public:
-    explicit TemporaryFile(const std::wstring& target) : target_(target), path_(uniqueName()) {
-        file_.reset(CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                FILE_ATTRIBUTE_NORMAL, nullptr));
+    TemporaryFile(const std::wstring& target, FileCalls& calls)
+        : calls_(calls), target_(target), path_(uniqueName()), file_(calls.create(path_)) {
         created_ = isValid(file_);
     }
 
@@ -31,18 +30,17 @@ class TemporaryFile {
         while (!bytes.empty()) {
             const DWORD wanted = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 30));
             DWORD written = 0;
-            if (!WriteFile(file_.get(), bytes.data(), wanted, &written, nullptr)) return false;
+            if (!calls_.write(file_.get(), bytes.data(), wanted, written)) return false;
             bytes.remove_prefix(written);
         }
-        return FlushFileBuffers(file_.get()) != FALSE;
+        return calls_.flush(file_.get());
     }
 
     bool moveOverTarget() {
         file_.reset(INVALID_HANDLE_VALUE);
-        constexpr DWORD kFlags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
         // Virus scanners and indexers hold a fresh file for a moment.
         for (int attempt = 0;; ++attempt) {
-            if (MoveFileExW(path_.c_str(), target_.c_str(), kFlags)) {
+            if (calls_.move(path_, target_)) {
                 created_ = false;
                 return true;
             }
@@ -57,6 +55,7 @@ class TemporaryFile {
                std::to_wstring(GetTickCount64()) + L".tmp";
     }
 
+    FileCalls& calls_;
     std::wstring target_;
     std::wstring path_;
     UniqueHandle file_;
@@ -73,12 +72,33 @@ void requireWritable(const std::wstring& target, const std::wstring& path) {
 
 }  // namespace
 
+HANDLE FileCalls::create(const std::wstring& path) {
+    return CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
+                       nullptr);
+}
+
+bool FileCalls::write(HANDLE file, const char* bytes, DWORD count, DWORD& written) {
+    return WriteFile(file, bytes, count, &written, nullptr) != FALSE;
+}
+
+bool FileCalls::flush(HANDLE file) { return FlushFileBuffers(file) != FALSE; }
+
+bool FileCalls::move(const std::wstring& from, const std::wstring& to) {
+    constexpr DWORD kFlags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    return MoveFileExW(from.c_str(), to.c_str(), kFlags) != FALSE;
+}
+
 void replaceFile(const std::wstring& path, std::string_view bytes) {
+    FileCalls calls;
+    replaceFile(path, bytes, calls);
+}
+
+void replaceFile(const std::wstring& path, std::string_view bytes, FileCalls& calls) {
     const std::wstring target = longPath(path);
     requireWritable(target, path);
     DWORD failure = ERROR_SUCCESS;
     {
-        TemporaryFile file(target);
+        TemporaryFile file(target, calls);
         if (!file.created() || !file.write(bytes) || !file.moveOverTarget()) {
             failure = GetLastError();
         }

@@ -38,7 +38,7 @@ std::string encodeText(std::wstring_view text) {
     const int length = static_cast<int>(text.size());
     const int size = WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, text.data(), length,
                                          nullptr, 0, nullptr, nullptr);
-    if (size == 0) throw errors::invalidArgument();
+    if (size == 0) throw errors::unwritableText();
     std::string bytes(static_cast<std::size_t>(size), '\0');
     WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, text.data(), length, bytes.data(), size,
                         nullptr, nullptr);

@@ -8,6 +8,7 @@
 #include "platform/win32/dialog_window.h"
 #include "platform/win32/event_gate.h"
 #include "platform/win32/input_sieve.h"
+#include "platform/win32/message_filter.h"
 #include "platform/win32/message_loop.h"
 #include "platform/win32/registry_settings.h"
 #include "platform/win32/win_automation.h"
@@ -46,6 +47,7 @@ int runProgram() {
     WinDesktop desktop;
     DialogFactory windows(gate);
     const InputSieve sieve;
+    const MessageFilter filter;
     Program program(
         {automation, settings, files, messageBoxes, desktop, windows, programDirectory()});
     gate.run([&] { program.Main(); });

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <windows.h>
+
+#include <objidl.h>
+
+/// What COM asks us while a call to another program is out (the IMessageFilter interface).
+/// Registered for the thread as long as it lives.
+class MessageFilter final : public IMessageFilter {
+ public:
+    MessageFilter();
+    ~MessageFilter();
+    MessageFilter(const MessageFilter&) = delete;
+    MessageFilter& operator=(const MessageFilter&) = delete;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override;
+    ULONG STDMETHODCALLTYPE AddRef() override { return 1; }
+    ULONG STDMETHODCALLTYPE Release() override { return 1; }
+
+    DWORD STDMETHODCALLTYPE HandleInComingCall(DWORD type, HTASK caller, DWORD elapsed,
+                                               LPINTERFACEINFO information) override;
+    /// Leaves a refused call to callPatiently, which repeats it: one way for every system.
+    DWORD STDMETHODCALLTYPE RetryRejectedCall(HTASK callee, DWORD elapsed, DWORD reason) override;
+    /// Sieves the input that came in: otherwise it would wait and be a command after the call.
+    DWORD STDMETHODCALLTYPE MessagePending(HTASK callee, DWORD elapsed, DWORD type) override;
+};
