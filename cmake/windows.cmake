@@ -2,6 +2,7 @@
 add_compile_definitions(UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX STRICT
   WINVER=0x0A00 _WIN32_WINNT=0x0A00)
 add_compile_options(-ffunction-sections -fdata-sections -fstack-protector-strong)
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
 add_link_options(-static -fstack-protector-strong -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat -Wl,--high-entropy-va
   $<$<NOT:$<CONFIG:Debug>>:-s>)
 # windres must read our .rc files as UTF-8.

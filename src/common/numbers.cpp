@@ -1,6 +1,8 @@
 #include "common/numbers.h"
 
 #include <algorithm>
+#include <charconv>
+#include <iterator>
 #include <limits>
 
 #include "common/text.h"
@@ -65,4 +67,8 @@ std::int16_t wholeNumber(std::wstring_view text) {
     return static_cast<std::int16_t>(value);
 }
 
-std::wstring decimal(long number) { return std::to_wstring(number); }
+std::wstring decimal(long number) {
+    char digits[24];
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+    return {digits, end};
+}

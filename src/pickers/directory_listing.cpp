@@ -9,22 +9,28 @@
 
 namespace {
 
+struct SortKey {
+    std::wstring folded;
+    std::wstring_view name;
+    std::size_t place;
+
+    bool operator<(const SortKey& other) const {
+        return std::tie(folded, name) < std::tie(other.folded, other.name);
+    }
+};
+
 template <class Item, class NameOf>
 void sortItems(std::vector<Item>& items, NameOf nameOf) {
-    struct Keyed {
-        std::wstring key;
-        Item item;
-    };
-    std::vector<Keyed> keyed;
-    keyed.reserve(items.size());
-    for (Item& item : items) {
-        std::wstring key = upperCase(nameOf(item));
-        keyed.push_back({std::move(key), std::move(item)});
+    std::vector<SortKey> keys;
+    keys.reserve(items.size());
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        keys.push_back({upperCase(nameOf(items[i])), nameOf(items[i]), i});
     }
-    std::ranges::sort(keyed, [&](const Keyed& a, const Keyed& b) {
-        return std::tie(a.key, nameOf(a.item)) < std::tie(b.key, nameOf(b.item));
-    });
-    std::ranges::transform(keyed, items.begin(), [](Keyed& one) { return std::move(one.item); });
+    std::sort(keys.begin(), keys.end());
+    std::vector<Item> sorted;
+    sorted.reserve(items.size());
+    for (const SortKey& key : keys) sorted.push_back(std::move(items[key.place]));
+    items = std::move(sorted);
 }
 
 }  // namespace

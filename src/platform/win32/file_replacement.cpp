@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/numbers.h"
 #include "platform/win32/file_error.h"
 #include "platform/win32/long_path.h"
 #include "platform/win32/unique_handle.h"
@@ -51,8 +52,8 @@ class TemporaryFile {
 
  private:
     std::wstring uniqueName() const {
-        return target_ + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" +
-               std::to_wstring(GetTickCount64()) + L".tmp";
+        return target_ + L"." + decimal(static_cast<long>(GetCurrentProcessId())) + L"-" +
+               decimal(static_cast<long>(GetTickCount64() & 0x7FFFFFFF)) + L".tmp";
     }
 
     FileCalls& calls_;
