@@ -15,7 +15,8 @@ DocumentSearch::DocumentSearch(Files& files, FoundDocuments& found, MotifType mo
 
 void DocumentSearch::run(const std::wstring& directory, bool withSubdirectories) {
     const Subdirectories below = CollecterRepertoire(directory, false);
-    if (withSubdirectories) ParcourirSousRep(directory, below);
+    // With no kind to look for there is nothing to find further down.
+    if (withSubdirectories && !motif_.pattern().empty()) ParcourirSousRep(directory, below);
 }
 
 DocumentSearch::Subdirectories DocumentSearch::CollecterRepertoire(const std::wstring& RepCourant,

@@ -27,6 +27,19 @@ void showChosenLine(HWND comboBox) {
     SendMessageW(comboBox, CB_SETCURSEL, static_cast<WPARAM>(line), 0);
 }
 
+// A class of our own tells our windows from the system's message boxes.
+void registerWindowClass() {
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = DefDlgProcW;
+    windowClass.cbWndExtra = DLGWINDOWEXTRA;
+    windowClass.hInstance = GetModuleHandleW(nullptr);
+    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    windowClass.lpszClassName = L"TarnwickWindow";
+    RegisterClassExW(&windowClass);
+}
+
 }  // namespace
 
 DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& events, EventGate& gate)
@@ -174,6 +187,8 @@ void DialogWindow::unload() {
     if (window_) DestroyWindow(window_);
     window_ = nullptr;
 }
+
+DialogFactory::DialogFactory(EventGate& gate) : gate_(gate) { registerWindowClass(); }
 
 std::unique_ptr<Window> DialogFactory::create(const WindowTemplate& windowTemplate,
                                               EventSink& events) {

@@ -54,7 +54,7 @@ class DialogWindow : public Window {
 /// Makes the program's windows.
 class DialogFactory : public WindowFactory {
  public:
-    explicit DialogFactory(EventGate& gate) : gate_(gate) {}
+    explicit DialogFactory(EventGate& gate);
     std::unique_ptr<Window> create(const WindowTemplate& windowTemplate,
                                    EventSink& events) override;
 

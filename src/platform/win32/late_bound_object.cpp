@@ -56,6 +56,17 @@ RuntimeError callError(HRESULT result, std::wstring_view name, Failure& failure)
             return errors::unknownMember(std::wstring(name));
         case DISP_E_TYPEMISMATCH:
             return errors::typeMismatch();
+        case RPC_E_CALL_REJECTED:
+        case RPC_E_SERVERCALL_RETRYLATER:
+            return errors::automation(L"SolidWorks est occupé et n'a pas pris l'appel.");
+        case RPC_E_DISCONNECTED:
+        case RPC_E_SERVER_DIED:
+        case RPC_E_SERVER_DIED_DNE:
+        case CO_E_OBJNOTCONNECTED:
+        case __HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE):
+        case __HRESULT_FROM_WIN32(RPC_S_CALL_FAILED):
+            return errors::automation(
+                L"La session SolidWorks ne répond plus : elle a été fermée ou s'est arrêtée.");
         default:
             return errors::automation(failure.description());
     }
