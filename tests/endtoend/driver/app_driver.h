@@ -21,6 +21,9 @@ class AppDriver {
     /// Waits for the program to end by itself.
     int WaitForExit() const { return static_cast<int>(process_->WaitForExit()); }
 
+    void Kill() const { process_->Kill(); }
+    Resources ResourcesInUse() const { return process_->ResourcesInUse(); }
+
     /// Waits until its user closes it.
     void WaitUntilClosed() const { process_->WaitUntilClosed(); }
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "driver/resources.h"
+
 namespace endtoend {
 
 /// A process that we started; ended, if it still runs, when this object goes.
@@ -26,6 +28,8 @@ class Process {
     void WaitUntilClosed() const { WaitForSingleObject(handle_, INFINITE); }
 
     void Kill();
+
+    Resources ResourcesInUse() const { return ResourcesOf(handle_); }
 
  private:
     HANDLE handle_ = nullptr;

@@ -19,6 +19,9 @@ class TrialCad {
     /// Ends it by its window, and waits.
     void Close();
 
+    /// Ends it as a crash would.
+    void Kill() const { process_->Kill(); }
+
     HWND Window() const;
 
     /// Every call received so far, as the journal tells it.

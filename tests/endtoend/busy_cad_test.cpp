@@ -1,0 +1,150 @@
+// A CAD session that is busy, slow, or dies in the middle of a pass.
+
+#include <algorithm>
+
+#include "driver/wait.h"
+#include "driver/winapi.h"
+#include "scenario.h"
+#include "tracking/form3_ids.h"
+
+namespace endtoend {
+namespace {
+
+class BusyCad : public Scenario {
+ protected:
+    BusyCad() {
+        for (const char* name : {"a.SLDPRT", "b.SLDPRT", "c.SLDPRT", "d.SLDPRT"}) {
+            list += ListLine("0", sandbox.AddDocument(name));
+        }
+        sandbox.WriteList(list);
+    }
+
+    /// How many calls received so far contain this text.
+    long CallsWith(const std::string& text) const {
+        return std::ranges::count_if(cad.Calls(), [&](const std::string& call) {
+            return call.find(text) != std::string::npos;
+        });
+    }
+
+    void WaitForCall(const std::string& text) const {
+        WaitFor("the call " + text, [&] { return CallsWith(text) > 0; });
+    }
+
+    /// What a user's press on a button puts into the program's message queue.
+    void PressWithMouse(int id) const {
+        HWND button = app.Control(id);
+        constexpr LPARAM kPoint = MAKELPARAM(5, 5);
+        Post(button, WM_LBUTTONDOWN, MK_LBUTTON, kPoint);
+        Post(button, WM_LBUTTONUP, 0, kPoint);
+    }
+
+    void PressSpaceBar(int id) const {
+        HWND button = app.Control(id);
+        Post(button, WM_KEYDOWN, VK_SPACE, 1);
+        Post(button, WM_KEYUP, VK_SPACE, 1);
+    }
+
+    void ExpectBusyBox(int answer) const {
+        const ModalBox box = app.Box();
+        EXPECT_EQ(box.Text(), "SolidWorks est occupé.");
+        EXPECT_EQ(box.Buttons(), (std::vector<int>{IDCANCEL, IDRETRY}));
+        box.Answer(answer);
+    }
+
+    std::string list;
+};
+
+TEST_F(BusyCad, RefusedCallsAreRepeatedWithoutAWord) {
+    cad.Start({"--busy", "OpenDoc6:1500"});
+    StartAndResume();
+    app.WaitForText(IDC_FORM3_NBFICH1, "1");
+    WaitForCall("ViewZoomtofit2");
+    EXPECT_GT(CallsWith("OpenDoc6(&\"" + sandbox.AddDocument("a.SLDPRT")), 1);
+    EXPECT_GT(CallsWith("-> rejected"), 0);
+    EXPECT_FALSE(app.ShowsBox());
+}
+
+TEST_F(BusyCad, RefusedNameLookUpsAreRepeatedToo) {
+    cad.Start({"--busy", "GetIDsOfNames:1500"});
+    StartAndResume();
+    app.WaitForText(IDC_FORM3_NBFICH1, "1");
+    WaitForCall("ViewZoomtofit2");
+    EXPECT_FALSE(app.ShowsBox());
+}
+
+TEST_F(BusyCad, AsksAfterTenSecondsAndGoesOn) {
+    cad.Start({"--busy", "OpenDoc6:12000"});
+    StartAndResume();
+    ExpectBusyBox(IDRETRY);
+    WaitForCall("ViewZoomtofit2");
+    app.WaitForText(IDC_FORM3_NBFICH1, "1");
+}
+
+TEST_F(BusyCad, AsksAfterTenSecondsAndGivesUp) {
+    cad.Start({"--busy", "OpenDoc6:600000"});
+    StartAndResume();
+    ExpectBusyBox(IDCANCEL);
+    ExpectFatalError(440);
+    EXPECT_EQ(sandbox.ReadList(), list);
+}
+
+TEST_F(BusyCad, ImpatientPressesAreNotFurtherCommands) {
+    cad.Start({"--delay", "OpenDoc6:3000"});
+    StartAndResume();
+    app.WaitForText(IDC_FORM3_NBFICH1, "1");
+    PressWithMouse(IDC_FORM3_CMDSUIV);
+    WaitForCall("OpenDoc6(&\"" + sandbox.AddDocument("b.SLDPRT"));
+    for (int i = 0; i < 3; ++i) PressWithMouse(IDC_FORM3_CMDSUIV);
+    PressSpaceBar(IDC_FORM3_CMDSUIV);
+    WaitForCall("b.SLDPRT.ViewZoomtofit2");
+    // A command that comes after them shows that none of them still waits.
+    app.Click(IDC_FORM3_CMDFICHIERLISTE);
+    ExpectList(ListLine("1", sandbox.AddDocument("a.SLDPRT")) +
+               ListLine("3", sandbox.AddDocument("b.SLDPRT")) +
+               ListLine("0", sandbox.AddDocument("c.SLDPRT")) +
+               ListLine("0", sandbox.AddDocument("d.SLDPRT")));
+    EXPECT_EQ(CallsWith("save2"), 1);
+}
+
+TEST_F(BusyCad, CommandsOfOtherProgramsWaitForTheCall) {
+    cad.Start({"--delay", "OpenDoc6:2000"});
+    StartAndResume();
+    app.WaitForText(IDC_FORM3_NBFICH1, "1");
+    app.Click(IDC_FORM3_CMDSUIVSAUTER);
+    WaitForCall("OpenDoc6(&\"" + sandbox.AddDocument("b.SLDPRT"));
+    app.Click(IDC_FORM3_CMDSUIVSAUTER);
+    app.WaitForText(IDC_FORM3_NBFICH1, "3");
+    EXPECT_EQ(CallsWith("b.SLDPRT.ViewZoomtofit2"), 1) << "b was left before it was shown";
+}
+
+TEST_F(BusyCad, RequestToCloseIsObeyedAfterTheCall) {
+    cad.Start({"--delay", "OpenDoc6:2000"});
+    StartAndResume();
+    app.WaitForText(IDC_FORM3_NBFICH1, "1");
+    app.Click(IDC_FORM3_CMDSUIV);
+    WaitForCall("OpenDoc6(&\"" + sandbox.AddDocument("b.SLDPRT"));
+    app.CloseByFrame("Tarnwick - suivi du travail -");
+    EXPECT_EQ(app.WaitForExit(), 0);
+    EXPECT_EQ(CallsWith("b.SLDPRT.ViewZoomtofit2"), 1) << "the command was cut off";
+    EXPECT_EQ(sandbox.ReadList(), list);
+}
+
+TEST_F(BusyCad, SessionThatDiesLeavesTheSavedList) {
+    cad.Start();
+    StartAndResume();
+    app.Click(IDC_FORM3_CMDSUIV);
+    app.WaitForText(IDC_FORM3_NBFICH1, "2");
+    app.Click(IDC_FORM3_CMDFICHIERLISTE);
+    const std::string saved = ListLine("1", sandbox.AddDocument("a.SLDPRT")) +
+                              ListLine("3", sandbox.AddDocument("b.SLDPRT")) +
+                              ListLine("0", sandbox.AddDocument("c.SLDPRT")) +
+                              ListLine("0", sandbox.AddDocument("d.SLDPRT"));
+    ExpectList(saved);
+    cad.Kill();
+    app.Click(IDC_FORM3_CMDSUIV);
+    ExpectFatalError(440);
+    EXPECT_EQ(sandbox.ReadList(), saved);
+}
+
+}  // namespace
+}  // namespace endtoend
