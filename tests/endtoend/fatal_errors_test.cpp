@@ -19,14 +19,14 @@ class FatalErrors : public Scenario {
 TEST_F(FatalErrors, DocumentThatDoesNotOpen) {
     std::filesystem::remove(sandbox.Documents() / "a.SLDPRT");
     cad.Start();
-    app.Start();
+    StartAndResume();
     ExpectFatalError(91);
     EXPECT_EQ(sandbox.ReadList(), list);
 }
 
 TEST_F(FatalErrors, CallThatTheCadSessionFails) {
     cad.Start({"--fail", "Save2"});
-    app.Start();
+    StartAndResume();
     app.Click(IDC_FORM3_CMDSUIV);
     const std::string text = ExpectFatalError(440);
     EXPECT_NE(text.find("Save2"), std::string::npos) << "the session's own description: " << text;
@@ -36,13 +36,13 @@ TEST_F(FatalErrors, CallThatTheCadSessionFails) {
 TEST_F(FatalErrors, LineThatIsTooShort) {
     sandbox.WriteList(list + "0\r\n");
     cad.Start();
-    app.Start();
+    StartAndResume();
     ExpectFatalError(5);
 }
 
 TEST_F(FatalErrors, ListFileThatCannotBeWritten) {
     cad.Start();
-    app.Start();
+    StartAndResume();
     app.WaitForText(IDC_FORM3_NBFICH1, "1");
     std::filesystem::permissions(sandbox.ListFile(), std::filesystem::perms::owner_read);
     app.Click(IDC_FORM3_CMDFICHIERLISTE);
@@ -54,7 +54,7 @@ TEST_F(FatalErrors, ListFileThatCannotBeWritten) {
 
 TEST_F(FatalErrors, CadSessionThatHasGone) {
     cad.Start();
-    app.Start();
+    StartAndResume();
     app.WaitForText(IDC_FORM3_NBFICH1, "1");
     ExpectCalls(
         calls::Together({calls::AtStartUp(), calls::Open(sandbox.AddDocument("a.SLDPRT"))}));

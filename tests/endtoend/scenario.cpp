@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "driver/wait.h"
+#include "startup/form2_ids.h"
 
 namespace endtoend {
 
@@ -15,6 +16,11 @@ void Scenario::TearDown() {
               << sandbox.Describe() << "-- settings\n"
               << settings.Describe() << "-- calls received\n";
     for (const std::string& call : cad.Calls()) std::cout << call << "\n";
+}
+
+void Scenario::StartAndResume() {
+    app.Start();
+    app.Click(IDC_FORM2_CMDOK);
 }
 
 calls::Calls Scenario::NewCalls() const {

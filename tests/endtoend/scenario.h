@@ -19,6 +19,9 @@ class Scenario : public testing::Test {
     Scenario();
     void TearDown() override;
 
+    /// Starts the program on the list file there is and accepts it.
+    void StartAndResume();
+
     /// Waits for the calls that the CAD session receives next, and compares them.
     void ExpectCalls(const calls::Calls& expected);
 

@@ -1,3 +1,6 @@
+#include <algorithm>
+
+#include "driver/wait.h"
 #include "scenario.h"
 #include "tracking/form3_ids.h"
 
@@ -61,7 +64,7 @@ constexpr std::initializer_list<int> kBack{IDC_FORM3_CMDPRECEDENT, IDC_FORM3_CMD
 TEST_F(TrackingPass, GoesThroughEightDocumentsWithEveryCommand) {
     sandbox.WriteList(ListOf({"0", "0", "0", "1", "0", "12", "3", "0"}));
     cad.Start();
-    app.Start();
+    StartAndResume();
 
     ExpectCalls(Together({calls::AtStartUp(), Open(paths[0])}));
     ExpectCurrent(0);
@@ -123,7 +126,7 @@ TEST_F(TrackingPass, GoesThroughEightDocumentsWithEveryCommand) {
 TEST_F(TrackingPass, StepsBackToNothingAndStartsAgain) {
     sandbox.WriteList(ListOf({"0", "0"}));
     cad.Start();
-    app.Start();
+    StartAndResume();
     ExpectCalls(Together({calls::AtStartUp(), Open(paths[0])}));
 
     app.Click(IDC_FORM3_CMDPRECEDENT);
@@ -142,7 +145,7 @@ TEST_F(TrackingPass, StepsBackToNothingAndStartsAgain) {
 TEST_F(TrackingPass, ResumesWhereItStoppedWithWindowAndOptionsAsLeft) {
     sandbox.WriteList(ListOf({"1", "0", "0"}));
     cad.Start();
-    app.Start();
+    StartAndResume();
     ExpectCalls(Together({calls::AtStartUp(), Open(paths[1])}));
 
     SetWindowPos(app.Window("Tarnwick - suivi du travail -"), nullptr, 210, 120, 0, 0,
@@ -158,7 +161,7 @@ TEST_F(TrackingPass, ResumesWhereItStoppedWithWindowAndOptionsAsLeft) {
     EXPECT_EQ(settings.Get("tarnwick", "startup", "toppos3"), "1800");
     EXPECT_EQ(settings.Get("tarnwick", "startup", "regcheck"), "1010");
 
-    app.Start();
+    StartAndResume();
     ExpectCalls(Together({calls::AtStartUp(), Open(paths[1], false, calls::Rebuild::TopLevel)}));
     ExpectCurrent(1);
     ExpectLines({kDone, kInProgress, kToDo});
@@ -175,12 +178,13 @@ TEST_F(TrackingPass, EndsWithoutSavingWhenClosedByItsFrame) {
     const std::string list = ListOf({"0", "0"});
     sandbox.WriteList(list);
     cad.Start();
-    app.Start();
+    StartAndResume();
     ExpectCalls(Together({calls::AtStartUp(), Open(paths[0])}));
 
     app.CloseByFrame("Tarnwick - suivi du travail -");
     EXPECT_EQ(app.WaitForExit(), 0);
-    EXPECT_EQ(settings.Describe(), "");
+    EXPECT_EQ(settings.Get("tarnwick", "startup", "toppos3"), std::nullopt);
+    EXPECT_EQ(settings.Get("tarnwick", "startup", "RegCheck"), std::nullopt);
     EXPECT_EQ(sandbox.ReadList(), list);
     ExpectCalls({});
 }
@@ -188,10 +192,34 @@ TEST_F(TrackingPass, EndsWithoutSavingWhenClosedByItsFrame) {
 TEST_F(TrackingPass, EndsSilentlyOnAnEmptyList) {
     sandbox.WriteList("");
     cad.Start();
-    app.Start();
+    StartAndResume();
     EXPECT_EQ(app.WaitForExit(), 0);
     ExpectCalls(calls::AtStartUp());
     EXPECT_EQ(sandbox.ReadList(), "");
+}
+
+TEST_F(TrackingPass, WaitsForABusyCadSession) {
+    sandbox.WriteList(ListOf({"0", "0"}));
+    cad.Start({"--busy", "save2:1500"});
+    StartAndResume();
+    ExpectCalls(Together({calls::AtStartUp(), Open(paths[0])}));
+
+    app.Click(IDC_FORM3_CMDSUIV);
+    ExpectCurrent(1);
+    EXPECT_FALSE(app.ShowsBox());
+    const calls::Calls received = cad.Calls();
+    EXPECT_EQ(std::count(received.begin(), received.end(), Save(paths[0])), 1);
+    EXPECT_GE(std::count(received.begin(), received.end(), Save(paths[0]) + " -> rejected"), 1);
+}
+
+TEST_F(TrackingPass, BringsTheCadWindowForwardUnderEitherTitle) {
+    sandbox.WriteList(ListOf({"0", "0"}));
+    cad.Start({"--title", "bracket"});
+    StartAndResume();
+    calls::Calls opening = Open(paths[0]);
+    opening.insert(opening.end() - 1, *(opening.end() - 2));  // the title is asked for twice
+    ExpectCalls(Together({calls::AtStartUp(), opening}));
+    WaitFor("the CAD window in front", [this] { return GetForegroundWindow() == cad.Window(); });
 }
 
 }  // namespace

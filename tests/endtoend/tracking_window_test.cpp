@@ -10,7 +10,7 @@ class TrackingWindow : public Scenario {
     TrackingWindow() {
         sandbox.WriteList(ListLine("0", sandbox.AddDocument("Châssis\\Plaque.SLDPRT")));
         cad.Start({"--hidden"});
-        app.Start();
+        StartAndResume();
         app.Window("Tarnwick - suivi du travail -");
     }
 };

@@ -26,6 +26,7 @@ void PlayScript(const std::filesystem::path& directory) {
     SetCursorPos(GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));  // no tooltips
     Stage stage(directory);
     StartCad(stage);
+    PlaySelectionWindow(stage);
     PlayTrackingWindow(stage);
     PlayResuming(stage);
     stage.Tell("The list file at the end");
@@ -43,7 +44,6 @@ void PutAtRightEdge(HWND window) {
 
 void OpenForAPerson(const std::filesystem::path& directory) {
     Stage stage(directory);
-    if (!stage.sandbox.ReadList()) WriteListOfEightDocuments(stage);
     StartCad(stage);
     PutAtRightEdge(stage.cad.Window());
     stage.Tell("Starting Tarnwick; close it to end");

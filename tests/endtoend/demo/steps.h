@@ -5,13 +5,14 @@
 // The acts of the demonstration, in the order they are played.
 namespace endtoend::demo {
 
-/// Writes a list file with eight of the sample documents, all to do.
-void WriteListOfEightDocuments(const Stage& stage);
+/// Prepares a pass in the selection window and launches it.
+void PlaySelectionWindow(Stage& stage);
 
-/// A pass through eight documents of a list file, with each of the tracking window's commands.
+/// Works through the launched pass with each of the tracking window's commands, saves the list and
+/// leaves.
 void PlayTrackingWindow(Stage& stage);
 
-/// Starts again on the list file that the pass left.
+/// Starts again and accepts the list file that the pass left.
 void PlayResuming(Stage& stage);
 
 }  // namespace endtoend::demo

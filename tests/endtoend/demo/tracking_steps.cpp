@@ -1,4 +1,5 @@
 #include "demo/steps.h"
+#include "startup/form2_ids.h"
 #include "tracking/form3_ids.h"
 
 namespace endtoend::demo {
@@ -22,16 +23,7 @@ void SaveListAndLeave(Stage& stage) {
 
 }  // namespace
 
-void WriteListOfEightDocuments(const Stage& stage) {
-    std::string list;
-    for (size_t i = 0; i < 8; ++i) list += "0  " + stage.documents[i] + "\r\n";
-    stage.sandbox.WriteList(list);
-}
-
 void PlayTrackingWindow(Stage& stage) {
-    stage.Tell("Starting with a list of eight documents");
-    WriteListOfEightDocuments(stage);
-    stage.app.Start();
     stage.ShowCallsUpTo(kDocumentShown);
     stage.ShowLines(IDC_FORM3_LIST1);
     stage.Picture("tracking", stage.app.Window(kTracking));
@@ -55,6 +47,8 @@ void PlayTrackingWindow(Stage& stage) {
 void PlayResuming(Stage& stage) {
     stage.Tell("Starting again: the pass goes on where it stopped");
     stage.app.Start();
+    stage.Picture("existing-list", stage.app.Window("Tarnwick  :  Message"));
+    stage.Press(IDC_FORM2_CMDOK);
     stage.ShowCallsUpTo(kDocumentShown);
     stage.ShowLines(IDC_FORM3_LIST1);
     stage.Picture("tracking-resumed", stage.app.Window(kTracking));

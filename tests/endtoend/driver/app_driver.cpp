@@ -1,5 +1,6 @@
 #include "driver/app_driver.h"
 
+#include "driver/input.h"
 #include "driver/wait.h"
 #include "driver/winapi.h"
 
@@ -61,6 +62,14 @@ std::vector<int> AppDriver::Selected(int list) const { return SelectedLines(Cont
 void AppDriver::Select(int list, const std::vector<int>& lines) const {
     SelectLines(Control(list), lines);
 }
+
+void AppDriver::Type(int field, const std::string& text) const { TypeInto(Control(field), text); }
+
+void AppDriver::Choose(int comboBox, const std::string& line) const {
+    ChooseLine(Control(comboBox), line);
+}
+
+void AppDriver::Open(int list, const std::string& ending) const { OpenLine(Control(list), ending); }
 
 void AppDriver::WaitForText(int id, const std::string& text) const {
     const std::string shown = Eventually<std::string>(text, [&] { return TextOf(id); });

@@ -44,6 +44,11 @@ class AppDriver {
     std::vector<int> Selected(int list) const;
     void Select(int list, const std::vector<int>& lines) const;
 
+    void Type(int field, const std::string& text) const;
+    void Choose(int comboBox, const std::string& line) const;
+    /// Double-clicks the line of a list that ends with this text.
+    void Open(int list, const std::string& ending) const;
+
     /// Waits until the control's text is `text`; throws with the text it has if it never is.
     void WaitForText(int id, const std::string& text) const;
 

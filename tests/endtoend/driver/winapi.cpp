@@ -67,7 +67,8 @@ std::string TextOf(HWND window) {
 
 LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DWORD_PTR result = 0;
-    if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kPatience, &result))
+    if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kPatience, &result) &&
+        IsWindow(window))
         throw TimedOut("a window did not answer message " + std::to_string(message));
     return static_cast<LRESULT>(result);
 }

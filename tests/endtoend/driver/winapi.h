@@ -21,7 +21,8 @@ std::string ClassOf(HWND window);
 /// The text as the window itself answers it (works for controls of other processes).
 std::string TextOf(HWND window);
 
-/// Sends a message; throws if the other process does not answer in time.
+/// Sends a message; throws if the other process does not answer in time. A window that has gone
+/// meanwhile answers 0.
 LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 /// Posts a message and does not wait: what it starts may open a modal box.
