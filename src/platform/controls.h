@@ -70,6 +70,7 @@ class ComboBox : public Control {
 /// A row of tabs; which page shows is up to the form.
 class TabStrip : public Control {
  public:
+    virtual void addTab(const std::wstring& text) = 0;
     virtual int selectedTab() const = 0;  ///< zero-based
     virtual void selectTab(int index) = 0;
 };

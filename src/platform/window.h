@@ -21,6 +21,7 @@ class Window {
     virtual int top() const = 0;
     virtual int left() const = 0;
     virtual void moveTo(int top, int left) = 0;
+    /// The controls grow and shrink with it.
     virtual void resize(int width, int height) = 0;
     virtual void show() = 0;
     virtual void hide() = 0;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/automation.h"
+#include "searchfolders/configurations.h"
 #include "worklist/state_labels.h"
 #include "worklist/work_list.h"
 
@@ -44,4 +45,6 @@ struct Module1 {
 
     WorkList liste;
     bool FenetreSuiviPrete = false;  ///< the tracking window has its list
+
+    Configurations configs;
 };

@@ -1,6 +1,7 @@
 #include "startup/program.h"
 
 #include "about/about_window.h"
+#include "searchfolders/form4.h"
 #include "selection/form1.h"
 #include "startup/form2.h"
 #include "tracking/form3.h"
@@ -28,7 +29,13 @@ void Program::ChargerForm3() {
     form3_->window().show();
 }
 
-void Program::ChargerForm4() {}
+void Program::ChargerForm4() {
+    if (!form4_ || !form4_->isOpen()) {
+        form4_ = std::make_unique<Form4>(module_, platform_);
+        form4_->Form_Load();
+    }
+    form4_->window().show();
+}
 
 void Program::ChargerAPropos() {
     if (!about_ || !about_->isOpen()) about_ = std::make_unique<AboutWindow>(module_, platform_);

@@ -10,6 +10,7 @@ class AboutWindow;
 class Form1;
 class Form2;
 class Form3;
+class Form4;
 
 /// The program: its variables, its windows, and the way from one to the next.
 class Program : public Navigation {
@@ -38,4 +39,5 @@ class Program : public Navigation {
     std::unique_ptr<Form1> form1_;
     std::unique_ptr<Form2> form2_;
     std::unique_ptr<Form3> form3_;
+    std::unique_ptr<Form4> form4_;
 };

@@ -72,8 +72,10 @@ struct FakeComboBox : FakeControlOf<ComboBox> {
 };
 
 struct FakeTabStrip : FakeControlOf<TabStrip> {
+    std::vector<std::wstring> tabs;
     int tab = 0;
 
+    void addTab(const std::wstring& text) override { tabs.push_back(text); }
     int selectedTab() const override { return tab; }
     void selectTab(int index) override { tab = index; }
 };

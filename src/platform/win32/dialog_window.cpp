@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "platform/win32/control_layout.h"
 #include "platform/win32/event_gate.h"
 #include "platform/win32/hourglass.h"
 #include "platform/win32/notifications.h"
@@ -169,8 +170,11 @@ void DialogWindow::moveTo(int top, int left) {
 }
 
 void DialogWindow::resize(int width, int height) {
+    RECT before{};
+    GetClientRect(window_, &before);
     SetWindowPos(window_, nullptr, 0, 0, toPixels(window_, width), toPixels(window_, height),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    stretchControls(window_, before);
 }
 
 void DialogWindow::show() {

@@ -19,6 +19,15 @@ int WinComboBox::selectedLine() const { return sendForInt(CB_GETCURSEL); }
 
 void WinComboBox::selectLine(int index) { send(CB_SETCURSEL, static_cast<WPARAM>(index)); }
 
+void WinTabStrip::addTab(const std::wstring& text) {
+    std::wstring writable = text;
+    TCITEMW tab{};
+    tab.mask = TCIF_TEXT;
+    tab.pszText = writable.data();
+    send(TCM_INSERTITEMW, static_cast<WPARAM>(sendForInt(TCM_GETITEMCOUNT)),
+         reinterpret_cast<LPARAM>(&tab));
+}
+
 int WinTabStrip::selectedTab() const { return sendForInt(TCM_GETCURSEL); }
 
 void WinTabStrip::selectTab(int index) { send(TCM_SETCURSEL, static_cast<WPARAM>(index)); }

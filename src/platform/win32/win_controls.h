@@ -81,6 +81,7 @@ class WinComboBox : public ControlOf<ComboBox> {
 class WinTabStrip : public ControlOf<TabStrip> {
  public:
     using ControlOf::ControlOf;
+    void addTab(const std::wstring& text) override;
     int selectedTab() const override;
     void selectTab(int index) override;
 };
