@@ -22,9 +22,8 @@ class BusyCad : public Scenario {
     /// How many calls received so far contain this text.
     int CallsWith(const std::string& text) const {
         const auto calls = cad.Calls();
-        return static_cast<int>(std::ranges::count_if(calls, [&](const std::string& call) {
-            return call.find(text) != std::string::npos;
-        }));
+        return static_cast<int>(std::ranges::count_if(
+            calls, [&](const std::string& call) { return call.find(text) != std::string::npos; }));
     }
 
     void WaitForCall(const std::string& text) const {
@@ -92,7 +91,7 @@ TEST_F(BusyCad, AsksAfterTenSecondsAndGivesUp) {
 TEST_F(BusyCad, ImpatientPressesAreNotFurtherCommands) {
     cad.Start({"--delay", "OpenDoc6:3000"});
     StartAndResume();
-    app.WaitForText(IDC_FORM3_NBFICH1, "1");
+    app.Window("Tarnwick - suivi du travail -");  // shown when the first document is
     PressWithMouse(IDC_FORM3_CMDSUIV);
     WaitForCall("OpenDoc6(&\"" + sandbox.AddDocument("b.SLDPRT"));
     for (int i = 0; i < 3; ++i) PressWithMouse(IDC_FORM3_CMDSUIV);

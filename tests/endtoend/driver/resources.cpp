@@ -1,25 +1,95 @@
 #include "driver/resources.h"
 
 #include <psapi.h>
+#include <vector>
+#include <winternl.h>
+
+#include "driver/winapi.h"
 
 namespace endtoend {
+namespace {
+
+constexpr auto kSystemHandleInformation = static_cast<SYSTEM_INFORMATION_CLASS>(16);
+
+struct SystemHandle {
+    ULONG processId;
+    BYTE type;
+    BYTE flags;
+    USHORT value;
+    void* object;
+    ULONG access;
+};
+
+struct SystemHandles {
+    ULONG count;
+    SystemHandle handles[1];
+};
+
+/// Counted one by one: GetProcessHandleCount answers 0 under Wine.
+DWORD KernelHandlesOf(DWORD processId) {
+    std::vector<char> buffer(1 << 20);
+    ULONG needed = 0;
+    while (NtQuerySystemInformation(kSystemHandleInformation, buffer.data(),
+                                    static_cast<ULONG>(buffer.size()), &needed) < 0) {
+        buffer.resize(buffer.size() * 2);
+    }
+    const auto* all = reinterpret_cast<const SystemHandles*>(buffer.data());
+    DWORD count = 0;
+    for (ULONG i = 0; i < all->count; ++i) {
+        if (all->handles[i].processId == processId) ++count;
+    }
+    return count;
+}
+
+struct GdiEntry {
+    ULONGLONG object;
+    ULONG owner;
+    USHORT unique;
+    BYTE type;
+    BYTE flags;
+    ULONGLONG userPointer;
+};
+
+/// The used entries of the process's GDI handle table: GetGuiResources answers 0 under Wine,
+/// where each process has a table of its own.
+DWORD GdiObjectsIn(HANDLE process) {
+    constexpr size_t kGdiTableInPeb = 0xF8;
+    constexpr size_t kEntries = 0x4000;
+    PROCESS_BASIC_INFORMATION basic{};
+    NtQueryInformationProcess(process, ProcessBasicInformation, &basic, sizeof basic, nullptr);
+    const char* table = nullptr;
+    ReadProcessMemory(process, reinterpret_cast<const char*>(basic.PebBaseAddress) + kGdiTableInPeb,
+                      &table, sizeof table, nullptr);
+    std::vector<GdiEntry> entries(kEntries);
+    ReadProcessMemory(process, table, entries.data(), kEntries * sizeof(GdiEntry), nullptr);
+    DWORD used = 0;
+    for (const GdiEntry& entry : entries) used += entry.type != 0;
+    return used;
+}
+
+DWORD WindowsOf(DWORD processId) {
+    size_t count = 0;
+    for (HWND window : TopLevelWindows(processId)) count += 1 + Descendants(window).size();
+    return static_cast<DWORD>(count);
+}
+
+}  // namespace
 
 std::string Resources::Describe() const {
     return std::to_string(kernelHandles) + " kernel handles, " + std::to_string(gdiObjects) +
-           " GDI objects, " + std::to_string(userObjects) + " USER objects, " +
-           std::to_string(privateBytes / 1024) + " KiB private";
+           " GDI objects, " + std::to_string(windows) + " windows, " +
+           std::to_string(memoryBytes / 1024) + " KiB";
 }
 
 Resources ResourcesOf(HANDLE process) {
-    Resources resources;
-    GetProcessHandleCount(process, &resources.kernelHandles);
-    resources.gdiObjects = GetGuiResources(process, GR_GDIOBJECTS);
-    resources.userObjects = GetGuiResources(process, GR_USEROBJECTS);
-    PROCESS_MEMORY_COUNTERS_EX memory{};
-    K32GetProcessMemoryInfo(process, reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory),
-                            sizeof memory);
-    resources.privateBytes = memory.PrivateUsage;
-    return resources;
+    const DWORD processId = GetProcessId(process);
+    const DWORD gdiObjects = GetGuiResources(process, GR_GDIOBJECTS);
+    PROCESS_MEMORY_COUNTERS memory{};
+    K32GetProcessMemoryInfo(process, &memory, sizeof memory);
+    return {.kernelHandles = KernelHandlesOf(processId),
+            .gdiObjects = gdiObjects != 0 ? gdiObjects : GdiObjectsIn(process),
+            .windows = WindowsOf(processId),
+            .memoryBytes = memory.PagefileUsage};
 }
 
 }  // namespace endtoend

@@ -10,8 +10,8 @@ namespace endtoend {
 struct Resources {
     DWORD kernelHandles = 0;
     DWORD gdiObjects = 0;
-    DWORD userObjects = 0;
-    size_t privateBytes = 0;
+    DWORD windows = 0;
+    size_t memoryBytes = 0;
 
     std::string Describe() const;
 };
