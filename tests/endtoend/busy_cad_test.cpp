@@ -22,9 +22,8 @@ class BusyCad : public Scenario {
     /// How many calls received so far contain this text.
     int CallsWith(const std::string& text) const {
         const auto calls = cad.Calls();
-        return static_cast<int>(std::ranges::count_if(calls, [&](const std::string& call) {
-            return call.find(text) != std::string::npos;
-        }));
+        return static_cast<int>(std::ranges::count_if(
+            calls, [&](const std::string& call) { return call.find(text) != std::string::npos; }));
     }
 
     void WaitForCall(const std::string& text) const {
