@@ -4,4 +4,5 @@ set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/wine-env.sh"
 
 wine_start_on_virtual_screen
-unlocked wine "$@"
+# Sooner than CTest's own limit, which would leave the screen and the server behind.
+unlocked timeout --kill-after=5 280 wine "$@"

@@ -37,9 +37,8 @@ void Form2::CmdAnnule_Click() {
 
 void Form2::CmdEffacer_Click() {
     const ObjectPtr fileSystem = platform_.automation.create(L"Scripting.FileSystemObject");
-    const ObjectPtr file =
-        objectOf(callMethod(fileSystem, L"GetFile", {module_.FichListe}, L"Scripting.File"));
-    callMethod(file, L"Delete", {true});
+    // Not GetFile and its Delete: Wine lacks the latter.
+    callMethod(fileSystem, L"DeleteFile", {module_.FichListe, true});
     CmdAnnule_Click();
 }
 

@@ -56,5 +56,18 @@ TEST_F(ExistingList, IsErasedEvenWhenReadOnly) {
     EXPECT_EQ(sandbox.ReadList(), std::nullopt);
 }
 
+TEST_F(ExistingList, ThatVanishedMeanwhileIsAnError) {
+    std::filesystem::remove(sandbox.ListFile());
+    app.Click(IDC_FORM2_CMDOK);
+    ExpectFatalError(53);
+
+    sandbox.WriteList(list);
+    app.Start();
+    app.Window(kPrompt);
+    std::filesystem::remove(sandbox.ListFile());
+    app.Click(IDC_FORM2_CMDEFFACER);
+    ExpectFatalError(53);
+}
+
 }  // namespace
 }  // namespace endtoend

@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "driver/wait.h"
 #include "scenario.h"
 #include "tracking/form3_ids.h"
@@ -196,20 +194,6 @@ TEST_F(TrackingPass, EndsSilentlyOnAnEmptyList) {
     EXPECT_EQ(app.WaitForExit(), 0);
     ExpectCalls(calls::AtStartUp());
     EXPECT_EQ(sandbox.ReadList(), "");
-}
-
-TEST_F(TrackingPass, WaitsForABusyCadSession) {
-    sandbox.WriteList(ListOf({"0", "0"}));
-    cad.Start({"--busy", "save2:1500"});
-    StartAndResume();
-    ExpectCalls(Together({calls::AtStartUp(), Open(paths[0])}));
-
-    app.Click(IDC_FORM3_CMDSUIV);
-    ExpectCurrent(1);
-    EXPECT_FALSE(app.ShowsBox());
-    const calls::Calls received = cad.Calls();
-    EXPECT_EQ(std::count(received.begin(), received.end(), Save(paths[0])), 1);
-    EXPECT_GE(std::count(received.begin(), received.end(), Save(paths[0]) + " -> rejected"), 1);
 }
 
 TEST_F(TrackingPass, BringsTheCadWindowForwardUnderEitherTitle) {

@@ -89,16 +89,12 @@ ObjectPtr FakeAutomation::makeFileSystem() {
     auto fileSystem = std::make_shared<FakeObject>(journal, L"Fso.");
     fileSystem->answers = {
         {L"fileExists", [this](auto arguments) { return fileExists(textArgument(arguments[0])); }},
-        {L"GetFile",
+        {L"DeleteFile",
          [this](auto arguments) {
              const std::wstring path = textArgument(arguments[0]);
              if (!fileExists(path)) throw errors::fileNotFound(path);
-             auto file = std::make_shared<FakeObject>(journal, L"File.");
-             file->answers[L"Delete"] = [this, path](auto) {
-                 deletedFiles.push_back(path);
-                 return Value();
-             };
-             return ObjectPtr(file);
+             deletedFiles.push_back(path);
+             return Value();
          }},
     };
     return fileSystem;
