@@ -94,6 +94,27 @@ TEST(ListFile, HoldsAsManyLinesAsTheTable) {
     EXPECT_EQ(raised([&] { parseListFile(linesToDo(8002), another); }), 9);
 }
 
+TEST(ListFile, TakesAnyCharactersAsTheyAre) {
+    const struct {
+        std::wstring text;
+        std::wstring code;
+        std::wstring path;
+    } cases[] = {
+        {{L"0\0\0\0c", 5}, {L"0\0\0", 3}, {L"\0c", 2}},
+        {{L"ÿþ0\0 \0 \0c\0", 10}, L"ÿþ0", {L"\0 \0 \0c\0", 7}},  // UTF-16 read as single bytes
+        {L"\x0661\x0660 c:\\f", L"\x0661\x0660", L"c:\\f"},      // digits, but not ours
+        {L"0  " + std::wstring(1 << 20, L'x'), L"0", std::wstring(1 << 20, L'x')},
+        {std::wstring(1 << 20, L' ') + L"f", L"", L"f"},
+    };
+    for (const auto& c : cases) {
+        WorkList list;
+        ASSERT_TRUE(parseListFile(c.text, list));
+        EXPECT_EQ(list.DerFich, 0);
+        EXPECT_EQ(list.EtatFich[0].code, c.code);
+        EXPECT_TRUE(list.EtatFich[0].path == c.path) << c.code;
+    }
+}
+
 TEST(ListFile, IsWrittenAsItWasRead) {
     const std::wstring text = L"0  c:\\a\r\n11  c:\\b\r\n2  c:\\c d\r\n13  c:\\e\r\n";
     WorkList list;
