@@ -58,10 +58,10 @@ std::vector<int> FakeListBox::selection() const {
 
 void FakeComboBox::setLines(std::span<const std::wstring> texts) {
     lines.assign(texts.begin(), texts.end());
-    chosen = -1;
+    selectLine(-1);
 }
 
 void FakeComboBox::selectLine(int index) {
     chosen = index;
-    if (index >= 0) content = lines.at(static_cast<std::size_t>(index));
+    content = index < 0 ? std::wstring() : lines.at(static_cast<std::size_t>(index));
 }

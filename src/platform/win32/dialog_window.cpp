@@ -128,17 +128,12 @@ void DialogWindow::onKey(int id) {
 
 template <class Kind>
 Kind& DialogWindow::find(int id) {
-    auto& entry = controls_[id];
+    auto& entry = controls_[{id, typeid(Kind)}];
     if (!entry) entry = std::make_unique<Kind>(GetDlgItem(window_, id));
     return static_cast<Kind&>(*entry);
 }
 
-Control& DialogWindow::control(int id) {
-    auto& entry = controls_[id];
-    if (!entry) entry = std::make_unique<WinControl>(GetDlgItem(window_, id));
-    return *entry;
-}
-
+Control& DialogWindow::control(int id) { return find<WinControl>(id); }
 CheckBox& DialogWindow::checkBox(int id) { return find<WinCheckBox>(id); }
 ListBox& DialogWindow::listBox(int id) { return find<WinListBox>(id); }
 ComboBox& DialogWindow::comboBox(int id) { return find<WinComboBox>(id); }

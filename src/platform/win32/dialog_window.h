@@ -4,6 +4,8 @@
 
 #include <map>
 #include <memory>
+#include <typeindex>
+#include <utility>
 
 #include "platform/win32/window_fonts.h"
 #include "platform/window.h"
@@ -46,7 +48,8 @@ class DialogWindow : public Window {
     HWND window_ = nullptr;
     EventSink& events_;
     EventGate& gate_;
-    std::map<int, std::unique_ptr<Control>> controls_;
+    /// By id and kind: any control may also be asked for as a plain one.
+    std::map<std::pair<int, std::type_index>, std::unique_ptr<Control>> controls_;
     UniqueFont listFont_;
     UniqueFont headingFont_;
 };

@@ -84,7 +84,11 @@ void WinListBox::changeText(int index, const std::wstring& line) {
     const LRESULT data = send(LB_GETITEMDATA, position(index));
     replaceLine(index, line);
     send(LB_SETITEMDATA, position(index), data);
-    if (wasSelected) send(LB_SELITEMRANGEEX, position(index), index);
+    if (wasSelected && severalSelectable()) {
+        send(LB_SELITEMRANGEEX, position(index), index);
+    } else if (wasSelected) {
+        send(LB_SETCURSEL, position(index));
+    }
     if (send(LB_GETTOPINDEX) != top) send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
 }
 

@@ -1,0 +1,56 @@
+#include "contract/contract_ids.h"
+#include "contract/machine.h"
+#include "fakes/fake_platform.h"
+
+namespace {
+
+class FakeMachine : public Machine, private EventSink {
+ public:
+    FakeMachine() {
+        window_->show();
+        fakeWindow().listBox(IDC_CONTRACT_ONE).severalSelectable = false;
+        fakes_.files.directories.insert(directory());
+    }
+
+    Window& window() override { return *window_; }
+    Settings& settings() override { return fakes_.settings; }
+    Files& files() override { return fakes_.files; }
+    std::wstring directory() override { return L"c:\\contrat"; }
+    void addDirectory(const std::wstring& path) override { fakes_.files.directories.insert(path); }
+    void hideFile(const std::wstring& path) override { fakes_.files.hidden.insert(path); }
+    bool isVisible(int controlId) override {
+        return look(controlId, [](const auto& control) { return control.visible; });
+    }
+    bool isEnabled(int controlId) override {
+        return look(controlId, [](const auto& control) { return control.enabled; });
+    }
+    int eventsRaised() override { return events_; }
+
+ private:
+    void raise(int, Event) override { ++events_; }
+    FakeWindow& fakeWindow() { return fakes_.window(IDD_CONTRACT); }
+
+    template <class Look>
+    bool look(int controlId, const Look& at) {
+        switch (controlId) {
+            case IDC_CONTRACT_CHECK:
+                return at(fakeWindow().checkBox(controlId));
+            case IDC_CONTRACT_SEVERAL:
+            case IDC_CONTRACT_ONE:
+                return at(fakeWindow().listBox(controlId));
+            case IDC_CONTRACT_TYPED:
+                return at(fakeWindow().comboBox(controlId));
+            default:
+                return at(fakeWindow().control(controlId));
+        }
+    }
+
+    FakePlatform fakes_;
+    std::unique_ptr<Window> window_ =
+        fakes_.platform.windows.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);
+    int events_ = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<Machine> makeMachine() { return std::make_unique<FakeMachine>(); }

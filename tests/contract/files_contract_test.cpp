@@ -1,0 +1,67 @@
+#include <gtest/gtest.h>
+
+#include "contract/machine.h"
+#include "unit/raised.h"
+
+namespace {
+
+class FilesContract : public testing::Test {
+ protected:
+    std::wstring path(const std::wstring& name) { return directory + L'\\' + name; }
+
+    std::unique_ptr<Machine> machine = makeMachine();
+    Files& files = machine->files();
+    std::wstring directory = machine->directory();
+};
+
+using Names = std::vector<std::wstring>;
+
+}  // namespace
+
+TEST_F(FilesContract, TextIsReadBackAsItWasWritten) {
+    for (const std::wstring& text :
+         {std::wstring(L"0  c:\\été\r\n"), std::wstring(L"\r\n\n\r"), std::wstring(),
+          std::wstring(L"a\0b", 3), std::wstring(L"\U0001F527\u20AC\uFFFD"),
+          std::wstring(1'000'000, L'é'), std::wstring(L"court")}) {
+        files.replaceText(path(L"tarnwick.lst"), text);
+        EXPECT_EQ(files.readText(path(L"tarnwick.lst")), text);
+    }
+    EXPECT_EQ(namesIn(files, directory), Names{L"tarnwick.lst"});
+}
+
+TEST_F(FilesContract, MissingFileIsNotFound) {
+    EXPECT_EQ(raised([&] { files.readText(path(L"absent.lst")); }), 53);
+}
+
+TEST_F(FilesContract, DirectoryIsVisitedEntryByEntry) {
+    files.replaceText(path(L"é.SLDPRT"), L"");
+    files.replaceText(path(L"caché.SLDASM"), L"");
+    machine->hideFile(path(L"caché.SLDASM"));
+    machine->addDirectory(path(L"vide"));
+    machine->addDirectory(path(L"plein"));
+    files.replaceText(path(L"plein\\b.SLDPRT"), L"");
+    EXPECT_EQ(namesIn(files, directory),
+              (Names{L"?caché.SLDASM", L"plein\\", L"vide\\", L"é.SLDPRT"}));
+    EXPECT_EQ(namesIn(files, path(L"vide")), Names());
+    EXPECT_EQ(namesIn(files, path(L"plein")), Names{L"b.SLDPRT"});
+    EXPECT_EQ(namesIn(files, path(L"plein\\")), Names{L"b.SLDPRT"});
+}
+
+TEST_F(FilesContract, MissingDirectoryIsAPathNotFound) {
+    EXPECT_EQ(raised([&] { namesIn(files, path(L"absent")); }), 76);
+    EXPECT_EQ(raised([&] { files.identify(path(L"absent")); }), 76);
+}
+
+TEST_F(FilesContract, DirectoryIsTheSameByEveryPathToIt) {
+    machine->addDirectory(path(L"a"));
+    machine->addDirectory(path(L"b"));
+    EXPECT_EQ(files.identify(path(L"a")), files.identify(path(L"a\\")));
+    EXPECT_FALSE(files.identify(path(L"a")) == files.identify(path(L"b")));
+    EXPECT_FALSE(files.identify(path(L"a")) == files.identify(directory));
+}
+
+TEST_F(FilesContract, ThereIsADriveWithACurrentDirectory) {
+    EXPECT_FALSE(files.drives().empty());
+    EXPECT_TRUE(files.currentDirectory(L'c').starts_with(L"c:\\") ||
+                files.currentDirectory(L'c').starts_with(L"C:\\"));
+}

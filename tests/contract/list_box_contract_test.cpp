@@ -1,0 +1,148 @@
+#include <gtest/gtest.h>
+
+#include "contract/contract_ids.h"
+#include "contract/machine.h"
+
+namespace {
+
+class ListBoxContract : public testing::Test {
+ protected:
+    std::unique_ptr<Machine> machine = makeMachine();
+    ListBox& several = machine->window().listBox(IDC_CONTRACT_SEVERAL);
+    ListBox& one = machine->window().listBox(IDC_CONTRACT_ONE);
+};
+
+void fill(ListBox& list, int count) {
+    list.setLines(count, [](int i) { return L"ligne " + std::to_wstring(i); });
+}
+
+std::vector<int> selection(const ListBox& list) {
+    std::vector<int> result;
+    for (int i = 0; i < list.count(); ++i) {
+        if (list.selected(i)) result.push_back(i);
+    }
+    return result;
+}
+
+}  // namespace
+
+TEST_F(ListBoxContract, HoldsTheLinesThatItWasGivenLast) {
+    for (ListBox* list : {&several, &one}) {
+        EXPECT_EQ(list->count(), 0);
+        fill(*list, 20);
+        list->select(3, true);
+        list->setMark(3, 1);
+        list->setLines(5, [](int i) { return i == 4 ? L"" : std::wstring(L"b") + L"aéz"[i % 3]; });
+        EXPECT_EQ(list->count(), 5);
+        EXPECT_EQ(list->line(0), L"ba");
+        EXPECT_EQ(list->line(1), L"bé");  // in the order given, not sorted
+        EXPECT_EQ(list->line(3), L"ba");
+        EXPECT_EQ(list->line(4), L"");
+        EXPECT_EQ(selection(*list), std::vector<int>());
+        for (int i = 0; i < 5; ++i) EXPECT_EQ(list->mark(i), 0);
+        list->setLines(0, [](int) { return std::wstring(); });
+        EXPECT_EQ(list->count(), 0);
+    }
+}
+
+TEST_F(ListBoxContract, HoldsAFullTable) {
+    fill(several, 8001);
+    EXPECT_EQ(several.count(), 8001);
+    EXPECT_EQ(several.line(8000), L"ligne 8000");
+    several.replaceLine(8000, L"z");
+    EXPECT_EQ(several.count(), 8001);
+    EXPECT_EQ(several.line(8000), L"z");
+}
+
+TEST_F(ListBoxContract, SelectsSeveralLines) {
+    fill(several, 6);
+    several.select(1, true);
+    several.select(4, true);
+    several.select(5, true);
+    several.select(5, false);
+    EXPECT_EQ(selection(several), (std::vector{1, 4}));
+    several.clearSelection();
+    EXPECT_EQ(selection(several), std::vector<int>());
+}
+
+TEST_F(ListBoxContract, OrOneAtATime) {
+    fill(one, 6);
+    one.select(1, true);
+    one.select(4, true);
+    EXPECT_EQ(selection(one), std::vector{4});
+    one.clearSelection();
+    EXPECT_EQ(selection(one), std::vector<int>());
+}
+
+TEST_F(ListBoxContract, DoesNotMindALineThatIsNotThere) {
+    for (ListBox* list : {&several, &one}) {
+        fill(*list, 3);
+        list->select(3, true);
+        list->setMark(3, 7);
+        EXPECT_FALSE(list->selected(3));
+        EXPECT_EQ(list->mark(3), -1);
+        EXPECT_EQ(list->line(3), L"");
+        EXPECT_EQ(list->count(), 3);
+        EXPECT_EQ(selection(*list), std::vector<int>());
+    }
+}
+
+TEST_F(ListBoxContract, KeepsAMarkBesideEachLine) {
+    fill(several, 4);
+    several.setMark(1, 1);
+    several.setMark(3, -2);
+    several.select(1, true);
+    EXPECT_EQ(several.mark(0), 0);
+    EXPECT_EQ(several.mark(1), 1);
+    EXPECT_EQ(several.mark(3), -2);
+}
+
+TEST_F(ListBoxContract, ReplacedLineIsNewInItsPlace) {
+    fill(several, 4);
+    for (int i = 0; i < 4; ++i) {
+        several.select(i, true);
+        several.setMark(i, i + 1);
+    }
+    several.replaceLine(2, L"nouvelle");
+    EXPECT_EQ(several.count(), 4);
+    EXPECT_EQ(several.line(2), L"nouvelle");
+    EXPECT_EQ(several.line(3), L"ligne 3");
+    EXPECT_EQ(selection(several), (std::vector{0, 1, 3}));
+    EXPECT_EQ(several.mark(2), 0);
+    EXPECT_EQ(several.mark(3), 4);
+}
+
+TEST_F(ListBoxContract, ChangedTextLeavesTheRest) {
+    for (ListBox* list : {&several, &one}) {
+        fill(*list, 4);
+        list->select(2, true);
+        list->setMark(2, 5);
+        list->changeText(2, L"autre");
+        list->changeText(1, L"une");
+        EXPECT_EQ(list->line(1), L"une");
+        EXPECT_EQ(list->line(2), L"autre");
+        EXPECT_EQ(list->count(), 4);
+        EXPECT_EQ(selection(*list), std::vector{2});
+        EXPECT_EQ(list->mark(2), 5);
+    }
+}
+
+TEST_F(ListBoxContract, PausedDrawingHidesNoChange) {
+    fill(several, 4);
+    {
+        const DrawingPause pause(several);
+        several.select(1, true);
+        several.replaceLine(3, L"nouvelle");
+        fill(one, 2);
+    }
+    EXPECT_EQ(selection(several), std::vector{1});
+    EXPECT_EQ(several.line(3), L"nouvelle");
+    EXPECT_EQ(one.count(), 2);
+    EXPECT_TRUE(machine->isVisible(IDC_CONTRACT_SEVERAL));
+}
+
+TEST_F(ListBoxContract, PausedDrawingLeavesAHiddenListHidden) {
+    several.setVisible(false);
+    { const DrawingPause pause(several); }
+    EXPECT_FALSE(machine->isVisible(IDC_CONTRACT_SEVERAL));
+}

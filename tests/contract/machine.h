@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/files.h"
+#include "platform/settings.h"
+#include "platform/window.h"
+
+/// A platform, real or fake, on which the same checks are run: what they find on both, the tests
+/// of the forms may rely on.
+class Machine {
+ public:
+    virtual ~Machine() = default;
+
+    /// A shown window with the controls of contract_ids.h.
+    virtual Window& window() = 0;
+    virtual Settings& settings() = 0;
+    virtual Files& files() = 0;
+
+    /// An empty directory that goes with the machine, without a trailing backslash.
+    virtual std::wstring directory() = 0;
+    virtual void addDirectory(const std::wstring& path) = 0;
+    virtual void hideFile(const std::wstring& path) = 0;
+
+    virtual bool isVisible(int controlId) = 0;
+    virtual bool isEnabled(int controlId) = 0;
+    /// How many events the window has raised.
+    virtual int eventsRaised() = 0;
+};
+
+/// The machine of the platform that the checks are built for.
+std::unique_ptr<Machine> makeMachine();
+
+/// The names in a directory, sorted; those of directories end with a backslash, hidden ones
+/// begin with a question mark.
+std::vector<std::wstring> namesIn(Files& files, const std::wstring& directory);

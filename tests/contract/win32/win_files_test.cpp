@@ -1,0 +1,143 @@
+// What the file layer promises beyond the shared contract: encodings, refusals, odd names.
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include "contract/machine.h"
+#include "platform/win32/long_path.h"
+#include "platform/win32/unique_handle.h"
+#include "unit/raised.h"
+
+namespace {
+
+using Names = std::vector<std::wstring>;
+
+class WinFilesTest : public testing::Test {
+ protected:
+    std::wstring path(const std::wstring& name) { return directory + L'\\' + name; }
+
+    void writeBytes(const std::wstring& file, std::string_view bytes) {
+        const UniqueHandle handle(open(file, GENERIC_WRITE, CREATE_ALWAYS, 0));
+        DWORD written = 0;
+        ASSERT_TRUE(WriteFile(handle.get(), bytes.data(), static_cast<DWORD>(bytes.size()),
+                              &written, nullptr));
+    }
+
+    std::string readBytes(const std::wstring& file) {
+        const UniqueHandle handle(open(file, GENERIC_READ, OPEN_EXISTING, FILE_SHARE_READ));
+        char bytes[100];
+        DWORD got = 0;
+        EXPECT_TRUE(ReadFile(handle.get(), bytes, sizeof bytes, &got, nullptr));
+        return {bytes, got};
+    }
+
+    static HANDLE open(const std::wstring& file, DWORD access, DWORD how, DWORD sharing) {
+        return CreateFileW(longPath(file).c_str(), access, sharing, nullptr, how, 0, nullptr);
+    }
+
+    /// Replacing the list file fails so, and nothing changes.
+    void expectRefused(int number, std::wstring_view text = L"nouveau") {
+        EXPECT_EQ(raised([&] { files.replaceText(path(L"tarnwick.lst"), text); }), number);
+        EXPECT_EQ(readBytes(path(L"tarnwick.lst")), "ancien");
+        EXPECT_EQ(namesIn(files, directory), Names{L"tarnwick.lst"});
+    }
+
+    std::unique_ptr<Machine> machine = makeMachine();
+    Files& files = machine->files();
+    std::wstring directory = machine->directory();
+};
+
+}  // namespace
+
+TEST_F(WinFilesTest, ReadsUtf8OrElseTheSingleByteCodePage) {
+    const struct {
+        std::string_view bytes;
+        std::wstring text;
+    } cases[] = {
+        {"0  c:\\\xC3\xA9t\xC3\xA9", L"0  c:\\été"},
+        {"0  c:\\\xE9t\xE9 \x80", L"0  c:\\été €"},
+        {"\xEF\xBB\xBF"
+         "0  a",
+         L"0  a"},
+        {"\xEF\xBB\xBF", L""},
+        {"", L""},
+        {"\xC3\xA9 \xE9", L"\u00C3\u00A9 é"},     // not UTF-8 as a whole
+        {"\xED\xA0\x80", L"\u00ED\u00A0\u20AC"},  // half a surrogate pair is not UTF-8
+        {{"\xFF\xFE"
+          "0\0",
+          4},
+         {L"ÿþ0\0", 4}},  // UTF-16 is no encoding of ours
+    };
+    for (const auto& c : cases) {
+        writeBytes(path(L"tarnwick.lst"), c.bytes);
+        EXPECT_EQ(files.readText(path(L"tarnwick.lst")), c.text) << c.bytes;
+    }
+}
+
+TEST_F(WinFilesTest, WritesUtf8WithoutByteOrderMark) {
+    files.replaceText(path(L"tarnwick.lst"), L"0  c:\\é€\r\n");
+    EXPECT_EQ(readBytes(path(L"tarnwick.lst")), "0  c:\\\xC3\xA9\xE2\x82\xAC\r\n");
+}
+
+TEST_F(WinFilesTest, RefusesTextThatCannotBeEncoded) {
+    writeBytes(path(L"tarnwick.lst"), "ancien");
+    const wchar_t half[] = {L'a', 0xD800, L'b', 0};
+    expectRefused(5, half);
+}
+
+TEST_F(WinFilesTest, LeavesAReadOnlyFileAsItIs) {
+    writeBytes(path(L"tarnwick.lst"), "ancien");
+    SetFileAttributesW(path(L"tarnwick.lst").c_str(), FILE_ATTRIBUTE_READONLY);
+    expectRefused(75);
+}
+
+TEST_F(WinFilesTest, LeavesAFileHeldByAnotherProgramAsItIs) {
+    writeBytes(path(L"tarnwick.lst"), "ancien");
+    {
+        const UniqueHandle held(
+            open(path(L"tarnwick.lst"), GENERIC_READ, OPEN_EXISTING, FILE_SHARE_READ));
+        const int number = raised([&] { files.replaceText(path(L"tarnwick.lst"), L"nouveau"); });
+        EXPECT_TRUE(number == 70 || number == 75) << number;
+    }
+    EXPECT_EQ(readBytes(path(L"tarnwick.lst")), "ancien");
+    EXPECT_EQ(namesIn(files, directory), Names{L"tarnwick.lst"});
+}
+
+TEST_F(WinFilesTest, CannotReadAFileHeldForWriting) {
+    writeBytes(path(L"tarnwick.lst"), "ancien");
+    const UniqueHandle held(open(path(L"tarnwick.lst"), GENERIC_WRITE, OPEN_EXISTING, 0));
+    EXPECT_EQ(raised([&] { files.readText(path(L"tarnwick.lst")); }), 70);
+}
+
+TEST_F(WinFilesTest, TellsWhatIsWrongWithAPath) {
+    EXPECT_EQ(raised([&] { files.readText(path(L"absent\\tarnwick.lst")); }), 76);
+    EXPECT_EQ(raised([&] { files.replaceText(path(L"absent\\tarnwick.lst"), L""); }), 76);
+    EXPECT_EQ(raised([&] { files.readText(directory); }), 75);
+    EXPECT_EQ(raised([&] { files.replaceText(directory, L""); }), 75);
+    writeBytes(path(L"fichier"), "");
+    EXPECT_EQ(raised([&] { namesIn(files, path(L"fichier")); }), 76);
+}
+
+TEST_F(WinFilesTest, TakesPathsOfAnyLength) {
+    std::wstring deep = directory;
+    for (int i = 0; i < 8; ++i) {
+        deep += L'\\' + std::wstring(60, L'a');
+        machine->addDirectory(deep);
+    }
+    ASSERT_GT(deep.size(), 480U);
+    files.replaceText(deep + L"\\f.SLDPRT", L"contenu");
+    EXPECT_EQ(files.readText(deep + L"\\f.SLDPRT"), L"contenu");
+    EXPECT_EQ(namesIn(files, deep), Names{L"f.SLDPRT"});
+    EXPECT_FALSE(files.identify(deep) == files.identify(directory));
+}
+
+TEST_F(WinFilesTest, TakesNamesThatEndWithADotOrABlank) {
+    machine->addDirectory(path(L"etc."));
+    machine->addDirectory(path(L"etc"));
+    files.replaceText(path(L"etc.\\fin ."), L"contenu");
+    EXPECT_EQ(files.readText(path(L"etc.\\fin .")), L"contenu");
+    EXPECT_EQ(namesIn(files, path(L"etc.")), Names{L"fin ."});
+    EXPECT_EQ(namesIn(files, path(L"etc")), Names());
+    EXPECT_FALSE(files.identify(path(L"etc.")) == files.identify(path(L"etc")));
+}

@@ -1,0 +1,53 @@
+#include <windows.h>
+
+#include "contract/contract_ids.h"
+#include "contract/machine.h"
+#include "contract/win32/scratch_directory.h"
+#include "platform/win32/dialog_window.h"
+#include "platform/win32/event_gate.h"
+#include "platform/win32/long_path.h"
+#include "platform/win32/registry_settings.h"
+#include "platform/win32/win_files.h"
+
+namespace {
+
+class WinMachine : public Machine, private EventSink {
+ public:
+    WinMachine() { window_->show(); }
+    ~WinMachine() override { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\tarnwick contract"); }
+    WinMachine(const WinMachine&) = delete;
+    WinMachine& operator=(const WinMachine&) = delete;
+
+    Window& window() override { return *window_; }
+    Settings& settings() override { return settings_; }
+    Files& files() override { return files_; }
+    std::wstring directory() override { return directory_.path(); }
+    void addDirectory(const std::wstring& path) override {
+        CreateDirectoryW(longPath(path).c_str(), nullptr);
+    }
+    void hideFile(const std::wstring& path) override {
+        SetFileAttributesW(longPath(path).c_str(), FILE_ATTRIBUTE_HIDDEN);
+    }
+    bool isVisible(int controlId) override { return IsWindowVisible(handle(controlId)); }
+    bool isEnabled(int controlId) override { return IsWindowEnabled(handle(controlId)); }
+    int eventsRaised() override { return events_; }
+
+ private:
+    void raise(int, Event) override { ++events_; }
+    static HWND handle(int controlId) {
+        return GetDlgItem(FindWindowW(L"#32770", L"Contract"), controlId);
+    }
+
+    EventGate gate_;
+    DialogFactory factory_{gate_};
+    std::unique_ptr<Window> window_ =
+        factory_.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);
+    int events_ = 0;
+    RegistrySettings settings_;
+    WinFiles files_;
+    ScratchDirectory directory_;
+};
+
+}  // namespace
+
+std::unique_ptr<Machine> makeMachine() { return std::make_unique<WinMachine>(); }

@@ -1,0 +1,91 @@
+// A redraw in place touches the changed lines only, yet must leave the list box as if every line
+// had been replaced: what is selected, and which line is on top.
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include "contract/contract_ids.h"
+#include "contract/machine.h"
+#include "tracking/work_list_view.h"
+#include "worklist/display_line.h"
+#include "worklist/state_labels.h"
+#include "worklist/work_list.h"
+
+namespace {
+
+constexpr int kLines = 200;
+
+HWND listHandle() { return GetDlgItem(FindWindowW(L"#32770", L"Contract"), IDC_CONTRACT_SEVERAL); }
+
+/// What a user sees of a list box, and can tell by the keyboard.
+struct Look {
+    std::vector<std::wstring> lines;
+    std::vector<int> selection;
+    LRESULT top;
+    bool operator==(const Look&) const = default;
+};
+
+Look lookOf(const ListBox& list) {
+    Look look{
+        .lines = {}, .selection = {}, .top = SendMessageW(listHandle(), LB_GETTOPINDEX, 0, 0)};
+    for (int i = 0; i < list.count(); ++i) {
+        look.lines.push_back(list.line(i));
+        if (list.selected(i)) look.selection.push_back(i);
+    }
+    return look;
+}
+
+class WorkListDrawing : public testing::Test {
+ protected:
+    /// A list drawn at depth 0 with some lines selected, scrolled, then changed in two lines.
+    void prepare(int topLine) {
+        for (int i = 0; i < kLines; ++i) {
+            work.EtatFich[i].code = std::to_wstring(i % 3);
+            work.EtatFich[i].path = L"c:\\plans\\sous\\f" + std::to_wstring(i);
+        }
+        work.DerFich = kLines - 1;
+        view.rebuild(work, labels, L"0", false);
+        for (const int line : {10, 100, 190}) list.select(line, true);
+        SendMessageW(listHandle(), LB_SETTOPINDEX, static_cast<WPARAM>(topLine), 0);
+        work.EtatFich[100].code = L"3";
+        work.EtatFich[101].code = L"1";
+    }
+
+    /// Every line removed and inserted again, as the rule for a redraw in place has it.
+    Look replacingEachLine(const std::wstring& depth) {
+        const DrawingPause pause(list);
+        for (int i = 0; i < kLines; ++i) {
+            const WorkLine& line = work.EtatFich[i];
+            list.replaceLine(i, displayLine(i, *labelOf(labels, line.code), line.path, depth));
+        }
+        return lookOf(list);
+    }
+
+    Look updating(const std::wstring& depth) {
+        view.update(work, labels, depth);
+        return lookOf(list);
+    }
+
+    std::unique_ptr<Machine> machine = makeMachine();
+    ListBox& list = machine->window().listBox(IDC_CONTRACT_SEVERAL);
+    WorkListView view{list};
+    WorkList work;
+    StateLabels labels = standardLabels();
+};
+
+}  // namespace
+
+TEST_F(WorkListDrawing, LooksAsIfEachLineHadBeenReplaced) {
+    for (const wchar_t* depth : {L"0", L"2"}) {
+        for (const int top : {0, 1, 50, 95, 101, kLines - 30, kLines - 1}) {
+            prepare(top);
+            const Look wanted = replacingEachLine(depth);
+            prepare(top);
+            const Look seen = updating(depth);
+            EXPECT_EQ(seen.top, wanted.top) << "from line " << top;
+            EXPECT_EQ(seen.selection, wanted.selection) << "from line " << top;
+            EXPECT_TRUE(seen.lines == wanted.lines) << "from line " << top;
+        }
+    }
+}

@@ -1,0 +1,38 @@
+#include "common/text.h"
+
+#include <gtest/gtest.h>
+#include <vector>
+
+TEST(Trimmed, LosesBlanksOnly) {
+    EXPECT_EQ(trimmed(L"  a b  "), L"a b");
+    EXPECT_EQ(trimmed(L"    "), L"");
+    EXPECT_EQ(trimmed(L""), L"");
+    EXPECT_EQ(trimmed(L" \ta\x00a0 "), L"\ta\x00a0");
+}
+
+TEST(EqualIgnoringCase, KnowsAccentedLetters) {
+    EXPECT_TRUE(equalIgnoringCase(L"C:\\Été\\Pièce.SLDPRT", L"c:\\éTÉ\\pIÈCE.sldprt"));
+    EXPECT_FALSE(equalIgnoringCase(L"c:\\ete", L"c:\\été"));
+    EXPECT_FALSE(equalIgnoringCase(L"a", L"ab"));
+    EXPECT_TRUE(equalIgnoringCase(L"", L""));
+}
+
+TEST(TakeLine, EndsAtEveryKindOfLineEnd) {
+    const struct {
+        const wchar_t* text;
+        std::vector<std::wstring> lines;
+    } cases[] = {
+        {L"a\r\nb\r\n", {L"a", L"b"}},
+        {L"a\r\nb", {L"a", L"b"}},
+        {L"a\nb\rc", {L"a", L"b", L"c"}},
+        {L"\n\r\n\r\r\n", {L"", L"", L"", L""}},
+        {L"a\n\rb", {L"a", L"", L"b"}},
+        {L"a\r", {L"a"}},
+        {L"", {}},
+    };
+    for (const auto& c : cases) {
+        std::vector<std::wstring> lines;
+        for (std::wstring_view rest = c.text; !rest.empty();) lines.emplace_back(takeLine(rest));
+        EXPECT_EQ(lines, c.lines) << c.text;
+    }
+}

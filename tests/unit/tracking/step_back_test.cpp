@@ -1,0 +1,123 @@
+#include "unit/tracking/tracking_window.h"
+
+using StepBack = TrackingWindow;
+
+TEST_F(StepBack, OpensTheNearestLineToDoAbove) {
+    for (const int button : {IDC_FORM3_CMDPRECEDENT, IDC_FORM3_CMD4}) {
+        module.NomDocCourant.clear();
+        loadStates(L"00120");
+        click(IDC_FORM3_CMDSUIVSAUTER);  // from a to b
+        click(IDC_FORM3_CMDSUIVSAUTER);  // to e
+        click(IDC_FORM3_CMDSUIVSAUTER);  // to the end
+        click(button);                   // back to e
+        takeCalls();
+        click(button);
+        // The name of the document just closed is kept, so that it is closed a second time.
+        EXPECT_EQ(takeCalls(), (CallJournal{
+                                   L"closedoc(\"c:\\e\")",
+                                   L"closedoc(\"c:\\e\")",
+                                   L"OpenDoc6(&\"c:\\b\", &0:i2, 1:i4, \"\", &0:i4, &0:i4)",
+                                   L"ActivateDoc2(&\"c:\\b\", True, &0:i4)",
+                                   L"Visible = True",
+                                   L"b.GetTitle()",
+                                   L"b.GetTitle()",
+                                   L"b.ViewZoomtofit2()",
+                               }));
+        EXPECT_EQ(states(), L"0 3 1 2 0");
+        EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"1");
+        EXPECT_EQ(text(IDC_FORM3_NBFICH1), L"2");
+        EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\b");
+        EXPECT_EQ(list().selection(), std::vector{1});
+    }
+}
+
+TEST_F(StepBack, FromTheEndSearchesFromTheLastLineItself) {
+    loadStates(L"000");
+    click(IDC_FORM3_CMDSUIV);
+    click(IDC_FORM3_CMDSUIVQUITTER);
+    click(IDC_FORM3_CMDSUIVSAUTER);
+    ASSERT_FALSE(canAdvance());
+    takeCalls();
+    click(IDC_FORM3_CMDPRECEDENT);
+    EXPECT_EQ(takeCalls()[0], L"closedoc(\"\")");
+    EXPECT_EQ(states(), L"1 2 3");
+    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\c");
+    EXPECT_TRUE(canAdvance());
+}
+
+TEST_F(StepBack, FromTheEndLeavesTheLastLineAsItIs) {
+    loadStates(L"000");
+    click(IDC_FORM3_CMDSUIVSAUTER);
+    click(IDC_FORM3_CMDSUIV);
+    click(IDC_FORM3_CMDSUIV);
+    click(IDC_FORM3_CMDPRECEDENT);
+    EXPECT_EQ(states(), L"3 1 1");
+    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"0");
+}
+
+TEST_F(StepBack, PassesOverTheLastLineThatTheLoadMarkedButDidNotOpen) {
+    loadStates(L"10");
+    click(IDC_FORM3_CMDPRECEDENT);
+    EXPECT_EQ(states(), L"1 3");
+    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"aucun");
+    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"-1");
+}
+
+TEST_F(StepBack, FromTheFirstLineToDoLeavesNoCurrentLine) {
+    loadStates(L"100");
+    click(IDC_FORM3_CMDPRECEDENT);
+    EXPECT_EQ(takeCalls(), CallJournal{L"closedoc(\"c:\\b\")"});
+    EXPECT_EQ(states(), L"1 0 0");
+    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"aucun");
+    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"-1");
+    EXPECT_EQ(text(IDC_FORM3_NBFICH1), L"2");
+    EXPECT_TRUE(list().selection().empty());
+    EXPECT_FALSE(canStepBack());
+    EXPECT_TRUE(canAdvance());
+}
+
+TEST_F(StepBack, WithNoCurrentLineDoesNothing) {
+    loadStates(L"00");
+    click(IDC_FORM3_CMDPRECEDENT);
+    takeCalls();
+    click(IDC_FORM3_CMD4);
+    EXPECT_EQ(takeCalls(), CallJournal());
+    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"-1");
+}
+
+TEST_F(StepBack, WithNoCurrentLineIsFollowedByTheFirstLineToDo) {
+    loadStates(L"100");
+    click(IDC_FORM3_CMDPRECEDENT);
+    takeCalls();
+    click(IDC_FORM3_CMDSUIV);
+    const CallJournal calls = takeCalls();
+    // The document object and its name are still those of the document that was closed.
+    EXPECT_EQ(calls[0], L"b.save2(True)");
+    EXPECT_EQ(calls[1], L"closedoc(\"c:\\b\")");
+    EXPECT_TRUE(calls[2].starts_with(L"OpenDoc6(&\"c:\\b\"")) << calls[2];
+    EXPECT_EQ(states(), L"1 3 0");
+    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"1");
+    EXPECT_TRUE(canStepBack());
+}
+
+TEST_F(StepBack, WithNoLineLeftToDoAnAdvanceEndsTheList) {
+    loadStates(L"100");
+    click(IDC_FORM3_CMDPRECEDENT);
+    module.liste.EtatFich[1].code = L"2";
+    module.liste.EtatFich[2].code = L"1";
+    click(IDC_FORM3_CMDSUIVSAUTER);
+    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"3");
+    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"Aucun");
+    EXPECT_FALSE(canAdvance());
+    EXPECT_FALSE(canStepBack());
+}
+
+TEST_F(StepBack, TakesADocumentOfTheSamePathAsOpen) {
+    load(L"0  c:\\Été.SLDPRT\r\n0  C:\\éTÉ.sldprt\r\n");
+    click(IDC_FORM3_CMDSUIVSAUTER);
+    takeCalls();
+    click(IDC_FORM3_CMDPRECEDENT);
+    EXPECT_EQ(takeCalls(), (CallJournal{L"closedoc(\"C:\\éTÉ.sldprt\")", L"éTÉ.sldprt.GetTitle()",
+                                        L"éTÉ.sldprt.GetTitle()", L"éTÉ.sldprt.ViewZoomtofit2()"}));
+    EXPECT_EQ(states(), L"3 0");
+}
