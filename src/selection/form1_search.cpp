@@ -42,10 +42,11 @@ void Form1::typef_Validate() { repert_Change(); }
 
 void Form1::unite_Change() {
     if (unite.drive() == 0) return;
-    if (repert.setPath(platform_.files.currentDirectory(unite.drive()))) repert_Change();
-    // The drive asks for a rebuild of its own after that of its directory. It finds the same
-    // again, so it is spared unless it has a question to repeat.
-    if (rechercheDepuisRacine()) repert_Change();
+    const bool elsewhere = repert.setPath(platform_.files.currentDirectory(unite.drive()));
+    repert_Change();
+    // Another directory and the drive each ask for a rebuild. The second finds the same again, so
+    // it is spared unless it has a question to repeat.
+    if (elsewhere && rechercheDepuisRacine()) repert_Change();
 }
 
 bool Form1::rechercheDepuisRacine() const {

@@ -1,0 +1,64 @@
+#include <gtest/gtest.h>
+
+#include "about/about_ids.h"
+#include "fakes/fake_platform.h"
+#include "selection/form1_ids.h"
+#include "startup/form2_ids.h"
+#include "startup/program.h"
+
+namespace {
+
+using State = FakeWindow::State;
+
+class AboutWindowTest : public testing::Test {
+ protected:
+    AboutWindowTest() { machine.files.directories.insert(L"c:\\plans"); }
+
+    FakeWindow& about() { return machine.window(IDD_ABOUT); }
+    void ask() { machine.window(IDD_FORM1).click(IDC_FORM1_CMDAP); }
+
+    FakePlatform machine;
+    Program program{machine.platform};
+};
+
+}  // namespace
+
+TEST_F(AboutWindowTest, GreetsUntilTheFirstWindowShows) {
+    // The same window is shown twice; it stands while the session is asked.
+    machine.automation.overrides[L"RevisionNumber"] = [&](auto) -> Value {
+        EXPECT_EQ(about().state, State::Shown);
+        return std::wstring(L"12.0");
+    };
+    program.Main();
+    EXPECT_EQ(about().state, State::Unloaded);
+    EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
+}
+
+TEST_F(AboutWindowTest, GivesWayToThePromptToo) {
+    machine.files.texts[L"c:\\tarnwick\\tarnwick.lst"] = L"0  c:\\a\r\n";
+    program.Main();
+    EXPECT_EQ(about().state, State::Unloaded);
+    EXPECT_EQ(machine.window(IDD_FORM2).state, State::Shown);
+}
+
+TEST_F(AboutWindowTest, TellsTheVersionAndItsDate) {
+    program.Main();
+    ask();
+    EXPECT_EQ(about().control(IDC_ABOUT_VERSION).content, L"Version 1.05");
+    EXPECT_EQ(about().control(IDC_ABOUT_DATE).content, L"28/03/2004");
+}
+
+TEST_F(AboutWindowTest, ClosesByEnterEscapeOrItsFrameAndOpensAgain) {
+    program.Main();
+    const std::pair<int, Event> ways[] = {
+        {kEnterKey, Event::Click}, {kEscapeKey, Event::Click}, {kTheWindow, Event::Close}};
+    for (const auto& [id, event] : ways) {
+        ask();
+        EXPECT_EQ(about().state, State::Shown) << id;
+        ask();
+        EXPECT_EQ(about().state, State::Shown) << id;
+        about().sink.raise(id, event);
+        EXPECT_EQ(about().state, State::Unloaded) << id;
+    }
+    EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
+}

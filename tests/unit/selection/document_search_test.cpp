@@ -1,0 +1,103 @@
+#include "selection/document_search.h"
+
+#include <gtest/gtest.h>
+
+#include "fakes/fake_files.h"
+#include "selection/found_documents.h"
+#include "unit/raised.h"
+
+namespace {
+
+using Paths = std::vector<std::wstring>;
+
+class Search : public testing::Test {
+ protected:
+    void addAll(std::initializer_list<const wchar_t*> paths) {
+        for (const wchar_t* path : paths) files.add(path);
+    }
+
+    Paths run(const std::wstring& directory, bool withSubdirectories,
+              const wchar_t* types = L"*.SLDPRT ; *.SLDASM ; *.SLDDRW") {
+        found.restart(withSubdirectories);
+        listed.clear();
+        DocumentSearch search(files, found, MotifType(types),
+                              [&](long filesListed) { listed.push_back(filesListed); });
+        search.run(directory, withSubdirectories);
+        Paths result;
+        for (long i = 0; i < found.count(); ++i) result.push_back(found.entry(i));
+        return result;
+    }
+
+    FakeFiles files;
+    FoundDocuments found;
+    std::vector<long> listed;
+};
+
+}  // namespace
+
+TEST_F(Search, ListsOneDirectoryByNameWhateverTheKind) {
+    addAll({L"c:\\plans\\Zoe.SLDPRT", L"c:\\plans\\bras.SLDASM", L"c:\\plans\\Axe.slddrw",
+            L"c:\\plans\\a.b.SldPrt", L"c:\\plans\\sans_extension", L"c:\\plans\\notes.txt",
+            L"c:\\plans\\~$bras.SLDASM", L"c:\\plans\\sous\\d.SLDPRT",
+            L"c:\\plans\\dossier.SLDPRT\\e.SLDPRT"});
+    files.hidden.insert(L"c:\\plans\\~$bras.SLDASM");
+    EXPECT_EQ(run(L"c:\\plans", false),
+              (Paths{L"a.b.SldPrt", L"Axe.slddrw", L"bras.SLDASM", L"Zoe.SLDPRT"}));
+    EXPECT_EQ(listed, std::vector<long>{4});
+    EXPECT_EQ(run(L"c:\\plans", false, L"sldprt"), (Paths{L"a.b.SldPrt", L"Zoe.SLDPRT"}));
+    EXPECT_EQ(run(L"c:\\plans", false, L"*.*"), Paths());
+    EXPECT_EQ(files.visits, (std::map<std::wstring, int>{{L"c:\\plans", 3}}));
+}
+
+TEST_F(Search, WalksATreeDepthFirstReadingEachDirectoryOnce) {
+    addAll({L"c:\\plans\\z.SLDPRT", L"c:\\plans\\beta\\b.SLDASM", L"c:\\plans\\beta\\a.SLDPRT",
+            L"c:\\plans\\Alpha\\fond\\profond\\p.SLDDRW", L"c:\\plans\\Alpha\\fond\\f.SLDPRT",
+            L"c:\\plans\\Alpha\\x.SLDPRT", L"c:\\plans\\alpha2\\n.SLDPRT",
+            L"c:\\plans\\cache\\c.SLDPRT"});
+    files.directories.insert(L"c:\\plans\\vide");
+    files.hidden.insert(L"c:\\plans\\cache");
+    EXPECT_EQ(run(L"c:\\plans", true),
+              (Paths{L"c:\\plans\\z.SLDPRT", L"c:\\plans\\Alpha\\x.SLDPRT",
+                     L"c:\\plans\\Alpha\\fond\\f.SLDPRT",
+                     L"c:\\plans\\Alpha\\fond\\profond\\p.SLDDRW", L"c:\\plans\\alpha2\\n.SLDPRT",
+                     L"c:\\plans\\beta\\a.SLDPRT", L"c:\\plans\\beta\\b.SLDASM"}));
+    EXPECT_EQ(listed, (std::vector<long>{1, 1, 1, 1, 1, 2, 0}));
+    EXPECT_EQ(files.visits.size(), 7U);
+    for (const auto& [directory, times] : files.visits) EXPECT_EQ(times, 1) << directory;
+}
+
+TEST_F(Search, DoublesTheSeparatorAfterADriveRootAndNoneElse) {
+    addAll({L"c:\\a.SLDPRT", L"c:\\sous\\b.SLDPRT", L"\\\\serveur\\part\\c.SLDPRT"});
+    EXPECT_EQ(run(L"c:\\", true), (Paths{L"c:\\\\a.SLDPRT", L"c:\\sous\\b.SLDPRT"}));
+    EXPECT_EQ(run(L"c:\\", false), Paths{L"a.SLDPRT"});
+    files.directories.insert(L"\\\\serveur\\part");
+    EXPECT_EQ(run(L"\\\\serveur\\part", true), Paths{L"\\\\serveur\\part\\c.SLDPRT"});
+}
+
+TEST_F(Search, FollowsLinksButNotBackIntoDirectoriesThatAreOpen) {
+    addAll({L"c:\\plans\\a.SLDPRT", L"c:\\plans\\sous\\b.SLDPRT", L"d:\\autres\\c.SLDPRT",
+            L"d:\\autres\\bas\\d.SLDPRT"});
+    files.links = {
+        {L"c:\\plans\\sous\\haut", L"c:\\plans"},          // up
+        {L"c:\\plans\\sous\\ici", L"c:\\plans\\sous"},     // to itself
+        {L"c:\\plans\\ailleurs", L"d:\\autres"},           // elsewhere
+        {L"d:\\autres\\bas\\retour", L"d:\\autres"},       // up, met below another name
+        {L"c:\\plans\\voisin", L"c:\\plans\\sous\\haut"},  // up, through another link
+        {L"c:\\plans\\zbas", L"c:\\plans\\sous"},          // aside: read a second time
+    };
+    EXPECT_EQ(run(L"c:\\plans", true),
+              (Paths{L"c:\\plans\\a.SLDPRT", L"c:\\plans\\ailleurs\\c.SLDPRT",
+                     L"c:\\plans\\ailleurs\\bas\\d.SLDPRT", L"c:\\plans\\sous\\b.SLDPRT",
+                     L"c:\\plans\\zbas\\b.SLDPRT"}));
+}
+
+TEST_F(Search, FailsOnADirectoryThatCannotBeRead) {
+    addAll({L"c:\\plans\\a.SLDPRT", L"c:\\plans\\sous\\b.SLDPRT"});
+    EXPECT_EQ(raised([&] { run(L"c:\\absent", false); }), 76);
+    files.unreadable.insert(L"c:\\plans\\sous");
+    EXPECT_EQ(raised([&] { run(L"c:\\plans", false); }), 0);
+    EXPECT_EQ(raised([&] { run(L"c:\\plans", true); }), 70);
+    files.unreadable.clear();
+    files.links[L"c:\\plans\\perdu"] = L"e:\\disparu";
+    EXPECT_EQ(raised([&] { run(L"c:\\plans", true); }), 76);
+}
