@@ -100,8 +100,12 @@ std::vector<int> SelectedLines(HWND list) {
 }
 
 void SelectLines(HWND list, const std::vector<int>& lines) {
-    Send(list, LB_SETSEL, FALSE, -1);
-    for (int line : lines) Send(list, LB_SETSEL, TRUE, line);
+    if (GetWindowLongW(list, GWL_STYLE) & LBS_EXTENDEDSEL) {
+        Send(list, LB_SETSEL, FALSE, -1);
+        for (int line : lines) Send(list, LB_SETSEL, TRUE, line);
+    } else {
+        Send(list, LB_SETCURSEL, static_cast<WPARAM>(lines.empty() ? -1 : lines.back()));
+    }
     Post(GetParent(list), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), LBN_SELCHANGE),
          reinterpret_cast<LPARAM>(list));
 }

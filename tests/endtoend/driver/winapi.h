@@ -34,7 +34,8 @@ std::vector<std::string> ListLines(HWND list);
 /// The indices of the selected lines of a list box, ascending.
 std::vector<int> SelectedLines(HWND list);
 
-/// Selects exactly these lines of a multi-selection list box, and tells its parent.
+/// Selects exactly these lines of a list box (one at most if it allows no more), and tells its
+/// parent.
 void SelectLines(HWND list, const std::vector<int>& lines);
 
 /// A readable picture of a window and all that is in it, for the report of a failed test.

@@ -1,0 +1,80 @@
+#include "searchfolders/conf_file.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/runtime_error.h"
+
+namespace {
+
+constexpr auto kMarker = L"Configuration:";
+
+std::wstring lines(int count, const std::wstring& line) {
+    std::wstring text;
+    for (int i = 0; i < count; ++i) text += line + L"\r\n";
+    return text;
+}
+
+int errorOf(const std::wstring& text) {
+    Configurations configs;
+    try {
+        parseConfFile(text, kMarker, configs);
+    } catch (const RuntimeError& error) {
+        return error.number;
+    }
+    return 0;
+}
+
+TEST(ConfFile, StoresEveryLineByTheRules) {
+    struct Case {
+        const wchar_t* text;
+        int count;                   // configurations
+        long row;                    // the row to look at
+        const wchar_t* expected[4];  // its first entries
+    };
+    const Case cases[] = {
+        {L"", 0, 1, {L"", L"", L"", L""}},
+        {L"Configuration:  Projet A\r\n   c:\\a\r\n   c:\\b",
+         1,
+         1,
+         {L"Projet A", L"c:\\a", L"c:\\b", L""}},
+        {L"  c:\\avant\r\nConfiguration: A\r\n", 1, 0, {L"", L"c:\\avant", L"", L""}},
+        {L"configuration: b\nc:\\c\n", 1, 1, {L"b", L"c:\\c", L"", L""}},
+        {L"ABC CONFIGURATION: d\r\n", 1, 1, {L"ION: d", L"", L"", L""}},
+        {L"Configuration:A\r\n' note\r\n\r\n c:\\d\r\n", 1, 1, {L"A", L"' note", L"", L"c:\\d"}},
+        {L"Configuration:\r\nc:\\e\r\nConfiguration:f\r\n", 2, 1, {L"", L"c:\\e", L"", L""}},
+    };
+    for (const Case& one : cases) {
+        Configurations configs;
+        parseConfFile(one.text, kMarker, configs);
+        EXPECT_EQ(configs.NbConf, one.count) << one.text;
+        for (long j = 0; j < 4; ++j) {
+            EXPECT_EQ(configs.ConfRep[one.row][j], one.expected[j]) << one.text << j;
+        }
+    }
+}
+
+TEST(ConfFile, HoldsFiftyConfigurationsOfTwoHundredDirectories) {
+    EXPECT_EQ(errorOf(lines(50, L"Configuration:  A")), 0);
+    EXPECT_EQ(errorOf(lines(51, L"Configuration:  A")), 9);
+    EXPECT_EQ(errorOf(L"Configuration:  A\r\n" + lines(200, L"c:\\a")), 0);
+    EXPECT_EQ(errorOf(L"Configuration:  A\r\n" + lines(201, L"c:\\a")), 9);
+    EXPECT_EQ(errorOf(lines(201, L"c:\\a")), 9);
+}
+
+TEST(ConfFile, IsWrittenBackWithItsHolesClosed) {
+    const std::wstring clean =
+        L"Configuration:  Projet A\r\n   c:\\a\r\n   \\\\serveur\\b c\r\nConfiguration:  Été\r\n";
+    const std::pair<std::wstring, std::wstring> cases[] = {
+        {clean, clean},
+        {L"c:\\perdu\nconfiguration:x\n c:\\a \n\nc:\\b",
+         L"Configuration:  x\r\n   c:\\a\r\n   c:\\b\r\n"},
+        {L"Configuration:\r\n   c:\\sans nom\r\nConfiguration:  y\r\n", L"Configuration:  y\r\n"},
+    };
+    for (const auto& [read, written] : cases) {
+        Configurations configs;
+        parseConfFile(read, kMarker, configs);
+        EXPECT_EQ(formatConfFile(configs, kMarker), written);
+    }
+}
+
+}  // namespace
