@@ -23,6 +23,8 @@ class Window {
     virtual void moveTo(int top, int left) = 0;
     /// The controls grow and shrink with it.
     virtual void resize(int width, int height) = 0;
+    /// How far the work has come, for the taskbar to show: steps done of all. 0 of 0: none.
+    virtual void showProgress(int done, int total) = 0;
     virtual void show() = 0;
     virtual void hide() = 0;
     /// Closes the window for good: its controls are gone.
@@ -35,12 +37,33 @@ struct Tooltip {
     const wchar_t* text;
 };
 
-/// What a window is made from: a dialog resource, whose id and texts are the form's own.
+/// The name by which a screen reader announces a control that shows none, or one that is hard to
+/// understand when it is heard.
+struct AccessibleName {
+    int controlId;
+    const wchar_t* text;
+};
+
+/// What a control does, in one direction, when its window is larger than its template.
+enum class Growth { Stay, Move, Stretch };
+
+/// How a control follows the edges of its window. One without an anchor stays where it is.
+struct Anchor {
+    int controlId;
+    Growth across;
+    Growth down;
+};
+
+/// What a window is made from: a dialog resource, whose id and texts are the form's own, with the
+/// accelerator resource of the same id as its shortcuts. Its size there is its smallest.
 struct WindowTemplate {
     int dialogId;
-    std::span<const Tooltip> tooltips;
-    int headingId = 0;  ///< the label shown as the window's heading
-    int focusId = 0;    ///< the control that has the focus first; 0: the first one
+    std::span<const Tooltip> tooltips = {};
+    int headingId = 0;     ///< the label shown as the window's heading
+    int focusId = 0;       ///< the control that has the focus first; 0: the first one
+    int fixedPitchId = 0;  ///< the list whose lines are aligned by their number of characters
+    std::span<const Anchor> anchors = {};
+    std::span<const AccessibleName> names = {};
 };
 
 class WindowFactory {

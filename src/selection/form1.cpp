@@ -7,7 +7,7 @@
 #include "platform/runtime_error.h"
 #include "selection/form1_events.h"
 #include "selection/form1_ids.h"
-#include "selection/form1_tooltips.h"
+#include "selection/form1_window.h"
 #include "startup/module1.h"
 #include "startup/navigation.h"
 #include "startup/window_places.h"
@@ -30,8 +30,7 @@ Form1::Form1(Module1& module, Platform& platform, Navigation& navigation)
     : module_(module),
       platform_(platform),
       navigation_(navigation),
-      window_(platform.windows.create(
-          {IDD_FORM1, kForm1Tooltips, IDC_FORM1_LABEL3, IDC_FORM1_REPERT}, *this)),
+      window_(platform.windows.create(kForm1Window, *this)),
       typef(window_->comboBox(IDC_FORM1_TYPEF)),
       sousrep(window_->checkBox(IDC_FORM1_SOUSREP)),
       nbfich(window_->control(IDC_FORM1_NBFICH)),

@@ -16,6 +16,7 @@ inline constexpr Binding<Form1> kForm1Bindings[] = {
     {IDC_FORM1_LIST1, Event::Click, &Form1::List1_Click},
     {IDC_FORM1_CMDCOCHE, Event::Click, &Form1::CmdCoche_Click},
     {IDC_FORM1_CMD_INV, Event::Click, &Form1::Cmd_Inv_Click},
+    {IDC_FORM1_N_FILTRE, Event::Enter, &Form1::cmd_ajo_Click},
     {IDC_FORM1_CMD_AJO, Event::Click, &Form1::cmd_ajo_Click},
     {IDC_FORM1_CMD_ENL, Event::Click, &Form1::cmd_enl_Click},
     {IDC_FORM1_CMDPLUS, Event::Click, &Form1::CmdPlus_Click},

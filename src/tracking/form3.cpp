@@ -11,15 +11,15 @@
 #include "startup/window_places.h"
 #include "tracking/form3_events.h"
 #include "tracking/form3_ids.h"
-#include "tracking/form3_tooltips.h"
+#include "tracking/form3_window.h"
 #include "worklist/display_depth.h"
 #include "worklist/list_file.h"
+#include "worklist/progress.h"
 
 Form3::Form3(Module1& module, Platform& platform)
     : module_(module),
       platform_(platform),
-      window_(platform.windows.create(
-          {IDD_FORM3, kForm3Tooltips, IDC_FORM3_LABEL2, IDC_FORM3_LIST1}, *this)),
+      window_(platform.windows.create(kForm3Window, *this)),
       cad_(module, platform.desktop),
       vue_(window_->listBox(IDC_FORM3_LIST1)),
       TxtEtat(window_->control(IDC_FORM3_TXTETAT)),
@@ -138,6 +138,8 @@ void Form3::CmdMoins1_Click() {
 }
 
 void Form3::AfficherListe(std::int16_t mode) {
+    const auto [done, total] = passProgress(module_.liste);
+    window_->showProgress(done, total);
     if (mode == 0) {
         vue_.update(module_.liste, module_.labels, NNiveau1.text());
         return;

@@ -19,6 +19,8 @@ struct FakeWindow : Window {
     int leftTwips = 0;
     int widthTwips = 0;
     int heightTwips = 0;
+    int progressDone = 0;
+    int progressTotal = 0;
 
     FakeControl& control(int id) override { return find<FakeControl>(id, controls); }
     FakeCheckBox& checkBox(int id) override { return find<FakeCheckBox>(id, checkBoxes); }
@@ -35,6 +37,10 @@ struct FakeWindow : Window {
     void resize(int width, int height) override {
         widthTwips = width;
         heightTwips = height;
+    }
+    void showProgress(int done, int total) override {
+        progressDone = done;
+        progressTotal = total;
     }
     void show() override { state = State::Shown; }
     void hide() override { state = State::Hidden; }

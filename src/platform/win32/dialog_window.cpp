@@ -2,12 +2,14 @@
 
 #include <commctrl.h>
 
-#include "platform/win32/control_layout.h"
+#include "platform/win32/accessible_names.h"
 #include "platform/win32/event_gate.h"
 #include "platform/win32/hourglass.h"
 #include "platform/win32/notifications.h"
+#include "platform/win32/shortcuts.h"
 #include "platform/win32/tooltips.h"
 #include "platform/win32/win_controls.h"
+#include "platform/win32/within_reach.h"
 
 namespace {
 
@@ -41,28 +43,71 @@ void registerWindowClass() {
     RegisterClassExW(&windowClass);
 }
 
+bool canBeUsed(HWND control) {
+    return control && IsWindowVisible(control) && IsWindowEnabled(control);
+}
+
+/// A control that a handler disabled or hid no longer takes the keyboard: another one must.
+void keepKeyboard(HWND window, int focusId) {
+    if (canBeUsed(GetFocus())) return;
+    HWND home = GetDlgItem(window, focusId);
+    SetFocus(canBeUsed(home) ? home : GetNextDlgTabItem(window, nullptr, FALSE));
+}
+
+void showNextTab(HWND tabStrip) {
+    const LRESULT next = SendMessageW(tabStrip, TCM_GETCURSEL, 0, 0) + 1;
+    const LRESULT count = SendMessageW(tabStrip, TCM_GETITEMCOUNT, 0, 0);
+    SendMessageW(tabStrip, TCM_SETCURSEL, static_cast<WPARAM>(next % count), 0);
+}
+
 }  // namespace
 
 DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& events, EventGate& gate)
-    : events_(events), gate_(gate) {
+    : events_(events),
+      gate_(gate),
+      headingId_(windowTemplate.headingId),
+      focusId_(windowTemplate.focusId),
+      fixedPitchId_(windowTemplate.fixedPitchId) {
     CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(windowTemplate.dialogId),
                        nullptr, procedure, reinterpret_cast<LPARAM>(this));
-    chooseFonts(windowTemplate.headingId);
+    layout_.emplace(window_, windowTemplate.anchors);
+    chooseFonts();
+    takeTemplateSize();
     addTooltips(window_, windowTemplate.tooltips);
-    if (windowTemplate.focusId != 0) SetFocus(GetDlgItem(window_, windowTemplate.focusId));
+    nameControls(window_, windowTemplate.names);
+    setShortcuts(window_, windowTemplate.dialogId);
+    if (focusId_ != 0) SetFocus(GetDlgItem(window_, focusId_));
 }
 
 DialogWindow::~DialogWindow() { unload(); }
 
-void DialogWindow::chooseFonts(int headingId) {
-    listFont_ = fixedPitchFont(window_);
-    headingFont_ = headingFont(window_);
+void DialogWindow::chooseFonts() {
+    const UINT dpi = GetDpiForWindow(window_);
+    WindowFonts fonts(dpi);
     for (HWND child = GetWindow(window_, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        HFONT font = nullptr;
-        if (classOf(child) == ControlClass::ListBox) font = listFont_.get();
-        if (headingId != 0 && GetDlgCtrlID(child) == headingId) font = headingFont_.get();
-        if (font) SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+        const int id = GetDlgCtrlID(child);
+        HFONT font = fonts.text();
+        if (headingId_ != 0 && id == headingId_) font = fonts.heading();
+        if (fixedPitchId_ != 0 && id == fixedPitchId_) font = fonts.fixedPitch();
+        SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
     }
+    layout_->measureBy(fonts.text());
+    fonts_ = std::move(fonts);
+    icons_.emplace(window_, dpi);
+}
+
+void DialogWindow::takeTemplateSize() {
+    const SIZE size = layout_->smallestWindow();
+    SetWindowPos(window_, nullptr, 0, 0, size.cx, size.cy,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    layout_->arrange();
+}
+
+void DialogWindow::changeResolution(const RECT& suggested) {
+    chooseFonts();
+    SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
+                 suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    layout_->arrange();
 }
 
 INT_PTR CALLBACK DialogWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -76,6 +121,7 @@ INT_PTR CALLBACK DialogWindow::procedure(HWND window, UINT message, WPARAM wPara
 }
 
 INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    progress_.onMessage(window_, message);
     switch (message) {
         case WM_COMMAND:
             onCommand(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
@@ -83,14 +129,26 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_NOTIFY: {
             const auto* header = reinterpret_cast<NMHDR*>(lParam);
             if (header->code != static_cast<UINT>(TCN_SELCHANGE)) return FALSE;
-            gate_.deliver(events_, static_cast<int>(header->idFrom), Event::Click, window_);
+            raise(static_cast<int>(header->idFrom), Event::Click);
             return TRUE;
         }
+        case WM_SIZE:
+            if (layout_ && wParam != SIZE_MINIMIZED) layout_->arrange();
+            return TRUE;
+        case WM_GETMINMAXINFO: {
+            if (!layout_) return FALSE;
+            const SIZE size = layout_->smallestWindow();
+            reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {size.cx, size.cy};
+            return TRUE;
+        }
+        case WM_DPICHANGED:
+            changeResolution(*reinterpret_cast<const RECT*>(lParam));
+            return TRUE;
         case WM_CLOSE:
-            gate_.deliver(events_, kTheWindow, Event::Close, window_);
+            raise(kTheWindow, Event::Close);
             return TRUE;
         case WM_ENDSESSION:
-            if (wParam) gate_.deliver(events_, kTheWindow, Event::Close, window_);
+            if (wParam) raise(kTheWindow, Event::Close);
             return TRUE;
         case WM_SETCURSOR:
             if (!Hourglass::shown()) return FALSE;
@@ -107,22 +165,49 @@ void DialogWindow::onCommand(int id, WORD code, HWND control) {
         onKey(id);
         return;
     }
+    constexpr WORD kFromShortcut = 1;
+    if (!control && code == kFromShortcut) onShortcut(GetDlgItem(window_, id));
     if (!control) return;
     const auto event = eventOf(control, code);
     if (!event) return;
     if (classOf(control) == ControlClass::ComboBox && *event == Event::Click) {
         showChosenLine(control);
     }
-    gate_.deliver(events_, id, *event, window_);
+    raise(id, *event);
+}
+
+void DialogWindow::raise(int id, Event event) {
+    // The handler may end this object.
+    HWND window = window_;
+    const int focusId = focusId_;
+    gate_.deliver(events_, id, event, window);
+    if (GetActiveWindow() == window) keepKeyboard(window, focusId);
 }
 
 void DialogWindow::onKey(int id) {
     HWND focus = GetFocus();
+    const auto kind = id == kEnterKey && focus ? classOf(focus) : ControlClass::Other;
     // Enter in a list is a double click on its line.
-    if (id == kEnterKey && focus && classOf(focus) == ControlClass::ListBox) {
-        gate_.deliver(events_, GetDlgCtrlID(focus), Event::DoubleClick, window_);
+    if (kind == ControlClass::ListBox) {
+        raise(GetDlgCtrlID(focus), Event::DoubleClick);
+    } else if (kind == ControlClass::Edit && GetParent(focus) == window_) {
+        raise(GetDlgCtrlID(focus), Event::Enter);
     } else {
-        gate_.deliver(events_, id, Event::Click, window_);
+        raise(id, Event::Click);
+    }
+}
+
+void DialogWindow::onShortcut(HWND control) {
+    if (!canBeUsed(control)) return;
+    // As a click would: leaving a field ends what was typed in it, which may change what can be
+    // used.
+    SetFocus(control);
+    if (!canBeUsed(control)) return;
+    if (classOf(control) == ControlClass::Button) {
+        SendMessageW(control, BM_CLICK, 0, 0);
+    } else if (classOf(control) == ControlClass::TabStrip) {
+        showNextTab(control);
+        raise(GetDlgCtrlID(control), Event::Click);
     }
 }
 
@@ -159,18 +244,25 @@ int DialogWindow::top() const { return toTwips(window_, restoredCorner().y); }
 
 int DialogWindow::left() const { return toTwips(window_, restoredCorner().x); }
 
-void DialogWindow::moveTo(int top, int left) {
+void DialogWindow::placeCorner(int top, int left) const {
     SetWindowPos(window_, nullptr, toPixels(window_, left), toPixels(window_, top), 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void DialogWindow::moveTo(int top, int left) {
+    const UINT before = GetDpiForWindow(window_);
+    placeCorner(top, left);
+    // On a monitor of another resolution a twip is another length.
+    if (GetDpiForWindow(window_) != before) placeCorner(top, left);
+    bringWithinReach(window_);
+}
+
 void DialogWindow::resize(int width, int height) {
-    RECT before{};
-    GetClientRect(window_, &before);
     SetWindowPos(window_, nullptr, 0, 0, toPixels(window_, width), toPixels(window_, height),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    stretchControls(window_, before);
 }
+
+void DialogWindow::showProgress(int done, int total) { progress_.show(window_, done, total); }
 
 void DialogWindow::show() {
     ShowWindow(window_, IsIconic(window_) ? SW_RESTORE : SW_SHOW);

@@ -4,10 +4,14 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <typeindex>
 #include <utility>
 
+#include "platform/win32/taskbar_progress.h"
 #include "platform/win32/window_fonts.h"
+#include "platform/win32/window_icons.h"
+#include "platform/win32/window_layout.h"
 #include "platform/window.h"
 
 class EventGate;
@@ -31,6 +35,7 @@ class DialogWindow : public Window {
     int left() const override;
     void moveTo(int top, int left) override;
     void resize(int width, int height) override;
+    void showProgress(int done, int total) override;
     void show() override;
     void hide() override;
     void unload() override;
@@ -39,9 +44,14 @@ class DialogWindow : public Window {
     static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam);
     void onCommand(int id, WORD code, HWND control);
+    void raise(int id, Event event);
     void onKey(int id);
-    void chooseFonts(int headingId);
+    void onShortcut(HWND control);
+    void changeResolution(const RECT& suggested);
+    void chooseFonts();
+    void takeTemplateSize();
     POINT restoredCorner() const;
+    void placeCorner(int top, int left) const;
     template <class Kind>
     Kind& find(int id);
 
@@ -50,8 +60,13 @@ class DialogWindow : public Window {
     EventGate& gate_;
     /// By id and kind: any control may also be asked for as a plain one.
     std::map<std::pair<int, std::type_index>, std::unique_ptr<Control>> controls_;
-    UniqueFont listFont_;
-    UniqueFont headingFont_;
+    const int headingId_;
+    const int focusId_;
+    const int fixedPitchId_;
+    std::optional<WindowFonts> fonts_;
+    std::optional<WindowIcons> icons_;
+    std::optional<WindowLayout> layout_;
+    TaskbarProgress progress_;
 };
 
 /// Makes the program's windows.

@@ -2,10 +2,13 @@
 
 #include <windows.h>
 
+#include "platform/win32/shortcuts.h"
+
 int runMessageLoop() {
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
         HWND window = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
+        if (window && translateShortcut(window, message)) continue;
         if (window && IsDialogMessageW(window, &message)) continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);

@@ -1,5 +1,7 @@
 #include "platform/win32/notifications.h"
 
+#include <commctrl.h>
+
 namespace {
 
 /// Whether the focus stays in the window: switching to another program doesn't leave a field.
@@ -25,11 +27,13 @@ std::optional<Event> comboBoxEvent(HWND control, WORD code) {
 }  // namespace
 
 ControlClass classOf(HWND control) {
-    wchar_t name[16] = {};
+    wchar_t name[20] = {};
     GetClassNameW(control, name, ARRAYSIZE(name));
     if (lstrcmpiW(name, L"Button") == 0) return ControlClass::Button;
     if (lstrcmpiW(name, L"ListBox") == 0) return ControlClass::ListBox;
     if (lstrcmpiW(name, L"ComboBox") == 0) return ControlClass::ComboBox;
+    if (lstrcmpiW(name, L"Edit") == 0) return ControlClass::Edit;
+    if (lstrcmpiW(name, WC_TABCONTROLW) == 0) return ControlClass::TabStrip;
     return ControlClass::Other;
 }
 
@@ -44,7 +48,7 @@ std::optional<Event> eventOf(HWND control, WORD code) {
             break;
         case ControlClass::ComboBox:
             return comboBoxEvent(control, code);
-        case ControlClass::Other:
+        default:
             break;
     }
     return std::nullopt;

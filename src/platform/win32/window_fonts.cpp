@@ -2,10 +2,11 @@
 
 namespace {
 
-LOGFONTW fontOf(HWND window) {
-    LOGFONTW font{};
-    GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)), sizeof font, &font);
-    return font;
+LOGFONTW messageFont(UINT dpi) {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi);
+    return metrics.lfMessageFont;
 }
 
 UniqueFont named(LOGFONTW font, const wchar_t* face) {
@@ -13,17 +14,34 @@ UniqueFont named(LOGFONTW font, const wchar_t* face) {
     return UniqueFont(CreateFontIndirectW(&font));
 }
 
-}  // namespace
+UniqueFont headingFont(LOGFONTW font) {
+    font.lfWeight = FW_BOLD;
+    font.lfHeight = font.lfHeight * 5 / 4;
+    return named(font, L"Arial");
+}
 
-UniqueFont fixedPitchFont(HWND window) {
-    LOGFONTW font = fontOf(window);
+UniqueFont fixedPitchFont(LOGFONTW font) {
     font.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
     return named(font, L"Consolas");
 }
 
-UniqueFont headingFont(HWND window) {
-    LOGFONTW font = fontOf(window);
-    font.lfWeight = FW_BOLD;
-    font.lfHeight = font.lfHeight * 5 / 4;
-    return named(font, L"Arial");
+}  // namespace
+
+WindowFonts::WindowFonts(UINT dpi) {
+    const LOGFONTW font = messageFont(dpi);
+    text_.reset(CreateFontIndirectW(&font));
+    heading_ = headingFont(font);
+    fixedPitch_ = fixedPitchFont(font);
+}
+
+SIZE averageCharacter(HFONT font) {
+    constexpr wchar_t kLetters[] = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    constexpr int kCount = ARRAYSIZE(kLetters) - 1;
+    const HDC context = GetDC(nullptr);
+    const HGDIOBJ previous = SelectObject(context, font);
+    SIZE size{};
+    GetTextExtentPoint32W(context, kLetters, kCount, &size);
+    SelectObject(context, previous);
+    ReleaseDC(nullptr, context);
+    return {(size.cx / (kCount / 2) + 1) / 2, size.cy};
 }

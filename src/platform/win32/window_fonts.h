@@ -10,8 +10,21 @@ struct FontDeleter {
 };
 using UniqueFont = std::unique_ptr<HFONT, FontDeleter>;
 
-/// A fixed-pitch font for lists, of the size the window's own font has.
-UniqueFont fixedPitchFont(HWND window);
+/// The fonts of a window at one resolution, made from the one the system uses in its own boxes.
+class WindowFonts {
+ public:
+    explicit WindowFonts(UINT dpi);
 
-/// A bold font for a window's heading.
-UniqueFont headingFont(HWND window);
+    HFONT text() const { return text_.get(); }
+    HFONT heading() const { return heading_.get(); }
+    HFONT fixedPitch() const { return fixedPitch_.get(); }
+
+ private:
+    UniqueFont text_;
+    UniqueFont heading_;
+    UniqueFont fixedPitch_;
+};
+
+/// The size of a font's average character, by which dialog templates measure: 4 units across and
+/// 8 down.
+SIZE averageCharacter(HFONT font);
