@@ -77,6 +77,6 @@ void WindowLayout::arrange() const {
         SetWindowPos(place.control, nullptr, area.left, area.top, area.right - area.left,
                      area.bottom - area.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
     }
-    RedrawWindow(window_, nullptr, nullptr, 
+    RedrawWindow(window_, nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }

@@ -26,7 +26,8 @@ bool isWithinReach(const RECT& title, const RECT& monitor) {
     if (MonitorFromPoint({title.left, title.top}, MONITOR_DEFAULTTONULL)) return true;
     RECT seen{};
     if (!IntersectRect(&seen, &title, &monitor)) return false;
-    return seen.right - seen.left >= kGrip && seen.bottom - seen.top >= (title.bottom - title.top) / 2;
+    return seen.right - seen.left >= kGrip &&
+           seen.bottom - seen.top >= (title.bottom - title.top) / 2;
 }
 
 }  // namespace
@@ -39,6 +40,5 @@ void bringWithinReach(HWND window) {
     const LONG width = title.right - title.left;
     const LONG left = std::clamp(title.left, work.left + kGrip - width, work.right - kGrip);
     const LONG top = std::clamp(title.top, work.top, work.bottom - (title.bottom - title.top));
-    SetWindowPos(window, nullptr, left, top, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
