@@ -46,6 +46,7 @@ class SearchFolders : public Scenario {
 
 TEST_F(SearchFolders, AreCreatedSavedAppliedAndFoundAgain) {
     ExpectLines(IDC_FORM4_LIST1, {"En Cours"});
+    EXPECT_TRUE(app.Selected(IDC_FORM4_LIST1).empty());
     ExpectLines(IDC_FORM4_LIST3, {"C:\\Normes", "C:\\Profilés"});
 
     app.Click(IDC_FORM4_CMDCREER);
@@ -73,7 +74,7 @@ TEST_F(SearchFolders, AreCreatedSavedAppliedAndFoundAgain) {
     box.Answer(IDOK);
     const std::string folders = tree[0] + ";" + tree[3];
     ExpectCalls({"setsearchfolders(0:i4, &\"" + folders + "\")"});
-    EXPECT_EQ(ReadFileBytes(sandbox.Directory() / "tarnwick.cfg").value_or(""),
+    EXPECT_EQ(sandbox.ReadConfigurations().value_or(""),
               "Configuration:  Chaîne n°1\r\n   " + tree[0] + "\r\n   " + tree[3] + "\r\n");
 
     SetWindowPos(app.Window(kConfigurations), nullptr, 90, 60, 0, 0,
@@ -91,8 +92,8 @@ TEST_F(SearchFolders, AreCreatedSavedAppliedAndFoundAgain) {
 TEST_F(SearchFolders, ShowOnePageAtATimeWithItsTexts) {
     RECT frame{};
     GetWindowRect(app.Window(kConfigurations), &frame);
-    EXPECT_EQ(frame.right - frame.left, 13600 / 15);
-    EXPECT_EQ(frame.bottom - frame.top, 6200 / 15);
+    EXPECT_NEAR(frame.right - frame.left, 13600 / 15, 1);
+    EXPECT_NEAR(frame.bottom - frame.top, 6200 / 15, 1);
     EXPECT_EQ(app.TextOf(IDC_FORM4_FRATAB0),
               "Configuration Courante de Répertoires de chemin de Recherche  . ");
     EXPECT_EQ(app.TextOf(IDC_FORM4_FRATAB1),

@@ -31,6 +31,8 @@ void PlaySelectionWindow(Stage& stage) {
     stage.ShowLines(IDC_FORM1_LIST1);
     stage.Picture("selection", stage.app.Window(kSelection));
 
+    PlaySearchFolders(stage);
+
     stage.Tell("Launching the pass");
     stage.Press(IDC_FORM1_CMD_TRACER);
 }

@@ -55,6 +55,10 @@ void Stage::ShowLines(int list) const {
 
 void Stage::ShowListFile() const { std::cout << sandbox.ReadList().value_or("(none)\n"); }
 
+void Stage::ShowConfigurationFile() const {
+    std::cout << sandbox.ReadConfigurations().value_or("(none)\n");
+}
+
 void Stage::Picture(const std::string& name, HWND window) const {
     SetForegroundWindow(window);
     Send(window, WM_NCACTIVATE, TRUE);  // a button pressed from outside leaves the title bar grey

@@ -26,6 +26,7 @@ class Stage {
 
     void ShowLines(int list) const;
     void ShowListFile() const;
+    void ShowConfigurationFile() const;
 
     /// Leaves NAME.png with this window as it looks on the screen.
     void Picture(const std::string& name, HWND window) const;

@@ -8,6 +8,10 @@ namespace endtoend::demo {
 /// Prepares a pass in the selection window and launches it.
 void PlaySelectionWindow(Stage& stage);
 
+/// Builds a configuration of search folders and makes it effective, while the selection window is
+/// open.
+void PlaySearchFolders(Stage& stage);
+
 /// Works through the launched pass with each of the tracking window's commands, saves the list and
 /// leaves.
 void PlayTrackingWindow(Stage& stage);

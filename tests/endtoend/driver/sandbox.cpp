@@ -64,6 +64,10 @@ void Sandbox::WriteList(std::string_view bytes) const { WriteFileBytes(ListFile(
 
 std::optional<std::string> Sandbox::ReadList() const { return ReadFileBytes(ListFile()); }
 
+std::optional<std::string> Sandbox::ReadConfigurations() const {
+    return ReadFileBytes(directory_ / "tarnwick.cfg");
+}
+
 std::string Sandbox::Describe() const {
     std::string text;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory_))

@@ -33,6 +33,8 @@ class Sandbox {
     void WriteList(std::string_view bytes) const;
     /// The bytes of the list file; nothing if there is none.
     std::optional<std::string> ReadList() const;
+    /// The bytes of the configuration file; nothing if there is none.
+    std::optional<std::string> ReadConfigurations() const;
 
     /// Names and sizes of all files, and the text of the list file.
     std::string Describe() const;

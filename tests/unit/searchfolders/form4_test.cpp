@@ -23,14 +23,12 @@ class ConfigurationWindow : public testing::Test {
         machine.automation.searchFolders = L"s:\\1;s:\\2";
     }
 
-    FakeWindow& open(const wchar_t* file) {
-        if (file) machine.files.texts[module.FichConfig] = file;
+    void open(const wchar_t* file) {
+        machine.files.texts[module.FichConfig] = file;
         form = std::make_unique<Form4>(module, machine.platform);
-        FakeWindow& made = window();
         list(IDC_FORM4_LIST1).severalSelectable = false;
         form->Form_Load();
         machine.automation.takeJournal();
-        return made;
     }
 
     FakeWindow& window() { return machine.window(IDD_FORM4); }
@@ -67,13 +65,6 @@ TEST_F(ConfigurationWindow, OpensOnTheLastConfiguration) {
     EXPECT_EQ(list(IDC_FORM4_LIST3).texts(), (Texts{L"c:\\b", L"d:\\b"}));
     EXPECT_EQ(text(IDC_FORM4_CPT_REP) + text(IDC_FORM4_NNIV), L"00");
     EXPECT_FALSE(editing());
-}
-
-TEST_F(ConfigurationWindow, WithoutFileShowsTheFoldersInForceUnselected) {
-    open(nullptr);
-    EXPECT_EQ(list(IDC_FORM4_LIST1).texts(), Texts{L"En Cours"});
-    EXPECT_TRUE(list(IDC_FORM4_LIST1).selection().empty());
-    EXPECT_EQ(list(IDC_FORM4_LIST3).texts(), (Texts{L"s:\\1", L"s:\\2"}));
 }
 
 TEST_F(ConfigurationWindow, AsksForTheFoldersInForceAtEachClickOnThem) {
@@ -172,17 +163,6 @@ TEST_F(ConfigurationWindow, AnnulerKeepsTheConfigurationsAndThePlace) {
     EXPECT_EQ(module.place(PlacedWindow::Form4).top, 32767);
 }
 
-TEST_F(ConfigurationWindow, ForgetsUnsavedChangesWhenItIsOpenedAgain) {
-    FakeWindow& first = open(kTwo);
-    choose(1);
-    window().click(IDC_FORM4_CMDDETRUIRE);
-    window().click(IDC_FORM4_CMDANNULER);
-    EXPECT_EQ(first.state, FakeWindow::State::Unloaded);
-    EXPECT_FALSE(form->isOpen());
-    open(nullptr);
-    EXPECT_EQ(list(IDC_FORM4_LIST1).texts(), (Texts{L"En Cours", L"A", L"B"}));
-}
-
 TEST_F(ConfigurationWindow, StaysOnItsDirectoryWhenADriveIsNotReady) {
     machine.files.presentDrives = {L'c', L'd'};
     machine.files.unreadable.insert(L"d:");
@@ -192,17 +172,6 @@ TEST_F(ConfigurationWindow, StaysOnItsDirectoryWhenADriveIsNotReady) {
     EXPECT_EQ(machine.boxes.shown.size(), 1U);
     EXPECT_EQ(window().comboBox(IDC_FORM4_DRIVE1).chosen, 0);
     EXPECT_EQ(list(IDC_FORM4_DIR1).texts(), (Texts{L"c:\\", L"  tarnwick"}));
-}
-
-TEST_F(ConfigurationWindow, ShowsThePageOfTheTabAndOpensDirectories) {
-    open(kTwo);
-    window().tabStrip(IDC_FORM4_TABSTRIP1).tab = 1;
-    window().click(IDC_FORM4_TABSTRIP1);
-    EXPECT_TRUE(editing());
-    EXPECT_FALSE(window().control(IDC_FORM4_CMDCHOISIR).visible);
-    select(IDC_FORM4_DIR1, 0);
-    window().sink.raise(IDC_FORM4_DIR1, Event::DoubleClick);
-    EXPECT_EQ(list(IDC_FORM4_DIR1).texts(), (Texts{L"c:\\", L"  p", L"  tarnwick"}));
 }
 
 }  // namespace
