@@ -47,8 +47,7 @@ class ExistingListPrompt : public testing::Test {
 TEST_F(ExistingListPrompt, EveryAnswerSavesThePlaceClosesThePromptAndGoesOn) {
     const CallJournal deletion = {
         L"create Scripting.FileSystemObject",
-        L"Fso.GetFile(\"c:\\tarnwick\\tarnwick.lst\")",
-        L"File.Delete(True)",
+        L"Fso.DeleteFile(\"c:\\tarnwick\\tarnwick.lst\", True)",
     };
     const struct {
         int button;
