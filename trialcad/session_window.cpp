@@ -2,6 +2,7 @@
 
 #include "document_list.h"
 #include "name_bar.h"
+#include "program_icon.h"
 #include "text_list.h"
 #include "window_layout.h"
 #include "window_title.h"
@@ -17,7 +18,7 @@ void registerClass(HINSTANCE instance, WNDPROC procedure) {
     description.cbSize = sizeof description;
     description.lpfnWndProc = procedure;
     description.hInstance = instance;
-    description.hIcon = LoadIconW(nullptr, IDI_APPLICATION);
+    description.hIcon = LoadIconW(instance, MAKEINTRESOURCEW(IDI_PROGRAM));
     description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     description.lpszClassName = kClass;

@@ -4,7 +4,7 @@
 #include "searchfolders/conf_file.h"
 #include "searchfolders/form4_events.h"
 #include "searchfolders/form4_ids.h"
-#include "searchfolders/form4_tooltips.h"
+#include "searchfolders/form4_window.h"
 #include "searchfolders/search_folder_calls.h"
 #include "startup/module1.h"
 #include "startup/window_places.h"
@@ -44,7 +44,7 @@ void showDirectories(ListBox& list, const Configuration& configuration) {
 Form4::Form4(Module1& module, Platform& platform)
     : module_(module),
       platform_(platform),
-      window_(platform.windows.create({IDD_FORM4, kForm4Tooltips}, *this)),
+      window_(platform.windows.create(kForm4Window, *this)),
       TabStrip1(window_->tabStrip(IDC_FORM4_TABSTRIP1)),
       List1(window_->listBox(IDC_FORM4_LIST1)),
       List2(window_->listBox(IDC_FORM4_LIST2)),

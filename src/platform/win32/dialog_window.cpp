@@ -76,7 +76,6 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
     addTooltips(window_, windowTemplate.tooltips);
     nameControls(window_, windowTemplate.names);
     setShortcuts(window_, windowTemplate.dialogId);
-    if (focusId_ != 0) SetFocus(GetDlgItem(window_, focusId_));
 }
 
 DialogWindow::~DialogWindow() { unload(); }
@@ -265,8 +264,10 @@ void DialogWindow::resize(int width, int height) {
 void DialogWindow::showProgress(int done, int total) { progress_.show(window_, done, total); }
 
 void DialogWindow::show() {
+    const bool wasVisible = IsWindowVisible(window_);
     ShowWindow(window_, IsIconic(window_) ? SW_RESTORE : SW_SHOW);
     SetForegroundWindow(window_);
+    if (!wasVisible && focusId_ != 0) SetFocus(GetDlgItem(window_, focusId_));
     // The splash is shown before the program serves any messages.
     UpdateWindow(window_);
 }
