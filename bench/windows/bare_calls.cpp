@@ -1,5 +1,7 @@
 #include "bare_calls.h"
 
+#include <windows.h>
+
 #include <algorithm>
 #include <oleauto.h>
 

@@ -1,5 +1,7 @@
 // The eight calls of one document, to the trial CAD session in its own process.
 
+#include <windows.h>
+
 #include <oleauto.h>
 
 #include "bare_calls.h"

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <psapi.h>
+
 #include "driver/app_driver.h"
 #include "driver/settings.h"
 #include "driver/text.h"
@@ -47,10 +49,18 @@ double startTime(const fs::path& program) {
     }});
 }
 
+double privateBytes(DWORD processId) {
+    HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, processId);
+    PROCESS_MEMORY_COUNTERS memory{};
+    require(K32GetProcessMemoryInfo(process, &memory, sizeof memory), "memory counters");
+    CloseHandle(process);
+    return static_cast<double>(memory.PagefileUsage);
+}
+
 double floorMemory(const fs::path& lines) {
     const Process process(floorProgram(), {lines.wstring()}, lines.parent_path());
     waitForWindow(process);
-    return static_cast<double>(process.ResourcesInUse().privateBytes);
+    return privateBytes(process.Id());
 }
 
 /// A list file whose first line is a document that exists, and its lines as the window shows them.
@@ -74,8 +84,9 @@ double programMemory(const Sandbox& sandbox) {
     app.Click(IDC_FORM2_CMDOK);
     app.WaitForText(IDC_FORM3_TXTETAT,
                     endtoend::Utf8((sandbox.Documents() / "piece.SLDPRT").wstring()));
-    app.Window("Tarnwick - suivi du travail -");
-    return static_cast<double>(app.ResourcesInUse().privateBytes);
+    DWORD id = 0;
+    GetWindowThreadProcessId(app.Window("Tarnwick - suivi du travail -"), &id);
+    return privateBytes(id);
 }
 
 std::string kilobytes(double bytes) {
