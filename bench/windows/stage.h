@@ -9,6 +9,7 @@
 #include "platform/platform.h"
 #include "platform/win32/dialog_window.h"
 #include "platform/win32/event_gate.h"
+#include "platform/win32/input_sieve.h"
 #include "platform/win32/registry_settings.h"
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_message_boxes.h"
@@ -41,6 +42,7 @@ class Stage {
     NoNavigation navigation;
 
  private:
+    InputSieve sieve_;
     EventGate gate_;
     DialogFactory windows_;
     AnsweringAutomation automation_;
