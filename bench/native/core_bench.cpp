@@ -1,0 +1,59 @@
+// The pure functions that run over every line of a full list.
+
+#include <benchmark/benchmark.h>
+
+#include "common/numbers.h"
+#include "selection/found_documents.h"
+#include "worklist/display_line.h"
+#include "worklist/list_file.h"
+#include "worklist/state_labels.h"
+
+namespace {
+
+std::wstring samplePath(long i) {
+    return L"C:\\plans\\moteur\\ensemble " + decimal(i / 100) + L"\\sous-ensemble " +
+           decimal(i / 10) + L"\\piece " + decimal(i) + L".SLDPRT";
+}
+
+std::wstring sampleFile(long count) {
+    std::wstring text;
+    for (long i = 0; i < count; ++i) appendFreshLine(text, samplePath(i));
+    return text;
+}
+
+void displayLines(benchmark::State& state) {
+    const std::wstring path = samplePath(4321);
+    const StateLabels labels = standardLabels();
+    const std::wstring depth = decimal(state.range(0));
+    for (auto _ : state) benchmark::DoNotOptimize(displayLine(4321, labels.LibFait, path, depth));
+}
+BENCHMARK(displayLines)->Arg(0)->Arg(3);
+
+void parsing(benchmark::State& state) {
+    const std::wstring text = sampleFile(state.range(0));
+    WorkList list;
+    for (auto _ : state) parseListFile(text, list);
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(parsing)->Arg(1000)->Arg(2000)->Arg(4000)->Arg(8001)->Complexity(benchmark::oN);
+
+void formatting(benchmark::State& state) {
+    WorkList list;
+    parseListFile(sampleFile(state.range(0)), list);
+    for (auto _ : state) benchmark::DoNotOptimize(formatListFile(list, state.range(0)));
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(formatting)->Arg(1000)->Arg(2000)->Arg(4000)->Arg(8001)->Complexity(benchmark::oN);
+
+void storingBareNames(benchmark::State& state) {
+    FoundDocuments found;
+    for (auto _ : state) {
+        found.restart(false);
+        found.beginPass(false);
+        for (long i = 0; i < state.range(0); ++i) found.store(L"c:\\plans", L"piece" + decimal(i));
+    }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(storingBareNames)->Arg(1000)->Arg(2000)->Arg(4000)->Arg(8000)->Complexity(benchmark::oN);
+
+}  // namespace

@@ -1,0 +1,108 @@
+// The eight calls of one document, to the trial CAD session in its own process.
+
+#include <windows.h>
+
+#include <oleauto.h>
+
+#include "bare_calls.h"
+#include "driver/sandbox.h"
+#include "driver/text.h"
+#include "driver/trial_cad.h"
+#include "platform/win32/input_sieve.h"
+#include "platform/win32/message_filter.h"
+#include "platform/win32/win_automation.h"
+#include "rows.h"
+#include "stage.h"
+#include "startup/cad_session.h"
+
+namespace {
+
+/// The calls made bare. Member numbers are asked for once per kind of object.
+class BareDocument {
+ public:
+    explicit BareDocument(const std::wstring& path) : path_(path), application_(runningSession()) {
+        close_ = application_.numberOf(L"closedoc");
+        open_ = application_.numberOf(L"OpenDoc6");
+        activate_ = application_.numberOf(L"ActivateDoc2");
+        visible_ = application_.numberOf(L"Visible");
+        const BareObject document(open());
+        rebuild_ = document.numberOf(L"ForceRebuild3");
+        title_ = document.numberOf(L"GetTitle");
+        zoom_ = document.numberOf(L"ViewZoomtofit2");
+        save_ = document.numberOf(L"save2");
+    }
+
+    void eightCalls() {
+        const BareObject opened(open());
+        const BareObject document(activate());
+        application_.invoke(visible_, {flag(true)}, DISPATCH_PROPERTYPUT);
+        document.invoke(rebuild_, {flag(false)});
+        document.invoke(title_, {});
+        document.invoke(zoom_, {});
+        document.invoke(save_, {flag(true)});
+        application_.invoke(close_, {text(path_)});
+    }
+
+ private:
+    IDispatch* open() {
+        BSTR name = SysAllocString(path_.c_str());
+        SHORT type = 1;
+        LONG errors = 0;
+        LONG warnings = 0;
+        IDispatch* document =
+            application_.invoke(open_, {reference(&name), reference(&type), number(1), text(L""),
+                                        reference(&errors), reference(&warnings)});
+        SysFreeString(name);
+        return document;
+    }
+
+    IDispatch* activate() {
+        BSTR name = SysAllocString(path_.c_str());
+        LONG errors = 0;
+        IDispatch* document =
+            application_.invoke(activate_, {reference(&name), flag(true), reference(&errors)});
+        SysFreeString(name);
+        return document;
+    }
+
+    std::wstring path_;
+    BareObject application_;
+    DISPID close_, open_, activate_, visible_, rebuild_, title_, zoom_, save_;
+};
+
+}  // namespace
+
+Row cadCalls(const Setting& setting) {
+    const endtoend::Sandbox sandbox;
+    endtoend::TrialCad trial(sandbox);
+    trial.Start({"--hidden"});
+    const std::wstring path = endtoend::Wide(sandbox.AddDocument("piece.SLDPRT"));
+
+    BareDocument bare(path);
+    const InputSieve sieve;
+    const MessageFilter filter;
+    WinAutomation automation;
+    Module1 module;
+    DesktopWithAll desktop;
+    CadSession cad(module, desktop);
+    require(cad.attach(automation), "a running session");
+    module.NomDocCourant = path;
+
+    const auto subject = [&] {
+        cad.open(path, 1, true);
+        cad.activate(path, 1);
+        cad.showApplication();
+        cad.rebuild(false);
+        cad.bringForward();
+        cad.save();
+        cad.closeDocument();
+    };
+    const Comparison compared = compare(setting.rounds, {[&] { bare.eightCalls(); }}, {subject});
+    return {.work = "the 8 CAD calls of one document",
+            .floor = "bare Invoke, names looked up before",
+            .ratios = {{0, compared.ratio}},
+            .goal = "<= 1.05",
+            .judged = compared.ratio,
+            .limit = 1.05,
+            .note = "floor " + milliseconds(compared.floorMilliseconds)};
+}

@@ -1,0 +1,65 @@
+// The work list's lines put into the tracking window's list box.
+
+#include "rows.h"
+#include "sample_tree.h"
+#include "stage.h"
+#include "tracking/form3_ids.h"
+#include "tracking/work_list_view.h"
+#include "worklist/display_line.h"
+
+namespace {
+
+struct NoEvents : EventSink {
+    void raise(int, Event) override {}
+};
+
+void bareFill(HWND list, const std::vector<std::wstring>& lines) {
+    SendMessageW(list, WM_SETREDRAW, FALSE, 0);
+    SendMessageW(list, LB_RESETCONTENT, 0, 0);
+    for (const std::wstring& line : lines) {
+        SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
+    }
+    SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(list, nullptr, TRUE);
+}
+
+Comparison compareFill(const Setting& setting, int count) {
+    Stage stage;
+    NoEvents events;
+    const auto window = stage.platform.windows.create({IDD_FORM3, {}}, events);
+    window->show();
+    HWND list = controlOf(IDC_FORM3_LIST1);
+
+    WorkList work;
+    std::vector<std::wstring> lines;
+    for (const std::wstring& path : samplePaths(count)) {
+        const int i = static_cast<int>(lines.size());
+        work.EtatFich[i] = {.code = state::kToDo, .path = path, .reload = {}};
+        lines.push_back(displayLine(i, stage.module.labels.LibAFaire, path, L"0"));
+    }
+    work.DerFich = static_cast<std::int16_t>(count - 1);
+
+    WorkListView view(window->listBox(IDC_FORM3_LIST1));
+    const auto emptied = [&] { SendMessageW(list, LB_RESETCONTENT, 0, 0); };
+    const auto subject = [&] { view.rebuild(work, stage.module.labels, L"0", false); };
+    const Comparison result =
+        compare(setting.rounds, {[&] { bareFill(list, lines); }, emptied}, {subject, emptied});
+    require(window->listBox(IDC_FORM3_LIST1).line(count - 1) == lines.back(), "the list's lines");
+    return result;
+}
+
+}  // namespace
+
+Row listFill(const Setting& setting) {
+    Row row{.work = "filling the list box",
+            .floor = "LB_ADDSTRING, drawing off",
+            .ratios = {},
+            .goal = "<= 1.30",
+            .limit = 1.30};
+    for (const int size : setting.sizes) {
+        const Comparison compared = compareFill(setting, size);
+        row.ratios[size] = row.judged = compared.ratio;
+        row.note = "floor " + milliseconds(compared.floorMilliseconds);
+    }
+    return row;
+}

@@ -1,0 +1,64 @@
+// From one document of the pass to the next, drawing included, with a CAD application that
+// answers at once.
+
+#include "platform/files.h"
+#include "rows.h"
+#include "sample_tree.h"
+#include "stage.h"
+#include "tracking/form3.h"
+#include "tracking/form3_ids.h"
+#include "worklist/list_file.h"
+
+namespace {
+
+/// A list half of which is done.
+std::wstring halfDone(int count) {
+    std::wstring text;
+    for (const std::wstring& path : samplePaths(count)) appendFreshLine(text, path);
+    std::size_t line = 0;
+    for (int i = 0; i < count / 2; ++i) {
+        text[line] = L'1';
+        line = text.find(L'\n', line) + 1;
+    }
+    return text;
+}
+
+Comparison compareNext(const Setting& setting, int count) {
+    Stage stage;
+    stage.module.FichListe = (setting.directory / "next.lst").wstring();
+    stage.platform.files.replaceText(stage.module.FichListe, halfDone(count));
+    Form3 form(stage.module, stage.platform);
+    form.Form_Load();
+    form.window().show();
+    HWND list = controlOf(IDC_FORM3_LIST1);
+    HWND window = GetAncestor(list, GA_ROOT);
+    drawNow(window);
+
+    const auto floor = [&] {
+        InvalidateRect(list, nullptr, TRUE);
+        drawNow(list);
+    };
+    const auto subject = [&] {
+        form.CmdSuivQuitter_Click();
+        drawNow(window);
+    };
+    const Comparison result = compare(setting.rounds, {floor}, {subject});
+    require(stage.module.liste.EtatFich[count / 2].code == state::kSeen, "documents passed");
+    return result;
+}
+
+}  // namespace
+
+Row nextDocument(const Setting& setting) {
+    Row row{.work = "next document, without the CAD calls",
+            .floor = "one repaint of the list",
+            .ratios = {},
+            .goal = "<= 2.00",
+            .limit = 2};
+    for (const int size : setting.sizes) {
+        const Comparison compared = compareNext(setting, size);
+        row.ratios[size] = row.judged = compared.ratio;
+        row.note = "floor " + milliseconds(compared.floorMilliseconds);
+    }
+    return row;
+}

@@ -1,0 +1,148 @@
+// Figures of whole processes: start, size, memory.
+
+#include <windows.h>
+
+#include <psapi.h>
+
+#include "driver/app_driver.h"
+#include "driver/settings.h"
+#include "driver/text.h"
+#include "driver/trial_cad.h"
+#include "driver/winapi.h"
+#include "rows.h"
+#include "sample_tree.h"
+#include "startup/form2_ids.h"
+#include "tracking/form3_ids.h"
+#include "worklist/display_line.h"
+#include "worklist/list_file.h"
+#include "worklist/state_labels.h"
+
+namespace {
+
+using endtoend::Process;
+using endtoend::Sandbox;
+namespace fs = std::filesystem;
+
+fs::path floorProgram() { return Sandbox::BuiltPrograms() / "bench-floor.exe"; }
+
+bool showsWindow(const Process& process) {
+    for (HWND window : endtoend::TopLevelWindows(process.Id())) {
+        if (IsWindowVisible(window)) return true;
+    }
+    return false;
+}
+
+void waitForWindow(const Process& process) {
+    while (!showsWindow(process)) {
+        require(process.Running(), "a program that shows a window");
+        Sleep(1);
+    }
+}
+
+/// Until the first window is shown; the program is ended afterwards.
+double startTime(const fs::path& program) {
+    std::unique_ptr<Process> process;
+    return timed({[&] {
+        process =
+            std::make_unique<Process>(program, std::vector<std::wstring>(), program.parent_path());
+        waitForWindow(*process);
+    }});
+}
+
+double privateBytes(DWORD processId) {
+    HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, processId);
+    PROCESS_MEMORY_COUNTERS memory{};
+    require(K32GetProcessMemoryInfo(process, &memory, sizeof memory), "memory counters");
+    CloseHandle(process);
+    return static_cast<double>(memory.PagefileUsage);
+}
+
+double floorMemory(const fs::path& lines) {
+    const Process process(floorProgram(), {lines.wstring()}, lines.parent_path());
+    waitForWindow(process);
+    return privateBytes(process.Id());
+}
+
+/// A list file whose first line is a document that exists, and its lines as the window shows them.
+void writeList(const Sandbox& sandbox, int count, const fs::path& linesFile) {
+    std::vector<std::wstring> paths = samplePaths(count);
+    paths.front() = endtoend::Wide(sandbox.AddDocument("piece.SLDPRT"));
+    std::wstring text;
+    std::wstring lines;
+    for (const std::wstring& path : paths) {
+        appendFreshLine(text, path);
+        lines += displayLine(0, standardLabels().LibAFaire, path, L"0") + L"\n";
+    }
+    sandbox.WriteList(endtoend::Utf8(text));
+    endtoend::WriteFileBytes(
+        linesFile, {reinterpret_cast<const char*>(lines.data()), lines.size() * sizeof(wchar_t)});
+}
+
+double programMemory(const Sandbox& sandbox) {
+    endtoend::AppDriver app(sandbox);
+    app.Start();
+    app.Click(IDC_FORM2_CMDOK);
+    app.WaitForText(IDC_FORM3_TXTETAT,
+                    endtoend::Utf8((sandbox.Documents() / "piece.SLDPRT").wstring()));
+    DWORD id = 0;
+    GetWindowThreadProcessId(app.Window("Tarnwick - suivi du travail -"), &id);
+    return privateBytes(id);
+}
+
+std::string kilobytes(double bytes) {
+    return std::to_string(static_cast<long>(bytes) / 1024) + " KB";
+}
+
+}  // namespace
+
+Row start(const Setting& setting) {
+    const Sandbox sandbox;
+    const endtoend::Settings settings;
+    endtoend::TrialCad trial(sandbox);
+    trial.Start({"--hidden"});
+    const Comparison compared = compareTimes(
+        setting.rounds, [] { return startTime(floorProgram()); },
+        [&] { return startTime(sandbox.Program()); });
+    return {.work = "start to the first window shown",
+            .floor = "bare dialog, list and 12 buttons",
+            .ratios = {{0, compared.ratio}},
+            .goal = "<= 1.30",
+            .judged = compared.ratio,
+            .limit = 1.30,
+            .note = "floor " + milliseconds(compared.floorMilliseconds)};
+}
+
+Row programSize(const Setting&) {
+    const auto floor = static_cast<double>(fs::file_size(floorProgram()));
+    const auto size = static_cast<double>(fs::file_size(Sandbox::BuiltPrograms() / "tarnwick.exe"));
+    return {.work = "size of tarnwick.exe",
+            .floor = "bare dialog, list and 12 buttons",
+            .ratios = {{0, size / floor}},
+            .goal = "<= 500 KB",
+            .judged = size,
+            .limit = 500 * 1024,
+            .note = kilobytes(size) + ", floor " + kilobytes(floor)};
+}
+
+Row memoryInUse(const Setting& setting) {
+    Row row{.work = "private memory with a pass loaded",
+            .floor = "bare dialog, the same list",
+            .ratios = {},
+            .goal = "<= 1.30",
+            .limit = 1.30};
+    const Sandbox sandbox;
+    const endtoend::Settings settings;
+    endtoend::TrialCad trial(sandbox);
+    trial.Start({"--hidden"});
+    const fs::path lines = sandbox.Directory() / "lines.txt";
+    const Rounds few{.least = 1, .most = 1, .enoughMilliseconds = 0};
+    for (const int size : setting.sizes) {
+        writeList(sandbox, size, lines);
+        const Comparison compared = compareTimes(
+            few, [&] { return floorMemory(lines); }, [&] { return programMemory(sandbox); });
+        row.ratios[size] = row.judged = compared.ratio;
+        row.note = "floor " + kilobytes(compared.floorMilliseconds) + ", " +
+                   kilobytes(compared.subjectMilliseconds);
+    }
+    return row;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "setting.h"
+
+/// One line of the table: a figure at several numbers of documents.
+struct Row {
+    std::string work;
+    std::string floor;             ///< what 1.00 is
+    std::map<int, double> ratios;  ///< by number of documents; 0: it doesn't depend on them
+    std::string goal;
+    double judged = 0;  ///< the figure that the goal is about
+    double limit = 0;
+    std::string note = {};
+};
+
+/// The table as Markdown, aligned so that it reads as plain text too.
+std::string tableOf(const std::vector<int>& sizes, const std::vector<Row>& rows);
+
+/// "12.3 ms"
+std::string milliseconds(double value);
+/// "1.07"
+std::string ratio(double value);

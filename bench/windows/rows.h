@@ -1,0 +1,28 @@
+#pragma once
+
+#include "report.h"
+
+// The figures, one function each.
+
+/// A tree searched and shown, against one pass of FindFirstFileEx over it.
+Row rebuildOfTree(const Setting& setting);
+/// The same of one directory, where bare names are told apart.
+Row rebuildOfDirectory(const Setting& setting);
+/// The work list's lines put into its list box, against LB_ADDSTRING with drawing off.
+Row listFill(const Setting& setting);
+/// From one document to the next but for the CAD calls, against one repaint of the list.
+Row nextDocument(const Setting& setting);
+/// A filter that matches nothing, against a search in texts folded before.
+Row filter(const Setting& setting);
+/// A document's eight CAD calls, against Invoke with member numbers known.
+Row cadCalls(const Setting& setting);
+/// From the process's creation to its first window, against a bare dialog.
+Row start(const Setting& setting);
+/// The list file saved, against one write, flush and replace.
+Row listFileSave(const Setting& setting);
+/// The list file loaded into the table, against reading its bytes.
+Row listFileLoad(const Setting& setting);
+/// The size of tarnwick.exe, against a bare dialog.
+Row programSize(const Setting& setting);
+/// Private memory with a pass loaded, against a bare dialog with the same list.
+Row memoryInUse(const Setting& setting);

@@ -1,0 +1,16 @@
+#include "selection_window.h"
+
+#include "selection/form1_ids.h"
+
+SelectionWindow::SelectionWindow(const std::filesystem::path& directory, bool withSubdirectories) {
+    stage_.module.RepTravailSw = directory.wstring();
+    form_ = std::make_unique<Form1>(stage_.module, stage_.platform, stage_.navigation);
+    form_->Form_Load();
+    Window& window = form_->window();
+    window.show();
+    window.comboBox(IDC_FORM1_TYPEF).setText(L"*.SLDPRT ; *.SLDASM ; *.SLDDRW");
+    window.checkBox(IDC_FORM1_SOUSREP).setChecked(withSubdirectories);
+    form_->sousrep_Click();
+}
+
+int SelectionWindow::lineCount() { return form_->window().listBox(IDC_FORM1_LIST1).count(); }

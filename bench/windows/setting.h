@@ -1,0 +1,16 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include "comparison.h"
+
+/// What a run of the bench is given.
+struct Setting {
+    std::filesystem::path directory;  ///< where sample trees are made, once, and results left
+    std::vector<int> sizes = {1000, 2000, 4000, 8001};  ///< numbers of documents, ascending
+    Rounds rounds;
+};
+
+/// Throws, naming what was expected: a measurement must have done the work it times.
+void require(bool holds, const char* what);

@@ -1,0 +1,23 @@
+#include "stage.h"
+
+#include "driver/winapi.h"
+#include "setting.h"
+
+Stage::Stage()
+    : windows_(gate_), platform{automation_, settings_, files_, messageBoxes_,
+                                desktop_,    windows_,  L""} {
+    module.labels = standardLabels();
+    module.SwApp = automation_.attach(L"");
+}
+
+HWND controlOf(int id) {
+    for (HWND window : endtoend::TopLevelWindows(GetCurrentProcessId())) {
+        if (HWND control = endtoend::Descendant(window, id)) return control;
+    }
+    require(false, "a control of the program");
+    return nullptr;
+}
+
+void drawNow(HWND window) {
+    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ERASENOW | RDW_ALLCHILDREN);
+}
