@@ -30,7 +30,7 @@ long SelectionList::chosenCount() const {
     return chosen;
 }
 
-bool SelectionList::chosen(int line) const { return list_.mark(line) != 0; }
+bool SelectionList::chosen(int line) const { return list_.mark(line) == 1; }
 
 void SelectionList::setChosen(int line, bool chosen) {
     const std::wstring& before = chosen ? labels_.LibAFaire : labels_.LibX;

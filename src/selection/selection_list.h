@@ -18,6 +18,7 @@ class SelectionList {
     void RemplirListe(int mode, const std::wstring& depth);
 
     long chosenCount() const;
+    /// Whether the pass takes a line.
     bool chosen(int line) const;
 
     void toggleHighlighted();
