@@ -104,5 +104,23 @@ TEST_F(Selection, LeavesWithOrWithoutSavingItsPlace) {
     EXPECT_EQ(app.WaitForExit(), 0);
 }
 
+TEST_F(Selection, AsksBeforeAWholeDriveIsSearched) {
+    cad.Start({"--working-directory", "c:\\"});
+    app.Start();
+    app.Window(kSelection);
+    app.Click(IDC_FORM1_SOUSREP);
+    const ModalBox box = app.Box();
+    EXPECT_EQ(box.Title(), "Tarnwick Mervale");
+    EXPECT_EQ(box.Text(),
+              "    La recherche de tous les fichiers à partir de la racine  \n\r"
+              "                risque d'être assez longue .\n\r \n\r"
+              "             Voulez vous quand même continuer ?\n\r");
+    EXPECT_EQ(box.Buttons(), (std::vector{IDYES, IDNO}));
+    EXPECT_EQ(box.DefaultButton(), IDYES);
+    EXPECT_FALSE(box.HasIcon());
+    box.Answer(IDNO);
+    WaitFor("the box to be unticked", [this] { return !app.Checked(IDC_FORM1_SOUSREP); });
+}
+
 }  // namespace
 }  // namespace endtoend

@@ -53,7 +53,13 @@ std::vector<int> ModalBox::Buttons() const {
     return ids;
 }
 
-int ModalBox::DefaultButton() const { return LOWORD(Send(window_, DM_GETDEFID)); }
+// Asks the buttons: Wine's boxes do not tell DM_GETDEFID which one the caller made the default.
+int ModalBox::DefaultButton() const {
+    for (HWND child : Descendants(window_))
+        if (IsButton(child) && (Send(child, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON) != 0)
+            return GetDlgCtrlID(child);
+    return LOWORD(Send(window_, DM_GETDEFID));
+}
 
 bool ModalBox::HasIcon() const { return AnyChild(window_, IsIcon); }
 

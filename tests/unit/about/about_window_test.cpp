@@ -55,6 +55,8 @@ TEST_F(AboutWindowTest, ClosesByEnterEscapeOrItsFrameAndOpensAgain) {
     for (const auto& [id, event] : ways) {
         ask();
         EXPECT_EQ(about().state, State::Shown) << id;
+        EXPECT_EQ(about().topTwips, 0) << id << ": a closed window is not opened again";
+        about().topTwips = 100;
         ask();
         EXPECT_EQ(about().state, State::Shown) << id;
         about().sink.raise(id, event);
