@@ -29,7 +29,7 @@ class SelectionList {
 
  private:
     void setChosen(int line, bool chosen);
-    void setMatching(std::wstring_view filter, bool chosen);
+    void setMatching(std::wstring_view filter, bool wanted);
 
     ListBox& list_;
     const FoundDocuments& found_;

@@ -18,6 +18,7 @@ bool isOf(const WorkLine& line, Eliminate states) {
 
 std::optional<int> firstWithCode(const WorkList& list, std::wstring_view code) {
     int i = 0;
+    // The row past the last is read, too: in a full table without a match that raises 9.
     while (list.EtatFich[i].code != code && i <= list.DerFich) ++i;
     if (i > list.DerFich) return std::nullopt;
     return i;
@@ -45,7 +46,7 @@ int resetSelected(WorkList& list, const LineSelected& selected) {
 void eliminateLines(WorkList& list, const LineSelected& chosen, Eliminate states) {
     int kept = 0;
     for (int i = 0; i <= list.DerFich; ++i) {
-        WorkLine& line = list.EtatFich[i];
+        const WorkLine& line = list.EtatFich[i];
         if (chosen(i) && isOf(line, states)) continue;
         if (kept != i) {
             list.EtatFich[kept].code = line.code;

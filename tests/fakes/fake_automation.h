@@ -17,7 +17,7 @@ using CallJournal = std::vector<std::wstring>;
 struct FakeObject : AutomationObject {
     using Answer = std::function<Value(std::span<const Argument>)>;
 
-    FakeObject(CallJournal& calls, std::wstring prefix = {})
+    explicit FakeObject(CallJournal& calls, std::wstring prefix = {})
         : journal(calls), namePrefix(std::move(prefix)) {}
 
     CallJournal& journal;

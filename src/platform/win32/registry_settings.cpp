@@ -24,7 +24,7 @@ std::wstring RegistrySettings::read(const std::wstring& application, const std::
         bytes = static_cast<DWORD>(value.size() * sizeof(wchar_t));
         status = RegGetValueW(HKEY_CURRENT_USER, path.c_str(), key.c_str(), RRF_RT_REG_SZ, nullptr,
                               value.data(), &bytes);
-        if (status == ERROR_SUCCESS) return value.c_str();
+        if (status == ERROR_SUCCESS) return value.substr(0, value.find(L'\0'));
     }
     return otherwise;
 }

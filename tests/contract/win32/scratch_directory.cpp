@@ -7,10 +7,12 @@
 
 namespace {
 
-std::wstring temporaryDirectory() {
-    wchar_t path[MAX_PATH + 1] = {};
-    GetTempPathW(MAX_PATH + 1, path);
-    return path;
+std::wstring uniquePath() {
+    static int number = 0;
+    wchar_t temporary[MAX_PATH + 1] = {};
+    GetTempPathW(MAX_PATH + 1, temporary);
+    return temporary + (L"tarnwick-contract-" + std::to_wstring(GetCurrentProcessId())) + L'-' +
+           std::to_wstring(++number);
 }
 
 void removeTree(const std::wstring& directory) {
@@ -29,10 +31,7 @@ void removeTree(const std::wstring& directory) {
 
 }  // namespace
 
-ScratchDirectory::ScratchDirectory() {
-    static int number = 0;
-    path_ = temporaryDirectory() + L"tarnwick-contract-" + std::to_wstring(GetCurrentProcessId()) +
-            L'-' + std::to_wstring(++number);
+ScratchDirectory::ScratchDirectory() : path_(uniquePath()) {
     CreateDirectoryW(path_.c_str(), nullptr);
 }
 

@@ -53,7 +53,7 @@ HWND Descendant(HWND window, int id) {
 }
 
 std::string ClassOf(HWND window) {
-    wchar_t name[256];
+    wchar_t name[256] = {};
     return Utf8({name, static_cast<size_t>(GetClassNameW(window, name, 256))});
 }
 

@@ -1,0 +1,6 @@
+#!/usr/bin/env bash
+# clang-tidy finds nothing in the core, as .clang-tidy says; it reads how the dev preset compiles each file.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+find src -name '*.cpp' -not -path '*/win32/*' -print0 |
+    xargs -0 -n2 -P"$(nproc)" clang-tidy -p build/dev --quiet 2> >(grep -v ' warnings\? generated\.$' >&2 || true)
