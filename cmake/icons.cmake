@@ -1,4 +1,4 @@
-# add_icon(TARGET NAME): draws assets/NAME.svg as NAME.ico, which the resources of TARGET may name.
+# add_icon(TARGET NAME): draws assets/NAME.svg as NAME.ico, which the resources of TARGET, and of what links it, may name.
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
 find_program(CONVERT convert REQUIRED)
 find_program(ICOTOOL icotool REQUIRED)
@@ -26,5 +26,5 @@ function(add_icon target name)
     DEPENDS ${drawing} VERBATIM COMMENT "Drawing ${name}.ico")
   add_custom_target(${name}-icon DEPENDS ${stem}.ico)
   add_dependencies(${target} ${name}-icon)
-  target_include_directories(${target} PRIVATE ${CMAKE_BINARY_DIR}/icons)
+  target_include_directories(${target} PUBLIC ${CMAKE_BINARY_DIR}/icons)
 endfunction()

@@ -10,8 +10,10 @@ void addTooltips(HWND window, std::span<const Tooltip> tooltips) {
                         WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
                         CW_USEDEFAULT, CW_USEDEFAULT, window, nullptr, nullptr, nullptr);
     // Long texts break over several lines.
-    constexpr LPARAM kWidestTip = 400;
-    SendMessageW(tips, TTM_SETMAXTIPWIDTH, 0, kWidestTip);
+    constexpr int kWidestTip = 400;
+    SendMessageW(
+        tips, TTM_SETMAXTIPWIDTH, 0,
+        MulDiv(kWidestTip, static_cast<int>(GetDpiForWindow(window)), USER_DEFAULT_SCREEN_DPI));
     for (const Tooltip& tooltip : tooltips) {
         std::wstring text = tooltip.text;
         TOOLINFOW tool{};

@@ -1,10 +1,20 @@
 #include "demo/steps.h"
+#include "driver/wait.h"
 #include "selection/form1_ids.h"
 
 namespace endtoend::demo {
 namespace {
 
 constexpr const char* kSelection = "Mervale 2002 - Tarnwick";
+constexpr const char* kAbout = "A Propos de Tarnwick";
+
+void PlayAbout(Stage& stage) {
+    stage.Tell("Showing the About window");
+    stage.Press(IDC_FORM1_CMDAP);
+    stage.Picture("about", stage.app.Window(kAbout));
+    stage.app.CloseByFrame(kAbout);
+    WaitFor("the About window to close", [&] { return stage.app.ShownWindows().size() == 1; });
+}
 
 }  // namespace
 
@@ -32,6 +42,7 @@ void PlaySelectionWindow(Stage& stage) {
     stage.Picture("selection", stage.app.Window(kSelection));
 
     PlaySearchFolders(stage);
+    PlayAbout(stage);
 
     stage.Tell("Launching the pass");
     stage.Press(IDC_FORM1_CMD_TRACER);
