@@ -42,20 +42,20 @@ void SelectionList::setChosen(int line, bool chosen) {
 void SelectionList::toggleHighlighted() {
     DrawingPause pause(list_);
     for (int i = 0; i < found_.count(); ++i) {
-        if (list_.selected(i)) setChosen(i, !chosen(i));
+        if (list_.selected(i)) setChosen(i, list_.mark(i) == 0);
     }
 }
 
 void SelectionList::toggleAll() {
     DrawingPause pause(list_);
-    for (int i = 0; i < found_.count(); ++i) setChosen(i, !chosen(i));
+    for (int i = 0; i < found_.count(); ++i) setChosen(i, list_.mark(i) == 0);
 }
 
 void SelectionList::setMatching(std::wstring_view filter, bool wanted) {
     const std::wstring folded = upperCase(filter);
     DrawingPause pause(list_);
     for (int i = 0; i < found_.count(); ++i) {
-        if (chosen(i) == wanted) continue;
+        if (list_.mark(i) != (wanted ? 0 : 1)) continue;
         if (upperCase(list_.line(i)).find(folded) != std::wstring::npos) setChosen(i, wanted);
     }
 }
