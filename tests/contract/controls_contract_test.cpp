@@ -88,6 +88,16 @@ TEST_F(ControlContract, CheckBoxIsCheckedOrNot) {
     EXPECT_FALSE(box.checked());
 }
 
+TEST_F(ControlContract, TabStripSelectsATab) {
+    TabStrip& tabs = window.tabStrip(IDC_CONTRACT_TABS);
+    for (const wchar_t* text : {L"Configurations", L"Répertoires", L"SolidWorks"})
+        tabs.addTab(text);
+    EXPECT_EQ(tabs.selectedTab(), 0);
+    tabs.selectTab(2);
+    EXPECT_EQ(tabs.selectedTab(), 2);
+    EXPECT_EQ(machine->eventsRaised(), 0);
+}
+
 TEST_F(ControlContract, CanBeHiddenAndDisabled) {
     for (const auto& [id, control] : anyControl(window)) {
         EXPECT_TRUE(machine->isVisible(id) && machine->isEnabled(id)) << id;

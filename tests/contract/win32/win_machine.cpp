@@ -1,5 +1,7 @@
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
 #include "contract/win32/scratch_directory.h"
@@ -38,6 +40,15 @@ class WinMachine : public Machine, private EventSink {
         return GetDlgItem(FindWindowW(L"#32770", L"Contract"), controlId);
     }
 
+    /// The class of tab strips is registered before a window has one.
+    struct TabClass {
+        TabClass() {
+            const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_TAB_CLASSES};
+            InitCommonControlsEx(&controls);
+        }
+    };
+
+    TabClass tabClass_;
     EventGate gate_;
     DialogFactory factory_{gate_};
     std::unique_ptr<Window> window_ =
