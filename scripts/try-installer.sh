@@ -36,10 +36,10 @@ unlocked wine reg query "$uninstall_key" /v DisplayVersion >/dev/null 2>&1 || fa
 echo "Installed in $place"
 
 journal="$wine_root/build/win/package/journal.txt"
-unlocked wine "$place/tarnwick-trialcad.exe" --hidden --journal "$(unlocked winepath -w "$journal")" &
+wine "$place/tarnwick-trialcad.exe" --hidden --journal "$(unlocked winepath -w "$journal")" {wine_lock_fd}>&- &
 cad=$!
 wait_for "the trial session" test -e "$journal"
-unlocked wine "$place/tarnwick.exe" &
+wine "$place/tarnwick.exe" {wine_lock_fd}>&- &
 program=$!
 wait_for "the program's calls" grep -q GetCurrentWorkingDirectory "$journal"
 unlocked wine "$setup" /S && fail "a running program was replaced"
