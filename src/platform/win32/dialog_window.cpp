@@ -73,7 +73,7 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
     layout_.emplace(window_, windowTemplate.anchors);
     chooseFonts();
     takeTemplateSize();
-    addTooltips(window_, windowTemplate.tooltips);
+    tips_ = addTooltips(window_, windowTemplate.tooltips);
     nameControls(window_, windowTemplate.names);
     setShortcuts(window_, windowTemplate.dialogId);
 }
@@ -150,6 +150,8 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (wParam) raise(kTheWindow, Event::Close);
             return TRUE;
         case WM_SETCURSOR:
+            // Sent before each mouse message of a control.
+            relayToTooltips(tips_, reinterpret_cast<HWND>(wParam), HIWORD(lParam));
             if (!Hourglass::shown()) return FALSE;
             SetCursor(LoadCursorW(nullptr, IDC_WAIT));
             SetWindowLongPtrW(window_, DWLP_MSGRESULT, TRUE);

@@ -56,6 +56,7 @@ class DialogWindow : public Window {
     Kind& find(int id);
 
     HWND window_ = nullptr;
+    HWND tips_ = nullptr;
     EventSink& events_;
     EventGate& gate_;
     /// By id and kind: any control may also be asked for as a plain one.
