@@ -32,7 +32,7 @@ void addRow(HWND list, int row, const DocumentObject& document, bool active) {
     item.iItem = row;
     item.pszText = title.data();
     SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    setCell(list, row, 1, active ? L"●" : L"");
+    setCell(list, row, 1, active ? L"oui" : L"");
     setCell(list, row, 2, kindName(facts.kind));
     setCell(list, row, 3, directoryOf(facts.path));
     setCell(list, row, 4, facts.silent ? L"silencieuse" : L"normale");
