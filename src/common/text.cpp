@@ -1,5 +1,7 @@
 #include "common/text.h"
 
+#include <algorithm>
+
 #include "platform/letter_case.h"
 
 std::wstring_view trimmed(std::wstring_view text) {
@@ -13,7 +15,10 @@ bool equalIgnoringCase(std::wstring_view a, std::wstring_view b) {
 }
 
 std::wstring_view takeLine(std::wstring_view& rest) {
-    const std::size_t end = rest.find_first_of(L"\r\n");
+    const auto isLineEnd = [](wchar_t c) { return c == L'\n' || c == L'\r'; };
+    const auto at = std::ranges::find_if(rest, isLineEnd);
+    const std::size_t end =
+        at == rest.end() ? std::wstring_view::npos : static_cast<std::size_t>(at - rest.begin());
     if (end == std::wstring_view::npos) {
         const std::wstring_view last = rest;
         rest = {};

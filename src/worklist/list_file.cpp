@@ -39,7 +39,11 @@ bool parseListFile(std::wstring_view text, WorkList& list) {
 }
 
 std::wstring formatListFile(WorkList& list, long lineCount) {
+    constexpr std::size_t kBesidePath = 8;
+    std::size_t length = 0;
+    for (long i = 0; i < lineCount; ++i) length += list.EtatFich[i].path.size() + kBesidePath;
     std::wstring text;
+    text.reserve(length);
     for (long i = 0; i < lineCount; ++i) {
         WorkLine& line = list.EtatFich[i];
         if (line.reload == L"1") line.code.insert(0, 1, L'1');

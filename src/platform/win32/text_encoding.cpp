@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <algorithm>
+
 #include "platform/runtime_error.h"
 
 namespace {
@@ -16,10 +18,12 @@ UINT systemCodePage() {
 }
 
 std::wstring decode(UINT codePage, DWORD flags, std::string_view bytes) {
+    // No encoding has more characters than bytes.
+    std::wstring text(bytes.size(), L'\0');
     const int length = static_cast<int>(bytes.size());
-    const int size = MultiByteToWideChar(codePage, flags, bytes.data(), length, nullptr, 0);
-    std::wstring text(static_cast<std::size_t>(size), L'\0');
-    MultiByteToWideChar(codePage, flags, bytes.data(), length, text.data(), size);
+    const int size =
+        MultiByteToWideChar(codePage, flags, bytes.data(), length, text.data(), length);
+    text.resize(static_cast<std::size_t>(size));
     return text;
 }
 
@@ -28,19 +32,21 @@ std::wstring decode(UINT codePage, DWORD flags, std::string_view bytes) {
 std::wstring decodeText(std::string_view bytes) {
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
-    if (bytes.empty()) return {};
+    // Plain letters, which most lists hold alone, stand for themselves.
+    const bool plain = std::ranges::all_of(bytes, [](char c) { return (c & 0x80) == 0; });
+    if (plain) return {bytes.begin(), bytes.end()};
     std::wstring text = decode(CP_UTF8, MB_ERR_INVALID_CHARS, bytes);
     return text.empty() ? decode(systemCodePage(), 0, bytes) : text;
 }
 
 std::string encodeText(std::wstring_view text) {
     if (text.empty()) return {};
-    const int length = static_cast<int>(text.size());
-    const int size = WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, text.data(), length,
-                                         nullptr, 0, nullptr, nullptr);
+    const auto beyondAscii = std::ranges::count_if(text, [](wchar_t c) { return c > 0x7F; });
+    std::string bytes(text.size() + 2 * static_cast<std::size_t>(beyondAscii), '\0');
+    const int size = WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, text.data(),
+                                         static_cast<int>(text.size()), bytes.data(),
+                                         static_cast<int>(bytes.size()), nullptr, nullptr);
     if (size == 0) throw errors::unwritableText();
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, text.data(), length, bytes.data(), size,
-                        nullptr, nullptr);
+    bytes.resize(static_cast<std::size_t>(size));
     return bytes;
 }
