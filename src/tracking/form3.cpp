@@ -142,9 +142,11 @@ void Form3::AfficherListe(std::int16_t mode) {
     window_->showProgress(done, total);
     if (mode == 0) {
         vue_.update(module_.liste, module_.labels, NNiveau1.text());
-        return;
+    } else {
+        nbfich1.setText(L"0");
+        cptfichier1.setText(L"0");
+        vue_.rebuild(module_.liste, module_.labels, NNiveau1.text(), mode == 1);
     }
-    nbfich1.setText(L"0");
-    cptfichier1.setText(L"0");
-    vue_.rebuild(module_.liste, module_.labels, NNiveau1.text(), mode == 1);
+    // Shown now: what follows may be a long opening.
+    List1.repaint();
 }

@@ -1,0 +1,72 @@
+// Every call that a replacement makes fails in turn: the old file stays, nothing beside it.
+
+#include "platform/win32/file_replacement.h"
+
+#include <gtest/gtest.h>
+
+#include "contract/machine.h"
+#include "unit/raised.h"
+
+namespace {
+
+/// Lets its Nth call fail with a given Windows error.
+class FailingCalls : public FileCalls {
+ public:
+    FailingCalls(int failing, DWORD error) : failing_(failing), error_(error) {}
+
+    HANDLE create(const std::wstring& path) override {
+        return fails() ? INVALID_HANDLE_VALUE : FileCalls::create(path);
+    }
+    bool write(HANDLE file, const char* bytes, DWORD count, DWORD& written) override {
+        return !fails() && FileCalls::write(file, bytes, count, written);
+    }
+    bool flush(HANDLE file) override { return !fails() && FileCalls::flush(file); }
+    bool move(const std::wstring& from, const std::wstring& to) override {
+        return !fails() && FileCalls::move(from, to);
+    }
+
+    int calls() const { return calls_; }
+
+ private:
+    bool fails() {
+        if (++calls_ != failing_) return false;
+        SetLastError(error_);
+        return true;
+    }
+
+    int failing_;
+    DWORD error_;
+    int calls_ = 0;
+};
+
+class FileReplacement : public testing::Test {
+ protected:
+    std::unique_ptr<Machine> machine = makeMachine();
+    Files& files = machine->files();
+    std::wstring file = machine->directory() + L"\\tarnwick.lst";
+};
+
+}  // namespace
+
+TEST_F(FileReplacement, LeavesTheOldFileWhicheverCallFails) {
+    files.replaceText(file, L"ancien");
+    int failing = 1;
+    for (;; ++failing) {
+        FailingCalls calls(failing, ERROR_DISK_FULL);
+        const int error = raised([&] { replaceFile(file, "nouveau", calls); });
+        if (calls.calls() < failing) break;
+        EXPECT_EQ(error, 75) << "call " << failing;
+        EXPECT_EQ(files.readText(file), L"ancien") << "call " << failing;
+        EXPECT_EQ(namesIn(files, machine->directory()).size(), 1u) << "call " << failing;
+    }
+    EXPECT_EQ(failing, 5) << "create, write, flush and move";
+    EXPECT_EQ(files.readText(file), L"nouveau");
+}
+
+TEST_F(FileReplacement, TriesAgainWhileAnotherProgramHoldsTheFile) {
+    files.replaceText(file, L"ancien");
+    constexpr int kTheMove = 4;
+    FailingCalls calls(kTheMove, ERROR_SHARING_VIOLATION);
+    replaceFile(file, "nouveau", calls);
+    EXPECT_EQ(files.readText(file), L"nouveau");
+}
