@@ -32,11 +32,6 @@ TEST(ConfFile, StoresEveryLineByTheRules) {
         const wchar_t* expected[4];  // its first entries
     };
     const Case cases[] = {
-        {L"", 0, 1, {L"", L"", L"", L""}},
-        {L"Configuration:  Projet A\r\n   c:\\a\r\n   c:\\b",
-         1,
-         1,
-         {L"Projet A", L"c:\\a", L"c:\\b", L""}},
         {L"  c:\\avant\r\nConfiguration: A\r\n", 1, 0, {L"", L"c:\\avant", L"", L""}},
         {L"configuration: b\nc:\\c\n", 1, 1, {L"b", L"c:\\c", L"", L""}},
         {L"ABC CONFIGURATION: d\r\n", 1, 1, {L"ION: d", L"", L"", L""}},

@@ -66,14 +66,6 @@ TEST_F(Search, WalksATreeDepthFirstReadingEachDirectoryOnce) {
     for (const auto& [directory, times] : files.visits) EXPECT_EQ(times, 1) << directory;
 }
 
-TEST_F(Search, DoublesTheSeparatorAfterADriveRootAndNoneElse) {
-    addAll({L"c:\\a.SLDPRT", L"c:\\sous\\b.SLDPRT", L"\\\\serveur\\part\\c.SLDPRT"});
-    EXPECT_EQ(run(L"c:\\", true), (Paths{L"c:\\\\a.SLDPRT", L"c:\\sous\\b.SLDPRT"}));
-    EXPECT_EQ(run(L"c:\\", false), Paths{L"a.SLDPRT"});
-    files.directories.insert(L"\\\\serveur\\part");
-    EXPECT_EQ(run(L"\\\\serveur\\part", true), Paths{L"\\\\serveur\\part\\c.SLDPRT"});
-}
-
 TEST_F(Search, FollowsLinksButNotBackIntoDirectoriesThatAreOpen) {
     addAll({L"c:\\plans\\a.SLDPRT", L"c:\\plans\\sous\\b.SLDPRT", L"d:\\autres\\c.SLDPRT",
             L"d:\\autres\\bas\\d.SLDPRT"});

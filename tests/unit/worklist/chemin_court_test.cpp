@@ -52,9 +52,3 @@ TEST(CheminCourt, TakesSixteenBackslashesAndNoMore) {
     EXPECT_EQ(raised([] { CheminCourt(L"1", pathWithBackslashes(17)); }), 9);
     EXPECT_EQ(raised([] { CheminCourt(L"0", pathWithBackslashes(17)); }), 9);
 }
-
-TEST(RemonteeNiveaux, IsEmptyForNoLevel) {
-    EXPECT_EQ(RemonteeNiveaux(0), L"");
-    EXPECT_EQ(RemonteeNiveaux(1), L"\\..\\");
-    EXPECT_EQ(RemonteeNiveaux(2), L"\\..\\..\\");
-}
