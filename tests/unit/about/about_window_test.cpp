@@ -22,17 +22,6 @@ class AboutWindowTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(AboutWindowTest, GreetsUntilTheFirstWindowShows) {
-    // The same window is shown twice; it stands while the session is asked.
-    machine.automation.overrides[L"RevisionNumber"] = [&](auto) -> Value {
-        EXPECT_EQ(about().state, State::Shown);
-        return std::wstring(L"12.0");
-    };
-    program.Main();
-    EXPECT_EQ(about().state, State::Unloaded);
-    EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
-}
-
 TEST_F(AboutWindowTest, ClosesByEnterEscapeOrItsFrameAndOpensAgain) {
     program.Main();
     const std::pair<int, Event> ways[] = {

@@ -4,7 +4,6 @@
 
 #include "fakes/fake_controls.h"
 #include "fakes/fake_files.h"
-#include "unit/raised.h"
 
 namespace {
 
@@ -58,15 +57,4 @@ TEST_F(DirectoryPickerTest, OpensAncestorsAndSubdirectories) {
     list.clearSelection();
     EXPECT_FALSE(picker.openSelected());
     EXPECT_EQ(picker.path(), L"c:\\plans");
-}
-
-TEST_F(DirectoryPickerTest, StaysWhereItIsWhenADirectoryCannotBeRead) {
-    picker.setPath(L"c:\\plans");
-    const Lines before = list.texts();
-    files.unreadable.insert(L"c:\\plans\\Zone");
-    EXPECT_EQ(raised([&] { open(3); }), 70);
-    EXPECT_EQ(raised([&] { picker.setPath(L"c:\\absent"); }), 76);
-    EXPECT_EQ(picker.path(), L"c:\\plans");
-    EXPECT_EQ(list.texts(), before);
-    EXPECT_EQ(picker.subdirectoryCount(), 2);
 }

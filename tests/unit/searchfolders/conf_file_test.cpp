@@ -2,27 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/runtime_error.h"
-
 namespace {
 
 constexpr auto kMarker = L"Configuration:";
-
-std::wstring lines(int count, const std::wstring& line) {
-    std::wstring text;
-    for (int i = 0; i < count; ++i) text += line + L"\r\n";
-    return text;
-}
-
-int errorOf(const std::wstring& text) {
-    Configurations configs;
-    try {
-        parseConfFile(text, kMarker, configs);
-    } catch (const RuntimeError& error) {
-        return error.number;
-    }
-    return 0;
-}
 
 TEST(ConfFile, StoresEveryLineByTheRules) {
     struct Case {
@@ -46,14 +28,6 @@ TEST(ConfFile, StoresEveryLineByTheRules) {
             EXPECT_EQ(configs.ConfRep[one.row][j], one.expected[j]) << one.text << j;
         }
     }
-}
-
-TEST(ConfFile, HoldsFiftyConfigurationsOfTwoHundredDirectories) {
-    EXPECT_EQ(errorOf(lines(50, L"Configuration:  A")), 0);
-    EXPECT_EQ(errorOf(lines(51, L"Configuration:  A")), 9);
-    EXPECT_EQ(errorOf(L"Configuration:  A\r\n" + lines(200, L"c:\\a")), 0);
-    EXPECT_EQ(errorOf(L"Configuration:  A\r\n" + lines(201, L"c:\\a")), 9);
-    EXPECT_EQ(errorOf(lines(201, L"c:\\a")), 9);
 }
 
 TEST(ConfFile, IsWrittenBackWithItsHolesClosed) {

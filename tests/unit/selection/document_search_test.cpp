@@ -4,7 +4,6 @@
 
 #include "fakes/fake_files.h"
 #include "selection/found_documents.h"
-#include "unit/raised.h"
 
 namespace {
 
@@ -81,15 +80,4 @@ TEST_F(Search, FollowsLinksButNotBackIntoDirectoriesThatAreOpen) {
               (Paths{L"c:\\plans\\a.SLDPRT", L"c:\\plans\\ailleurs\\c.SLDPRT",
                      L"c:\\plans\\ailleurs\\bas\\d.SLDPRT", L"c:\\plans\\sous\\b.SLDPRT",
                      L"c:\\plans\\zbas\\b.SLDPRT"}));
-}
-
-TEST_F(Search, FailsOnADirectoryThatCannotBeRead) {
-    addAll({L"c:\\plans\\a.SLDPRT", L"c:\\plans\\sous\\b.SLDPRT"});
-    EXPECT_EQ(raised([&] { run(L"c:\\absent", false); }), 76);
-    files.unreadable.insert(L"c:\\plans\\sous");
-    EXPECT_EQ(raised([&] { run(L"c:\\plans", false); }), 0);
-    EXPECT_EQ(raised([&] { run(L"c:\\plans", true); }), 70);
-    files.unreadable.clear();
-    files.links[L"c:\\plans\\perdu"] = L"e:\\disparu";
-    EXPECT_EQ(raised([&] { run(L"c:\\plans", true); }), 76);
 }

@@ -46,6 +46,7 @@ TEST_F(Display, RedrawnInPlaceLosesTheUsersSelection) {
     list().select(3, true);
     click(IDC_FORM3_CMDPLUS1);
     EXPECT_TRUE(list().selection().empty());
+    EXPECT_EQ(list().drawingStops, 0);
 }
 
 TEST_F(Display, DepthHidesLevelsOfAllLines) {

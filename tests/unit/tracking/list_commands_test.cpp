@@ -145,7 +145,11 @@ TEST_F(ListCommands, ChangeOrRemoveLinesAndKeepTheCurrentOneOpen) {
     }
 }
 
-TEST_F(ListCommands, BackToDoRevivesAPassThatIsOver) {
+TEST_F(ListCommands, BackToDoStartsAgainAtTheTopEvenAPassThatIsOver) {
+    loadStates(L"10200");
+    command(IDC_FORM3_CMDCHARAZ, {0, 2});
+    EXPECT_EQ(states(), L"3 0 0 0 0");
+    expectCurrent(0);
     loadStates(L"12");
     EXPECT_FALSE(canAdvance());
     command(IDC_FORM3_CMDCHARAZ, {1});

@@ -13,25 +13,6 @@ TEST_F(Load, PutsTheWindowInItsPlaceAndHidesWhatIsNotForTheUser) {
     EXPECT_TRUE(module.FenetreSuiviPrete);
 }
 
-TEST_F(Load, TicksTheOptionsThatWereSaved) {
-    const struct {
-        const wchar_t* saved;
-        bool minimise, silent, recons, recons2;
-    } cases[] = {
-        {L"0101", false, true, false, true}, {L"1010", true, false, true, false},
-        {L"", false, false, false, false},   {L"11", true, true, false, false},
-        {L"21x1", false, true, false, true}, {L"00011", false, false, false, true},
-    };
-    for (const auto& c : cases) {
-        machine.settings.write(L"tarnwick", L"startup", L"RegCheck", c.saved);
-        load(L"0  c:\\a\r\n0  c:\\b\r\n");
-        EXPECT_EQ(window().checkBox(IDC_FORM3_CKMINIMISE).ticked, c.minimise) << c.saved;
-        EXPECT_EQ(window().checkBox(IDC_FORM3_CKSILENT).ticked, c.silent) << c.saved;
-        EXPECT_EQ(window().checkBox(IDC_FORM3_CKRECONS).ticked, c.recons) << c.saved;
-        EXPECT_EQ(window().checkBox(IDC_FORM3_CKRECONS2).ticked, c.recons2) << c.saved;
-    }
-}
-
 TEST_F(Load, StartsAtTheFirstLineToDoOrInProgress) {
     const struct {
         const wchar_t* codes;
@@ -57,5 +38,19 @@ TEST_F(Load, StartsAtTheFirstLineToDoOrInProgress) {
         EXPECT_EQ(!module.NomDocCourant.empty(), c.opened) << c.codes;
         EXPECT_EQ(canAdvance(), c.opened) << c.codes;
         EXPECT_TRUE(canStepBack()) << c.codes;
+    }
+}
+
+TEST_F(Load, TicksTheOptionsThatWereSaved) {
+    const std::pair<const wchar_t*, std::wstring> cases[] = {
+        {L"0101", L"0101"}, {L"", L"0000"}, {L"11", L"1100"}, {L"21x1", L"0101"}};
+    for (const auto& [saved, expected] : cases) {
+        machine.settings.write(L"tarnwick", L"startup", L"RegCheck", saved);
+        loadStates(L"00");
+        std::wstring ticked;
+        for (const int box :
+             {IDC_FORM3_CKMINIMISE, IDC_FORM3_CKSILENT, IDC_FORM3_CKRECONS, IDC_FORM3_CKRECONS2})
+            ticked += window().checkBox(box).ticked ? L'1' : L'0';
+        EXPECT_EQ(ticked, expected) << saved;
     }
 }

@@ -31,20 +31,6 @@ TEST_F(StepBack, OpensTheNearestLineToDoAbove) {
     }
 }
 
-TEST_F(StepBack, FromTheEndSearchesFromTheLastLineItself) {
-    loadStates(L"000");
-    click(IDC_FORM3_CMDSUIV);
-    click(IDC_FORM3_CMDSUIVQUITTER);
-    click(IDC_FORM3_CMDSUIVSAUTER);
-    ASSERT_FALSE(canAdvance());
-    takeCalls();
-    click(IDC_FORM3_CMDPRECEDENT);
-    EXPECT_EQ(takeCalls()[0], L"closedoc(\"\")");
-    EXPECT_EQ(states(), L"1 2 3");
-    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\c");
-    EXPECT_TRUE(canAdvance());
-}
-
 TEST_F(StepBack, PassesOverTheLastLineThatTheLoadMarkedButDidNotOpen) {
     loadStates(L"10");
     click(IDC_FORM3_CMDPRECEDENT);

@@ -46,24 +46,6 @@ TEST(LineCommands, ChangingSparesTheLineInProgress) {
     EXPECT_EQ(list.EtatFich[8].code, L"0");
 }
 
-TEST(LineCommands, ResettingStartsAtTheFirstLineToDo) {
-    const struct {
-        const wchar_t* before;
-        std::vector<int> selected;
-        const wchar_t* afterwards;
-        int current;
-    } cases[] = {
-        {L"1 3 2 0", {0}, L"3 0 2 0", 0},
-        {L"1 2 1 12", {3, 2}, L"1 2 3 0", 2},
-        {L"0 1 3 1", {3}, L"3 1 0 0", 0},
-    };
-    for (const auto& c : cases) {
-        WorkList list = listOf(c.before);
-        EXPECT_EQ(resetSelected(list, only(c.selected)), c.current) << c.before;
-        EXPECT_EQ(codesOf(list), c.afterwards) << c.before;
-    }
-}
-
 TEST(LineCommands, EliminatingRemovesChosenLinesOfItsStates) {
     const struct {
         LineSelected chosen;

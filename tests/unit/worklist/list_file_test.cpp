@@ -50,18 +50,6 @@ TEST(ListFile, EachLineIsACodeAndAPath) {
     }
 }
 
-TEST(ListFile, LinesEndWithOrWithoutALineEnd) {
-    for (const wchar_t* text :
-         {L"0  a\r\n1  b\r\n", L"0  a\r\n1  b", L"0  a\n1  b\n", L"0  a\r1  b"}) {
-        WorkList list;
-        ASSERT_TRUE(parseListFile(text, list)) << text;
-        EXPECT_EQ(list.DerFich, 1) << text;
-        EXPECT_EQ(list.EtatFich[0].path, L"a") << text;
-        EXPECT_EQ(list.EtatFich[1].code, L"1") << text;
-        EXPECT_EQ(list.EtatFich[1].path, L"b") << text;
-    }
-}
-
 TEST(ListFile, AnEmptyTextLeavesTheListAlone) {
     WorkList list;
     list.DerFich = 5;
@@ -97,12 +85,4 @@ TEST(ListFile, AFlaggedCodeGrowsAtEachSave) {
     EXPECT_EQ(list.EtatFich[1].code, L"0");
     EXPECT_EQ(formatListFile(list, 2), L"110  c:\\a\r\n0  c:\\b\r\n");
     EXPECT_EQ(list.EtatFich[0].code, L"110");
-}
-
-TEST(ListFile, OnlyTheFirstLinesAreWritten) {
-    WorkList list;
-    ASSERT_TRUE(parseListFile(L"0  a\r\n12  b\r\n", list));
-    EXPECT_EQ(formatListFile(list, 1), L"0  a\r\n");
-    EXPECT_EQ(list.EtatFich[1].code, L"2");
-    EXPECT_EQ(formatListFile(list, 0), L"");
 }
