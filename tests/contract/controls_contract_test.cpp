@@ -35,21 +35,6 @@ TEST_F(ControlContract, TextIsReadBackAsItWasSet) {
     }
 }
 
-TEST_F(ControlContract, MayBeAskedForAsAPlainControlFirst) {
-    window.control(IDC_CONTRACT_SEVERAL).repaint();
-    ListBox& list = window.listBox(IDC_CONTRACT_SEVERAL);
-    list.setLines(2, [](int) { return L"x"; });
-    EXPECT_EQ(list.count(), 2);
-}
-
-TEST_F(ControlContract, TypedComboBoxKeepsAnyText) {
-    ComboBox& box = window.comboBox(IDC_CONTRACT_TYPED);
-    const std::wstring lines[] = {L"*.SLDPRT", L"*.SLDASM"};
-    box.setLines(lines);
-    box.setText(L"*.é && ; *.SLDPRT");
-    EXPECT_EQ(box.text(), L"*.é && ; *.SLDPRT");
-}
-
 TEST_F(ControlContract, ComboBoxShowsTheLineThatIsSelected) {
     const std::wstring lines[] = {L"c:", L"d:", L"c:"};
     for (const int id : {IDC_CONTRACT_TYPED, IDC_CONTRACT_CHOSEN}) {
@@ -65,27 +50,6 @@ TEST_F(ControlContract, ComboBoxShowsTheLineThatIsSelected) {
         EXPECT_EQ(box.selectedLine(), -1) << id;
         EXPECT_EQ(box.text(), L"") << id;
     }
-}
-
-TEST_F(ControlContract, ComboBoxLosesItsTextWithItsLines) {
-    ComboBox& box = window.comboBox(IDC_CONTRACT_TYPED);
-    const std::wstring lines[] = {L"a", L"b"};
-    box.setLines(lines);
-    box.selectLine(0);
-    box.setLines(lines);
-    EXPECT_EQ(box.selectedLine(), -1);
-    EXPECT_EQ(box.text(), L"");
-}
-
-TEST_F(ControlContract, CheckBoxIsCheckedOrNot) {
-    CheckBox& box = window.checkBox(IDC_CONTRACT_CHECK);
-    EXPECT_FALSE(box.checked());
-    box.setChecked(true);
-    EXPECT_TRUE(box.checked());
-    box.setChecked(true);
-    EXPECT_TRUE(box.checked());
-    box.setChecked(false);
-    EXPECT_FALSE(box.checked());
 }
 
 TEST_F(ControlContract, TabStripSelectsATab) {

@@ -59,9 +59,3 @@ TEST_F(FilesContract, DirectoryIsTheSameByEveryPathToIt) {
     EXPECT_FALSE(files.identify(path(L"a")) == files.identify(path(L"b")));
     EXPECT_FALSE(files.identify(path(L"a")) == files.identify(directory));
 }
-
-TEST_F(FilesContract, ThereIsADriveWithACurrentDirectory) {
-    EXPECT_FALSE(files.drives().empty());
-    EXPECT_TRUE(files.currentDirectory(L'c').starts_with(L"c:\\") ||
-                files.currentDirectory(L'c').starts_with(L"C:\\"));
-}

@@ -45,15 +45,6 @@ TEST_F(ListBoxContract, HoldsTheLinesThatItWasGivenLast) {
     }
 }
 
-TEST_F(ListBoxContract, HoldsAFullTable) {
-    fill(several, 8001);
-    EXPECT_EQ(several.count(), 8001);
-    EXPECT_EQ(several.line(8000), L"ligne 8000");
-    several.replaceLine(8000, L"z");
-    EXPECT_EQ(several.count(), 8001);
-    EXPECT_EQ(several.line(8000), L"z");
-}
-
 TEST_F(ListBoxContract, SelectsSeveralLines) {
     fill(several, 6);
     several.select(1, true);
@@ -63,15 +54,6 @@ TEST_F(ListBoxContract, SelectsSeveralLines) {
     EXPECT_EQ(selection(several), (std::vector{1, 4}));
     several.clearSelection();
     EXPECT_EQ(selection(several), std::vector<int>());
-}
-
-TEST_F(ListBoxContract, OrOneAtATime) {
-    fill(one, 6);
-    one.select(1, true);
-    one.select(4, true);
-    EXPECT_EQ(selection(one), std::vector{4});
-    one.clearSelection();
-    EXPECT_EQ(selection(one), std::vector<int>());
 }
 
 TEST_F(ListBoxContract, DoesNotMindALineThatIsNotThere) {
@@ -85,16 +67,6 @@ TEST_F(ListBoxContract, DoesNotMindALineThatIsNotThere) {
         EXPECT_EQ(list->count(), 3);
         EXPECT_EQ(selection(*list), std::vector<int>());
     }
-}
-
-TEST_F(ListBoxContract, KeepsAMarkBesideEachLine) {
-    fill(several, 4);
-    several.setMark(1, 1);
-    several.setMark(3, -2);
-    several.select(1, true);
-    EXPECT_EQ(several.mark(0), 0);
-    EXPECT_EQ(several.mark(1), 1);
-    EXPECT_EQ(several.mark(3), -2);
 }
 
 TEST_F(ListBoxContract, ReplacedLineIsNewInItsPlace) {
@@ -125,20 +97,6 @@ TEST_F(ListBoxContract, ChangedTextLeavesTheRest) {
         EXPECT_EQ(selection(*list), std::vector{2});
         EXPECT_EQ(list->mark(2), 5);
     }
-}
-
-TEST_F(ListBoxContract, PausedDrawingHidesNoChange) {
-    fill(several, 4);
-    {
-        const DrawingPause pause(several);
-        several.select(1, true);
-        several.replaceLine(3, L"nouvelle");
-        fill(one, 2);
-    }
-    EXPECT_EQ(selection(several), std::vector{1});
-    EXPECT_EQ(several.line(3), L"nouvelle");
-    EXPECT_EQ(one.count(), 2);
-    EXPECT_TRUE(machine->isVisible(IDC_CONTRACT_SEVERAL));
 }
 
 TEST_F(ListBoxContract, PausedDrawingLeavesAHiddenListHidden) {

@@ -82,14 +82,6 @@ TEST_F(Desktop, APlaceBesideTheScreenIsBroughtWithinReach) {
     EXPECT_LE(place.left, GetSystemMetrics(SM_CXSCREEN) - 100);
 }
 
-TEST_F(Desktop, APlaceOnTheScreenIsObeyed) {
-    settings.Set("tarnwick", "startup", "toppos3", "12000");
-    settings.Set("tarnwick", "startup", "leftpos3", "18000");
-    const RECT place = PlaceOf(StartTracking());
-    EXPECT_NEAR(place.top, 800, 1);
-    EXPECT_NEAR(place.left, 1200, 1);
-}
-
 TEST_F(Desktop, ShortcutsPressButtons) {
     HWND window = StartTracking();
     PressWithControl(window, VK_ADD);

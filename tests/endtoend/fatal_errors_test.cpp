@@ -33,13 +33,6 @@ TEST_F(FatalErrors, CallThatTheCadSessionFails) {
     EXPECT_EQ(sandbox.ReadList(), list);
 }
 
-TEST_F(FatalErrors, LineThatIsTooShort) {
-    sandbox.WriteList(list + "0\r\n");
-    cad.Start();
-    StartAndResume();
-    ExpectFatalError(5);
-}
-
 TEST_F(FatalErrors, ListFileThatCannotBeWritten) {
     cad.Start();
     StartAndResume();

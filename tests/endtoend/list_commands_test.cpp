@@ -101,24 +101,5 @@ TEST_F(ListCommands, ChangeEliminateResumeAndPurge) {
     ExpectList(ListLine("3", paths[0]) + ListLine("0", paths[3]) + ListLine("0", paths[5]));
 }
 
-TEST_F(ListCommands, AskForASelectionAndTakeNoForAnAnswer) {
-    app.Click(IDC_FORM3_CMDDESELECT);
-    WaitFor("no line selected", [this] { return app.Selected(IDC_FORM3_LIST1).empty(); });
-    app.Click(IDC_FORM3_CMDELIV);
-    const ModalBox missing = app.Box();
-    EXPECT_EQ(missing.Title(), "Manque sélection ");
-    EXPECT_EQ(missing.Text(),
-              "Pour cette fonction , il faut avoir sélectionné au moins une ligne ");
-    EXPECT_EQ(missing.Buttons(), std::vector{IDOK});
-    missing.Answer(IDOK);
-
-    app.Select(IDC_FORM3_LIST1, {0, 3});
-    app.Click(IDC_FORM3_CMDCHARAZ);
-    app.Box().Answer(IDNO);
-    EXPECT_EQ(app.Selected(IDC_FORM3_LIST1), (std::vector{0, 3}));
-    EXPECT_EQ(app.TextOf(IDC_FORM3_TXTETAT), paths[0]);
-    ExpectCalls({});
-}
-
 }  // namespace
 }  // namespace endtoend

@@ -88,22 +88,6 @@ TEST_F(Selection, EndsSilentlyWhenLaunchedWithoutDocuments) {
     EXPECT_EQ(sandbox.ReadList(), "");
 }
 
-TEST_F(Selection, LeavesWithOrWithoutSavingItsPlace) {
-    StartInDocuments();
-    app.Click(IDC_FORM1_CMD_ANNULER);
-    EXPECT_EQ(app.WaitForExit(), 0);
-    EXPECT_EQ(settings.Describe(), "");
-    app.Start();
-    app.Window(kSelection);
-    app.Click(IDC_FORM1_CMD_SORTIE);
-    EXPECT_EQ(app.WaitForExit(), 0);
-    const std::string left = settings.Get("tarnwick", "startup", "leftpos").value_or("0");
-    EXPECT_NEAR(std::stoi(left), 2964, 15) << "the place of a fresh user, to a pixel";
-    app.Start();
-    app.CloseByFrame(kSelection);
-    EXPECT_EQ(app.WaitForExit(), 0);
-}
-
 TEST_F(Selection, AsksBeforeAWholeDriveIsSearched) {
     cad.Start({"--working-directory", "c:\\"});
     app.Start();

@@ -32,12 +32,5 @@ TEST_F(StartUp, RefusesAPositionThatIsNoNumber) {
     EXPECT_EQ(cad.Calls(), calls::Calls{});
 }
 
-TEST_F(StartUp, RefusesAPositionThatIsTooLarge) {
-    settings.Set("mervale", "listerepert", "leftpos4", "32768");
-    cad.Start();
-    app.Start();
-    ExpectFatalError(6);
-}
-
 }  // namespace
 }  // namespace endtoend

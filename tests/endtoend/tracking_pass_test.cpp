@@ -121,25 +121,6 @@ TEST_F(TrackingPass, GoesThroughEightDocumentsWithEveryCommand) {
     EXPECT_EQ(settings.Get("tarnwick", "startup", "RegCheck"), "1111");
 }
 
-TEST_F(TrackingPass, StepsBackToNothingAndStartsAgain) {
-    sandbox.WriteList(ListOf({"0", "0"}));
-    cad.Start();
-    StartAndResume();
-    ExpectCalls(Together({calls::AtStartUp(), Open(paths[0])}));
-
-    app.Click(IDC_FORM3_CMDPRECEDENT);
-    app.WaitForText(IDC_FORM3_TXTETAT, "aucun");
-    ExpectCalls({Close(paths[0])});
-    ExpectLines({kToDo, kToDo});
-    ExpectEnabled(kBack, false);
-    EXPECT_EQ(app.TextOf(IDC_FORM3_NUMFICHCOUR), "-1");
-
-    app.Click(IDC_FORM3_CMDSUIVSAUTER);
-    ExpectCalls(Together({{Close(paths[0])}, Open(paths[0])}));
-    ExpectCurrent(0);
-    ExpectEnabled(kBack, true);
-}
-
 TEST_F(TrackingPass, ResumesWhereItStoppedWithWindowAndOptionsAsLeft) {
     sandbox.WriteList(ListOf({"1", "0", "0"}));
     cad.Start();

@@ -18,19 +18,10 @@ class TrackingWindow : public Scenario {
 TEST_F(TrackingWindow, ShowsItsTexts) {
     const std::pair<int, const char*> texts[] = {
         {IDC_FORM3_LABEL2, "Enchainement Sequentiel de Chargement de Fichiers  - SolidWorks -"},
-        {IDC_FORM3_LABEL3, "Fichier en cours :"},
-        {IDC_FORM3_LABEL4, "Fichiers"},
         {IDC_FORM3_FRAME1, "Liste courante de fichiers à traiter "},
-        {IDC_FORM3_FRAME2, "Options"},
         {IDC_FORM3_CKSILENT, "Chargement des fichiers sans Message"},
-        {IDC_FORM3_CKRECONS, "Chargement avec reconstruction 1er Niveau"},
         {IDC_FORM3_CKRECONS2, "Chargement avec recontruction tous niveaux"},
         {IDC_FORM3_CMDSUIV, "1-Sauver+Suiv >>"},
-        {IDC_FORM3_CMDSUIVQUITTER, "2-Marquer+Suiv. >>"},
-        {IDC_FORM3_CMDSUIVSAUTER, "3-Sauter+Suiv. >>"},
-        {IDC_FORM3_CMDPRECEDENT, "Précédent"},
-        {IDC_FORM3_CMDFICHIERLISTE, "Sauver Fichier LISTE"},
-        {IDC_FORM3_CMDSORTIE, "Sortie"},
     };
     for (const auto& [id, text] : texts) EXPECT_EQ(app.TextOf(id), text);
     for (int hidden : {IDC_FORM3_CKMINIMISE, IDC_FORM3_CMDMEMO, IDC_FORM3_NUMFICHCOUR})
@@ -48,21 +39,6 @@ TEST_F(TrackingWindow, KeepsItsToolTips) {
               "Sauvegarde de la liste actuelle dans un fichier. Ce fichier pourra être récupéré "
               "lors d'un nouveau démarrage de Tarnwick. ");
     EXPECT_EQ(ToolTipOf(app.Control(IDC_FORM3_CMD4)), "");
-}
-
-TEST_F(TrackingWindow, ShortensPathsByLevel) {
-    const std::string path = sandbox.AddDocument("Châssis\\Plaque.SLDPRT");
-    const std::string below = path.substr(path.find('\\', 3));
-    const std::string label = " EnCours  ";
-    EXPECT_EQ(app.Lines(IDC_FORM3_LIST1), std::vector{"0001  " + label + path});
-    app.Click(IDC_FORM3_CMDPLUS1);
-    app.WaitForText(IDC_FORM3_NNIVEAU1, "1");
-    const std::vector<std::string> shortened{"0001  " + label + path.substr(0, 2) + "\\.." + below};
-    EXPECT_EQ(app.Lines(IDC_FORM3_LIST1), shortened);
-    app.Click(IDC_FORM3_CMDMOINS1);
-    app.Click(IDC_FORM3_CMDMOINS1);
-    app.WaitForText(IDC_FORM3_NNIVEAU1, "0");
-    EXPECT_EQ(app.Lines(IDC_FORM3_LIST1), std::vector{"0001  " + label + path});
 }
 
 }  // namespace

@@ -43,7 +43,7 @@ void FakeObject::put(std::wstring_view name, const Argument& value) {
 
 ObjectPtr FakeAutomation::attach(const std::wstring& progId) {
     journal.push_back(L"attach " + progId);
-    return sessionRuns ? makeApplication() : nullptr;
+    return makeApplication();
 }
 
 ObjectPtr FakeAutomation::create(const std::wstring& progId) {

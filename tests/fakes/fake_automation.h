@@ -32,7 +32,6 @@ struct FakeObject : AutomationObject {
 /// A running CAD application whose documents open and close, and a file-system object.
 struct FakeAutomation : Automation {
     CallJournal journal;
-    bool sessionRuns = true;
     bool documentsOpen = true;  ///< false: opening and activating give no document
     std::wstring revision = L"12.0.0";
     std::wstring workingDirectory = L"c:\\plans";

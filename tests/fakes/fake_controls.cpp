@@ -34,7 +34,6 @@ void FakeListBox::setLines(int count, const std::function<std::wstring(int)>& li
 }
 
 void FakeListBox::replaceLine(int index, const std::wstring& line) {
-    ++replacedLines;
     if (has(index)) lines[static_cast<std::size_t>(index)] = {line};
 }
 

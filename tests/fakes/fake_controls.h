@@ -37,7 +37,6 @@ struct FakeListBox : FakeControlOf<ListBox> {
     };
     std::vector<Line> lines;
     bool severalSelectable = true;
-    int replacedLines = 0;
     int drawingStops = 0;
 
     int count() const override;

@@ -6,14 +6,12 @@
 
 #include "platform/desktop.h"
 
-/// Knows windows by their titles and records what is looked up and brought forward.
+/// Knows windows by their titles and records what is brought forward.
 struct FakeDesktop : Desktop {
     std::map<std::wstring, WindowHandle> windows;
-    std::vector<std::wstring> lookedUp;
     std::vector<WindowHandle> broughtForward;
 
     WindowHandle findWindow(const std::wstring& title) override {
-        lookedUp.push_back(title);
         const auto window = windows.find(title);
         return window == windows.end() ? 0 : window->second;
     }

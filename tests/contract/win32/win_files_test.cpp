@@ -75,11 +75,6 @@ TEST_F(WinFilesTest, ReadsUtf8OrElseTheSingleByteCodePage) {
     }
 }
 
-TEST_F(WinFilesTest, WritesUtf8WithoutByteOrderMark) {
-    files.replaceText(path(L"tarnwick.lst"), L"0  c:\\é€\r\n");
-    EXPECT_EQ(readBytes(path(L"tarnwick.lst")), "0  c:\\\xC3\xA9\xE2\x82\xAC\r\n");
-}
-
 TEST_F(WinFilesTest, RefusesTextThatCannotBeEncoded) {
     writeBytes(path(L"tarnwick.lst"), "ancien");
     const wchar_t half[] = {L'a', 0xD800, L'b', 0};
@@ -102,12 +97,6 @@ TEST_F(WinFilesTest, LeavesAFileHeldByAnotherProgramAsItIs) {
     }
     EXPECT_EQ(readBytes(path(L"tarnwick.lst")), "ancien");
     EXPECT_EQ(namesIn(files, directory), Names{L"tarnwick.lst"});
-}
-
-TEST_F(WinFilesTest, CannotReadAFileHeldForWriting) {
-    writeBytes(path(L"tarnwick.lst"), "ancien");
-    const UniqueHandle held(open(path(L"tarnwick.lst"), GENERIC_WRITE, OPEN_EXISTING, 0));
-    EXPECT_EQ(raised([&] { files.readText(path(L"tarnwick.lst")); }), 70);
 }
 
 TEST_F(WinFilesTest, TellsWhatIsWrongWithAPath) {

@@ -3,7 +3,6 @@
 #include "about/about_ids.h"
 #include "fakes/fake_platform.h"
 #include "selection/form1_ids.h"
-#include "startup/form2_ids.h"
 #include "startup/program.h"
 
 namespace {
@@ -22,31 +21,6 @@ class AboutWindowTest : public testing::Test {
 };
 
 }  // namespace
-
-TEST_F(AboutWindowTest, GreetsUntilTheFirstWindowShows) {
-    // The same window is shown twice; it stands while the session is asked.
-    machine.automation.overrides[L"RevisionNumber"] = [&](auto) -> Value {
-        EXPECT_EQ(about().state, State::Shown);
-        return std::wstring(L"12.0");
-    };
-    program.Main();
-    EXPECT_EQ(about().state, State::Unloaded);
-    EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
-}
-
-TEST_F(AboutWindowTest, GivesWayToThePromptToo) {
-    machine.files.texts[L"c:\\tarnwick\\tarnwick.lst"] = L"0  c:\\a\r\n";
-    program.Main();
-    EXPECT_EQ(about().state, State::Unloaded);
-    EXPECT_EQ(machine.window(IDD_FORM2).state, State::Shown);
-}
-
-TEST_F(AboutWindowTest, TellsTheVersionAndItsDate) {
-    program.Main();
-    ask();
-    EXPECT_EQ(about().control(IDC_ABOUT_VERSION).content, L"Version 1.05");
-    EXPECT_EQ(about().control(IDC_ABOUT_DATE).content, L"28/03/2004");
-}
 
 TEST_F(AboutWindowTest, ClosesByEnterEscapeOrItsFrameAndOpensAgain) {
     program.Main();

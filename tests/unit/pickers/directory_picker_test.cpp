@@ -4,7 +4,6 @@
 
 #include "fakes/fake_controls.h"
 #include "fakes/fake_files.h"
-#include "unit/raised.h"
 
 namespace {
 
@@ -15,7 +14,7 @@ class DirectoryPickerTest : public testing::Test {
     DirectoryPickerTest() {
         list.severalSelectable = false;
         files.directories = {L"c:\\plans\\moteur\\Bielle", L"c:\\plans\\moteur\\arbre",
-                             L"c:\\plans\\Zone", L"\\\\srv\\part\\a\\b"};
+                             L"c:\\plans\\Zone"};
         files.add(L"c:\\plans\\moteur\\piece.SLDPRT");
     }
 
@@ -58,30 +57,4 @@ TEST_F(DirectoryPickerTest, OpensAncestorsAndSubdirectories) {
     list.clearSelection();
     EXPECT_FALSE(picker.openSelected());
     EXPECT_EQ(picker.path(), L"c:\\plans");
-}
-
-TEST_F(DirectoryPickerTest, TakesAShareForARoot) {
-    picker.setPath(L"\\\\srv\\part\\a");
-    EXPECT_EQ(list.texts(), (Lines{L"\\\\srv\\part", L"  a", L"    b"}));
-    EXPECT_TRUE(open(0));
-    EXPECT_EQ(picker.path(), L"\\\\srv\\part");
-    EXPECT_EQ(list.texts(), (Lines{L"\\\\srv\\part", L"  a"}));
-}
-
-TEST_F(DirectoryPickerTest, StaysWhereItIsWhenADirectoryCannotBeRead) {
-    picker.setPath(L"c:\\plans");
-    const Lines before = list.texts();
-    files.unreadable.insert(L"c:\\plans\\Zone");
-    EXPECT_EQ(raised([&] { open(3); }), 70);
-    EXPECT_EQ(raised([&] { picker.setPath(L"c:\\absent"); }), 76);
-    EXPECT_EQ(picker.path(), L"c:\\plans");
-    EXPECT_EQ(list.texts(), before);
-    EXPECT_EQ(picker.subdirectoryCount(), 2);
-}
-
-TEST_F(DirectoryPickerTest, SeesWhatIsNewWhenItIsSetAgain) {
-    picker.setPath(L"c:\\plans");
-    files.directories.insert(L"c:\\plans\\essai");
-    EXPECT_FALSE(picker.setPath(L"c:\\plans"));
-    EXPECT_EQ(list.texts(), (Lines{L"c:\\", L"  plans", L"    essai", L"    moteur", L"    Zone"}));
 }

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/fake_automation.h"
 #include "unit/raised.h"
 
 TEST(AutomationResult, BecomesTextWhenItIsOneOrEmpty) {
@@ -20,17 +19,4 @@ TEST(AutomationResult, IsTrueWithAllBitsSetOnly) {
                                Value(), Value(std::wstring(L"True"))}) {
         EXPECT_FALSE(isTrue(other)) << other.index();
     }
-}
-
-TEST(AutomationResult, HoldsAnObjectOrNone) {
-    CallJournal journal;
-    const ObjectPtr object = std::make_shared<FakeObject>(journal);
-    EXPECT_EQ(objectOf(object), object);
-    EXPECT_EQ(objectOf(Value()), nullptr);
-    EXPECT_EQ(objectOf(std::int32_t{1}), nullptr);
-}
-
-TEST(EmptyObject, CanNeitherBeCalledNorChanged) {
-    EXPECT_EQ(raised([] { callMethod(nullptr, L"GetTitle"); }), 91);
-    EXPECT_EQ(raised([] { putProperty(nullptr, L"Visible", true); }), 91);
 }

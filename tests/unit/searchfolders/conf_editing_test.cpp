@@ -44,11 +44,9 @@ TEST(ConfEditing, RemovesTheSelectedAndWhatFollowsThem) {
         Texts left;
     };
     const Case cases[] = {
-        {{}, Removal::Selected, all},
         {{0, 3}, Removal::Selected, {L"C:\\p\\1", L"c:\\P2", L"c:\\P\\3"}},
         {{0}, Removal::WithFollowers, {L"d:\\", L"c:\\P\\3"}},
         {{1, 4}, Removal::WithFollowers, {L"c:\\P", L"c:\\P2", L"d:\\"}},
-        {{0, 1, 2, 3, 4}, Removal::WithFollowers, {}},
     };
     for (const Case& one : cases) {
         Configuration edited;

@@ -2,27 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/runtime_error.h"
-
 namespace {
 
 constexpr auto kMarker = L"Configuration:";
-
-std::wstring lines(int count, const std::wstring& line) {
-    std::wstring text;
-    for (int i = 0; i < count; ++i) text += line + L"\r\n";
-    return text;
-}
-
-int errorOf(const std::wstring& text) {
-    Configurations configs;
-    try {
-        parseConfFile(text, kMarker, configs);
-    } catch (const RuntimeError& error) {
-        return error.number;
-    }
-    return 0;
-}
 
 TEST(ConfFile, StoresEveryLineByTheRules) {
     struct Case {
@@ -32,11 +14,6 @@ TEST(ConfFile, StoresEveryLineByTheRules) {
         const wchar_t* expected[4];  // its first entries
     };
     const Case cases[] = {
-        {L"", 0, 1, {L"", L"", L"", L""}},
-        {L"Configuration:  Projet A\r\n   c:\\a\r\n   c:\\b",
-         1,
-         1,
-         {L"Projet A", L"c:\\a", L"c:\\b", L""}},
         {L"  c:\\avant\r\nConfiguration: A\r\n", 1, 0, {L"", L"c:\\avant", L"", L""}},
         {L"configuration: b\nc:\\c\n", 1, 1, {L"b", L"c:\\c", L"", L""}},
         {L"ABC CONFIGURATION: d\r\n", 1, 1, {L"ION: d", L"", L"", L""}},
@@ -51,14 +28,6 @@ TEST(ConfFile, StoresEveryLineByTheRules) {
             EXPECT_EQ(configs.ConfRep[one.row][j], one.expected[j]) << one.text << j;
         }
     }
-}
-
-TEST(ConfFile, HoldsFiftyConfigurationsOfTwoHundredDirectories) {
-    EXPECT_EQ(errorOf(lines(50, L"Configuration:  A")), 0);
-    EXPECT_EQ(errorOf(lines(51, L"Configuration:  A")), 9);
-    EXPECT_EQ(errorOf(L"Configuration:  A\r\n" + lines(200, L"c:\\a")), 0);
-    EXPECT_EQ(errorOf(L"Configuration:  A\r\n" + lines(201, L"c:\\a")), 9);
-    EXPECT_EQ(errorOf(lines(201, L"c:\\a")), 9);
 }
 
 TEST(ConfFile, IsWrittenBackWithItsHolesClosed) {

@@ -4,7 +4,6 @@
 
 #include "fakes/fake_files.h"
 #include "selection/found_documents.h"
-#include "unit/raised.h"
 
 namespace {
 
@@ -66,14 +65,6 @@ TEST_F(Search, WalksATreeDepthFirstReadingEachDirectoryOnce) {
     for (const auto& [directory, times] : files.visits) EXPECT_EQ(times, 1) << directory;
 }
 
-TEST_F(Search, DoublesTheSeparatorAfterADriveRootAndNoneElse) {
-    addAll({L"c:\\a.SLDPRT", L"c:\\sous\\b.SLDPRT", L"\\\\serveur\\part\\c.SLDPRT"});
-    EXPECT_EQ(run(L"c:\\", true), (Paths{L"c:\\\\a.SLDPRT", L"c:\\sous\\b.SLDPRT"}));
-    EXPECT_EQ(run(L"c:\\", false), Paths{L"a.SLDPRT"});
-    files.directories.insert(L"\\\\serveur\\part");
-    EXPECT_EQ(run(L"\\\\serveur\\part", true), Paths{L"\\\\serveur\\part\\c.SLDPRT"});
-}
-
 TEST_F(Search, FollowsLinksButNotBackIntoDirectoriesThatAreOpen) {
     addAll({L"c:\\plans\\a.SLDPRT", L"c:\\plans\\sous\\b.SLDPRT", L"d:\\autres\\c.SLDPRT",
             L"d:\\autres\\bas\\d.SLDPRT"});
@@ -89,15 +80,4 @@ TEST_F(Search, FollowsLinksButNotBackIntoDirectoriesThatAreOpen) {
               (Paths{L"c:\\plans\\a.SLDPRT", L"c:\\plans\\ailleurs\\c.SLDPRT",
                      L"c:\\plans\\ailleurs\\bas\\d.SLDPRT", L"c:\\plans\\sous\\b.SLDPRT",
                      L"c:\\plans\\zbas\\b.SLDPRT"}));
-}
-
-TEST_F(Search, FailsOnADirectoryThatCannotBeRead) {
-    addAll({L"c:\\plans\\a.SLDPRT", L"c:\\plans\\sous\\b.SLDPRT"});
-    EXPECT_EQ(raised([&] { run(L"c:\\absent", false); }), 76);
-    files.unreadable.insert(L"c:\\plans\\sous");
-    EXPECT_EQ(raised([&] { run(L"c:\\plans", false); }), 0);
-    EXPECT_EQ(raised([&] { run(L"c:\\plans", true); }), 70);
-    files.unreadable.clear();
-    files.links[L"c:\\plans\\perdu"] = L"e:\\disparu";
-    EXPECT_EQ(raised([&] { run(L"c:\\plans", true); }), 76);
 }

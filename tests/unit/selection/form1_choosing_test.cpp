@@ -44,13 +44,6 @@ TEST_F(Form1Choosing, TogglesTheHighlightedLinesOrAll) {
     EXPECT_EQ(chosen(), L"100");
 }
 
-TEST_F(Form1Choosing, AClickInTheListCountsAndChoosesNothing) {
-    list().lines[1].mark = 1;
-    click(IDC_FORM1_LIST1);
-    EXPECT_EQ(text(IDC_FORM1_NBFICH), L"1");
-    EXPECT_EQ(marks(), L"010");
-}
-
 TEST_F(Form1Choosing, FiltersTheLinesAsTheyAreDisplayed) {
     const struct {
         const wchar_t* before;  ///< lines chosen beforehand
@@ -60,18 +53,12 @@ TEST_F(Form1Choosing, FiltersTheLinesAsTheyAreDisplayed) {
         const wchar_t* afterwards;
     } cases[] = {
         {L"000", 0, IDC_FORM1_CMD_AJO, L"", L"111"},
-        {L"010", 0, IDC_FORM1_CMD_AJO, L"ZOE.slddrw", L"010"},
         {L"010", 0, IDC_FORM1_CMD_AJO, L"AXE", L"110"},
-        {L"000", 0, IDC_FORM1_CMD_AJO, L"PLANS\\", L"111"},
-        {L"000", 1, IDC_FORM1_CMD_AJO, L"plans", L"000"},  // hidden by the depth
-        {L"000", 1, IDC_FORM1_CMD_AJO, L"..\\m", L"001"},
+        {L"000", 1, IDC_FORM1_CMD_AJO, L"plans", L"000"},   // hidden by the depth
         {L"100", 0, IDC_FORM1_CMD_AJO, L"      ", L"111"},  // the prefix of unchosen lines
-        {L"110", 0, IDC_FORM1_CMD_AJO, L"X", L"110"},
         {L"111", 0, IDC_FORM1_CMD_ENL, L"", L"000"},
         {L"111", 0, IDC_FORM1_CMD_ENL, L"x", L"000"},  // the prefix of chosen lines
         {L"011", 0, IDC_FORM1_CMD_ENL, L"moteur", L"010"},
-        {L"011", 0, IDC_FORM1_CMD_ENL, L"axe", L"011"},
-        {L"011", 0, IDC_FORM1_CMD_ENL, L"    ", L"011"},
         {L"111", 2, IDC_FORM1_CMD_ENL, L"moteur", L"111"},  // hidden by the depth
     };
     for (const auto& c : cases) {
@@ -85,14 +72,6 @@ TEST_F(Form1Choosing, FiltersTheLinesAsTheyAreDisplayed) {
         click(c.button);
         EXPECT_EQ(marks(), c.afterwards) << c.before << ' ' << c.button << ' ' << c.filter;
     }
-}
-
-TEST_F(Form1Choosing, FiltersLettersWithAccentsInAnyCase) {
-    machine.files.add(L"c:\\plans\\étau.SLDDRW");
-    leaveTypes();
-    filter(L"ÉTAU");
-    click(IDC_FORM1_CMD_AJO);
-    EXPECT_EQ(text(IDC_FORM1_NBFICH), L"1");
 }
 
 TEST_F(Form1Choosing, TheDepthHidesLevelsAndKeepsTheChoice) {
@@ -110,17 +89,4 @@ TEST_F(Form1Choosing, TheDepthHidesLevelsAndKeepsTheChoice) {
     // A line can be unchosen whatever the depth.
     click(IDC_FORM1_CMD_INV);
     EXPECT_EQ(chosen(), L"010");
-}
-
-TEST_F(Form1Choosing, TheDepthGoesFrom0To9AndRedrawsOnlyWhenItChanges) {
-    click(IDC_FORM1_CMDMOINS);
-    EXPECT_EQ(text(IDC_FORM1_NNIVEAU), L"0");
-    EXPECT_EQ(list().replacedLines, 0);
-    for (int i = 0; i < 9; ++i) click(IDC_FORM1_CMDPLUS);
-    EXPECT_EQ(text(IDC_FORM1_NNIVEAU), L"9");
-    EXPECT_EQ(list().replacedLines, 27);
-    click(IDC_FORM1_CMDPLUS);
-    EXPECT_EQ(text(IDC_FORM1_NNIVEAU), L"9");
-    EXPECT_EQ(list().replacedLines, 27);
-    EXPECT_EQ(list().drawingStops, 0);
 }

@@ -1,7 +1,4 @@
 #include "platform/runtime_error.h"
-#include "startup/program.h"
-#include "tracking/form3_ids.h"
-#include "unit/raised.h"
 #include "unit/selection/selection_window.h"
 
 namespace {
@@ -43,7 +40,6 @@ TEST_F(Form1Leaving, TheListFileHoldsFullPaths) {
         bool withSubdirectories;
         const wchar_t* written;
     } cases[] = {
-        {L"c:\\plans", false, L"0  c:\\plans\\axe.slddrw\r\n0  c:\\plans\\Zoe.SLDDRW\r\n"},
         {L"c:\\plans", true,
          L"0  c:\\plans\\axe.slddrw\r\n0  c:\\plans\\Zoe.SLDDRW\r\n"
          L"0  c:\\plans\\moteur\\bielle.SLDDRW\r\n"},
@@ -59,26 +55,6 @@ TEST_F(Form1Leaving, TheListFileHoldsFullPaths) {
         click(IDC_FORM1_CMD_TRACER);
         EXPECT_EQ(listFile(), c.written);
     }
-}
-
-TEST_F(Form1Leaving, ABareNameIsWrittenWithTheDirectoryItWasFoundIn) {
-    load();
-    tick(true);
-    openDirectory(L"moteur");
-    tick(false);
-    window().listBox(IDC_FORM1_REPERT).select(0, true);
-    click(IDC_FORM1_REPERT);
-    click(IDC_FORM1_CMD_INV);
-    click(IDC_FORM1_CMD_TRACER);
-    EXPECT_EQ(listFile(), L"0  c:\\plans\\moteur\\bielle.SLDDRW\r\n");
-}
-
-TEST_F(Form1Leaving, AListFileThatCannotBeWrittenEndsThePassBeforeItBegins) {
-    load();
-    machine.files.unreadable.insert(module.FichListe);
-    EXPECT_EQ(raised([&] { click(IDC_FORM1_CMD_TRACER); }), 75);
-    EXPECT_EQ(navigation.asked, Lines{L"FermerAPropos"});
-    EXPECT_EQ(window().state, FakeWindow::State::Shown);
 }
 
 TEST_F(Form1Leaving, OnlySortieSavesTheWindowsPlace) {
@@ -101,26 +77,4 @@ TEST_F(Form1Leaving, OpensTheOtherWindowsBesideItself) {
     click(IDC_FORM1_CMDREPDEF);
     EXPECT_EQ(navigation.asked, (Lines{L"FermerAPropos", L"APropos", L"Form4"}));
     EXPECT_EQ(window().state, FakeWindow::State::Shown);
-}
-
-TEST_F(Form1Leaving, LaunchingOpensTheFirstDocumentInTheTrackingWindow) {
-    Program program(machine.platform);
-    program.Main();
-    click(IDC_FORM1_CMD_INV);
-    machine.automation.takeJournal();
-    click(IDC_FORM1_CMD_TRACER);
-    EXPECT_EQ(machine.automation.takeJournal().front(),
-              L"OpenDoc6(&\"c:\\plans\\axe.slddrw\", &0:i2, 1:i4, \"\", &0:i4, &0:i4)");
-    EXPECT_EQ(machine.window(IDD_FORM3).state, FakeWindow::State::Shown);
-    EXPECT_EQ(window().state, FakeWindow::State::Hidden);
-}
-
-TEST_F(Form1Leaving, LaunchingNothingEndsTheProgramAndLeavesAnEmptyList) {
-    Program program(machine.platform);
-    program.Main();
-    machine.automation.takeJournal();
-    EXPECT_THROW(click(IDC_FORM1_CMD_TRACER), ProgramEnd);
-    EXPECT_EQ(listFile(), L"");
-    EXPECT_TRUE(machine.automation.takeJournal().empty());
-    EXPECT_TRUE(machine.boxes.shown.empty());
 }

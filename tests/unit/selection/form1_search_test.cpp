@@ -12,7 +12,6 @@ TEST_F(Form1Search, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
         Lines found;
     } cases[] = {
         {"typing", [&] { type(L"xsldprt"); }, {L"Bras.SLDPRT"}},
-        {"typing no kind", [&] { type(L"*.sld"); }, {}},
         {"choosing a kind", [&] { chooseType(3); }, {L"Bras.SLDPRT", L"corps.SLDASM"}},
         {"leaving the kinds", [&] { leaveTypes(); }, {L"axe.slddrw", L"Zoe.SLDDRW"}},
         {"opening below", [&] { openDirectory(L"moteur"); }, {L"bielle.SLDDRW"}},
@@ -32,42 +31,6 @@ TEST_F(Form1Search, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
         EXPECT_EQ(text(IDC_FORM1_NBFICH), L"0") << c.what;
         EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), std::to_wstring(c.found.size())) << c.what;
     }
-}
-
-TEST_F(Form1Search, ChoosingTheSameDriveAgainFindsAnew) {
-    machine.files.currentDirectories[L'c'] = L"c:\\plans";
-    load();
-    click(IDC_FORM1_CMD_INV);
-    machine.files.add(L"c:\\plans\\neuf.SLDDRW");
-    chooseDrive(0);
-    EXPECT_EQ(unchosen(), (Lines{L"axe.slddrw", L"neuf.SLDDRW", L"Zoe.SLDDRW"}));
-}
-
-TEST_F(Form1Search, ASingleClickInTheTreeDoesNothing) {
-    load();
-    click(IDC_FORM1_CMD_INV);
-    window().listBox(IDC_FORM1_REPERT).select(0, true);
-    click(IDC_FORM1_REPERT);
-    EXPECT_EQ(marks(), L"11");
-}
-
-TEST_F(Form1Search, UntickingGoesBackToBareNames) {
-    load();
-    tick(true);
-    openDirectory(L"moteur");
-    EXPECT_EQ(unchosen(), Lines{L"c:\\plans\\moteur\\bielle.SLDDRW"});
-    tick(false);
-    EXPECT_EQ(unchosen(), Lines{L"bielle.SLDDRW"});
-}
-
-TEST_F(Form1Search, TheDepthOutlivesARebuild) {
-    load();
-    tick(true);
-    click(IDC_FORM1_CMDPLUS);
-    leaveTypes();
-    EXPECT_EQ(text(IDC_FORM1_NNIVEAU), L"1");
-    EXPECT_EQ(unchosen(), (Lines{L"c:\\..\\axe.slddrw", L"c:\\..\\Zoe.SLDDRW",
-                                 L"c:\\..\\moteur\\bielle.SLDDRW"}));
 }
 
 TEST_F(Form1Search, FailsWhenThereAreTooManyDocuments) {
@@ -115,9 +78,7 @@ TEST_F(Form1Search, AsksBeforeAWholeDriveIsSearched) {
         {"tick, no", tickAtRoot, {kNo}, false},
         {"tick, no the second time", tickAtRoot, {kYes, kNo}, false},
         {"open", openRoot, {kYes}, true},
-        {"open, no", openRoot, {kNo}, false},
         {"drive", changeToRoot, {kYes, kYes}, true},
-        {"drive, no", changeToRoot, {kNo}, false},
         {"drive, no the second time", changeToRoot, {kYes, kNo}, false},
     };
     const Lines whole = {L"d:\\\\b.SLDDRW", L"d:\\doc\\d.SLDDRW"};
@@ -147,22 +108,4 @@ TEST_F(Form1Search, AsksAgainAtEveryRebuildOfAWholeDrive) {
     tick(true);
     tick(false);
     EXPECT_EQ(machine.boxes.shown.size(), 5U);
-}
-
-TEST_F(Form1Search, AsksInTheseWords) {
-    load(L"d:\\");
-    machine.boxes.answers = {kNo};
-    tick(true);
-    ASSERT_EQ(machine.boxes.shown.size(), 1U);
-    const MessageBoxContent& box = machine.boxes.shown.front();
-    EXPECT_EQ(box.text,
-              L"    La recherche de tous les fichiers à partir de la racine  \n\r"
-              L"                risque d'être assez longue .\n\r"
-              L" \n\r"
-              L"             Voulez vous quand même continuer ?\n\r");
-    EXPECT_EQ(box.title, L"Tarnwick Mervale");
-    EXPECT_EQ(box.buttons, MessageBoxContent::Buttons::YesNo);
-    EXPECT_EQ(box.icon, MessageBoxContent::Icon::None);
-    EXPECT_EQ(box.defaultButton, 1);
-    EXPECT_EQ(box.helpFile, L"");
 }

@@ -46,16 +46,6 @@ TEST(FoundDocuments, KeepsEveryFullPath) {
     EXPECT_FALSE(found.CheminsComplets());
 }
 
-TEST(FoundDocuments, FailsPastItsCapacity) {
-    for (const bool CheminsComplets : {false, true}) {
-        FoundDocuments found;
-        found.restart(CheminsComplets);
-        storeMany(found, L"n", kCapacity);
-        EXPECT_EQ(found.count(), 8001);
-        EXPECT_EQ(raised([&] { found.store(L"c:\\a", L"encore"); }), 9);
-    }
-}
-
 TEST(FoundDocuments, TheVeryLastEntryOutlivesANewPass) {
     FoundDocuments found;
     storeMany(found, L"n", kCapacity);
@@ -72,14 +62,4 @@ TEST(FoundDocuments, TheVeryLastEntryOutlivesANewPass) {
     found.store(L"c:\\a", L"nouveau");
     EXPECT_EQ(found.count(), 8001);
     EXPECT_EQ(found.entry(8000), L"nouveau");
-}
-
-TEST(FoundDocuments, NothingOutlivesARestart) {
-    FoundDocuments found;
-    storeMany(found, L"n", kCapacity);
-    found.restart(false);
-    found.beginPass(false);
-    storeMany(found, L"autre", kCapacity - 1);
-    found.store(L"c:\\a", L"n8000");
-    EXPECT_EQ(found.count(), 8001);
 }

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fake_platform.h"
-#include "unit/raised.h"
 
 namespace {
 
@@ -75,48 +74,9 @@ TEST_F(ProgramMain, GoesThroughItsStepsInOrder) {
                                 L"[Form1]",
                             }));
     EXPECT_TRUE(machine.boxes.shown.empty());
-}
 
-TEST_F(ProgramMain, PromptsForAnExistingListEvenAnEmptyOne) {
+    // An existing list is asked about, even an empty one.
     machine.files.texts[L"d:\\outils\\tarnwick\\tarnwick.lst"] = L"";
     main();
     EXPECT_EQ(machine.automation.journal.back(), L"[Form2]");
-}
-
-TEST_F(ProgramMain, EndsWithAMessageWhenNoSessionRuns) {
-    machine.automation.sessionRuns = false;
-    EXPECT_THROW(main(), ProgramEnd);
-    ASSERT_EQ(machine.boxes.shown.size(), 1U);
-    const MessageBoxContent& box = machine.boxes.shown.front();
-    EXPECT_EQ(
-        box.text,
-        L" Une session SolidWorks doit être ouverte  \r\n   pour que Tarnwick puisse démarrer.");
-    EXPECT_EQ(box.title, L"Tarnwick by Mervale");
-    EXPECT_EQ(box.buttons, MessageBoxContent::Buttons::Ok);
-    EXPECT_EQ(box.icon, MessageBoxContent::Icon::None);
-    EXPECT_EQ(box.helpFile, L"");
-    EXPECT_EQ(machine.automation.journal,
-              kPlacesRead + CallJournal({L"attach SldWorks.Application"}));
-}
-
-TEST_F(ProgramMain, FailsOnABadSavedPlaceBeforeTheSessionIsLookedFor) {
-    settings.write(L"mervale", L"listerepert", L"leftpos4", L"gauche");
-    EXPECT_EQ(raised([&] { main(); }), 13);
-    settings.write(L"tarnwick", L"startup", L"TopPos2", L"32768");
-    EXPECT_EQ(raised([&] { main(); }), 6);
-    for (const auto& call : machine.automation.journal) EXPECT_FALSE(call.starts_with(L"attach"));
-}
-
-TEST_F(ProgramMain, FailsWithTheSessionsOwnErrors) {
-    machine.automation.overrides[L"GetCurrentWorkingDirectory"] = [](auto) -> Value {
-        throw errors::automation(L"");
-    };
-    EXPECT_EQ(raised([&] { main(); }), 440);
-    EXPECT_EQ(machine.automation.journal.back(), L"GetCurrentWorkingDirectory()");
-}
-
-TEST_F(ProgramMain, GoesOnWithAReleaseItDoesNotKnow) {
-    machine.automation.revision = L"13.1.0";
-    main();
-    EXPECT_EQ(machine.automation.journal.back(), L"[Form1]");
 }

@@ -1,4 +1,3 @@
-#include "unit/raised.h"
 #include "unit/tracking/tracking_window.h"
 
 using Advance = TrackingWindow;
@@ -37,13 +36,6 @@ TEST_F(Advance, EachButtonAndItsTwinMarkInTheirWay) {
     }
 }
 
-TEST_F(Advance, PassesOverLinesThatAreNotToDo) {
-    loadStates(L"012x0");
-    click(IDC_FORM3_CMDSUIVQUITTER);
-    EXPECT_EQ(states(), L"2 1 2 x 3");
-    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"4");
-}
-
 TEST_F(Advance, FromTheLastLineToDoEndsTheList) {
     loadStates(L"001");
     click(IDC_FORM3_CMDSUIV);
@@ -59,23 +51,6 @@ TEST_F(Advance, FromTheLastLineToDoEndsTheList) {
     EXPECT_FALSE(canAdvance());
     EXPECT_TRUE(canStepBack());
     EXPECT_EQ(module.NomDocCourant, L"");
-}
-
-TEST_F(Advance, PastTheEndDoesNothing) {
-    loadStates(L"00");
-    click(IDC_FORM3_CMDSUIVSAUTER);
-    click(IDC_FORM3_CMDSUIVSAUTER);
-    takeCalls();
-    for (const int button : {IDC_FORM3_CMDSUIV, IDC_FORM3_CMD2, IDC_FORM3_CMD3}) click(button);
-    EXPECT_EQ(takeCalls(), CallJournal());
-    EXPECT_EQ(states(), L"0 0");
-}
-
-TEST_F(Advance, ReopensADocumentOfTheSamePath) {
-    load(L"0  c:\\a\r\n0  c:\\a\r\n");
-    takeCalls();
-    click(IDC_FORM3_CMDSUIVSAUTER);
-    EXPECT_EQ(takeCalls()[1], L"OpenDoc6(&\"c:\\a\", &0:i2, 1:i4, \"\", &0:i4, &0:i4)");
 }
 
 TEST_F(Advance, LowerCaseEndingsKeepTheTypeOfTheDocumentBefore) {
@@ -103,8 +78,6 @@ TEST_F(Advance, LoadsAsTheOptionsSay) {
         {L"1100", L"OpenDoc6(&\"c:\\b\", &0:i2, 1:i4, \"\", &0:i4, &0:i4)", L""},
         {L"0010", L"OpenDoc6(&\"c:\\b\", &0:i2, 0:i4, \"\", &0:i4, &0:i4)",
          L"b.ForceRebuild3(True)"},
-        {L"0001", L"OpenDoc6(&\"c:\\b\", &0:i2, 0:i4, \"\", &0:i4, &0:i4)",
-         L"b.ForceRebuild3(False)"},
         {L"0111", L"OpenDoc6(&\"c:\\b\", &0:i2, 1:i4, \"\", &0:i4, &0:i4)",
          L"b.ForceRebuild3(False)"},
     };
@@ -124,28 +97,4 @@ TEST_F(Advance, LoadsAsTheOptionsSay) {
         EXPECT_EQ(rebuilt ? calls[4] : L"", c.rebuilds) << c.options;
         EXPECT_EQ(calls[rebuilt ? 5 : 4], L"b.GetTitle()") << c.options;
     }
-}
-
-TEST_F(Advance, ThatCannotSaveLeavesTheLineInProgress) {
-    machine.automation.overrides[L"save2"] = [](auto) -> Value {
-        throw errors::automation(L"disque plein");
-    };
-    loadStates(L"00");
-    EXPECT_EQ(raised([&] { click(IDC_FORM3_CMDSUIV); }), 440);
-    EXPECT_EQ(takeCalls(), CallJournal{L"a.save2(True)"});
-    EXPECT_EQ(states(), L"3 0");
-}
-
-TEST_F(Advance, GoesThroughAFullTableToItsVeryEnd) {
-    std::wstring listFile;
-    for (int i = 0; i < 7999; ++i) listFile += L"1  c:\\f\r\n";
-    load(listFile + L"0  c:\\y\r\n0  c:\\z\r\n");
-    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"7999");
-    click(IDC_FORM3_CMDSUIV);
-    EXPECT_EQ(text(IDC_FORM3_NBFICH1), L"8001");
-    EXPECT_EQ(list().texts()[8000], L"8001   EnCours  c:\\z");
-    click(IDC_FORM3_CMDSUIV);
-    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"Aucun");
-    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"8001");
-    EXPECT_EQ(module.liste.EtatFich[8000].code, L"1");
 }

@@ -1,5 +1,3 @@
-#include "tracking/work_list_view.h"
-#include "unit/raised.h"
 #include "unit/tracking/tracking_window.h"
 
 using Display = TrackingWindow;
@@ -24,22 +22,6 @@ TEST_F(Display, OfANewListShowsAllLinesButTheFirstAsToDo) {
                               }));
 }
 
-TEST_F(Display, OfANewListOfOneLineShowsItsState) {
-    module.NouvelleListe = true;
-    load(L"1  c:\\a\r\n");
-    EXPECT_EQ(list().texts(), Lines{L"0001   Fait          c:\\a"});
-}
-
-TEST_F(Display, OfASavedListShowsTheStates) {
-    load(L"1  c:\\a\r\n0  c:\\b\r\n12  c:\\c\r\n10  c:\\d\r\n");
-    EXPECT_EQ(list().texts(), (Lines{
-                                  L"0001   Fait          c:\\a",
-                                  L"0002   EnCours  c:\\b",
-                                  L"0003   Vu            c:\\c",
-                                  L"0004                c:\\d",
-                              }));
-}
-
 TEST_F(Display, OfAnUnknownStateTakesTheLabelAbove) {
     load(L"5  c:\\a\r\n1  c:\\b\r\n7  c:\\c\r\nx  c:\\d\r\n0  c:\\e\r\n6  c:\\f\r\n");
     EXPECT_EQ(list().texts(), (Lines{
@@ -55,14 +37,6 @@ TEST_F(Display, OfAnUnknownStateTakesTheLabelAbove) {
     EXPECT_EQ(list().texts()[5], L"0006   Vu            c:\\f");
 }
 
-TEST_F(Display, AfterAnAdvanceRedrawsTheLinesThatChanged) {
-    loadStates(L"0012000");
-    const int before = list().replacedLines;
-    click(IDC_FORM3_CMDSUIV);
-    EXPECT_EQ(list().replacedLines - before, 2);
-    EXPECT_EQ(list().drawingStops, 0);
-}
-
 TEST_F(Display, RedrawnInPlaceLosesTheUsersSelection) {
     loadStates(L"00120");
     list().select(3, true);
@@ -72,6 +46,7 @@ TEST_F(Display, RedrawnInPlaceLosesTheUsersSelection) {
     list().select(3, true);
     click(IDC_FORM3_CMDPLUS1);
     EXPECT_TRUE(list().selection().empty());
+    EXPECT_EQ(list().drawingStops, 0);
 }
 
 TEST_F(Display, DepthHidesLevelsOfAllLines) {
@@ -90,35 +65,4 @@ TEST_F(Display, DepthHidesLevelsOfAllLines) {
     EXPECT_EQ(list().texts()[0], L"0001   Fait          C:\\..\\B\\f");
     click(IDC_FORM3_CMDMOINS1);
     EXPECT_EQ(list().texts()[1], whole[1]);
-}
-
-TEST_F(Display, DepthPastItsEndsRedrawsNothing) {
-    loadStates(L"00");
-    list().select(1, true);
-    click(IDC_FORM3_CMDMOINS1);
-    EXPECT_EQ(text(IDC_FORM3_NNIVEAU1), L"0");
-    EXPECT_EQ(list().selection(), (std::vector{0, 1}));
-    for (int i = 0; i < 9; ++i) click(IDC_FORM3_CMDPLUS1);
-    list().select(1, true);
-    click(IDC_FORM3_CMDPLUS1);
-    EXPECT_EQ(text(IDC_FORM3_NNIVEAU1), L"9");
-    EXPECT_EQ(list().selection(), std::vector{1});
-}
-
-TEST_F(Display, DepthOfAPathTooDeepFails) {
-    load(L"0  c:\\f\r\n0  c:" + std::wstring(17, L'\\') + L"f\r\n");
-    EXPECT_EQ(raised([&] { click(IDC_FORM3_CMDPLUS1); }), 9);
-    EXPECT_EQ(list().drawingStops, 0);
-}
-
-TEST_F(Display, OfAnEmptyListIsEmpty) {
-    FakeListBox box;
-    box.lines = {{L"0001"}};
-    WorkList empty;
-    empty.DerFich = -1;
-    WorkListView view(box);
-    view.rebuild(empty, module.labels, L"0", false);
-    EXPECT_TRUE(box.lines.empty());
-    view.update(empty, module.labels, L"0");
-    EXPECT_TRUE(box.lines.empty());
 }

@@ -1,4 +1,3 @@
-#include "unit/raised.h"
 #include "unit/tracking/tracking_window.h"
 
 using Leaving = TrackingWindow;
@@ -17,40 +16,6 @@ TEST_F(Leaving, BySortieSavesPlaceAndOptionsAndClosesTheDocument) {
     EXPECT_EQ(machine.settings.read(L"tarnwick", L"startup", L"leftpos3", L""), L"32767");
     EXPECT_EQ(machine.settings.read(L"tarnwick", L"startup", L"regcheck", L""), L"1001");
     EXPECT_EQ(machine.files.texts[module.FichListe], L"0  c:\\a\r\n0  c:\\b\r\n");
-}
-
-TEST_F(Leaving, BySortieWithNoDocumentClosesTheEmptyName) {
-    loadStates(L"12");
-    EXPECT_THROW(click(IDC_FORM3_CMDSORTIE), ProgramEnd);
-    EXPECT_EQ(takeCalls(), CallJournal{L"closedoc(\"\")"});
-}
-
-TEST_F(Leaving, BySortieKeepsTheSettingsEvenWhenClosingFails) {
-    machine.automation.overrides[L"closedoc"] = [](auto) -> Value {
-        throw errors::automation(L"");
-    };
-    loadStates(L"00");
-    EXPECT_EQ(raised([&] { click(IDC_FORM3_CMDSORTIE); }), 440);
-    EXPECT_EQ(machine.settings.read(L"tarnwick", L"startup", L"toppos3", L""), L"300");
-}
-
-TEST_F(Leaving, ByTheFrameSavesNothing) {
-    loadStates(L"00");
-    const auto settings = machine.settings.entries;
-    EXPECT_THROW(window().close(), ProgramEnd);
-    EXPECT_EQ(takeCalls(), CallJournal());
-    EXPECT_EQ(machine.settings.entries, settings);
-}
-
-TEST_F(Leaving, ListFileHoldsTheListAsItStands) {
-    load(L"0  c:\\a\r\n11  c:\\b\r\n0  c:\\c\r\n0  c:\\d\r\n");
-    click(IDC_FORM3_CMDSUIV);
-    EXPECT_EQ(machine.files.texts[module.FichListe],
-              L"0  c:\\a\r\n11  c:\\b\r\n0  c:\\c\r\n0  c:\\d\r\n");
-    click(IDC_FORM3_CMDFICHIERLISTE);
-    EXPECT_EQ(machine.files.texts[module.FichListe],
-              L"1  c:\\a\r\n11  c:\\b\r\n3  c:\\c\r\n0  c:\\d\r\n");
-    EXPECT_TRUE(machine.boxes.shown.empty());
 }
 
 TEST_F(Leaving, ListFileSavedTwiceLosesItsFlaggedStates) {
@@ -77,18 +42,4 @@ TEST_F(Leaving, ListFileIsWholeAfterALoadThatEndsTheList) {
     loadStates(L"12");
     click(IDC_FORM3_CMDFICHIERLISTE);
     EXPECT_EQ(machine.files.texts[module.FichListe], L"1  c:\\a\r\n2  c:\\b\r\n");
-}
-
-TEST_F(Leaving, ListFileThatCannotBeWrittenIsAnError) {
-    loadStates(L"00");
-    machine.files.unreadable.insert(module.FichListe);
-    EXPECT_EQ(raised([&] { click(IDC_FORM3_CMDFICHIERLISTE); }), 75);
-    EXPECT_EQ(machine.files.texts[module.FichListe], L"0  c:\\a\r\n0  c:\\b\r\n");
-}
-
-TEST_F(Leaving, MemoDoesNothing) {
-    loadStates(L"00");
-    click(IDC_FORM3_CMDMEMO);
-    EXPECT_EQ(takeCalls(), CallJournal());
-    EXPECT_EQ(states(), L"3 0");
 }

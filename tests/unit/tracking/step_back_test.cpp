@@ -31,30 +31,6 @@ TEST_F(StepBack, OpensTheNearestLineToDoAbove) {
     }
 }
 
-TEST_F(StepBack, FromTheEndSearchesFromTheLastLineItself) {
-    loadStates(L"000");
-    click(IDC_FORM3_CMDSUIV);
-    click(IDC_FORM3_CMDSUIVQUITTER);
-    click(IDC_FORM3_CMDSUIVSAUTER);
-    ASSERT_FALSE(canAdvance());
-    takeCalls();
-    click(IDC_FORM3_CMDPRECEDENT);
-    EXPECT_EQ(takeCalls()[0], L"closedoc(\"\")");
-    EXPECT_EQ(states(), L"1 2 3");
-    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\c");
-    EXPECT_TRUE(canAdvance());
-}
-
-TEST_F(StepBack, FromTheEndLeavesTheLastLineAsItIs) {
-    loadStates(L"000");
-    click(IDC_FORM3_CMDSUIVSAUTER);
-    click(IDC_FORM3_CMDSUIV);
-    click(IDC_FORM3_CMDSUIV);
-    click(IDC_FORM3_CMDPRECEDENT);
-    EXPECT_EQ(states(), L"3 1 1");
-    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"0");
-}
-
 TEST_F(StepBack, PassesOverTheLastLineThatTheLoadMarkedButDidNotOpen) {
     loadStates(L"10");
     click(IDC_FORM3_CMDPRECEDENT);
@@ -76,15 +52,6 @@ TEST_F(StepBack, FromTheFirstLineToDoLeavesNoCurrentLine) {
     EXPECT_TRUE(canAdvance());
 }
 
-TEST_F(StepBack, WithNoCurrentLineDoesNothing) {
-    loadStates(L"00");
-    click(IDC_FORM3_CMDPRECEDENT);
-    takeCalls();
-    click(IDC_FORM3_CMD4);
-    EXPECT_EQ(takeCalls(), CallJournal());
-    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"-1");
-}
-
 TEST_F(StepBack, WithNoCurrentLineIsFollowedByTheFirstLineToDo) {
     loadStates(L"100");
     click(IDC_FORM3_CMDPRECEDENT);
@@ -98,18 +65,6 @@ TEST_F(StepBack, WithNoCurrentLineIsFollowedByTheFirstLineToDo) {
     EXPECT_EQ(states(), L"1 3 0");
     EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"1");
     EXPECT_TRUE(canStepBack());
-}
-
-TEST_F(StepBack, WithNoLineLeftToDoAnAdvanceEndsTheList) {
-    loadStates(L"100");
-    click(IDC_FORM3_CMDPRECEDENT);
-    module.liste.EtatFich[1].code = L"2";
-    module.liste.EtatFich[2].code = L"1";
-    click(IDC_FORM3_CMDSUIVSAUTER);
-    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"3");
-    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"Aucun");
-    EXPECT_FALSE(canAdvance());
-    EXPECT_FALSE(canStepBack());
 }
 
 TEST_F(StepBack, TakesADocumentOfTheSamePathAsOpen) {

@@ -46,26 +46,6 @@ TEST(LineCommands, ChangingSparesTheLineInProgress) {
     EXPECT_EQ(list.EtatFich[8].code, L"0");
 }
 
-TEST(LineCommands, ResettingStartsAtTheFirstLineToDo) {
-    const struct {
-        const wchar_t* before;
-        std::vector<int> selected;
-        const wchar_t* afterwards;
-        int current;
-    } cases[] = {
-        {L"1 3 2 0", {0}, L"3 0 2 0", 0},
-        {L"1 3 2 0", {2}, L"1 3 0 0", 1},
-        {L"1 2 1 12", {3, 2}, L"1 2 3 0", 2},
-        {L"0 1 3 1", {3}, L"3 1 0 0", 0},
-        {L"3", {0}, L"3", 0},
-    };
-    for (const auto& c : cases) {
-        WorkList list = listOf(c.before);
-        EXPECT_EQ(resetSelected(list, only(c.selected)), c.current) << c.before;
-        EXPECT_EQ(codesOf(list), c.afterwards) << c.before;
-    }
-}
-
 TEST(LineCommands, EliminatingRemovesChosenLinesOfItsStates) {
     const struct {
         LineSelected chosen;
@@ -73,19 +53,14 @@ TEST(LineCommands, EliminatingRemovesChosenLinesOfItsStates) {
         const wchar_t* afterwards;
     } cases[] = {
         {kAll, Eliminate::DoneAndSeen, L"0 3 11 12 x"},
-        {kAll, Eliminate::Seen, L"0 1 3 11 12 1 x"},
         {only({1, 2}), Eliminate::DoneAndSeen, L"0 3 11 12 1 2 x"},
         {only({1, 7}), Eliminate::Seen, L"0 1 2 3 11 12 1 x"},
-        {only({0, 3, 4, 8}), Eliminate::DoneAndSeen, L"0 1 2 3 11 12 1 2 x"},
     };
     for (const auto& c : cases) {
         WorkList list = listOf(L"0 1 2 3 11 12 1 2 x");
         eliminateLines(list, c.chosen, c.states);
         EXPECT_EQ(codesOf(list), c.afterwards);
     }
-    WorkList list = listOf(L"1 2 1");
-    eliminateLines(list, kAll, Eliminate::DoneAndSeen);
-    EXPECT_EQ(list.DerFich, -1);
 }
 
 TEST(LineCommands, EliminatingMovesPathsButNotReloadFlags) {
@@ -130,22 +105,4 @@ TEST(LineCommands, ReestablishingReadsTheRowPastTheLastOne) {
     EXPECT_EQ(raised([&] { reestablishCurrent(list); }), 9);
     list.EtatFich[8000].code = state::kInProgress;
     EXPECT_EQ(reestablishCurrent(list), 8000);
-}
-
-TEST(LineCommands, ResumesAtTheFirstLineToDoFromALineOn) {
-    const struct {
-        const wchar_t* before;
-        int from;
-        std::optional<int> current;
-        const wchar_t* afterwards;
-    } cases[] = {
-        {L"0 3 2 0 0", 2, 3, L"0 0 2 3 0"},      {L"0 3 2 0 0", 1, 1, L"0 3 2 0 0"},
-        {L"0 3 2 0 0", 4, 4, L"0 0 2 0 3"},      {L"0 3 2 1", 2, std::nullopt, L"0 0 2 1"},
-        {L"1 2 10", 0, std::nullopt, L"1 2 10"},
-    };
-    for (const auto& c : cases) {
-        WorkList list = listOf(c.before);
-        EXPECT_EQ(resumeFrom(list, c.from), c.current) << c.before;
-        EXPECT_EQ(codesOf(list), c.afterwards) << c.before;
-    }
 }
