@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "driver/text.h"
+#include "driver/wait.h"
 #include "driver/winapi.h"
 
 namespace endtoend {
@@ -37,14 +38,17 @@ void ChooseLine(HWND comboBox, const std::string& line) {
 }
 
 void OpenLine(HWND list, const std::string& ending) {
-    const std::vector<std::string> lines = ListLines(list);
-    for (size_t i = 0; i < lines.size(); ++i) {
-        if (!lines[i].ends_with(ending)) continue;
-        Send(list, LB_SETCURSEL, i);
-        Notify(list, LBN_DBLCLK);
-        return;
-    }
-    throw std::runtime_error("no line \"" + ending + "\" to open");
+    // The list may still be showing what an earlier double click left.
+    WaitFor("a line \"" + ending + "\"", [&] {
+        const std::vector<std::string> lines = ListLines(list);
+        for (size_t i = 0; i < lines.size(); ++i) {
+            if (!lines[i].ends_with(ending)) continue;
+            Send(list, LB_SETCURSEL, i);
+            Notify(list, LBN_DBLCLK);
+            return true;
+        }
+        return false;
+    });
 }
 
 }  // namespace endtoend
