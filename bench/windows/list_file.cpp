@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <memory>
+
 #include "platform/win32/text_encoding.h"
 #include "platform/win32/win_files.h"
 #include "rows.h"
@@ -15,6 +17,12 @@ std::wstring listText(int count) {
     std::wstring text;
     for (const std::wstring& path : samplePaths(count)) appendFreshLine(text, path);
     return text;
+}
+
+void readText(std::wstring_view text, WorkList& list) {
+    ListFileReader reader(list);
+    reader.add(text);
+    reader.finish();
 }
 
 void bareSave(const std::wstring& path, const std::string& bytes) {
@@ -50,11 +58,14 @@ Row listFileSave(const Setting& setting) {
     const std::wstring path = (setting.directory / "save.lst").wstring();
     for (const int size : setting.sizes) {
         const std::wstring text = listText(size);
-        const std::string bytes = encodeText(text);
+        std::string bytes;
+        encodeText(text, bytes);
         WorkList list;
-        parseListFile(text, list);
+        readText(text, list);
         WinFiles files;
-        const auto subject = [&] { files.replaceText(path, formatListFile(list, size)); };
+        const auto subject = [&] {
+            files.replace(path, [&](const TextSink& sink) { formatListFile(list, size, sink); });
+        };
         const Comparison compared =
             compare(setting.rounds, {[&] { bareSave(path, bytes); }}, {subject});
         require(bareLoad(path) == bytes, "the list file's bytes");
@@ -73,9 +84,14 @@ Row listFileLoad(const Setting& setting) {
     const std::wstring path = (setting.directory / "load.lst").wstring();
     for (const int size : setting.sizes) {
         WinFiles files;
-        files.replaceText(path, listText(size));
+        const std::wstring text = listText(size);
+        files.replace(path, [&](const TextSink& sink) { sink(text); });
         std::unique_ptr<WorkList> list;
-        const auto subject = [&] { parseListFile(files.readText(path), *list); };
+        const auto subject = [&] {
+            ListFileReader reader(*list);
+            files.read(path, [&](std::wstring_view piece) { reader.add(piece); });
+            reader.finish();
+        };
         const Comparison compared =
             compare(setting.rounds, {[&] { bareLoad(path); }},
                     {subject, [&] { list = std::make_unique<WorkList>(); }});

@@ -32,7 +32,8 @@ Comparison compareFill(const Setting& setting, int count) {
 
     WorkList work;
     std::vector<std::wstring> lines;
-    for (const std::wstring& path : samplePaths(count)) {
+    const std::vector<std::wstring> paths = samplePaths(count);
+    for (const std::wstring& path : paths) {
         const int i = static_cast<int>(lines.size());
         work.EtatFich[i] = {.code = state::kToDo, .path = path, .reload = {}};
         lines.push_back(displayLine(i, stage.module.labels.LibAFaire, path, L"0"));

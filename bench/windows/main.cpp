@@ -23,6 +23,7 @@ struct NamedRow {
 constexpr NamedRow kRows[] = {
     {"tree", rebuildOfTree}, {"directory", rebuildOfDirectory},
     {"fill", listFill},      {"next", nextDocument},
+    {"framed", nextDocumentWithScrollBars},
     {"filter", filter},      {"cad", cadCalls},
     {"start", start},        {"save", listFileSave},
     {"load", listFileLoad},  {"size", programSize},

@@ -12,6 +12,8 @@ Row rebuildOfDirectory(const Setting& setting);
 Row listFill(const Setting& setting);
 /// From one document to the next but for the CAD calls, against one repaint of the list.
 Row nextDocument(const Setting& setting);
+/// The same against a repaint of the list and its scroll bars, which Wine draws slowly.
+Row nextDocumentWithScrollBars(const Setting& setting);
 /// A filter that matches nothing, against a search in texts folded before.
 Row filter(const Setting& setting);
 /// A document's eight CAD calls, against Invoke with member numbers known.

@@ -15,7 +15,8 @@ bool equalIgnoringCase(std::wstring_view a, std::wstring_view b) {
 }
 
 std::wstring_view takeLine(std::wstring_view& rest) {
-    const auto isLineEnd = [](wchar_t c) { return c == L'\n' || c == L'\r'; };
+    // One comparison tells almost all characters.
+    const auto isLineEnd = [](wchar_t c) { return c <= L'\r' && (c == L'\n' || c == L'\r'); };
     const auto at = std::ranges::find_if(rest, isLineEnd);
     const std::size_t end =
         at == rest.end() ? std::wstring_view::npos : static_cast<std::size_t>(at - rest.begin());

@@ -46,7 +46,8 @@ class ListBox : public Control {
     virtual void resumeDrawing() = 0;
 };
 
-/// While it lives a list is not drawn; then it is drawn once.
+/// While it lives a list is not drawn; then it is drawn once, scroll bars included. One may stand
+/// within another.
 class DrawingPause {
  public:
     explicit DrawingPause(ListBox& list) : list_(list) { list_.stopDrawing(); }

@@ -20,18 +20,25 @@ struct DirectoryId {
     bool operator==(const DirectoryId&) const = default;
 };
 
+/// Takes the pieces of a text in order; each but the last ends with a line feed.
+using TextSink = std::function<void(std::wstring_view piece)>;
+
 /// The file system. Paths are full paths; long ones need no prefix.
 class Files {
  public:
     virtual ~Files() = default;
 
-    /// The whole text of a file: UTF-8 when its bytes are valid UTF-8, else the system's
+    /// Reads the text of a file: UTF-8 when its bytes are valid UTF-8, else the system's
     /// single-byte code page. Raises 53, 70, 75 or 76.
-    virtual std::wstring readText(const std::wstring& path) = 0;
+    virtual void read(const std::wstring& path, const TextSink& sink) = 0;
+    std::wstring readText(const std::wstring& path);
 
-    /// Creates or replaces a file whole, as UTF-8: an interrupted write leaves the old one.
-    /// Raises 5 for text that can't be encoded, else 70, 75 or 76.
-    virtual void replaceText(const std::wstring& path, std::wstring_view text) = 0;
+    /// Creates or replaces a file whole, as UTF-8, with what `write` puts into its sink: an
+    /// interrupted write leaves the old one. Raises 5 for text that can't be encoded, else 70, 75
+    /// or 76.
+    virtual void replace(const std::wstring& path,
+                         const std::function<void(const TextSink&)>& write) = 0;
+    void replaceText(const std::wstring& path, std::wstring_view text);
 
     /// Visits every entry of a directory but "." and "..", in no order. Raises 70 or 76.
     virtual void visit(const std::wstring& directory,

@@ -7,19 +7,29 @@
 #include "worklist/state_labels.h"
 
 void SelectionList::RemplirListe(int mode, const std::wstring& depth) {
+    depth_ = depth;
     const int count = static_cast<int>(found_.count());
     if (mode == 1) {
-        list_.setLines(
-            count, [&](int i) { return labels_.LibAFaire + shownPath(found_.entry(i), depth); });
+        list_.setLines(count, [&](int i) { return lineText(i, false); });
         return;
     }
     DrawingPause pause(list_);
     for (int i = 0; i < count; ++i) {
         const int mark = list_.mark(i);
-        const std::wstring& label = mark != 0 ? labels_.LibX : labels_.LibAFaire;
-        list_.replaceLine(i, label + shownPath(found_.entry(i), depth));
+        list_.replaceLine(i, lineText(i, mark != 0));
         list_.setMark(i, mark);
     }
+}
+
+void SelectionList::appendLine(std::wstring& text, int line, bool chosen) const {
+    text += chosen ? labels_.LibX : labels_.LibAFaire;
+    text += shownPath(found_.entry(line), depth_);
+}
+
+std::wstring SelectionList::lineText(int line, bool chosen) const {
+    std::wstring text;
+    appendLine(text, line, chosen);
+    return text;
 }
 
 long SelectionList::chosenCount() const {
@@ -33,9 +43,7 @@ long SelectionList::chosenCount() const {
 bool SelectionList::chosen(int line) const { return list_.mark(line) == 1; }
 
 void SelectionList::setChosen(int line, bool chosen) {
-    const std::wstring& before = chosen ? labels_.LibAFaire : labels_.LibX;
-    const std::wstring& after = chosen ? labels_.LibX : labels_.LibAFaire;
-    list_.changeText(line, after + list_.line(line).substr(before.size()));
+    list_.changeText(line, lineText(line, chosen));
     list_.setMark(line, chosen ? 1 : 0);
 }
 
@@ -51,11 +59,24 @@ void SelectionList::toggleAll() {
     for (int i = 0; i < found_.count(); ++i) setChosen(i, list_.mark(i) == 0);
 }
 
-void SelectionList::setMatching(std::wstring_view filter, bool wanted) {
+std::vector<int> SelectionList::matching(std::wstring_view filter, bool chosen) const {
     const std::wstring folded = upperCase(filter);
-    DrawingPause pause(list_);
+    std::vector<int> lines;
+    std::wstring text;
     for (int i = 0; i < found_.count(); ++i) {
-        if (list_.mark(i) != (wanted ? 0 : 1)) continue;
-        if (upperCase(list_.line(i)).find(folded) != std::wstring::npos) setChosen(i, wanted);
+        text.clear();
+        appendLine(text, i, chosen);
+        makeUpperCase(text);
+        const bool matches = text.find(folded) != std::wstring::npos;
+        // The list is asked about the lines that match alone: it answers slowly.
+        if (matches && (list_.mark(i) == 1) == chosen) lines.push_back(i);
     }
+    return lines;
+}
+
+void SelectionList::setMatching(std::wstring_view filter, bool wanted) {
+    const std::vector<int> lines = matching(filter, !wanted);
+    if (lines.empty()) return;
+    DrawingPause pause(list_);
+    for (const int line : lines) setChosen(line, wanted);
 }

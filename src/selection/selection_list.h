@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 class FoundDocuments;
 class ListBox;
@@ -28,10 +29,16 @@ class SelectionList {
     void dropMatching(std::wstring_view filter) { setMatching(filter, false); }
 
  private:
+    /// A line as it is displayed, chosen or not.
+    std::wstring lineText(int line, bool chosen) const;
+    void appendLine(std::wstring& text, int line, bool chosen) const;
+    /// The lines, of those chosen or of those not chosen, that match as they are displayed.
+    std::vector<int> matching(std::wstring_view filter, bool chosen) const;
     void setChosen(int line, bool chosen);
     void setMatching(std::wstring_view filter, bool wanted);
 
     ListBox& list_;
     const FoundDocuments& found_;
     const StateLabels& labels_;
+    std::wstring depth_;  ///< at which the lines were drawn last
 };

@@ -76,8 +76,9 @@ std::wstring Form3::ChaineOptions() const {
 }
 
 void Form3::LireListe() {
-    const std::wstring text = platform_.files.readText(module_.FichListe);
-    if (!parseListFile(text, module_.liste)) throw ProgramEnd{};
+    ListFileReader reader(module_.liste);
+    platform_.files.read(module_.FichListe, [&](std::wstring_view piece) { reader.add(piece); });
+    if (!reader.finish()) throw ProgramEnd{};
 }
 
 int Form3::ChoisirDepart() {
@@ -99,7 +100,7 @@ void Form3::Demarrer(int index) {
     cptfichier1.setText(decimal(module_.liste.lineCount()));
     List1.select(index, true);
     OuvrirLigne(index);
-    TxtEtat.setText(module_.liste.EtatFich[index].path);
+    TxtEtat.setText(std::wstring(module_.liste.EtatFich[index].path));
     MontrerDocument();
 }
 
@@ -125,8 +126,9 @@ void Form3::Form_Close() { throw ProgramEnd{}; }
 void Form3::CmdMemo_Click() {}
 
 void Form3::CmdFichierListe_Click() {
-    platform_.files.replaceText(module_.FichListe,
-                                formatListFile(module_.liste, numericValue(cptfichier1.text())));
+    platform_.files.replace(module_.FichListe, [&](const TextSink& sink) {
+        formatListFile(module_.liste, numericValue(cptfichier1.text()), sink);
+    });
 }
 
 void Form3::CmdPlus1_Click() {
@@ -147,6 +149,4 @@ void Form3::AfficherListe(std::int16_t mode) {
         cptfichier1.setText(L"0");
         vue_.rebuild(module_.liste, module_.labels, NNiveau1.text(), mode == 1);
     }
-    // Shown now: what follows may be a long opening.
-    List1.repaint();
 }

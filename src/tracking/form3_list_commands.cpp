@@ -93,5 +93,5 @@ void Form3::ReprendreA(int index) {
     cptfichier1.setText(decimal(module_.liste.lineCount()));
     List1.select(index, true);
     OuvrirLigne(index);
-    TxtEtat.setText(module_.liste.EtatFich[index].path);
+    TxtEtat.setText(std::wstring(module_.liste.EtatFich[index].path));
 }

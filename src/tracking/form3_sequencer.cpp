@@ -76,15 +76,20 @@ void Form3::PasserEnCours(int index) {
     WorkLine& ligne = module_.liste.EtatFich[index];
     nbfich1.setText(decimal(index + 1));
     ligne.code = state::kInProgress;
-    AfficherListe(0);
-    List1.select(index, true);
+    {
+        DrawingPause pause(List1);
+        AfficherListe(0);
+        List1.select(index, true);
+    }
     OuvrirLigne(index);
-    TxtEtat.setText(ligne.path);
+    TxtEtat.setText(std::wstring(ligne.path));
 }
 
 void Form3::OuvrirLigne(int index) {
-    const std::wstring path = module_.liste.EtatFich[index].path;
+    const std::wstring path(module_.liste.EtatFich[index].path);
     if (equalIgnoringCase(path, module_.NomDocCourant)) return;
+    // Shown now: the opening may take long.
+    List1.repaint();
     if (!module_.NomDocCourant.empty()) cad_.closeDocument();
     module_.NomDocCourant = path;
     typeDocument_ = documentType(path, typeDocument_);

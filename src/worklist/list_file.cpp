@@ -12,7 +12,7 @@ constexpr long kReloadOffset = 10;
 WorkLine parseLine(std::wstring_view line) {
     if (line.size() < kCodeWidth) throw errors::invalidArgument();
     WorkLine result{.code = std::wstring(trimmed(line.substr(0, kCodeWidth))),
-                    .path = std::wstring(trimmed(line.substr(kCodeWidth))),
+                    .path = trimmed(line.substr(kCodeWidth)),
                     .reload = {}};
     if (const long value = numericValue(result.code); value >= kReloadOffset) {
         result.code = decimal(value - kReloadOffset);
@@ -30,26 +30,30 @@ void appendLine(std::wstring& text, std::wstring_view code, std::wstring_view pa
 
 }  // namespace
 
-bool parseListFile(std::wstring_view text, WorkList& list) {
-    if (text.empty()) return false;
-    long row = 0;
-    while (!text.empty()) list.EtatFich[row++] = parseLine(takeLine(text));
-    list.DerFich = static_cast<std::int16_t>(row - 1);
+void ListFileReader::add(std::wstring_view piece) {
+    std::wstring_view rest = list_.texts.emplace_back(piece);
+    while (!rest.empty()) list_.EtatFich[count_++] = parseLine(takeLine(rest));
+}
+
+bool ListFileReader::finish() {
+    if (count_ == 0) return false;
+    list_.DerFich = static_cast<std::int16_t>(count_ - 1);
     return true;
 }
 
-std::wstring formatListFile(WorkList& list, long lineCount) {
-    constexpr std::size_t kBesidePath = 8;
-    std::size_t length = 0;
-    for (long i = 0; i < lineCount; ++i) length += list.EtatFich[i].path.size() + kBesidePath;
-    std::wstring text;
-    text.reserve(length);
+void formatListFile(WorkList& list, long lineCount, const TextSink& sink) {
+    constexpr std::size_t kPiece = 1 << 15;
+    std::wstring piece;
+    piece.reserve(kPiece + 1000);
     for (long i = 0; i < lineCount; ++i) {
         WorkLine& line = list.EtatFich[i];
         if (line.reload == L"1") line.code.insert(0, 1, L'1');
-        appendLine(text, line.code, line.path);
+        appendLine(piece, line.code, line.path);
+        if (piece.size() < kPiece) continue;
+        sink(piece);
+        piece.clear();
     }
-    return text;
+    sink(piece);
 }
 
 void appendFreshLine(std::wstring& text, std::wstring_view path) {

@@ -20,14 +20,17 @@ std::wstring nameBelow(const std::wstring& directory, const std::wstring& path) 
 
 }  // namespace
 
-std::wstring FakeFiles::readText(const std::wstring& path) {
+void FakeFiles::read(const std::wstring& path, const TextSink& sink) {
     const auto file = texts.find(path);
     if (file == texts.end()) throw errors::fileNotFound(path);
-    return file->second;
+    sink(file->second);
 }
 
-void FakeFiles::replaceText(const std::wstring& path, std::wstring_view text) {
+void FakeFiles::replace(const std::wstring& path,
+                        const std::function<void(const TextSink&)>& write) {
     if (unreadable.contains(path)) throw errors::fileAccess(path);
+    std::wstring text;
+    write([&](std::wstring_view piece) { text += piece; });
     texts[path] = text;
 }
 

@@ -19,8 +19,9 @@ struct FakeFiles : Files {
     /// An empty document, and its directories.
     void add(const std::wstring& path) { texts[path]; }
 
-    std::wstring readText(const std::wstring& path) override;
-    void replaceText(const std::wstring& path, std::wstring_view text) override;
+    void read(const std::wstring& path, const TextSink& sink) override;
+    void replace(const std::wstring& path,
+                 const std::function<void(const TextSink&)>& write) override;
     void visit(const std::wstring& directory,
                const std::function<void(const DirectoryEntry&)>& visitor) override;
     DirectoryId identify(const std::wstring& directory) override;

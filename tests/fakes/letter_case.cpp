@@ -13,9 +13,6 @@ locale_t letters() {
 
 }  // namespace
 
-std::wstring upperCase(std::wstring_view text) {
-    std::wstring result(text);
-    for (wchar_t& c : result)
-        c = static_cast<wchar_t>(towupper_l(static_cast<wint_t>(c), letters()));
-    return result;
+void makeUpperCase(std::wstring& text) {
+    for (wchar_t& c : text) c = static_cast<wchar_t>(towupper_l(static_cast<wint_t>(c), letters()));
 }

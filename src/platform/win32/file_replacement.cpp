@@ -34,10 +34,11 @@ class TemporaryFile {
             if (!calls_.write(file_.get(), bytes.data(), wanted, written)) return false;
             bytes.remove_prefix(written);
         }
-        return calls_.flush(file_.get());
+        return true;
     }
 
     bool moveOverTarget() {
+        if (!calls_.flush(file_.get())) return false;
         file_.reset(INVALID_HANDLE_VALUE);
         // Virus scanners and indexers hold a fresh file for a moment.
         for (int attempt = 0;; ++attempt) {
@@ -89,20 +90,19 @@ bool FileCalls::move(const std::wstring& from, const std::wstring& to) {
     return MoveFileExW(from.c_str(), to.c_str(), kFlags) != FALSE;
 }
 
-void replaceFile(const std::wstring& path, std::string_view bytes) {
+void replaceFile(const std::wstring& path, const WriteContent& write) {
     FileCalls calls;
-    replaceFile(path, bytes, calls);
+    replaceFile(path, write, calls);
 }
 
-void replaceFile(const std::wstring& path, std::string_view bytes, FileCalls& calls) {
+void replaceFile(const std::wstring& path, const WriteContent& write, FileCalls& calls) {
+    const auto require = [&](bool succeeded) {
+        if (!succeeded) throw fileError(GetLastError(), path);
+    };
     const std::wstring target = longPath(path);
     requireWritable(target, path);
-    DWORD failure = ERROR_SUCCESS;
-    {
-        TemporaryFile file(target, calls);
-        if (!file.created() || !file.write(bytes) || !file.moveOverTarget()) {
-            failure = GetLastError();
-        }
-    }
-    if (failure != ERROR_SUCCESS) throw fileError(failure, path);
+    TemporaryFile file(target, calls);
+    require(file.created());
+    write([&](std::string_view bytes) { require(file.write(bytes)); });
+    require(file.moveOverTarget());
 }

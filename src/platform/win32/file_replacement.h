@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -15,8 +16,11 @@ class FileCalls {
     virtual bool move(const std::wstring& from, const std::wstring& to);
 };
 
+using ByteSink = std::function<void(std::string_view bytes)>;
+using WriteContent = std::function<void(const ByteSink& file)>;
+
 /// Replaces a file whole: written beside it, flushed, then moved over it, so that at any moment
-/// the path holds all of the old bytes or all of the new. Raises 70, 75 or 76 and then leaves the
-/// old file as it was and nothing beside it.
-void replaceFile(const std::wstring& path, std::string_view bytes);
-void replaceFile(const std::wstring& path, std::string_view bytes, FileCalls& calls);
+/// the path holds all of the old bytes or all of the new. Raises 70, 75 or 76, or lets through what
+/// `write` throws, and then leaves the old file as it was and nothing beside it.
+void replaceFile(const std::wstring& path, const WriteContent& write);
+void replaceFile(const std::wstring& path, const WriteContent& write, FileCalls& calls);

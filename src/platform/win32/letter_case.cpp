@@ -2,8 +2,7 @@
 
 #include <windows.h>
 
-std::wstring upperCase(std::wstring_view text) {
-    std::wstring result(text);
-    CharUpperBuffW(result.data(), static_cast<DWORD>(result.size()));
-    return result;
+void makeUpperCase(std::wstring& text) {
+    CharUpperBuffW(text.data(), static_cast<DWORD>(text.size()));
 }
+

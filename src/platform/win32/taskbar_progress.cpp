@@ -9,7 +9,20 @@ UINT buttonCreated() {
     return message;
 }
 
+ITaskbarList3* makeTaskbar() {
+    ITaskbarList3* taskbar = nullptr;
+    CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&taskbar));
+    if (!taskbar || SUCCEEDED(taskbar->HrInit())) return taskbar;
+    taskbar->Release();
+    return nullptr;
+}
+
 }  // namespace
+
+TaskbarProgress::TaskbarProgress() = default;
+TaskbarProgress::~TaskbarProgress() = default;
+
+void TaskbarProgress::Releaser::operator()(ITaskbarList3* taskbar) const { taskbar->Release(); }
 
 void TaskbarProgress::show(HWND window, int done, int total) {
     if (done == done_ && total == total_) return;
@@ -18,22 +31,16 @@ void TaskbarProgress::show(HWND window, int done, int total) {
     tellShell(window);
 }
 
-void TaskbarProgress::onMessage(HWND window, UINT message) const {
+void TaskbarProgress::onMessage(HWND window, UINT message) {
     if (message == buttonCreated() && total_ > 0) tellShell(window);
 }
 
-void TaskbarProgress::tellShell(HWND window) const {
-    ITaskbarList3* taskbar = nullptr;
-    if (FAILED(CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER,
-                                IID_PPV_ARGS(&taskbar)))) {
-        return;
+void TaskbarProgress::tellShell(HWND window) {
+    if (!taskbar_) taskbar_.reset(makeTaskbar());
+    if (!taskbar_) return;
+    taskbar_->SetProgressState(window, total_ > 0 ? TBPF_NORMAL : TBPF_NOPROGRESS);
+    if (total_ > 0) {
+        taskbar_->SetProgressValue(window, static_cast<ULONGLONG>(done_),
+                                   static_cast<ULONGLONG>(total_));
     }
-    if (SUCCEEDED(taskbar->HrInit())) {
-        taskbar->SetProgressState(window, total_ > 0 ? TBPF_NORMAL : TBPF_NOPROGRESS);
-        if (total_ > 0) {
-            taskbar->SetProgressValue(window, static_cast<ULONGLONG>(done_),
-                                      static_cast<ULONGLONG>(total_));
-        }
-    }
-    taskbar->Release();
 }

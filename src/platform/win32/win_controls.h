@@ -68,6 +68,7 @@ class WinListBox : public ControlOf<ListBox> {
     void widenFor(std::size_t characters);
 
     std::size_t widest_ = 0;  ///< characters of the longest line, for the horizontal scroll bar
+    int pauses_ = 0;
 };
 
 class WinComboBox : public ControlOf<ComboBox> {

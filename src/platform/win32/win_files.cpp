@@ -55,10 +55,19 @@ bool isDotEntry(const wchar_t* name) {
 
 }  // namespace
 
-std::wstring WinFiles::readText(const std::wstring& path) { return decodeText(readBytes(path)); }
+void WinFiles::read(const std::wstring& path, const TextSink& sink) {
+    decodeText(readBytes(path), sink);
+}
 
-void WinFiles::replaceText(const std::wstring& path, std::wstring_view text) {
-    replaceFile(path, encodeText(text));
+void WinFiles::replace(const std::wstring& path,
+                       const std::function<void(const TextSink&)>& write) {
+    replaceFile(path, [&](const ByteSink& file) {
+        std::string bytes;
+        write([&](std::wstring_view piece) {
+            encodeText(piece, bytes);
+            file(bytes);
+        });
+    });
 }
 
 void WinFiles::visit(const std::wstring& directory,

@@ -4,8 +4,9 @@
 
 class WinFiles : public Files {
  public:
-    std::wstring readText(const std::wstring& path) override;
-    void replaceText(const std::wstring& path, std::wstring_view text) override;
+    void read(const std::wstring& path, const TextSink& sink) override;
+    void replace(const std::wstring& path,
+                 const std::function<void(const TextSink&)>& write) override;
     void visit(const std::wstring& directory,
                const std::function<void(const DirectoryEntry&)>& visitor) override;
     DirectoryId identify(const std::wstring& directory) override;

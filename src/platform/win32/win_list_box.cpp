@@ -97,9 +97,12 @@ void WinListBox::widenFor(std::size_t characters) {
     send(LB_SETHORIZONTALEXTENT, (characters + 1) * static_cast<WPARAM>(characterWidth(handle())));
 }
 
-void WinListBox::stopDrawing() { send(WM_SETREDRAW, FALSE); }
+void WinListBox::stopDrawing() {
+    if (pauses_++ == 0) send(WM_SETREDRAW, FALSE);
+}
 
 void WinListBox::resumeDrawing() {
+    if (--pauses_ != 0) return;
     send(WM_SETREDRAW, TRUE);
     InvalidateRect(handle(), nullptr, TRUE);
 }

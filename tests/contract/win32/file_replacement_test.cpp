@@ -39,6 +39,8 @@ class FailingCalls : public FileCalls {
     int calls_ = 0;
 };
 
+const WriteContent kNew = [](const ByteSink& file) { file("nouveau"); };
+
 class FileReplacement : public testing::Test {
  protected:
     std::unique_ptr<Machine> machine = makeMachine();
@@ -53,7 +55,7 @@ TEST_F(FileReplacement, LeavesTheOldFileWhicheverCallFails) {
     int failing = 1;
     for (;; ++failing) {
         FailingCalls calls(failing, ERROR_DISK_FULL);
-        const int error = raised([&] { replaceFile(file, "nouveau", calls); });
+        const int error = raised([&] { replaceFile(file, kNew, calls); });
         if (calls.calls() < failing) break;
         EXPECT_EQ(error, 75) << "call " << failing;
         EXPECT_EQ(files.readText(file), L"ancien") << "call " << failing;
@@ -67,6 +69,6 @@ TEST_F(FileReplacement, TriesAgainWhileAnotherProgramHoldsTheFile) {
     files.replaceText(file, L"ancien");
     constexpr int kTheMove = 4;
     FailingCalls calls(kTheMove, ERROR_SHARING_VIOLATION);
-    replaceFile(file, "nouveau", calls);
+    replaceFile(file, kNew, calls);
     EXPECT_EQ(files.readText(file), L"nouveau");
 }

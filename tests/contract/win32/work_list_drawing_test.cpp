@@ -42,7 +42,8 @@ class WorkListDrawing : public testing::Test {
     void prepare(int topLine) {
         for (int i = 0; i < kLines; ++i) {
             work.EtatFich[i].code = std::to_wstring(i % 3);
-            work.EtatFich[i].path = L"c:\\plans\\sous\\f" + std::to_wstring(i);
+            work.EtatFich[i].path =
+                work.texts.emplace_back(L"c:\\plans\\sous\\f" + std::to_wstring(i));
         }
         work.DerFich = kLines - 1;
         view.rebuild(work, labels, L"0", false);

@@ -16,7 +16,8 @@ WorkList listOf(const std::wstring& codes) {
         if (c != L' ') {
             code += c;
         } else if (!code.empty()) {
-            list.EtatFich[row++] = {code, L"c:\\" + std::to_wstring(row), L""};
+            const auto& path = list.texts.emplace_back(L"c:\\" + std::to_wstring(row));
+            list.EtatFich[row++] = {code, path, L""};
             code.clear();
         }
     }

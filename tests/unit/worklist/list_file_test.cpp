@@ -12,6 +12,18 @@ std::wstring linesToDo(int count) {
     return text;
 }
 
+bool read(std::wstring_view text, WorkList& list) {
+    ListFileReader reader(list);
+    if (!text.empty()) reader.add(text);
+    return reader.finish();
+}
+
+std::wstring saved(WorkList& list, long lineCount) {
+    std::wstring text;
+    formatListFile(list, lineCount, [&](std::wstring_view piece) { text += piece; });
+    return text;
+}
+
 }  // namespace
 
 TEST(ListFile, EachLineIsACodeAndAPath) {
@@ -42,7 +54,7 @@ TEST(ListFile, EachLineIsACodeAndAPath) {
     for (const auto& c : cases) {
         WorkList list;
         list.EtatFich[0].reload = L"1";
-        ASSERT_TRUE(parseListFile(c.line, list)) << c.line;
+        ASSERT_TRUE(read(c.line, list)) << c.line;
         EXPECT_EQ(list.EtatFich[0].code, c.code) << c.line;
         EXPECT_EQ(list.EtatFich[0].path, c.path) << c.line;
         EXPECT_EQ(list.EtatFich[0].reload, c.reload) << c.line;
@@ -53,7 +65,7 @@ TEST(ListFile, EachLineIsACodeAndAPath) {
 TEST(ListFile, AnEmptyTextLeavesTheListAlone) {
     WorkList list;
     list.DerFich = 5;
-    EXPECT_FALSE(parseListFile(L"", list));
+    EXPECT_FALSE(read(L"", list));
     EXPECT_EQ(list.DerFich, 5);
 }
 
@@ -61,28 +73,28 @@ TEST(ListFile, ALineShorterThanItsCodeIsAnInvalidArgument) {
     for (const wchar_t* text : {L"\r\n", L"0", L"0 ", L"0  a\r\n\r\n", L"0  a\r\n\r\n1  b\r\n",
                                 L"0  a\n\r1  b", L"0  a\r\n\x1a"}) {
         WorkList list;
-        EXPECT_EQ(raised([&] { parseListFile(text, list); }), 5) << text;
+        EXPECT_EQ(raised([&] { read(text, list); }), 5) << text;
     }
 }
 
 TEST(ListFile, HoldsAsManyLinesAsTheTable) {
     WorkList list;
-    ASSERT_TRUE(parseListFile(linesToDo(8001), list));
+    ASSERT_TRUE(read(linesToDo(8001), list));
     EXPECT_EQ(list.DerFich, 8000);
     EXPECT_EQ(list.EtatFich[8000].path, L"c:\\f8000");
-    EXPECT_EQ(formatListFile(list, 8001), linesToDo(8001));
-    EXPECT_EQ(raised([&] { formatListFile(list, 8002); }), 9);
+    EXPECT_EQ(saved(list, 8001), linesToDo(8001));
+    EXPECT_EQ(raised([&] { saved(list, 8002); }), 9);
 
     WorkList another;
-    EXPECT_EQ(raised([&] { parseListFile(linesToDo(8002), another); }), 9);
+    EXPECT_EQ(raised([&] { read(linesToDo(8002), another); }), 9);
 }
 
 TEST(ListFile, AFlaggedCodeGrowsAtEachSave) {
     WorkList list;
-    ASSERT_TRUE(parseListFile(L"10  c:\\a\r\n0  c:\\b\r\n", list));
-    EXPECT_EQ(formatListFile(list, 2), L"10  c:\\a\r\n0  c:\\b\r\n");
+    ASSERT_TRUE(read(L"10  c:\\a\r\n0  c:\\b\r\n", list));
+    EXPECT_EQ(saved(list, 2), L"10  c:\\a\r\n0  c:\\b\r\n");
     EXPECT_EQ(list.EtatFich[0].code, L"10");
     EXPECT_EQ(list.EtatFich[1].code, L"0");
-    EXPECT_EQ(formatListFile(list, 2), L"110  c:\\a\r\n0  c:\\b\r\n");
+    EXPECT_EQ(saved(list, 2), L"110  c:\\a\r\n0  c:\\b\r\n");
     EXPECT_EQ(list.EtatFich[0].code, L"110");
 }
