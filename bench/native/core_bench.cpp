@@ -1,7 +1,6 @@
 // The pure functions that run over every line of a full list.
 
 #include <benchmark/benchmark.h>
-
 #include <memory>
 
 #include "common/numbers.h"

@@ -21,12 +21,17 @@ struct NamedRow {
 };
 
 constexpr NamedRow kRows[] = {
-    {"tree", rebuildOfTree}, {"directory", rebuildOfDirectory},
-    {"fill", listFill},      {"next", nextDocument},
+    {"tree", rebuildOfTree},
+    {"directory", rebuildOfDirectory},
+    {"fill", listFill},
+    {"next", nextDocument},
     {"framed", nextDocumentWithScrollBars},
-    {"filter", filter},      {"cad", cadCalls},
-    {"start", start},        {"save", listFileSave},
-    {"load", listFileLoad},  {"size", programSize},
+    {"filter", filter},
+    {"cad", cadCalls},
+    {"start", start},
+    {"save", listFileSave},
+    {"load", listFileLoad},
+    {"size", programSize},
     {"memory", memoryInUse},
 };
 

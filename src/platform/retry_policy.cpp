@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-std::optional<unsigned> RetryPolicy::next(unsigned long long elapsed) {
+std::optional<unsigned> waitBeforeRetry(unsigned long long elapsed) {
     constexpr unsigned long long kPatience = 10'000;
-    constexpr unsigned kFirstWait = 50;
-    constexpr unsigned kLongestWait = 1'000;
+    constexpr unsigned long long kFirstWait = 50;
+    constexpr unsigned long long kLongestWait = 1'000;
     if (elapsed >= kPatience) return std::nullopt;
-    const unsigned wait = wait_;
-    wait_ = wait == 0 ? kFirstWait : std::min(wait * 2, kLongestWait);
-    return wait;
+    if (elapsed == 0) return 0;
+    // As long as it has taken so far: the intervals double.
+    return static_cast<unsigned>(std::clamp(elapsed, kFirstWait, kLongestWait));
 }

@@ -44,8 +44,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // In two pieces, the first of which ends with a line.
     const std::wstring text = textOfBytes(data, size);
     const auto second = text.begin() + static_cast<std::ptrdiff_t>(text.find(L'\n') + 1);
-    const int error = errorOf(
-        [&] { read = readPieces({text.begin(), second}, {second, text.end()}, list); });
+    const int error = errorOf([&] {
+        read = readPieces({text.begin(), second}, {second, text.end()}, list);
+    });
     require(error == 0 || error == 5 || error == 9);
     require(read == (size > 0 && error == 0));
     if (!read) return 0;

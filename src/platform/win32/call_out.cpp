@@ -27,15 +27,15 @@ bool userGoesOn() {
 }  // namespace
 
 HRESULT callPatiently(const std::function<HRESULT()>& call) {
-    RetryPolicy policy;
     HRESULT result = call();
     ULONGLONG since = GetTickCount64();
     while (isBusy(result)) {
-        if (const auto wait = policy.next(GetTickCount64() - since)) {
+        const auto wait =
+            CallOut::repeatedInVain() ? std::nullopt : waitBeforeRetry(GetTickCount64() - since);
+        if (wait) {
             const CallOut waiting;
             waitWhileDrawing(*wait);
         } else if (userGoesOn()) {
-            policy.restart();
             since = GetTickCount64();
         } else {
             return result;

@@ -5,4 +5,3 @@
 void makeUpperCase(std::wstring& text) {
     CharUpperBuffW(text.data(), static_cast<DWORD>(text.size()));
 }
-

@@ -1,5 +1,9 @@
 #include "platform/win32/message_filter.h"
 
+#include <algorithm>
+
+#include "platform/retry_policy.h"
+#include "platform/win32/call_out.h"
 #include "platform/win32/message_pump.h"
 
 MessageFilter::MessageFilter() { CoRegisterMessageFilter(this, nullptr); }
@@ -16,9 +20,15 @@ DWORD MessageFilter::HandleInComingCall(DWORD, HTASK, DWORD, LPINTERFACEINFO) {
     return SERVERCALL_ISHANDLED;
 }
 
-DWORD MessageFilter::RetryRejectedCall(HTASK, DWORD, DWORD) {
+DWORD MessageFilter::RetryRejectedCall(HTASK, DWORD elapsed, DWORD) {
     constexpr DWORD kGiveUp = static_cast<DWORD>(-1);
-    return kGiveUp;
+    constexpr DWORD kShortestWait = 100;  // below, COM repeats the call at once
+    const auto wait = waitBeforeRetry(elapsed);
+    if (!wait) {
+        CallOut::noteRepeatedInVain();
+        return kGiveUp;
+    }
+    return *wait == 0 ? 0 : std::max<DWORD>(*wait, kShortestWait);
 }
 
 DWORD MessageFilter::MessagePending(HTASK, DWORD, DWORD) {

@@ -19,7 +19,8 @@ class MessageFilter final : public IMessageFilter {
 
     DWORD STDMETHODCALLTYPE HandleInComingCall(DWORD type, HTASK caller, DWORD elapsed,
                                                LPINTERFACEINFO information) override;
-    /// Leaves a refused call to callPatiently, which repeats it: one way for every system.
+    /// COM waits and repeats the call for us as long as the policy has it; then the refusal goes to
+    /// callPatiently, which asks the user. Systems that don't ask leave it to that one altogether.
     DWORD STDMETHODCALLTYPE RetryRejectedCall(HTASK callee, DWORD elapsed, DWORD reason) override;
     /// Sieves the input that came in: otherwise it would wait and be a command after the call.
     DWORD STDMETHODCALLTYPE MessagePending(HTASK callee, DWORD elapsed, DWORD type) override;

@@ -27,9 +27,8 @@ bool isPlain(std::basic_string_view<Character> text) {
 }
 
 bool isUtf8(std::string_view bytes) {
-    return isPlain(bytes) ||
-           MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(),
-                               static_cast<int>(bytes.size()), nullptr, 0) != 0;
+    return isPlain(bytes) || MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(),
+                                                 static_cast<int>(bytes.size()), nullptr, 0) != 0;
 }
 
 void decode(UINT codePage, std::string_view bytes, std::wstring& text) {
@@ -70,7 +69,8 @@ void decodeText(std::string_view bytes, const TextSink& sink) {
 void encodeText(std::wstring_view piece, std::string& bytes) {
     if (isPlain(piece)) {
         bytes.resize(piece.size());
-        std::ranges::transform(piece, bytes.begin(), [](wchar_t c) { return static_cast<char>(c); });
+        std::ranges::transform(piece, bytes.begin(),
+                               [](wchar_t c) { return static_cast<char>(c); });
         return;
     }
     constexpr std::size_t kMostBytes = 3;  // of a character

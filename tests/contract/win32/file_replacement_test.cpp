@@ -50,11 +50,12 @@ class FileReplacement : public testing::Test {
 
 }  // namespace
 
+// A full disk, and a directory where nothing may be written.
 TEST_F(FileReplacement, LeavesTheOldFileWhicheverCallFails) {
     files.replaceText(file, L"ancien");
     int failing = 1;
     for (;; ++failing) {
-        FailingCalls calls(failing, ERROR_DISK_FULL);
+        FailingCalls calls(failing, failing == 1 ? ERROR_ACCESS_DENIED : ERROR_DISK_FULL);
         const int error = raised([&] { replaceFile(file, kNew, calls); });
         if (calls.calls() < failing) break;
         EXPECT_EQ(error, 75) << "call " << failing;

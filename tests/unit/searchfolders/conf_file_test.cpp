@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "unit/raised.h"
+
 namespace {
 
 constexpr auto kMarker = L"Configuration:";
@@ -28,6 +30,21 @@ TEST(ConfFile, StoresEveryLineByTheRules) {
             EXPECT_EQ(configs.ConfRep[one.row][j], one.expected[j]) << one.text << j;
         }
     }
+}
+
+TEST(ConfFile, HoldsAsMuchAsTheTable) {
+    const auto read = [](int configurations, int directories) {
+        std::wstring text;
+        for (int i = 0; i < configurations; ++i) text += L"Configuration:  c\r\n";
+        for (int i = 0; i < directories; ++i) text += L"   c:\\d\r\n";
+        Configurations configs;
+        parseConfFile(text, kMarker, configs);
+        EXPECT_EQ(configs.NbConf, configurations);
+        EXPECT_EQ(configs.ConfRep[configurations][directories], L"c:\\d");
+    };
+    EXPECT_EQ(raised([&] { read(50, 200); }), 0);
+    EXPECT_EQ(raised([&] { read(51, 1); }), 9);
+    EXPECT_EQ(raised([&] { read(1, 201); }), 9);
 }
 
 TEST(ConfFile, IsWrittenBackWithItsHolesClosed) {

@@ -1,0 +1,63 @@
+// What becomes of list files that are not what they should be. The user's guide tells the same.
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include "contract/machine.h"
+#include "platform/win32/file_replacement.h"
+#include "unit/raised.h"
+#include "worklist/list_file.h"
+
+namespace {
+
+struct Outcome {
+    int error = 0;
+    int lines = 0;
+    std::wstring lastPath = {};
+};
+
+class HostileLists : public testing::Test {
+ protected:
+    void expectOutcome(std::string_view bytes, const Outcome& wanted) {
+        SCOPED_TRACE(std::string(bytes.substr(0, 20)));
+        replaceFile(file, [&](const ByteSink& sink) { sink(bytes); });
+        WorkList list;
+        ListFileReader reader(list);
+        const int error = raised([&] {
+            files.read(file, [&](std::wstring_view piece) { reader.add(piece); });
+            reader.finish();
+        });
+        EXPECT_EQ(error, wanted.error);
+        if (error != 0) return;
+        EXPECT_EQ(list.lineCount(), wanted.lines);
+        EXPECT_TRUE(list.EtatFich[list.DerFich].path == wanted.lastPath);
+    }
+
+    std::unique_ptr<Machine> machine = makeMachine();
+    Files& files = machine->files();
+    std::wstring file = machine->directory() + L"\\tarnwick.lst";
+};
+
+}  // namespace
+
+TEST_F(HostileLists, AreReadOrRefusedAsDocumented) {
+    std::string full;
+    for (int i = 0; i < 8001; ++i) full += "0  c:\\f\r\n";
+    const std::string megabyte(1 << 20, 'a');
+    using std::string_literals::operator""s;
+
+    expectOutcome(full, {.lines = 8001, .lastPath = L"c:\\f"});
+    expectOutcome(full + "0  c:\\f\r\n", {.error = 9});
+    expectOutcome("0  " + megabyte, {.lines = 1, .lastPath = std::wstring(1 << 20, L'a')});
+    expectOutcome("0  a\0b\r\n"s, {.lines = 1, .lastPath = std::wstring(L"a\0b", 3)});
+    expectOutcome("\0\0\0\0\r\n"s, {.lines = 1, .lastPath = std::wstring(1, L'\0')});
+    expectOutcome(
+        "\xFF\xFE"
+        "0\0 \0 \0c\0:\0\r\0\n\0"s,
+        {.error = 5});  // UTF-16
+    expectOutcome("0  c:\\a\r\n1  c:\\b", {.lines = 2, .lastPath = L"c:\\b"});
+    expectOutcome("0  c:\\a\r1  c:\\b\r", {.lines = 2, .lastPath = L"c:\\b"});
+    expectOutcome("0  c:\\a\n1  c:\\b\n", {.lines = 2, .lastPath = L"c:\\b"});
+    expectOutcome("0  c:\\a\r\n\r\n", {.error = 5});  // an empty line
+}
