@@ -3,4 +3,4 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 find src -name '*.cpp' -not -path '*/win32/*' -print0 |
-    xargs -0 -n2 -P"$(nproc)" clang-tidy -p build/dev --quiet 2> >(grep -v ' warnings\? generated\.$' >&2 || true)
+    xargs -0 -n2 -P"${TARNWICK_LINT_JOBS:-$(nproc)}" clang-tidy -p build/dev --quiet 2> >(grep -v ' warnings\? generated\.$' >&2 || true)

@@ -1,5 +1,5 @@
 // The bench: times the program's own code, windows included, against bare Windows calls.
-// bench-windows [--smoke] [--only ROW]... DIRECTORY
+// bench-windows [--smoke] [--only ROW]... [--size DOCUMENTS]... DIRECTORY
 
 #include <windows.h>
 
@@ -43,16 +43,20 @@ void hurry(Setting& setting) {
 int run(int count, char** arguments) {
     Setting setting;
     std::set<std::string> only;
+    std::set<int> sizes;
     for (int i = 1; i < count; ++i) {
         const std::string argument = arguments[i];
         if (argument == "--smoke") {
             hurry(setting);
         } else if (argument == "--only" && i + 1 < count) {
             only.insert(arguments[++i]);
+        } else if (argument == "--size" && i + 1 < count) {
+            sizes.insert(std::stoi(arguments[++i]));
         } else {
             setting.directory = std::filesystem::absolute(argument);
         }
     }
+    if (!sizes.empty()) setting.sizes.assign(sizes.begin(), sizes.end());
     require(!setting.directory.empty(), "a directory to work in");
     std::filesystem::create_directories(setting.directory);
 

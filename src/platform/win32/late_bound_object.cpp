@@ -117,23 +117,23 @@ DISPID LateBoundObject::lookUp(std::wstring_view name) {
 }
 
 void LateBoundObject::invoke(std::wstring_view name, WORD flags, DISPPARAMS& parameters,
-                             VARIANT* value) {
+                             VARIANT* result) {
     Failure failure;
     const auto invokeOnce = [&] {
         const DISPID id = lookUp(name);
         return callPatiently([&] {
             const CallOut out;
-            return dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, value,
+            return dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, result,
                                      &failure, nullptr);
         });
     };
-    HRESULT result = invokeOnce();
-    if (result == DISP_E_MEMBERNOTFOUND) {
+    HRESULT outcome = invokeOnce();
+    if (outcome == DISP_E_MEMBERNOTFOUND) {
         // The object may be of another kind than those that the name was looked up for.
         names_.erase(names_.find(name));
-        result = invokeOnce();
+        outcome = invokeOnce();
     }
-    if (FAILED(result)) throw callError(result, name, failure);
+    if (FAILED(outcome)) throw callError(outcome, name, failure);
 }
 
 Value LateBoundObject::valueOf(VARIANT& variant, std::wstring_view objectClass) {

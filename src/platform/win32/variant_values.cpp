@@ -13,9 +13,7 @@ CallArguments::CallArguments(std::span<const Argument> arguments) {
     // The VARIANTs point into this table, which therefore must not move.
     texts_.reserve(arguments.size());
     variants_.reserve(arguments.size());
-    for (auto it = arguments.rbegin(); it != arguments.rend(); ++it) {
-        variants_.push_back(convert(*it));
-    }
+    for (std::size_t i = arguments.size(); i-- > 0;) variants_.push_back(convert(arguments[i]));
 }
 
 CallArguments::~CallArguments() {
