@@ -3,8 +3,8 @@
 #include "document_list.h"
 #include "name_bar.h"
 #include "program_icon.h"
+#include "session_layout.h"
 #include "text_list.h"
-#include "window_layout.h"
 #include "window_title.h"
 
 namespace {
@@ -146,7 +146,7 @@ void SessionWindow::applyFonts() {
 }
 
 void SessionWindow::layOut() const {
-    const WindowLayout layout = layOutWindow(clientArea(window_), dpi());
+    const SessionLayout layout = layOutSession(clientArea(window_), dpi());
     place(documentsLabel_, layout.documentsLabel);
     place(documents_, layout.documents);
     place(foldersLabel_, layout.foldersLabel);
@@ -160,7 +160,7 @@ void SessionWindow::layOut() const {
 void SessionWindow::paint() const {
     PAINTSTRUCT painting;
     const HDC context = BeginPaint(window_, &painting);
-    drawNameBar(context, layOutWindow(clientArea(window_), dpi()).nameBar, *fonts_, dpi(), facts_);
+    drawNameBar(context, layOutSession(clientArea(window_), dpi()).nameBar, *fonts_, dpi(), facts_);
     EndPaint(window_, &painting);
 }
 

@@ -3,7 +3,7 @@
 #include <windows.h>
 
 /// Where everything stands in the window's client area.
-struct WindowLayout {
+struct SessionLayout {
     RECT nameBar;
     RECT documentsLabel;
     RECT documents;
@@ -13,7 +13,7 @@ struct WindowLayout {
     RECT calls;
 };
 
-WindowLayout layOutWindow(const RECT& client, UINT dpi);
+SessionLayout layOutSession(const RECT& client, UINT dpi);
 
 /// The smallest window in which everything can still be read.
 POINT smallestWindow(UINT dpi);

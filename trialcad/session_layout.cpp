@@ -1,4 +1,4 @@
-#include "window_layout.h"
+#include "session_layout.h"
 
 namespace {
 
@@ -9,7 +9,7 @@ constexpr POINT kSmallest = {560, 420};
 
 }  // namespace
 
-WindowLayout layOutWindow(const RECT& client, UINT dpi) {
+SessionLayout layOutSession(const RECT& client, UINT dpi) {
     const auto scaled = [dpi](int pixels) { return MulDiv(pixels, static_cast<int>(dpi), 96); };
     const LONG margin = scaled(kMargin);
     const LONG label = scaled(kLabelHeight);
