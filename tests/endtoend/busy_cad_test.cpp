@@ -2,9 +2,12 @@
 
 #include <algorithm>
 
+#include "driver/text.h"
 #include "driver/wait.h"
 #include "driver/winapi.h"
 #include "scenario.h"
+#include "selection/form1_ids.h"
+#include "startup/form2_ids.h"
 #include "tracking/form3_ids.h"
 
 namespace endtoend {
@@ -104,6 +107,24 @@ TEST_F(BusyCad, ImpatientPressesAreNotFurtherCommands) {
                ListLine("0", sandbox.AddDocument("c.SLDPRT")) +
                ListLine("0", sandbox.AddDocument("d.SLDPRT")));
     EXPECT_EQ(CallsWith("save2"), 1);
+}
+
+TEST_F(BusyCad, TypingMeanwhileIsKept) {
+    sandbox.AddDocument("e.SLDDRW");
+    cad.Start({"--delay", "GetSearchFolders:2000", "--working-directory",
+               Utf8(sandbox.Documents().wstring())});
+    app.Start();
+    app.Click(IDC_FORM2_CMDANNULE);
+    app.WaitForText(IDC_FORM1_CPTFICHIER, "1");
+    app.Click(IDC_FORM1_CMDREPDEF);
+    WaitForCall("GetSearchFolders");
+    HWND field = GetWindow(app.Control(IDC_FORM1_TYPEF), GW_CHILD);
+    for (const char letter : {'S', 'L', 'D', 'P', 'R', 'T'}) {
+        Post(field, WM_CHAR, static_cast<WPARAM>(letter), 1);
+    }
+    app.WaitForText(IDC_FORM1_CPTFICHIER, "5");
+    EXPECT_EQ(CallsWith("GetSearchFolders"), 1);
+    EXPECT_NE(app.TextOf(IDC_FORM1_TYPEF).find("SLDPRT"), std::string::npos);
 }
 
 TEST_F(BusyCad, CommandsOfOtherProgramsWaitForTheCall) {
