@@ -12,10 +12,6 @@ namespace {
 
 constexpr wchar_t kNowhere[] = L"nulle part";
 
-struct NoEvents : EventSink {
-    void raise(int, Event) override {}
-};
-
 /// Documents with their full paths.
 void fill(FoundDocuments& found, int count) {
     found.restart(true);

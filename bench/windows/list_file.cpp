@@ -84,8 +84,7 @@ Row listFileLoad(const Setting& setting) {
     const std::wstring path = (setting.directory / "load.lst").wstring();
     for (const int size : setting.sizes) {
         WinFiles files;
-        const std::wstring text = listText(size);
-        files.replace(path, [&](const TextSink& sink) { sink(text); });
+        files.replaceText(path, listText(size));
         std::unique_ptr<WorkList> list;
         const auto subject = [&] {
             ListFileReader reader(*list);

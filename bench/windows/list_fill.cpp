@@ -9,10 +9,6 @@
 
 namespace {
 
-struct NoEvents : EventSink {
-    void raise(int, Event) override {}
-};
-
 void bareFill(HWND list, const std::vector<std::wstring>& lines) {
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
     SendMessageW(list, LB_RESETCONTENT, 0, 0);

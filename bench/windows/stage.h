@@ -32,6 +32,11 @@ struct NoNavigation : Navigation {
     void FermerAPropos() override {}
 };
 
+/// For a window without a form.
+struct NoEvents : EventSink {
+    void raise(int, Event) override {}
+};
+
 /// What the program's windows need to live in this process: the real shell, but a CAD application
 /// that answers at once.
 class Stage {
