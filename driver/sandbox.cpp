@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 #include "driver/text.h"
@@ -78,9 +77,17 @@ std::string Sandbox::Describe() const {
 }
 
 std::optional<std::string> ReadFileBytes(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) return std::nullopt;
-    return std::string(std::istreambuf_iterator<char>(stream), {});
+    // A stream of the standard library would keep others from replacing the file.
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    HANDLE handle =
+        CreateFileW(file.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) return std::nullopt;
+    std::string bytes;
+    char piece[65536];
+    for (DWORD got = 0; ReadFile(handle, piece, sizeof piece, &got, nullptr) && got != 0;)
+        bytes.append(piece, got);
+    CloseHandle(handle);
+    return bytes;
 }
 
 void WriteFileBytes(const fs::path& file, std::string_view bytes) {

@@ -181,9 +181,16 @@ TEST_F(TrackingPass, BringsTheCadWindowForwardUnderEitherTitle) {
     sandbox.WriteList(ListOf({"0", "0"}));
     cad.Start({"--title", "bracket"});
     StartAndResume();
-    calls::Calls opening = Open(paths[0]);
-    opening.insert(opening.end() - 1, *(opening.end() - 2));  // the title is asked for twice
-    ExpectCalls(Together({calls::AtStartUp(), opening}));
+    const auto opening = [](const std::string& path) {
+        calls::Calls expected = Open(path);
+        // The title is asked for twice.
+        expected.insert(expected.end() - 1, *(expected.end() - 2));
+        return expected;
+    };
+    ExpectCalls(Together({calls::AtStartUp(), opening(paths[0])}));
+    // After the first document our own window is shown, and in front.
+    app.Click(IDC_FORM3_CMDSUIVSAUTER);
+    ExpectCalls(Together({{Close(paths[0])}, opening(paths[1])}));
     WaitFor("the CAD window in front", [this] { return GetForegroundWindow() == cad.Window(); });
 }
 

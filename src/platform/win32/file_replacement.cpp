@@ -9,6 +9,20 @@
 
 namespace {
 
+// Virus scanners, indexers and backups hold a file for a moment.
+constexpr ULONGLONG kPatience = 2000;  // milliseconds
+constexpr DWORD kPause = 50;           // milliseconds
+
+/// Whether a file was not replaced because another program has it open. Windows then speaks of
+/// denied access as often as of sharing (the MoveFileEx function): opening it tells which.
+bool isHeld(const std::wstring& file, DWORD error) {
+    if (error != ERROR_ACCESS_DENIED) return error == ERROR_SHARING_VIOLATION;
+    const UniqueHandle alone(
+        CreateFileW(file.c_str(), DELETE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    // What can be opened now was let go of in the meantime.
+    return isValid(alone) || GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
 /// The file written beside the old one. Removed unless it took the old one's place.
 class TemporaryFile {
  public:
@@ -40,15 +54,17 @@ class TemporaryFile {
     bool moveOverTarget() {
         if (!calls_.flush(file_.get())) return false;
         file_.reset(INVALID_HANDLE_VALUE);
-        // Virus scanners and indexers hold a fresh file for a moment.
-        for (int attempt = 0;; ++attempt) {
-            if (calls_.move(path_, target_)) {
-                created_ = false;
-                return true;
+        const ULONGLONG start = GetTickCount64();
+        while (!calls_.move(path_, target_)) {
+            if (!isHeld(target_, GetLastError())) return false;
+            if (GetTickCount64() - start >= kPatience) {
+                SetLastError(ERROR_SHARING_VIOLATION);
+                return false;
             }
-            if (GetLastError() != ERROR_SHARING_VIOLATION || attempt == 10) return false;
-            Sleep(50);
+            Sleep(kPause);
         }
+        created_ = false;
+        return true;
     }
 
  private:

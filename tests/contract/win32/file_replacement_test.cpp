@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "contract/machine.h"
+#include "platform/win32/unique_handle.h"
 #include "unit/raised.h"
 
 namespace {
@@ -39,6 +40,24 @@ class FailingCalls : public FileCalls {
     int calls_ = 0;
 };
 
+/// The file is open elsewhere until the third attempt to move over it.
+class ReadByAnother : public FileCalls {
+ public:
+    explicit ReadByAnother(const std::wstring& file)
+        : reader_(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                              0, nullptr)) {}
+
+    bool move(const std::wstring& from, const std::wstring& to) override {
+        if (++moves == 3) reader_.reset(INVALID_HANDLE_VALUE);
+        return FileCalls::move(from, to);
+    }
+
+    int moves = 0;
+
+ private:
+    UniqueHandle reader_;
+};
+
 const WriteContent kNew = [](const ByteSink& file) { file("nouveau"); };
 
 class FileReplacement : public testing::Test {
@@ -66,10 +85,10 @@ TEST_F(FileReplacement, LeavesTheOldFileWhicheverCallFails) {
     EXPECT_EQ(files.readText(file), L"nouveau");
 }
 
-TEST_F(FileReplacement, TriesAgainWhileAnotherProgramHoldsTheFile) {
+TEST_F(FileReplacement, TriesAgainWhileAnotherProgramReadsTheFile) {
     files.replaceText(file, L"ancien");
-    constexpr int kTheMove = 4;
-    FailingCalls calls(kTheMove, ERROR_SHARING_VIOLATION);
+    ReadByAnother calls(file);
     replaceFile(file, kNew, calls);
     EXPECT_EQ(files.readText(file), L"nouveau");
+    EXPECT_EQ(calls.moves, 3);
 }
