@@ -35,7 +35,8 @@ TEST_F(Selection, FindsMarksFiltersAndLaunches) {
     sandbox.AddDocument("notice.txt");
     StartInDocuments();
 
-    EXPECT_EQ(app.ShownWindows(), Lines{kSelection});
+    WaitFor("the selection window alone",
+            [this] { return app.ShownWindows() == Lines{kSelection}; });
     ExpectLines({kUnmarked + "Presse.SLDDRW"});
     app.Choose(IDC_FORM1_TYPEF, "*.SLDPRT ; *.SLDASM");
     ExpectLines({kUnmarked + "Presse.SLDASM"});

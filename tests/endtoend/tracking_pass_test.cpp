@@ -66,6 +66,7 @@ TEST_F(TrackingPass, GoesThroughEightDocumentsWithEveryCommand) {
 
     ExpectCalls(Together({calls::AtStartUp(), Open(paths[0])}));
     ExpectCurrent(0);
+    app.Window("Tarnwick - suivi du travail -");  // shown when the document is
     EXPECT_EQ(app.ShownWindows(), std::vector<std::string>{"Tarnwick - suivi du travail -"});
     ExpectLines({kInProgress, kToDo, kToDo, kDone, kToDo, kSeen, kToDo, kToDo});
     EXPECT_EQ(app.TextOf(IDC_FORM3_CPTFICHIER1), "8");
