@@ -16,16 +16,10 @@ std::wstring samplePath(long i) {
            decimal(i / 10) + L"\\piece " + decimal(i) + L".SLDPRT";
 }
 
-std::wstring sampleFile(long count) {
-    std::wstring text;
+std::string sampleFile(long count) {
+    std::string text;
     for (long i = 0; i < count; ++i) appendFreshLine(text, samplePath(i));
     return text;
-}
-
-void readText(std::wstring_view text, WorkList& list) {
-    ListFileReader reader(list);
-    reader.add(text);
-    reader.finish();
 }
 
 void displayLines(benchmark::State& state) {
@@ -37,16 +31,16 @@ void displayLines(benchmark::State& state) {
 BENCHMARK(displayLines)->Arg(0)->Arg(3);
 
 void parsing(benchmark::State& state) {
-    const std::wstring text = sampleFile(state.range(0));
-    for (auto _ : state) readText(text, *std::make_unique<WorkList>());
+    const std::string text = sampleFile(state.range(0));
+    for (auto _ : state) parseListFile(text, *std::make_unique<WorkList>());
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(parsing)->Arg(1000)->Arg(2000)->Arg(4000)->Arg(8001)->Complexity(benchmark::oN);
 
 void formatting(benchmark::State& state) {
     WorkList list;
-    readText(sampleFile(state.range(0)), list);
-    const TextSink sink = [](std::wstring_view piece) { benchmark::DoNotOptimize(piece.data()); };
+    parseListFile(sampleFile(state.range(0)), list);
+    const ByteSink sink = [](std::string_view piece) { benchmark::DoNotOptimize(piece.data()); };
     for (auto _ : state) formatListFile(list, state.range(0), sink);
     state.SetComplexityN(state.range(0));
 }

@@ -6,23 +6,16 @@
 
 #include <memory>
 
-#include "platform/win32/text_encoding.h"
 #include "platform/win32/win_files.h"
 #include "rows.h"
 #include "sample_tree.h"
 
 namespace {
 
-std::wstring listText(int count) {
-    std::wstring text;
+std::string listText(int count) {
+    std::string text;
     for (const std::wstring& path : samplePaths(count)) appendFreshLine(text, path);
     return text;
-}
-
-void readText(std::wstring_view text, WorkList& list) {
-    ListFileReader reader(list);
-    reader.add(text);
-    reader.finish();
 }
 
 void bareSave(const std::wstring& path, const std::string& bytes) {
@@ -57,14 +50,12 @@ Row listFileSave(const Setting& setting) {
             .limit = 1.20};
     const std::wstring path = (setting.directory / "save.lst").wstring();
     for (const int size : setting.sizes) {
-        const std::wstring text = listText(size);
-        std::string bytes;
-        encodeText(text, bytes);
+        const std::string bytes = listText(size);
         WorkList list;
-        readText(text, list);
+        parseListFile(bytes, list);
         WinFiles files;
         const auto subject = [&] {
-            files.replace(path, [&](const TextSink& sink) { formatListFile(list, size, sink); });
+            files.replace(path, [&](const ByteSink& file) { formatListFile(list, size, file); });
         };
         const Comparison compared =
             compare(setting.rounds, {[&] { bareSave(path, bytes); }}, {subject});
@@ -84,13 +75,9 @@ Row listFileLoad(const Setting& setting) {
     const std::wstring path = (setting.directory / "load.lst").wstring();
     for (const int size : setting.sizes) {
         WinFiles files;
-        files.replaceText(path, listText(size));
+        files.replace(path, [&](const ByteSink& file) { file(listText(size)); });
         std::unique_ptr<WorkList> list;
-        const auto subject = [&] {
-            ListFileReader reader(*list);
-            files.read(path, [&](std::wstring_view piece) { reader.add(piece); });
-            reader.finish();
-        };
+        const auto subject = [&] { parseListFile(files.read(path), *list); };
         const Comparison compared =
             compare(setting.rounds, {[&] { bareLoad(path); }},
                     {subject, [&] { list = std::make_unique<WorkList>(); }});

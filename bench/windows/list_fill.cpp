@@ -1,5 +1,6 @@
 // The work list's lines put into the tracking window's list box.
 
+#include "platform/utf8.h"
 #include "rows.h"
 #include "sample_tree.h"
 #include "stage.h"
@@ -31,7 +32,9 @@ Comparison compareFill(const Setting& setting, int count) {
     const std::vector<std::wstring> paths = samplePaths(count);
     for (const std::wstring& path : paths) {
         const int i = static_cast<int>(lines.size());
-        work.EtatFich[i] = {.code = state::kToDo, .path = path, .reload = {}};
+        std::string utf8;
+        appendUtf8(utf8, path);
+        work.EtatFich[i] = {.code = state::kToDo, .path = work.keep(std::move(utf8))};
         lines.push_back(displayLine(i, stage.module.labels.LibAFaire, path, L"0"));
     }
     work.DerFich = static_cast<std::int16_t>(count - 1);

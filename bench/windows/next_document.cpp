@@ -12,13 +12,13 @@
 namespace {
 
 /// A list half of which is done.
-std::wstring halfDone(int count) {
-    std::wstring text;
+std::string halfDone(int count) {
+    std::string text;
     for (const std::wstring& path : samplePaths(count)) appendFreshLine(text, path);
     std::size_t line = 0;
     for (int i = 0; i < count / 2; ++i) {
-        text[line] = L'1';
-        line = text.find(L'\n', line) + 1;
+        text[line] = '1';
+        line = text.find('\n', line) + 1;
     }
     return text;
 }
@@ -26,7 +26,8 @@ std::wstring halfDone(int count) {
 Comparison compareNext(const Setting& setting, int count, UINT repaint) {
     Stage stage;
     stage.module.FichListe = (setting.directory / "next.lst").wstring();
-    stage.platform.files.replaceText(stage.module.FichListe, halfDone(count));
+    stage.platform.files.replace(stage.module.FichListe,
+                                 [&](const ByteSink& file) { file(halfDone(count)); });
     Form3 form(stage.module, stage.platform);
     form.Form_Load();
     form.window().show();

@@ -67,13 +67,13 @@ double floorMemory(const fs::path& lines) {
 void writeList(const Sandbox& sandbox, int count, const fs::path& linesFile) {
     std::vector<std::wstring> paths = samplePaths(count);
     paths.front() = endtoend::Wide(sandbox.AddDocument("piece.SLDPRT"));
-    std::wstring text;
+    std::string text;
     std::wstring lines;
     for (const std::wstring& path : paths) {
         appendFreshLine(text, path);
         lines += displayLine(0, standardLabels().LibAFaire, path, L"0") + L"\n";
     }
-    sandbox.WriteList(endtoend::Utf8(text));
+    sandbox.WriteList(text);
     endtoend::WriteFileBytes(
         linesFile, {reinterpret_cast<const char*>(lines.data()), lines.size() * sizeof(wchar_t)});
 }

@@ -1,11 +1,11 @@
 #include "platform/files.h"
 
-std::wstring Files::readText(const std::wstring& path) {
-    std::wstring text;
-    read(path, [&](std::wstring_view piece) { text += piece; });
-    return text;
-}
+#include "platform/utf8.h"
+
+std::wstring Files::readText(const std::wstring& path) { return wideText(read(path)); }
 
 void Files::replaceText(const std::wstring& path, std::wstring_view text) {
-    replace(path, [&](const TextSink& sink) { sink(text); });
+    std::string utf8;
+    appendUtf8(utf8, text);
+    replace(path, [&](const ByteSink& file) { file(utf8); });
 }

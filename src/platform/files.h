@@ -20,24 +20,24 @@ struct DirectoryId {
     bool operator==(const DirectoryId&) const = default;
 };
 
-/// Takes the pieces of a text in order; each but the last ends with a line feed.
-using TextSink = std::function<void(std::wstring_view piece)>;
+/// Takes the bytes of a file piece by piece.
+using ByteSink = std::function<void(std::string_view piece)>;
+using WriteContent = std::function<void(const ByteSink& file)>;
 
 /// The file system. Paths are full paths; long ones need no prefix.
 class Files {
  public:
     virtual ~Files() = default;
 
-    /// Reads the text of a file: UTF-8 when its bytes are valid UTF-8, else the system's
-    /// single-byte code page. Raises 53, 70, 75 or 76.
-    virtual void read(const std::wstring& path, const TextSink& sink) = 0;
+    /// The text of a file, in UTF-8. Bytes that are no valid UTF-8 are taken to be of the system's
+    /// single-byte code page; a byte-order mark is dropped. Raises 53, 70, 75 or 76.
+    virtual std::string read(const std::wstring& path) = 0;
     std::wstring readText(const std::wstring& path);
 
-    /// Creates or replaces a file whole, as UTF-8, with what `write` puts into its sink: an
-    /// interrupted write leaves the old one. Raises 5 for text that can't be encoded, else 70, 75
-    /// or 76.
-    virtual void replace(const std::wstring& path,
-                         const std::function<void(const TextSink&)>& write) = 0;
+    /// Creates or replaces a file whole with what `write` puts into its sink: an interrupted write
+    /// leaves the old one. Raises 70, 75 or 76.
+    virtual void replace(const std::wstring& path, const WriteContent& write) = 0;
+    /// The same with a text, written in UTF-8. Raises 5 for text that can't be encoded.
     void replaceText(const std::wstring& path, std::wstring_view text);
 
     /// Visits every entry of a directory but "." and "..", in no order. Raises 70 or 76.

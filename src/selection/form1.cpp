@@ -115,12 +115,12 @@ void Form1::cmd_tracer_Click() { LancerTraitement(); }
 
 void Form1::LancerTraitement() {
     savePlace(platform_.settings, PlacedWindow::Form1, *window_);
-    std::wstring text;
+    std::string text;
     const long count = numericValue(cptfichier.text());
     for (long i = 0; i < count; ++i) {
         if (liste_.chosen(static_cast<int>(i))) appendFreshLine(text, cheminComplet(i));
     }
-    platform_.files.replaceText(module_.FichListe, text);
+    platform_.files.replace(module_.FichListe, [&](const ByteSink& file) { file(text); });
     navigation_.ChargerForm3();
     window_->hide();
 }

@@ -7,6 +7,7 @@
 #include "platform/platform.h"
 #include "platform/runtime_error.h"
 #include "platform/settings.h"
+#include "platform/utf8.h"
 #include "startup/module1.h"
 #include "startup/window_places.h"
 #include "tracking/form3_events.h"
@@ -76,9 +77,7 @@ std::wstring Form3::ChaineOptions() const {
 }
 
 void Form3::LireListe() {
-    ListFileReader reader(module_.liste);
-    platform_.files.read(module_.FichListe, [&](std::wstring_view piece) { reader.add(piece); });
-    if (!reader.finish()) throw ProgramEnd{};
+    if (!parseListFile(platform_.files.read(module_.FichListe), module_.liste)) throw ProgramEnd{};
 }
 
 int Form3::ChoisirDepart() {
@@ -100,7 +99,7 @@ void Form3::Demarrer(int index) {
     cptfichier1.setText(decimal(module_.liste.lineCount()));
     List1.select(index, true);
     OuvrirLigne(index);
-    TxtEtat.setText(std::wstring(module_.liste.EtatFich[index].path));
+    TxtEtat.setText(wideText(module_.liste.EtatFich[index].path));
     MontrerDocument();
 }
 
@@ -126,8 +125,8 @@ void Form3::Form_Close() { throw ProgramEnd{}; }
 void Form3::CmdMemo_Click() {}
 
 void Form3::CmdFichierListe_Click() {
-    platform_.files.replace(module_.FichListe, [&](const TextSink& sink) {
-        formatListFile(module_.liste, numericValue(cptfichier1.text()), sink);
+    platform_.files.replace(module_.FichListe, [&](const ByteSink& file) {
+        formatListFile(module_.liste, numericValue(cptfichier1.text()), file);
     });
 }
 

@@ -67,7 +67,7 @@ class Form3 : public EventSink {
     void DemarrerEnFin();
 
     /// Marks the current line ("1" saves its document), closes it and opens the next one to do.
-    void Avancer(std::wstring_view mark);
+    void Avancer(std::string_view mark);
     /// Opens a line's document, unless it is the open one already. Raises 9 from 8001 on.
     void OuvrirLigne(int index);
     void MontrerDocument();
@@ -84,7 +84,7 @@ class Form3 : public EventSink {
     bool verifierSelection(const wchar_t* reproche);
     bool confirmer(const Question& question);
     LineSelected selectionnee() const;
-    void ChangerSelection(const Question& question, std::wstring_view code);
+    void ChangerSelection(const Question& question, std::string_view code);
     void EliminerSelection(const Question& question, Eliminate states);
     /// Finds the current line again after an edit of the list, and opens its document.
     void ReprendreCourant();

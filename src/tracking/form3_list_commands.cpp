@@ -2,6 +2,7 @@
 
 #include "common/numbers.h"
 #include "platform/platform.h"
+#include "platform/utf8.h"
 #include "startup/module1.h"
 #include "tracking/form3.h"
 #include "tracking/list_command_texts.h"
@@ -30,7 +31,7 @@ LineSelected Form3::selectionnee() const {
 void Form3::CmdChaF_Click() { ChangerSelection(kQuestionChaF, state::kDone); }
 void Form3::CmdChaV_Click() { ChangerSelection(kQuestionChaV, state::kSeen); }
 
-void Form3::ChangerSelection(const Question& question, std::wstring_view code) {
+void Form3::ChangerSelection(const Question& question, std::string_view code) {
     if (!verifierSelection(kNothingSelected) || !confirmer(question)) return;
     changeSelected(module_.liste, selectionnee(), code);
     ReprendreCourant();
@@ -93,5 +94,5 @@ void Form3::ReprendreA(int index) {
     cptfichier1.setText(decimal(module_.liste.lineCount()));
     List1.select(index, true);
     OuvrirLigne(index);
-    TxtEtat.setText(std::wstring(module_.liste.EtatFich[index].path));
+    TxtEtat.setText(wideText(module_.liste.EtatFich[index].path));
 }

@@ -3,6 +3,7 @@
 #include "common/numbers.h"
 #include "common/text.h"
 #include "platform/runtime_error.h"
+#include "platform/utf8.h"
 #include "startup/module1.h"
 #include "tracking/document_type.h"
 #include "tracking/form3.h"
@@ -22,7 +23,7 @@ void Form3::Cmd2_Click() { CmdSuivQuitter_Click(); }
 void Form3::Cmd3_Click() { CmdSuivSauter_Click(); }
 void Form3::Cmd4_Click() { CmdPrecedent_Click(); }
 
-void Form3::Avancer(std::wstring_view mark) {
+void Form3::Avancer(std::string_view mark) {
     WorkList& liste = module_.liste;
     const int courante = ligneCourante();
     if (courante >= List1.count()) return;
@@ -82,11 +83,11 @@ void Form3::PasserEnCours(int index) {
         List1.select(index, true);
     }
     OuvrirLigne(index);
-    TxtEtat.setText(std::wstring(ligne.path));
+    TxtEtat.setText(wideText(ligne.path));
 }
 
 void Form3::OuvrirLigne(int index) {
-    const std::wstring path(module_.liste.EtatFich[index].path);
+    const std::wstring path = wideText(module_.liste.EtatFich[index].path);
     if (equalIgnoringCase(path, module_.NomDocCourant)) return;
     // Shown now: the opening may take long.
     List1.repaint();

@@ -1,6 +1,7 @@
 #include "tracking/work_list_view.h"
 
 #include "platform/controls.h"
+#include "platform/utf8.h"
 #include "worklist/display_line.h"
 #include "worklist/state_labels.h"
 #include "worklist/work_list.h"
@@ -33,8 +34,8 @@ void WorkListView::rebuild(const WorkList& list, const StateLabels& labels,
     drawnLabels_ = labelsOf(list, labels, firstDisplay);
     drawnDepth_ = depth;
     list_.setLines(list.lineCount(), [&](int i) {
-        return displayLine(i, *drawnLabels_[static_cast<std::size_t>(i)], list.EtatFich[i].path,
-                           depth);
+        return displayLine(i, *drawnLabels_[static_cast<std::size_t>(i)],
+                           wideText(list.EtatFich[i].path), depth);
     });
 }
 
@@ -46,7 +47,8 @@ void WorkListView::update(const WorkList& list, const StateLabels& labels,
     for (std::size_t i = 0; i < wanted.size(); ++i) {
         if (!allChanged && wanted[i] == drawnLabels_[i]) continue;
         const int index = static_cast<int>(i);
-        list_.replaceLine(index, displayLine(index, *wanted[i], list.EtatFich[index].path, depth));
+        const std::wstring path = wideText(list.EtatFich[index].path);
+        list_.replaceLine(index, displayLine(index, *wanted[i], path, depth));
     }
     list_.clearSelection();
     drawnLabels_ = std::move(wanted);

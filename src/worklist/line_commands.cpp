@@ -16,7 +16,7 @@ bool isOf(const WorkLine& line, Eliminate states) {
            (states == Eliminate::DoneAndSeen && line.code == state::kDone);
 }
 
-std::optional<int> firstWithCode(const WorkList& list, std::wstring_view code) {
+std::optional<int> firstWithCode(const WorkList& list, std::string_view code) {
     int i = 0;
     // The row past the last is read, too: in a full table without a match that raises 9.
     while (list.EtatFich[i].code != code && i <= list.DerFich) ++i;
@@ -26,7 +26,7 @@ std::optional<int> firstWithCode(const WorkList& list, std::wstring_view code) {
 
 }  // namespace
 
-void changeSelected(WorkList& list, const LineSelected& selected, std::wstring_view code) {
+void changeSelected(WorkList& list, const LineSelected& selected, std::string_view code) {
     for (int i = 0; i <= list.DerFich; ++i) {
         WorkLine& line = list.EtatFich[i];
         if (selected(i) && line.code != state::kInProgress) line.code = code;

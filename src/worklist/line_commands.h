@@ -11,8 +11,8 @@ struct WorkList;
 /// Tells whether a line is selected.
 using LineSelected = std::function<bool(int)>;
 
-/// Gives the selected lines a state; a line in progress keeps its own.
-void changeSelected(WorkList& list, const LineSelected& selected, std::wstring_view code);
+/// Gives the selected lines a state of the namespace `state`; a line in progress keeps its own.
+void changeSelected(WorkList& list, const LineSelected& selected, std::string_view code);
 
 /// Puts the selected lines, and the one in progress, back to do. Gives the first line to do,
 /// now in progress; at least one line must be selected.

@@ -1,61 +1,74 @@
 #include "worklist/list_file.h"
 
-#include "common/numbers.h"
+#include <charconv>
+
 #include "common/text.h"
 #include "platform/runtime_error.h"
+#include "platform/utf8.h"
 
 namespace {
 
-constexpr std::size_t kCodeWidth = 3;
-constexpr long kReloadOffset = 10;
+constexpr int kCodeWidth = 3;
+constexpr int kReloadOffset = 10;
+constexpr std::string_view kBetween = "  ";
+constexpr std::string_view kLineEnd = "\r\n";
 
-WorkLine parseLine(std::wstring_view line) {
-    if (line.size() < kCodeWidth) throw errors::invalidArgument();
-    WorkLine result{.code = std::wstring(trimmed(line.substr(0, kCodeWidth))),
-                    .path = trimmed(line.substr(kCodeWidth)),
-                    .reload = {}};
-    if (const long value = numericValue(result.code); value >= kReloadOffset) {
-        result.code = decimal(value - kReloadOffset);
-        result.reload = L"1";
+/// How many bytes the characters of the code take.
+std::size_t codeEnd(std::string_view line) {
+    std::size_t end = 0;
+    for (int characters = 0; characters < kCodeWidth; ++characters) {
+        if (end == line.size()) throw errors::invalidArgument();
+        const auto continuesCharacter = [&] { return (line[end] & 0xC0) == 0x80; };
+        do ++end;
+        while (end < line.size() && continuesCharacter());
     }
-    return result;
+    return end;
 }
 
-void appendLine(std::wstring& text, std::wstring_view code, std::wstring_view path) {
-    text += code;
-    text += L"  ";
-    text += path;
-    text += L"\r\n";
+int leadingNumber(std::string_view text) {
+    int number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+WorkLine parseLine(std::string_view text, WorkList& list) {
+    const std::size_t end = codeEnd(text);
+    WorkLine line{.code = trimmed(text.substr(0, end)), .path = trimmed(text.substr(end))};
+    const int number = leadingNumber(line.code);
+    line.reload = number >= kReloadOffset;
+    if (line.reload) line.code = list.keep(std::to_string(number - kReloadOffset));
+    return line;
 }
 
 }  // namespace
 
-void ListFileReader::add(std::wstring_view piece) {
-    std::wstring_view rest = list_.texts.emplace_back(piece);
-    while (!rest.empty()) list_.EtatFich[count_++] = parseLine(takeLine(rest));
-}
-
-bool ListFileReader::finish() {
-    if (count_ == 0) return false;
-    list_.DerFich = static_cast<std::int16_t>(count_ - 1);
+bool parseListFile(std::string text, WorkList& list) {
+    if (text.empty()) return false;
+    std::string_view rest = list.keep(std::move(text));
+    long count = 0;
+    while (!rest.empty()) list.EtatFich[count++] = parseLine(takeLine(rest), list);
+    list.DerFich = static_cast<std::int16_t>(count - 1);
     return true;
 }
 
-void formatListFile(WorkList& list, long lineCount, const TextSink& sink) {
-    constexpr std::size_t kPiece = 1 << 15;
-    std::wstring piece;
+void formatListFile(WorkList& list, long lineCount, const ByteSink& file) {
+    constexpr std::size_t kPiece = 1 << 16;
+    std::string piece;
     piece.reserve(kPiece + 1000);
     for (long i = 0; i < lineCount; ++i) {
         WorkLine& line = list.EtatFich[i];
-        if (line.reload == L"1") line.code.insert(0, 1, L'1');
-        appendLine(piece, line.code, line.path);
+        if (line.reload) line.code = list.keep(std::string("1").append(line.code));
+        (piece += line.code) += kBetween;
+        (piece += line.path) += kLineEnd;
         if (piece.size() < kPiece) continue;
-        sink(piece);
+        file(piece);
         piece.clear();
     }
-    sink(piece);
+    file(piece);
 }
 
-void appendFreshLine(std::wstring& text, std::wstring_view path) {
-    appendLine(text, state::kToDo, path);
+void appendFreshLine(std::string& text, std::wstring_view path) {
+    (text += state::kToDo) += kBetween;
+    appendUtf8(text, path);
+    text += kLineEnd;
 }

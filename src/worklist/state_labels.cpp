@@ -8,11 +8,11 @@ StateLabels standardLabels() {
             .LibFait = L" Fait          "};
 }
 
-const std::wstring* labelOf(const StateLabels& labels, std::wstring_view code) {
-    if (code.size() == 2 && code[0] == L'1') code.remove_prefix(1);
-    if (code == L"0") return &labels.LibAFaire;
-    if (code == L"1") return &labels.LibFait;
-    if (code == L"2") return &labels.LibVu;
-    if (code == L"3") return &labels.LibEnCours;
+const std::wstring* labelOf(const StateLabels& labels, std::string_view code) {
+    if (code.size() == 2 && code[0] == '1') code.remove_prefix(1);
+    if (code == "0") return &labels.LibAFaire;
+    if (code == "1") return &labels.LibFait;
+    if (code == "2") return &labels.LibVu;
+    if (code == "3") return &labels.LibEnCours;
     return nullptr;
 }

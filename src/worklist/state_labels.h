@@ -16,4 +16,4 @@ struct StateLabels {
 StateLabels standardLabels();
 
 /// The label of a state code, with or without the reload flag's leading 1; null for other codes.
-const std::wstring* labelOf(const StateLabels& labels, std::wstring_view code);
+const std::wstring* labelOf(const StateLabels& labels, std::string_view code);

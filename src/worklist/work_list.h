@@ -4,22 +4,23 @@
 #include <deque>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "common/checked_table.h"
 
 /// State codes of a line, compared as exact texts.
 namespace state {
-inline constexpr wchar_t kToDo[] = L"0";
-inline constexpr wchar_t kDone[] = L"1";
-inline constexpr wchar_t kSeen[] = L"2";
-inline constexpr wchar_t kInProgress[] = L"3";
+inline constexpr std::string_view kToDo = "0";
+inline constexpr std::string_view kDone = "1";
+inline constexpr std::string_view kSeen = "2";
+inline constexpr std::string_view kInProgress = "3";
 }  // namespace state
 
-/// One document of the pass.
+/// One document of the pass. Its texts, in UTF-8 as the list file has them, are kept by the list.
 struct WorkLine {
-    std::wstring code;
-    std::wstring_view path;  ///< full path; stands in one of the list's texts
-    std::wstring reload;     ///< "1" when the list file carried the code plus 10, else empty
+    std::string_view code;  ///< mostly one of the above
+    std::string_view path;  ///< full path
+    bool reload = false;    ///< whether the list file carried the code plus 10
 };
 
 /// The ordered list of documents of a pass, each with its state.
@@ -27,16 +28,18 @@ struct WorkList {
     static constexpr long kCapacity = 8001;
 
     WorkList() = default;
-    /// Not copied: the copy's paths would stand in this one's texts.
+    /// Not copied: the copy's lines would stand in this one's texts.
     WorkList(WorkList&&) = default;
     WorkList& operator=(WorkList&&) = default;
 
     CheckedTable<WorkLine, kCapacity> EtatFich;
     std::int16_t DerFich = 0;  ///< index of the last line in use; the lines above it are stale
 
-    /// What was read of the list file: thousands of paths at the cost of a few texts. A deque,
-    /// whose elements stay where they are.
-    std::deque<std::wstring> texts;
-
     int lineCount() const { return DerFich + 1; }
+
+    /// Keeps a text as long as the list, for lines to stand in: the whole list file is one.
+    std::string_view keep(std::string text) { return texts_.emplace_back(std::move(text)); }
+
+ private:
+    std::deque<std::string> texts_;  ///< a deque, whose elements stay where they are
 };

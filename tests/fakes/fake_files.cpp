@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "platform/runtime_error.h"
+#include "platform/utf8.h"
 
 namespace {
 
@@ -20,18 +21,19 @@ std::wstring nameBelow(const std::wstring& directory, const std::wstring& path) 
 
 }  // namespace
 
-void FakeFiles::read(const std::wstring& path, const TextSink& sink) {
+std::string FakeFiles::read(const std::wstring& path) {
     const auto file = texts.find(path);
     if (file == texts.end()) throw errors::fileNotFound(path);
-    sink(file->second);
+    std::string utf8;
+    appendUtf8(utf8, file->second);
+    return utf8;
 }
 
-void FakeFiles::replace(const std::wstring& path,
-                        const std::function<void(const TextSink&)>& write) {
+void FakeFiles::replace(const std::wstring& path, const WriteContent& write) {
     if (unreadable.contains(path)) throw errors::fileAccess(path);
-    std::wstring text;
-    write([&](std::wstring_view piece) { text += piece; });
-    texts[path] = text;
+    std::string text;
+    write([&](std::string_view piece) { text += piece; });
+    texts[path] = wideText(text);
 }
 
 std::wstring FakeFiles::resolved(std::wstring path) const {

@@ -19,9 +19,8 @@ struct FakeFiles : Files {
     /// An empty document, and its directories.
     void add(const std::wstring& path) { texts[path]; }
 
-    void read(const std::wstring& path, const TextSink& sink) override;
-    void replace(const std::wstring& path,
-                 const std::function<void(const TextSink&)>& write) override;
+    std::string read(const std::wstring& path) override;
+    void replace(const std::wstring& path, const WriteContent& write) override;
     void visit(const std::wstring& directory,
                const std::function<void(const DirectoryEntry&)>& visitor) override;
     DirectoryId identify(const std::wstring& directory) override;

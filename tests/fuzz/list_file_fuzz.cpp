@@ -2,35 +2,28 @@
 // documents; and what was read is written so that it reads the same again.
 
 #include "fuzz_input.h"
+#include "platform/utf8.h"
 #include "worklist/list_file.h"
 
 namespace {
 
-bool readPieces(std::wstring_view first, std::wstring_view second, WorkList& list) {
-    ListFileReader reader(list);
-    list.texts.clear();
-    reader.add(first);
-    reader.add(second);
-    return reader.finish();
-}
-
 /// Whether a line survives a save: its code must fill the first columns and none else.
 bool survivesSave(const WorkLine& line) {
-    if (line.reload == L"1") return line.code.size() == 1;
+    if (line.reload) return line.code.size() == 1;
     return !line.code.empty() && line.code.size() <= 3;
 }
 
 /// Saving has put a 1 before the codes of flagged lines, which reading takes off again.
 void requireSameAfterSave(WorkList& list) {
-    static WorkList reread;
-    std::wstring text;
-    formatListFile(list, list.lineCount(), [&](std::wstring_view piece) { text += piece; });
-    require(readPieces(text, L"", reread));
+    WorkList reread;
+    std::string text;
+    formatListFile(list, list.lineCount(), [&](std::string_view piece) { text += piece; });
+    require(parseListFile(text, reread));
     require(reread.DerFich == list.DerFich);
     for (int i = 0; i <= list.DerFich; ++i) {
         const WorkLine& before = list.EtatFich[i];
         const WorkLine& after = reread.EtatFich[i];
-        require(before.code == (after.reload == L"1" ? L"1" + after.code : after.code));
+        require(before.code == (after.reload ? "1" + std::string(after.code) : after.code));
         require(before.path == after.path);
         require(before.reload == after.reload);
     }
@@ -39,17 +32,14 @@ void requireSameAfterSave(WorkList& list) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static WorkList list;  // a table is big, and reading leaves no trace of the one before
-    bool read = false;
-    // In two pieces, the first of which ends with a line.
-    const std::wstring text = textOfBytes(data, size);
-    const auto second = text.begin() + static_cast<std::ptrdiff_t>(text.find(L'\n') + 1);
-    const int error = errorOf([&] {
-        read = readPieces({text.begin(), second}, {second, text.end()}, list);
-    });
+    WorkList list;
+    std::string text;
+    appendUtf8(text, textOfBytes(data, size));
+    bool found = false;
+    const int error = errorOf([&] { found = parseListFile(text, list); });
     require(error == 0 || error == 5 || error == 9);
-    require(read == (size > 0 && error == 0));
-    if (!read) return 0;
+    require(found == (size > 0 && error == 0));
+    if (!found) return 0;
 
     require(list.DerFich >= 0 && list.DerFich < WorkList::kCapacity);
     bool survives = true;

@@ -2,9 +2,9 @@
 
 #include <windows.h>
 
-#include <functional>
 #include <string>
-#include <string_view>
+
+#include "platform/files.h"
 
 /// The Windows calls that a replacement is made of; a test makes them fail.
 class FileCalls {
@@ -15,9 +15,6 @@ class FileCalls {
     virtual bool flush(HANDLE file);
     virtual bool move(const std::wstring& from, const std::wstring& to);
 };
-
-using ByteSink = std::function<void(std::string_view bytes)>;
-using WriteContent = std::function<void(const ByteSink& file)>;
 
 /// Replaces a file whole: written beside it, flushed, then moved over it, so that at any moment
 /// the path holds all of the old bytes or all of the new. Raises 70, 75 or 76, or lets through what

@@ -55,19 +55,10 @@ bool isDotEntry(const wchar_t* name) {
 
 }  // namespace
 
-void WinFiles::read(const std::wstring& path, const TextSink& sink) {
-    decodeText(readBytes(path), sink);
-}
+std::string WinFiles::read(const std::wstring& path) { return textInUtf8(readBytes(path)); }
 
-void WinFiles::replace(const std::wstring& path,
-                       const std::function<void(const TextSink&)>& write) {
-    replaceFile(path, [&](const ByteSink& file) {
-        std::string bytes;
-        write([&](std::wstring_view piece) {
-            encodeText(piece, bytes);
-            file(bytes);
-        });
-    });
+void WinFiles::replace(const std::wstring& path, const WriteContent& write) {
+    replaceFile(path, write);
 }
 
 void WinFiles::visit(const std::wstring& directory,

@@ -4,9 +4,8 @@
 
 class WinFiles : public Files {
  public:
-    void read(const std::wstring& path, const TextSink& sink) override;
-    void replace(const std::wstring& path,
-                 const std::function<void(const TextSink&)>& write) override;
+    std::string read(const std::wstring& path) override;
+    void replace(const std::wstring& path, const WriteContent& write) override;
     void visit(const std::wstring& directory,
                const std::function<void(const DirectoryEntry&)>& visitor) override;
     DirectoryId identify(const std::wstring& directory) override;

@@ -75,22 +75,6 @@ TEST_F(WinFilesTest, ReadsUtf8OrElseTheSingleByteCodePage) {
     }
 }
 
-TEST_F(WinFilesTest, ReadsLongTextsInPiecesThatEndWithLines) {
-    std::wstring text;
-    for (int i = 0; i < 20'000; ++i)
-        text += (i % 3 ? L"c:\\plan\r\n" : L"c:\\\u00E9t\u00E9 \u20AC\r\n");
-    files.replaceText(path(L"tarnwick.lst"), text);
-    std::vector<std::wstring> pieces;
-    files.read(path(L"tarnwick.lst"), [&](std::wstring_view one) { pieces.emplace_back(one); });
-    ASSERT_GT(pieces.size(), 3U);
-    std::wstring read;
-    for (const std::wstring& piece : pieces) {
-        EXPECT_EQ(piece.back(), L'\n');
-        read += piece;
-    }
-    EXPECT_TRUE(read == text);
-}
-
 TEST_F(WinFilesTest, RefusesTextThatCannotBeEncoded) {
     writeBytes(path(L"tarnwick.lst"), "ancien");
     const wchar_t half[] = {L'a', 0xD800, L'b', 0};

@@ -3,10 +3,12 @@
 
 #include <windows.h>
 
+#include <array>
 #include <gtest/gtest.h>
 
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
+#include "platform/utf8.h"
 #include "tracking/work_list_view.h"
 #include "worklist/display_line.h"
 #include "worklist/state_labels.h"
@@ -41,16 +43,15 @@ class WorkListDrawing : public testing::Test {
     /// A list drawn at depth 0 with some lines selected, scrolled, then changed in two lines.
     void prepare(int topLine) {
         for (int i = 0; i < kLines; ++i) {
-            work.EtatFich[i].code = std::to_wstring(i % 3);
-            work.EtatFich[i].path =
-                work.texts.emplace_back(L"c:\\plans\\sous\\f" + std::to_wstring(i));
+            work.EtatFich[i].code = std::array{state::kToDo, state::kDone, state::kSeen}[i % 3];
+            work.EtatFich[i].path = work.keep("c:\\plans\\sous\\f" + std::to_string(i));
         }
         work.DerFich = kLines - 1;
         view.rebuild(work, labels, L"0", false);
         for (const int line : {10, 100, 190}) list.select(line, true);
         SendMessageW(listHandle(), LB_SETTOPINDEX, static_cast<WPARAM>(topLine), 0);
-        work.EtatFich[100].code = L"3";
-        work.EtatFich[101].code = L"1";
+        work.EtatFich[100].code = state::kInProgress;
+        work.EtatFich[101].code = state::kDone;
     }
 
     /// Every line removed and inserted again, as the rule for a redraw in place has it.
@@ -58,7 +59,8 @@ class WorkListDrawing : public testing::Test {
         const DrawingPause pause(list);
         for (int i = 0; i < kLines; ++i) {
             const WorkLine& line = work.EtatFich[i];
-            list.replaceLine(i, displayLine(i, *labelOf(labels, line.code), line.path, depth));
+            const std::wstring* label = labelOf(labels, line.code);
+            list.replaceLine(i, displayLine(i, *label, wideText(line.path), depth));
         }
         return lookOf(list);
     }

@@ -28,7 +28,7 @@ TEST_F(Leaving, ListFileSavedTwiceLosesItsFlaggedStates) {
     click(IDC_FORM3_CMDSUIV);
     EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"2");
     load(machine.files.texts[module.FichListe]);
-    EXPECT_EQ(module.liste.EtatFich[1].code, L"100");
+    EXPECT_EQ(module.liste.EtatFich[1].code, "100");
 }
 
 TEST_F(Leaving, ListFileHasAsManyLinesAsTheCounterShows) {

@@ -1,3 +1,4 @@
+#include "platform/utf8.h"
 #include "unit/raised.h"
 #include "unit/tracking/tracking_window.h"
 
@@ -24,7 +25,7 @@ class ListCommands : public TrackingWindow {
 
     /// That this line is the current one in every place that shows it.
     void expectCurrent(int index) {
-        const std::wstring path(module.liste.EtatFich[index].path);
+        const std::wstring path = wideText(module.liste.EtatFich[index].path);
         EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), std::to_wstring(index));
         EXPECT_EQ(text(IDC_FORM3_NBFICH1), std::to_wstring(index + 1));
         EXPECT_EQ(text(IDC_FORM3_CPTFICHIER1), std::to_wstring(module.liste.DerFich + 1));

@@ -1,5 +1,7 @@
 #include "unit/tracking/tracking_window.h"
 
+#include "platform/utf8.h"
+
 TrackingWindow::TrackingWindow() {
     module.labels = standardLabels();
     module.FichListe = L"c:\\tarnwick\\tarnwick.lst";
@@ -30,7 +32,7 @@ void TrackingWindow::loadStates(const std::wstring& codes) {
 std::wstring TrackingWindow::states() {
     std::wstring result;
     for (int i = 0; i <= module.liste.DerFich; ++i) {
-        result += (i == 0 ? L"" : L" ") + module.liste.EtatFich[i].code;
+        result += (i == 0 ? L"" : L" ") + wideText(module.liste.EtatFich[i].code);
     }
     return result;
 }

@@ -23,11 +23,11 @@ TEST(DisplayLine, ShowsAPathOfAnyDepthWhole) {
 
 TEST(StateLabels, BelongToExactCodes) {
     const StateLabels labels = standardLabels();
-    for (const wchar_t* code : {L"0", L"10"}) EXPECT_EQ(labelOf(labels, code), &labels.LibAFaire);
-    for (const wchar_t* code : {L"1", L"11"}) EXPECT_EQ(labelOf(labels, code), &labels.LibFait);
-    for (const wchar_t* code : {L"2", L"12"}) EXPECT_EQ(labelOf(labels, code), &labels.LibVu);
-    for (const wchar_t* code : {L"3", L"13"}) EXPECT_EQ(labelOf(labels, code), &labels.LibEnCours);
-    for (const wchar_t* code : {L"", L"4", L"00", L"01", L"110", L"1 ", L"x"})
+    for (const char* code : {"0", "10"}) EXPECT_EQ(labelOf(labels, code), &labels.LibAFaire);
+    for (const char* code : {"1", "11"}) EXPECT_EQ(labelOf(labels, code), &labels.LibFait);
+    for (const char* code : {"2", "12"}) EXPECT_EQ(labelOf(labels, code), &labels.LibVu);
+    for (const char* code : {"3", "13"}) EXPECT_EQ(labelOf(labels, code), &labels.LibEnCours);
+    for (const char* code : {"", "4", "00", "01", "110", "1 ", "x"})
         EXPECT_EQ(labelOf(labels, code), nullptr) << code;
 }
 

@@ -8,16 +8,16 @@
 namespace {
 
 /// A list from codes separated by blanks; below its last line stand stale lines, all to do.
-WorkList listOf(const std::wstring& codes) {
+WorkList listOf(const std::string& codes) {
     WorkList list;
     long row = 0;
-    std::wstring code;
-    for (const wchar_t c : codes + L' ') {
-        if (c != L' ') {
+    std::string code;
+    for (const char c : codes + ' ') {
+        if (c != ' ') {
             code += c;
         } else if (!code.empty()) {
-            const auto& path = list.texts.emplace_back(L"c:\\" + std::to_wstring(row));
-            list.EtatFich[row++] = {code, path, L""};
+            const auto path = list.keep("c:\\" + std::to_string(row));
+            list.EtatFich[row++] = {list.keep(code), path};
             code.clear();
         }
     }
@@ -26,9 +26,10 @@ WorkList listOf(const std::wstring& codes) {
     return list;
 }
 
-std::wstring codesOf(const WorkList& list) {
-    std::wstring codes;
-    for (int i = 0; i <= list.DerFich; ++i) codes += (i == 0 ? L"" : L" ") + list.EtatFich[i].code;
+std::string codesOf(const WorkList& list) {
+    std::string codes;
+    for (int i = 0; i <= list.DerFich; ++i)
+        codes += (i == 0 ? "" : " ") + std::string(list.EtatFich[i].code);
     return codes;
 }
 
@@ -41,56 +42,55 @@ const LineSelected kAll = [](int) { return true; };
 }  // namespace
 
 TEST(LineCommands, ChangingSparesTheLineInProgress) {
-    WorkList list = listOf(L"0 1 2 3 10 12 x 0");
+    WorkList list = listOf("0 1 2 3 10 12 x 0");
     changeSelected(list, only({0, 1, 2, 3, 4, 5, 6}), state::kSeen);
-    EXPECT_EQ(codesOf(list), L"2 2 2 3 2 2 2 0");
-    EXPECT_EQ(list.EtatFich[8].code, L"0");
+    EXPECT_EQ(codesOf(list), "2 2 2 3 2 2 2 0");
+    EXPECT_EQ(list.EtatFich[8].code, "0");
 }
 
 TEST(LineCommands, EliminatingRemovesChosenLinesOfItsStates) {
     const struct {
         LineSelected chosen;
         Eliminate states;
-        const wchar_t* afterwards;
+        const char* afterwards;
     } cases[] = {
-        {kAll, Eliminate::DoneAndSeen, L"0 3 11 12 x"},
-        {only({1, 2}), Eliminate::DoneAndSeen, L"0 3 11 12 1 2 x"},
-        {only({1, 7}), Eliminate::Seen, L"0 1 2 3 11 12 1 x"},
+        {kAll, Eliminate::DoneAndSeen, "0 3 11 12 x"},
+        {only({1, 2}), Eliminate::DoneAndSeen, "0 3 11 12 1 2 x"},
+        {only({1, 7}), Eliminate::Seen, "0 1 2 3 11 12 1 x"},
     };
     for (const auto& c : cases) {
-        WorkList list = listOf(L"0 1 2 3 11 12 1 2 x");
+        WorkList list = listOf("0 1 2 3 11 12 1 2 x");
         eliminateLines(list, c.chosen, c.states);
         EXPECT_EQ(codesOf(list), c.afterwards);
     }
 }
 
 TEST(LineCommands, EliminatingMovesPathsButNotReloadFlags) {
-    WorkList list = listOf(L"1 0 2 0");
-    list.EtatFich[0].reload = list.EtatFich[3].reload = L"1";
+    WorkList list = listOf("1 0 2 0");
+    list.EtatFich[0].reload = list.EtatFich[3].reload = true;
     eliminateLines(list, kAll, Eliminate::DoneAndSeen);
     EXPECT_EQ(list.DerFich, 1);
-    EXPECT_EQ(list.EtatFich[0].path, L"c:\\1");
-    EXPECT_EQ(list.EtatFich[1].path, L"c:\\3");
-    EXPECT_EQ(list.EtatFich[0].reload, L"1");
-    EXPECT_EQ(list.EtatFich[1].reload, L"");
+    EXPECT_EQ(list.EtatFich[0].path, "c:\\1");
+    EXPECT_EQ(list.EtatFich[1].path, "c:\\3");
+    EXPECT_TRUE(list.EtatFich[0].reload);
+    EXPECT_FALSE(list.EtatFich[1].reload);
 }
 
 TEST(LineCommands, ReestablishesTheLineInProgressOrTheFirstToDo) {
     const struct {
-        const wchar_t* before;
+        const char* before;
         std::optional<int> current;
-        const wchar_t* afterwards;
+        const char* afterwards;
     } cases[] = {
-        {L"0 1 3 0", 2, L"0 1 3 0"},    {L"1 0 0", 1, L"1 3 0"},
-        {L"1 2", std::nullopt, L"1 2"}, {L"10 13", std::nullopt, L"10 13"},
-        {L"", std::nullopt, L""},
+        {"0 1 3 0", 2, "0 1 3 0"},        {"1 0 0", 1, "1 3 0"},  {"1 2", std::nullopt, "1 2"},
+        {"10 13", std::nullopt, "10 13"}, {"", std::nullopt, ""},
     };
     for (const auto& c : cases) {
         WorkList list = listOf(c.before);
         EXPECT_EQ(reestablishCurrent(list), c.current) << c.before;
         EXPECT_EQ(codesOf(list), c.afterwards) << c.before;
         // The lines below the last one are stale, to do though they are.
-        EXPECT_EQ(list.EtatFich[list.DerFich + 1].code, L"0") << c.before;
+        EXPECT_EQ(list.EtatFich[list.DerFich + 1].code, "0") << c.before;
     }
 }
 

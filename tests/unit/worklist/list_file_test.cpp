@@ -6,21 +6,15 @@
 
 namespace {
 
-std::wstring linesToDo(int count) {
-    std::wstring text;
+std::string linesToDo(int count) {
+    std::string text;
     for (int i = 0; i < count; ++i) appendFreshLine(text, L"c:\\f" + std::to_wstring(i));
     return text;
 }
 
-bool read(std::wstring_view text, WorkList& list) {
-    ListFileReader reader(list);
-    if (!text.empty()) reader.add(text);
-    return reader.finish();
-}
-
-std::wstring saved(WorkList& list, long lineCount) {
-    std::wstring text;
-    formatListFile(list, lineCount, [&](std::wstring_view piece) { text += piece; });
+std::string saved(WorkList& list, long lineCount) {
+    std::string text;
+    formatListFile(list, lineCount, [&](std::string_view piece) { text += piece; });
     return text;
 }
 
@@ -28,33 +22,34 @@ std::wstring saved(WorkList& list, long lineCount) {
 
 TEST(ListFile, EachLineIsACodeAndAPath) {
     const struct {
-        const wchar_t* line;
-        const wchar_t* code;
-        const wchar_t* path;
-        const wchar_t* reload;
+        const char* line;
+        const char* code;
+        const char* path;
+        bool reload;
     } cases[] = {
-        {L"0  c:\\a b.SLDPRT", L"0", L"c:\\a b.SLDPRT", L""},
-        {L"9  c:\\f", L"9", L"c:\\f", L""},
-        {L"12  c:\\f", L"2", L"c:\\f", L"1"},
-        {L"110  c:\\f", L"100", L"c:\\f", L"1"},  // three characters are taken, and not four
-        {L"1100  c:\\f", L"100", L"0  c:\\f", L"1"},
-        {L"010  c:\\f", L"0", L"c:\\f", L"1"},   // a number over nine, however it is spelled
-        {L"003  c:\\f", L"003", L"c:\\f", L""},  // up to nine the code stays as it is spelled
-        {L" 1 c:\\f", L"1", L"c:\\f", L""},
-        {L"1 0c:\\f", L"1 0", L"c:\\f", L""},
-        {L"12xc:\\f", L"2", L"c:\\f", L"1"},  // the leading digits count
-        {L"a  c:\\f", L"a", L"c:\\f", L""},
-        {L"-5 c:\\f", L"-5", L"c:\\f", L""},
-        {L"0c:\\f.SLDPRT", L"0c:", L"\\f.SLDPRT", L""},
-        {L"0       c:\\f   ", L"0", L"c:\\f", L""},
-        {L"0  \tc:\\f", L"0", L"\tc:\\f", L""},  // blanks are trimmed, tabs aren't
-        {L"   c:\\f", L"", L"c:\\f", L""},
-        {L"0  ", L"0", L"", L""},
+        {"0  c:\\a b.SLDPRT", "0", "c:\\a b.SLDPRT", false},
+        {"9  c:\\f", "9", "c:\\f", false},
+        {"12  c:\\f", "2", "c:\\f", true},
+        {"110  c:\\f", "100", "c:\\f", true},  // three characters are taken, and not four
+        {"1100  c:\\f", "100", "0  c:\\f", true},
+        {"010  c:\\f", "0", "c:\\f", true},     // a number over nine, however it is spelled
+        {"003  c:\\f", "003", "c:\\f", false},  // up to nine the code stays as it is spelled
+        {" 1 c:\\f", "1", "c:\\f", false},
+        {"1 0c:\\f", "1 0", "c:\\f", false},
+        {"12xc:\\f", "2", "c:\\f", true},  // the leading digits count
+        {"a  c:\\f", "a", "c:\\f", false},
+        {"-5 c:\\f", "-5", "c:\\f", false},
+        {"0c:\\f.SLDPRT", "0c:", "\\f.SLDPRT", false},
+        {"0       c:\\f   ", "0", "c:\\f", false},
+        {"0  \tc:\\f", "0", "\tc:\\f", false},  // blanks are trimmed, tabs aren't
+        {"   c:\\f", "", "c:\\f", false},
+        {"é€  c:\\été", "é€", "c:\\été", false},  // characters count, not bytes
+        {"0  ", "0", "", false},
     };
     for (const auto& c : cases) {
         WorkList list;
-        list.EtatFich[0].reload = L"1";
-        ASSERT_TRUE(read(c.line, list)) << c.line;
+        list.EtatFich[0].reload = true;
+        ASSERT_TRUE(parseListFile(c.line, list)) << c.line;
         EXPECT_EQ(list.EtatFich[0].code, c.code) << c.line;
         EXPECT_EQ(list.EtatFich[0].path, c.path) << c.line;
         EXPECT_EQ(list.EtatFich[0].reload, c.reload) << c.line;
@@ -65,36 +60,36 @@ TEST(ListFile, EachLineIsACodeAndAPath) {
 TEST(ListFile, AnEmptyTextLeavesTheListAlone) {
     WorkList list;
     list.DerFich = 5;
-    EXPECT_FALSE(read(L"", list));
+    EXPECT_FALSE(parseListFile("", list));
     EXPECT_EQ(list.DerFich, 5);
 }
 
 TEST(ListFile, ALineShorterThanItsCodeIsAnInvalidArgument) {
-    for (const wchar_t* text : {L"\r\n", L"0", L"0 ", L"0  a\r\n\r\n", L"0  a\r\n\r\n1  b\r\n",
-                                L"0  a\n\r1  b", L"0  a\r\n\x1a"}) {
+    for (const char* text : {"\r\n", "0", "0 ", "0  a\r\n\r\n", "0  a\r\n\r\n1  b\r\n",
+                             "0  a\n\r1  b", "0  a\r\n\x1a"}) {
         WorkList list;
-        EXPECT_EQ(raised([&] { read(text, list); }), 5) << text;
+        EXPECT_EQ(raised([&] { parseListFile(text, list); }), 5) << text;
     }
 }
 
 TEST(ListFile, HoldsAsManyLinesAsTheTable) {
     WorkList list;
-    ASSERT_TRUE(read(linesToDo(8001), list));
+    ASSERT_TRUE(parseListFile(linesToDo(8001), list));
     EXPECT_EQ(list.DerFich, 8000);
-    EXPECT_EQ(list.EtatFich[8000].path, L"c:\\f8000");
+    EXPECT_EQ(list.EtatFich[8000].path, "c:\\f8000");
     EXPECT_EQ(saved(list, 8001), linesToDo(8001));
     EXPECT_EQ(raised([&] { saved(list, 8002); }), 9);
 
     WorkList another;
-    EXPECT_EQ(raised([&] { read(linesToDo(8002), another); }), 9);
+    EXPECT_EQ(raised([&] { parseListFile(linesToDo(8002), another); }), 9);
 }
 
 TEST(ListFile, AFlaggedCodeGrowsAtEachSave) {
     WorkList list;
-    ASSERT_TRUE(read(L"10  c:\\a\r\n0  c:\\b\r\n", list));
-    EXPECT_EQ(saved(list, 2), L"10  c:\\a\r\n0  c:\\b\r\n");
-    EXPECT_EQ(list.EtatFich[0].code, L"10");
-    EXPECT_EQ(list.EtatFich[1].code, L"0");
-    EXPECT_EQ(saved(list, 2), L"110  c:\\a\r\n0  c:\\b\r\n");
-    EXPECT_EQ(list.EtatFich[0].code, L"110");
+    ASSERT_TRUE(parseListFile("10  c:\\a\r\n0  c:\\b\r\n", list));
+    EXPECT_EQ(saved(list, 2), "10  c:\\a\r\n0  c:\\b\r\n");
+    EXPECT_EQ(list.EtatFich[0].code, "10");
+    EXPECT_EQ(list.EtatFich[1].code, "0");
+    EXPECT_EQ(saved(list, 2), "110  c:\\a\r\n0  c:\\b\r\n");
+    EXPECT_EQ(list.EtatFich[0].code, "110");
 }
