@@ -1,7 +1,7 @@
 #include "demo/steps.h"
 #include "driver/wait.h"
-#include "searchfolders/form4_ids.h"
-#include "selection/form1_ids.h"
+#include "searchfolders/configuration_ids.h"
+#include "selection/selection_ids.h"
 
 namespace endtoend::demo {
 namespace {

@@ -1,6 +1,6 @@
 #include "demo/steps.h"
 #include "driver/wait.h"
-#include "selection/form1_ids.h"
+#include "selection/selection_ids.h"
 
 namespace endtoend::demo {
 namespace {

@@ -1,6 +1,6 @@
 #include "demo/steps.h"
-#include "startup/form2_ids.h"
-#include "tracking/form3_ids.h"
+#include "resume/existing_list_ids.h"
+#include "tracking/tracking_ids.h"
 
 namespace endtoend::demo {
 namespace {

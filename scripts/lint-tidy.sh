@@ -3,5 +3,5 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 cmake --preset dev >/dev/null
-find src -name '*.cpp' -not -path '*/win32/*' -print0 |
+find src -name '*.cpp' -not -path '*/win32/*' -not -name win_main.cpp -not -name terminate.cpp -print0 |
     xargs -0 -n2 -P"${TARNWICK_LINT_JOBS:-$(nproc)}" clang-tidy -p build/dev --quiet 2> >(grep -v ' warnings\? generated\.$' >&2 || true)

@@ -5,15 +5,15 @@
 #include <oleauto.h>
 
 #include "bare_calls.h"
+#include "cad/cad_session.h"
 #include "driver/sandbox.h"
 #include "driver/text.h"
 #include "driver/trial_cad.h"
-#include "platform/win32/input_sieve.h"
-#include "platform/win32/message_filter.h"
-#include "platform/win32/win_automation.h"
+#include "platform/win32/com/message_filter.h"
+#include "platform/win32/com/win_automation.h"
+#include "platform/win32/window/input_sieve.h"
 #include "rows.h"
 #include "stage.h"
-#include "startup/cad_session.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 // The selection window's filter, on the lines that it shows.
 
-#include "platform/letter_case.h"
+#include "common/letter_case.h"
 #include "rows.h"
 #include "sample_tree.h"
-#include "selection/form1_ids.h"
 #include "selection/found_documents.h"
+#include "selection/selection_ids.h"
 #include "selection/selection_list.h"
 #include "stage.h"
 

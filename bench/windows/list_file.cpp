@@ -6,7 +6,7 @@
 
 #include <memory>
 
-#include "platform/win32/win_files.h"
+#include "platform/win32/files/win_files.h"
 #include "rows.h"
 #include "sample_tree.h"
 

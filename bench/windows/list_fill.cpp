@@ -1,10 +1,10 @@
 // The work list's lines put into the tracking window's list box.
 
-#include "platform/utf8.h"
+#include "common/utf8.h"
 #include "rows.h"
 #include "sample_tree.h"
 #include "stage.h"
-#include "tracking/form3_ids.h"
+#include "tracking/tracking_ids.h"
 #include "tracking/work_list_view.h"
 #include "worklist/display_line.h"
 

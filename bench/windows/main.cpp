@@ -10,7 +10,7 @@
 #include <set>
 #include <stdexcept>
 
-#include "platform/runtime_error.h"
+#include "common/runtime_error.h"
 #include "rows.h"
 
 namespace {

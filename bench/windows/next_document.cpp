@@ -5,8 +5,8 @@
 #include "rows.h"
 #include "sample_tree.h"
 #include "stage.h"
-#include "tracking/form3.h"
-#include "tracking/form3_ids.h"
+#include "tracking/tracking_ids.h"
+#include "tracking/tracking_window.h"
 #include "worklist/list_file.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "selection_window.h"
 
-#include "selection/form1_ids.h"
+#include "selection/selection_ids.h"
 
 SelectionWindow::SelectionWindow(const std::filesystem::path& directory, bool withSubdirectories) {
     stage_.module.RepTravailSw = directory.wstring();

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "selection/form1.h"
+#include "selection/selection_window.h"
 #include "stage.h"
 
 /// The selection window, shown, on a directory and all kinds of documents.

@@ -5,16 +5,16 @@
 #include <memory>
 
 #include "answering_cad.h"
+#include "app/module1.h"
 #include "platform/desktop.h"
 #include "platform/platform.h"
-#include "platform/win32/dialog_window.h"
-#include "platform/win32/event_gate.h"
-#include "platform/win32/input_sieve.h"
-#include "platform/win32/registry_settings.h"
-#include "platform/win32/win_files.h"
-#include "platform/win32/win_message_boxes.h"
-#include "startup/module1.h"
-#include "startup/navigation.h"
+#include "platform/win32/files/win_files.h"
+#include "platform/win32/process/registry_settings.h"
+#include "platform/win32/window/dialog_window.h"
+#include "platform/win32/window/event_gate.h"
+#include "platform/win32/window/input_sieve.h"
+#include "platform/win32/window/win_message_boxes.h"
+#include "session/navigation.h"
 
 /// A desktop where every window is found.
 struct DesktopWithAll : Desktop {

@@ -1,8 +1,8 @@
 #include "about/about_window.h"
 
 #include "about/about_ids.h"
+#include "app/module1.h"
 #include "platform/platform.h"
-#include "startup/module1.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "platform/runtime_error.h"
+#include "common/runtime_error.h"
 
 /// A table of fixed size. Reaching past it raises subscript out of range (9).
 template <class Entry, std::size_t Size>

@@ -5,8 +5,8 @@
 #include <iterator>
 #include <limits>
 
+#include "common/runtime_error.h"
 #include "common/text.h"
-#include "platform/runtime_error.h"
 
 namespace {
 

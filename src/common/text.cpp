@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/letter_case.h"
+#include "common/letter_case.h"
 
 namespace {
 

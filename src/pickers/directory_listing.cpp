@@ -4,8 +4,8 @@
 #include <tuple>
 #include <utility>
 
+#include "common/letter_case.h"
 #include "platform/files.h"
-#include "platform/letter_case.h"
 
 namespace {
 

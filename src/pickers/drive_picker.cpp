@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string>
 
+#include "common/letter_case.h"
 #include "platform/controls.h"
 #include "platform/files.h"
-#include "platform/letter_case.h"
 
 void DrivePicker::fill() {
     letters_ = files_.drives();

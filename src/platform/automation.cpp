@@ -1,6 +1,6 @@
 #include "platform/automation.h"
 
-#include "platform/runtime_error.h"
+#include "common/runtime_error.h"
 
 Value callMethod(const ObjectPtr& object, std::wstring_view name,
                  std::initializer_list<Argument> arguments, std::wstring_view resultClass) {

@@ -1,6 +1,6 @@
 #include "platform/files.h"
 
-#include "platform/utf8.h"
+#include "common/utf8.h"
 
 std::wstring Files::readText(const std::wstring& path) { return wideText(read(path)); }
 

@@ -6,7 +6,7 @@
 
 #include "pickers/directory_listing.h"
 #include "pickers/open_directories.h"
-#include "selection/motif_type.h"
+#include "selection/document_kinds.h"
 
 class Files;
 class FoundDocuments;

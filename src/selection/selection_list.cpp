@@ -1,7 +1,7 @@
 #include "selection/selection_list.h"
 
+#include "common/letter_case.h"
 #include "platform/controls.h"
-#include "platform/letter_case.h"
 #include "selection/found_documents.h"
 #include "worklist/display_line.h"
 #include "worklist/state_labels.h"

@@ -1,7 +1,7 @@
 #include "worklist/display_line.h"
 
 #include "common/numbers.h"
-#include "worklist/chemin_court.h"
+#include "worklist/short_path.h"
 
 std::wstring shownPath(std::wstring_view path, std::wstring_view depth) {
     return numericValue(depth) > 0 ? CheminCourt(depth, path) : std::wstring(path);

@@ -2,9 +2,9 @@
 
 #include <charconv>
 
+#include "common/runtime_error.h"
 #include "common/text.h"
-#include "platform/runtime_error.h"
-#include "platform/utf8.h"
+#include "common/utf8.h"
 
 namespace {
 

@@ -5,10 +5,10 @@
 #include "driver/text.h"
 #include "driver/wait.h"
 #include "driver/winapi.h"
+#include "resume/existing_list_ids.h"
 #include "scenario.h"
-#include "selection/form1_ids.h"
-#include "startup/form2_ids.h"
-#include "tracking/form3_ids.h"
+#include "selection/selection_ids.h"
+#include "tracking/tracking_ids.h"
 
 namespace endtoend {
 namespace {

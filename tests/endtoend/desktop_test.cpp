@@ -4,8 +4,8 @@
 #include "driver/wait.h"
 #include "driver/winapi.h"
 #include "scenario.h"
-#include "selection/form1_ids.h"
-#include "tracking/form3_ids.h"
+#include "selection/selection_ids.h"
+#include "tracking/tracking_ids.h"
 
 namespace endtoend {
 namespace {

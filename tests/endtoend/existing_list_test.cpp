@@ -1,6 +1,6 @@
 #include "driver/wait.h"
+#include "resume/existing_list_ids.h"
 #include "scenario.h"
-#include "startup/form2_ids.h"
 
 namespace endtoend {
 namespace {

@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "driver/wait.h"
-#include "startup/form2_ids.h"
+#include "resume/existing_list_ids.h"
 
 namespace endtoend {
 

@@ -7,8 +7,8 @@
 #include "driver/wait.h"
 #include "driver/winapi.h"
 #include "scenario.h"
-#include "searchfolders/form4_ids.h"
-#include "selection/form1_ids.h"
+#include "searchfolders/configuration_ids.h"
+#include "selection/selection_ids.h"
 
 namespace endtoend {
 namespace {

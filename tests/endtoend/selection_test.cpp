@@ -1,8 +1,8 @@
 #include "driver/text.h"
 #include "driver/wait.h"
 #include "scenario.h"
-#include "selection/form1_ids.h"
-#include "tracking/form3_ids.h"
+#include "selection/selection_ids.h"
+#include "tracking/tracking_ids.h"
 
 namespace endtoend {
 namespace {

@@ -4,7 +4,7 @@
 #include <iostream>
 
 #include "scenario.h"
-#include "tracking/form3_ids.h"
+#include "tracking/tracking_ids.h"
 
 namespace endtoend {
 namespace {

@@ -1,6 +1,6 @@
 #include "driver/wait.h"
 #include "scenario.h"
-#include "tracking/form3_ids.h"
+#include "tracking/tracking_ids.h"
 
 namespace endtoend {
 namespace {

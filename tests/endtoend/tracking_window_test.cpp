@@ -1,6 +1,6 @@
 #include "driver/tooltip.h"
 #include "scenario.h"
-#include "tracking/form3_ids.h"
+#include "tracking/tracking_ids.h"
 
 namespace endtoend {
 namespace {

@@ -1,6 +1,6 @@
 #include "fakes/fake_automation.h"
 
-#include "platform/runtime_error.h"
+#include "common/runtime_error.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "platform/runtime_error.h"
-#include "platform/utf8.h"
+#include "common/runtime_error.h"
+#include "common/utf8.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "startup/navigation.h"
+#include "session/navigation.h"
 
 /// Notes which windows are asked for, and makes none.
 struct FakeNavigation : Navigation {

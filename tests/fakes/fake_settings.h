@@ -3,7 +3,7 @@
 #include <map>
 #include <tuple>
 
-#include "platform/letter_case.h"
+#include "common/letter_case.h"
 #include "platform/settings.h"
 
 /// Settings in memory, by application, section and key, keys without regard to case.

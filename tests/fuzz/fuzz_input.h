@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/runtime_error.h"
+#include "common/runtime_error.h"
 
 /// The text of a file in a single-byte code page: each byte a character.
 inline std::wstring textOfBytes(const std::uint8_t* data, std::size_t size) {

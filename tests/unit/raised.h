@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/runtime_error.h"
+#include "common/runtime_error.h"
 
 /// The number of the run-time error that an action raises, 0 when it raises none.
 template <class Action>

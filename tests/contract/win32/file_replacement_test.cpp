@@ -1,11 +1,11 @@
 // Every call that a replacement makes fails in turn: the old file stays, nothing beside it.
 
-#include "platform/win32/file_replacement.h"
+#include "platform/win32/files/file_replacement.h"
 
 #include <gtest/gtest.h>
 
 #include "contract/machine.h"
-#include "platform/win32/unique_handle.h"
+#include "platform/win32/process/unique_handle.h"
 #include "unit/raised.h"
 
 namespace {

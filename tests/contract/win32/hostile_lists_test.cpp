@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "contract/machine.h"
-#include "platform/win32/file_replacement.h"
+#include "platform/win32/files/file_replacement.h"
 #include "unit/raised.h"
 #include "worklist/list_file.h"
 

@@ -1,10 +1,10 @@
 // What the message filter answers when a busy program refused a call. Wine never asks it.
 
-#include "platform/win32/message_filter.h"
+#include "platform/win32/com/message_filter.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/win32/call_out.h"
+#include "platform/win32/com/call_out.h"
 
 TEST(MessageFilter, RepeatsARefusedCallByThePolicy) {
     constexpr DWORD kGiveUp = static_cast<DWORD>(-1);

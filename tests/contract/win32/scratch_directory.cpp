@@ -2,8 +2,8 @@
 
 #include <windows.h>
 
-#include "platform/win32/long_path.h"
-#include "platform/win32/win_files.h"
+#include "platform/win32/files/long_path.h"
+#include "platform/win32/files/win_files.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "contract/machine.h"
-#include "platform/win32/long_path.h"
-#include "platform/win32/unique_handle.h"
+#include "platform/win32/files/long_path.h"
+#include "platform/win32/process/unique_handle.h"
 #include "unit/raised.h"
 
 namespace {

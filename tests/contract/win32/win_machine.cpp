@@ -5,11 +5,11 @@
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
 #include "contract/win32/scratch_directory.h"
-#include "platform/win32/dialog_window.h"
-#include "platform/win32/event_gate.h"
-#include "platform/win32/long_path.h"
-#include "platform/win32/registry_settings.h"
-#include "platform/win32/win_files.h"
+#include "platform/win32/files/long_path.h"
+#include "platform/win32/files/win_files.h"
+#include "platform/win32/process/registry_settings.h"
+#include "platform/win32/window/dialog_window.h"
+#include "platform/win32/window/event_gate.h"
 
 namespace {
 

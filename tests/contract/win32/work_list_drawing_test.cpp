@@ -6,9 +6,9 @@
 #include <array>
 #include <gtest/gtest.h>
 
+#include "common/utf8.h"
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
-#include "platform/utf8.h"
 #include "tracking/work_list_view.h"
 #include "worklist/display_line.h"
 #include "worklist/state_labels.h"

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "about/about_ids.h"
+#include "app/program.h"
 #include "fakes/fake_platform.h"
-#include "selection/form1_ids.h"
-#include "startup/program.h"
+#include "selection/selection_ids.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "platform/utf8.h"
+#include "common/utf8.h"
 #include "unit/raised.h"
-#include "unit/tracking/tracking_window.h"
+#include "unit/tracking/tracking_window_fixture.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "unit/tracking/tracking_window.h"
+#include "unit/tracking/tracking_window_fixture.h"
 
 using Load = TrackingWindow;
 

@@ -1,0 +1,65 @@
+#include <windows.h>
+
+#include <commctrl.h>
+#include <memory>
+#include <objbase.h>
+
+#include "app/program.h"
+#include "platform/platform.h"
+#include "platform/win32/com/message_filter.h"
+#include "platform/win32/com/win_automation.h"
+#include "platform/win32/files/win_files.h"
+#include "platform/win32/process/registry_settings.h"
+#include "platform/win32/window/dialog_window.h"
+#include "platform/win32/window/event_gate.h"
+#include "platform/win32/window/input_sieve.h"
+#include "platform/win32/window/message_loop.h"
+#include "platform/win32/window/win_desktop.h"
+#include "platform/win32/window/win_message_boxes.h"
+
+namespace {
+
+std::wstring programDirectory() {
+    std::wstring path(MAX_PATH, L'\0');
+    DWORD length = 0;
+    while ((length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()))) ==
+           path.size()) {
+        path.resize(path.size() * 2);
+    }
+    path.resize(length);
+    return path.substr(0, path.find_last_of(L'\\'));
+}
+
+/// COM for the thread, as long as it lives.
+struct Apartment {
+    Apartment() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
+    ~Apartment() { CoUninitialize(); }
+    Apartment(const Apartment&) = delete;
+    Apartment& operator=(const Apartment&) = delete;
+};
+
+int runProgram() {
+    EventGate gate;
+    WinAutomation automation;
+    RegistrySettings settings;
+    WinFiles files;
+    WinMessageBoxes messageBoxes;
+    WinDesktop desktop;
+    DialogFactory windows(gate);
+    const InputSieve sieve;
+    const MessageFilter filter;
+    Program program(
+        {automation, settings, files, messageBoxes, desktop, windows, programDirectory()});
+    gate.run([&] { program.Main(); });
+    return gate.ended() ? gate.exitCode() : runMessageLoop();
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+    SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
+    INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
+    InitCommonControlsEx(&controls);
+    const Apartment apartment;
+    return runProgram();
+}

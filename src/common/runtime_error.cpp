@@ -1,0 +1,56 @@
+#include "common/runtime_error.h"
+
+namespace errors {
+namespace {
+
+RuntimeError about(int number, const wchar_t* sentence, const std::wstring& subject) {
+    return {number, sentence + (subject.empty() ? std::wstring(L".") : L" : " + subject)};
+}
+
+}  // namespace
+
+RuntimeError invalidArgument() { return {5, L"Appel de procédure ou argument incorrect."}; }
+
+RuntimeError unwritableText() {
+    return {5,
+            L"Un nom de fichier contient des caractères qui ne peuvent pas être écrits dans un "
+            L"fichier. Renommez ce document, puis recommencez."};
+}
+
+RuntimeError overflow() { return {6, L"Dépassement de capacité : le nombre est trop grand."}; }
+
+RuntimeError outOfMemory() { return {7, L"Mémoire insuffisante."}; }
+
+RuntimeError subscriptOutOfRange() {
+    return {9, L"L'indice n'appartient pas à la sélection : la capacité d'une table est dépassée."};
+}
+
+RuntimeError typeMismatch() { return {13, L"Incompatibilité de type : un nombre était attendu."}; }
+
+RuntimeError fileNotFound(const std::wstring& path) {
+    return about(53, L"Fichier introuvable", path);
+}
+
+RuntimeError permissionDenied(const std::wstring& path) {
+    return about(70, L"Permission refusée", path);
+}
+
+RuntimeError fileAccess(const std::wstring& path) {
+    return about(75, L"Erreur d'accès au chemin ou au fichier", path);
+}
+
+RuntimeError pathNotFound(const std::wstring& path) {
+    return about(76, L"Chemin d'accès introuvable", path);
+}
+
+RuntimeError emptyObject() { return {91, L"Objet vide : SolidWorks n'a pas donné de document."}; }
+
+RuntimeError unknownMember(const std::wstring& name) {
+    return about(438, L"Propriété ou méthode inconnue de l'objet", name);
+}
+
+RuntimeError automation(const std::wstring& description) {
+    return {440, description.empty() ? L"L'appel de SolidWorks a échoué." : description};
+}
+
+}  // namespace errors

@@ -1,0 +1,95 @@
+#include "platform/win32/window/modal_box.h"
+
+#include <vector>
+
+namespace {
+
+struct ButtonText {
+    int id;
+    const wchar_t* text;
+};
+
+constexpr ButtonText kFrenchButtons[] = {
+    {IDYES, L"&Oui"}, {IDNO, L"&Non"}, {IDRETRY, L"&Réessayer"}, {IDCANCEL, L"Annuler"}};
+
+/// Gives a message box French buttons, whatever the language of the system, when it opens.
+class FrenchButtons {
+ public:
+    FrenchButtons() : hook_(SetWindowsHookExW(WH_CBT, onCbt, nullptr, GetCurrentThreadId())) {}
+    ~FrenchButtons() { UnhookWindowsHookEx(hook_); }
+    FrenchButtons(const FrenchButtons&) = delete;
+    FrenchButtons& operator=(const FrenchButtons&) = delete;
+
+ private:
+    static LRESULT CALLBACK onCbt(int code, WPARAM wParam, LPARAM lParam) {
+        if (code == HCBT_ACTIVATE) translate(reinterpret_cast<HWND>(wParam));
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    static void translate(HWND box) {
+        wchar_t className[16] = {};
+        GetClassNameW(box, className, ARRAYSIZE(className));
+        if (lstrcmpW(className, L"#32770") != 0) return;
+        for (const ButtonText& button : kFrenchButtons) {
+            if (GetDlgItem(box, button.id)) SetDlgItemTextW(box, button.id, button.text);
+        }
+    }
+
+    HHOOK hook_;
+};
+
+/// Disables every window of the program but the box's owner, which the box disables itself.
+class OthersDisabled {
+ public:
+    explicit OthersDisabled(HWND owner) : owner_(owner) {
+        EnumThreadWindows(GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
+    }
+    ~OthersDisabled() {
+        for (HWND window : disabled_) EnableWindow(window, TRUE);
+    }
+    OthersDisabled(const OthersDisabled&) = delete;
+    OthersDisabled& operator=(const OthersDisabled&) = delete;
+
+ private:
+    static BOOL CALLBACK disable(HWND window, LPARAM self) {
+        auto* others = reinterpret_cast<OthersDisabled*>(self);
+        if (window != others->owner_ && IsWindowVisible(window) && IsWindowEnabled(window)) {
+            EnableWindow(window, FALSE);
+            others->disabled_.push_back(window);
+        }
+        return TRUE;
+    }
+
+    HWND owner_;
+    std::vector<HWND> disabled_;
+};
+
+const ModalBox* shownBox = nullptr;
+
+void CALLBACK onHelp(LPHELPINFO) {
+    WinHelpW(nullptr, shownBox->helpFile.c_str(), HELP_CONTEXT, shownBox->helpContext);
+}
+
+HWND ownerOfBoxes() {
+    HWND owner = GetActiveWindow();
+    return owner && IsWindowVisible(owner) ? owner : nullptr;
+}
+
+}  // namespace
+
+int showModalBox(const ModalBox& box) {
+    MSGBOXPARAMSW parameters{};
+    parameters.cbSize = sizeof parameters;
+    parameters.hwndOwner = ownerOfBoxes();
+    parameters.lpszText = box.text.c_str();
+    parameters.lpszCaption = box.title.c_str();
+    parameters.dwStyle = box.style | MB_SETFOREGROUND;
+    if (box.helpContext != 0) {
+        parameters.dwContextHelpId = box.helpContext;
+        parameters.lpfnMsgBoxCallback = onHelp;
+    }
+    shownBox = &box;
+    const OthersDisabled others(parameters.hwndOwner);
+    const FrenchButtons french;
+    return MessageBoxIndirectW(&parameters);
+}

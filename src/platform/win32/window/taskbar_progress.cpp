@@ -1,0 +1,46 @@
+#include "platform/win32/window/taskbar_progress.h"
+
+#include <shobjidl.h>
+
+namespace {
+
+UINT buttonCreated() {
+    static const UINT message = RegisterWindowMessageW(L"TaskbarButtonCreated");
+    return message;
+}
+
+ITaskbarList3* makeTaskbar() {
+    ITaskbarList3* taskbar = nullptr;
+    CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&taskbar));
+    if (!taskbar || SUCCEEDED(taskbar->HrInit())) return taskbar;
+    taskbar->Release();
+    return nullptr;
+}
+
+}  // namespace
+
+TaskbarProgress::TaskbarProgress() = default;
+TaskbarProgress::~TaskbarProgress() = default;
+
+void TaskbarProgress::Releaser::operator()(ITaskbarList3* taskbar) const { taskbar->Release(); }
+
+void TaskbarProgress::show(HWND window, int done, int total) {
+    if (done == done_ && total == total_) return;
+    done_ = done;
+    total_ = total;
+    tellShell(window);
+}
+
+void TaskbarProgress::onMessage(HWND window, UINT message) {
+    if (message == buttonCreated() && total_ > 0) tellShell(window);
+}
+
+void TaskbarProgress::tellShell(HWND window) {
+    if (!taskbar_) taskbar_.reset(makeTaskbar());
+    if (!taskbar_) return;
+    taskbar_->SetProgressState(window, total_ > 0 ? TBPF_NORMAL : TBPF_NOPROGRESS);
+    if (total_ > 0) {
+        taskbar_->SetProgressValue(window, static_cast<ULONGLONG>(done_),
+                                   static_cast<ULONGLONG>(total_));
+    }
+}

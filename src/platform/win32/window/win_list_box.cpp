@@ -1,0 +1,108 @@
+#include <algorithm>
+
+#include "platform/win32/window/win_controls.h"
+
+namespace {
+
+WPARAM position(int index) { return static_cast<WPARAM>(index); }
+
+LPARAM asLparam(const std::wstring& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
+
+int characterWidth(HWND list) {
+    const HDC context = GetDC(list);
+    const HGDIOBJ previous =
+        SelectObject(context, reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0)));
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(context, &metrics);
+    SelectObject(context, previous);
+    ReleaseDC(list, context);
+    return metrics.tmAveCharWidth;
+}
+
+}  // namespace
+
+int WinListBox::count() const { return sendForInt(LB_GETCOUNT); }
+
+std::wstring WinListBox::line(int index) const {
+    const int length = sendForInt(LB_GETTEXTLEN, position(index));
+    if (length <= 0) return {};
+    std::wstring text(static_cast<std::size_t>(length), L'\0');
+    send(LB_GETTEXT, position(index), reinterpret_cast<LPARAM>(text.data()));
+    return text;
+}
+
+bool WinListBox::selected(int index) const { return send(LB_GETSEL, position(index)) > 0; }
+
+bool WinListBox::severalSelectable() const {
+    return (GetWindowLongW(handle(), GWL_STYLE) & (LBS_EXTENDEDSEL | LBS_MULTIPLESEL)) != 0;
+}
+
+void WinListBox::select(int index, bool selected) {
+    if (severalSelectable()) {
+        send(LB_SETSEL, selected, index);
+    } else if (selected) {
+        send(LB_SETCURSEL, position(index));
+    }
+}
+
+void WinListBox::clearSelection() {
+    if (severalSelectable()) {
+        send(LB_SETSEL, FALSE, -1);
+    } else {
+        send(LB_SETCURSEL, static_cast<WPARAM>(-1));
+    }
+}
+
+int WinListBox::mark(int index) const { return sendForInt(LB_GETITEMDATA, position(index)); }
+
+void WinListBox::setMark(int index, int mark) { send(LB_SETITEMDATA, position(index), mark); }
+
+void WinListBox::setLines(int count, const std::function<std::wstring(int)>& line) {
+    DrawingPause pause(*this);
+    send(LB_RESETCONTENT);
+    constexpr LPARAM kBytesPerLine = 200;
+    send(LB_INITSTORAGE, position(count), count * kBytesPerLine);
+    widest_ = 0;
+    std::size_t widest = 0;
+    for (int i = 0; i < count; ++i) {
+        const std::wstring text = line(i);
+        widest = std::max(widest, text.size());
+        send(LB_ADDSTRING, 0, asLparam(text));
+    }
+    widenFor(widest);
+}
+
+void WinListBox::replaceLine(int index, const std::wstring& line) {
+    send(LB_DELETESTRING, position(index));
+    send(LB_INSERTSTRING, position(index), asLparam(line));
+    if (line.size() > widest_) widenFor(line.size());
+}
+
+void WinListBox::changeText(int index, const std::wstring& line) {
+    const LRESULT top = send(LB_GETTOPINDEX);
+    const bool wasSelected = selected(index);
+    const LRESULT data = send(LB_GETITEMDATA, position(index));
+    replaceLine(index, line);
+    send(LB_SETITEMDATA, position(index), data);
+    if (wasSelected && severalSelectable()) {
+        send(LB_SELITEMRANGEEX, position(index), index);
+    } else if (wasSelected) {
+        send(LB_SETCURSEL, position(index));
+    }
+    if (send(LB_GETTOPINDEX) != top) send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
+}
+
+void WinListBox::widenFor(std::size_t characters) {
+    widest_ = characters;
+    send(LB_SETHORIZONTALEXTENT, (characters + 1) * static_cast<WPARAM>(characterWidth(handle())));
+}
+
+void WinListBox::stopDrawing() {
+    if (pauses_++ == 0) send(WM_SETREDRAW, FALSE);
+}
+
+void WinListBox::resumeDrawing() {
+    if (--pauses_ != 0) return;
+    send(WM_SETREDRAW, TRUE);
+    InvalidateRect(handle(), nullptr, TRUE);
+}

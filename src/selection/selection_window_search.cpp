@@ -1,0 +1,102 @@
+// The selection window's search: from drive, directory, kinds and sub-directories box to the list.
+
+#include <chrono>
+
+#include "common/numbers.h"
+#include "pickers/directory_listing.h"
+#include "platform/files.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
+#include "selection/document_search.h"
+#include "selection/selection_window.h"
+
+namespace {
+
+/// Lets something happen a few times per second at most.
+class Pulse {
+ public:
+    bool due() {
+        constexpr std::chrono::milliseconds kInterval(250);
+        const auto now = std::chrono::steady_clock::now();
+        if (now - last_ < kInterval) return false;
+        last_ = now;
+        return true;
+    }
+
+ private:
+    std::chrono::steady_clock::time_point last_ = std::chrono::steady_clock::now();
+};
+
+}  // namespace
+
+// A click only highlights a directory; a double click opens it.
+void Form1::repert_Click() {}
+
+void Form1::repert_DblClick() {
+    if (repert.openSelected()) repert_Change();
+}
+
+void Form1::typef_Change() { repert_Change(); }
+void Form1::typef_Click() { repert_Change(); }
+void Form1::typef_Validate() { repert_Change(); }
+
+void Form1::unite_Change() {
+    if (unite.drive() == 0) return;
+    const bool elsewhere = repert.setPath(platform_.files.currentDirectory(unite.drive()));
+    repert_Change();
+    // Another directory and the drive each ask for a rebuild. The second finds the same again, so
+    // it is spared unless it has a question to repeat.
+    if (elsewhere && rechercheDepuisRacine()) repert_Change();
+}
+
+bool Form1::rechercheDepuisRacine() const {
+    return isDriveRoot(repert.path()) && sousrep.checked();
+}
+
+bool Form1::ConfirmerRacine() {
+    const auto answer = platform_.messageBoxes.show(
+        {.text = L"    La recherche de tous les fichiers à partir de la racine  \n\r"
+                 L"                risque d'être assez longue .\n\r"
+                 L" \n\r"
+                 L"             Voulez vous quand même continuer ?\n\r",
+         .title = L"Tarnwick Mervale",
+         .buttons = MessageBoxContent::Buttons::YesNo});
+    return answer == MessageBoxes::Answer::Yes;
+}
+
+void Form1::DecocherSousRep() {
+    sousrep.setChecked(false);
+    sousrep_Click();
+}
+
+void Form1::sousrep_Click() {
+    cptfichier.setText(L"0");
+    trouves_.restart(sousrep.checked());
+    if (rechercheDepuisRacine() && !ConfirmerRacine()) {
+        DecocherSousRep();
+    } else {
+        repert_Change();
+    }
+}
+
+void Form1::repert_Change() {
+    if (rechercheDepuisRacine() && !ConfirmerRacine()) DecocherSousRep();
+    repFichiers_ = repert.path();
+    Rechercher();
+    cptfichier.setText(decimal(trouves_.count()));
+    liste_.RemplirListe(1, NNiveau.text());
+    List1_Click();
+}
+
+void Form1::Rechercher() {
+    Pulse pulse;
+    const auto showProgress = [&](long filesListed) {
+        if (!pulse.due()) return;
+        nbfich.setText(decimal(filesListed));
+        cptfichier.setText(decimal(trouves_.count()));
+        nbfich.repaint();
+        cptfichier.repaint();
+    };
+    DocumentSearch search(platform_.files, trouves_, MotifType(typef.text()), showProgress);
+    search.run(repert.path(), sousrep.checked());
+}

@@ -1,0 +1,112 @@
+#include "searchfolders/configuration_editing.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+#include "common/runtime_error.h"
+
+namespace {
+
+using Texts = std::vector<std::wstring>;
+
+void fill(Configuration& configuration, const Texts& entries, long first) {
+    for (const std::wstring& entry : entries) configuration[first++] = entry;
+}
+
+Texts entriesOf(const Configuration& configuration) {
+    Texts entries;
+    for (long j = 0; j < firstEmpty(configuration, 0); ++j) entries.push_back(configuration[j]);
+    return entries;
+}
+
+/// "En Cours", then the given rows, each its name and its directories.
+Configurations withRows(const std::vector<Texts>& rows) {
+    Configurations configs;
+    configs.ConfRep[0][0] = L"En Cours";
+    for (const Texts& row : rows) fill(configs.ConfRep[++configs.NbConf], row, 0);
+    return configs;
+}
+
+TEST(ConfEditing, AddsADirectoryOnceInEachSpelling) {
+    Configuration edited;
+    EXPECT_TRUE(addDirectory(edited, 0, L"c:\\a"));
+    EXPECT_FALSE(addDirectory(edited, 1, L"c:\\a"));
+    EXPECT_TRUE(addDirectory(edited, 1, L"C:\\A"));
+    EXPECT_EQ(edited[2], L"C:\\A");
+    EXPECT_THROW(addDirectory(edited, kMostDirectories, L"c:\\b"), RuntimeError);
+}
+
+TEST(ConfEditing, RemovesTheSelectedAndWhatFollowsThem) {
+    const Texts all{L"c:\\P", L"C:\\p\\1", L"c:\\P2", L"d:\\", L"c:\\P\\3"};
+    struct Case {
+        std::set<int> selected;
+        Removal removal;
+        Texts left;
+    };
+    const Case cases[] = {
+        {{0, 3}, Removal::Selected, {L"C:\\p\\1", L"c:\\P2", L"c:\\P\\3"}},
+        {{0}, Removal::WithFollowers, {L"d:\\", L"c:\\P\\3"}},
+        {{1, 4}, Removal::WithFollowers, {L"c:\\P", L"c:\\P2", L"d:\\"}},
+    };
+    for (const Case& one : cases) {
+        Configuration edited;
+        fill(edited, all, 1);
+        const long left = removeDirectories(
+            edited, 5, [&](int line) { return one.selected.contains(line); }, one.removal);
+        EXPECT_EQ(left, static_cast<long>(one.left.size()));
+        edited[0] = L"*";
+        Texts expected = one.left;
+        expected.insert(expected.begin(), L"*");
+        EXPECT_EQ(entriesOf(edited), expected);
+    }
+}
+
+TEST(ConfEditing, StoresUnderTheRightName) {
+    struct Case {
+        const wchar_t* before;  // the name when renaming began
+        const wchar_t* typed;
+        long row;
+        const wchar_t* stored;
+        int count;
+    };
+    const Case cases[] = {
+        {L"", L"Neuf ", 3, L"Neuf ", 3}, {L"", L"a", 1, L"a", 2},
+        {L"", L"  ", 3, L"Defaut_3", 3}, {L"B", L"C", 2, L"C", 2},
+        {L"B", L"", 2, L"Defaut_2", 2},  {L"", L"en cours", 0, L"en cours", 2},
+        {L"En Cours", L"D", 0, L"D", 2},
+    };
+    for (const Case& one : cases) {
+        Configurations configs = withRows({{L"A", L"c:\\1", L"c:\\2"}, {L"B", L"c:\\3", L"c:\\4"}});
+        configs.NomConfEdit = one.before;
+        fill(configs.RepEdit, {L"d:\\"}, 1);
+        std::wstring name = one.typed;
+        storeEdited(configs, name);
+        EXPECT_EQ(name, one.stored);
+        EXPECT_EQ(entriesOf(configs.ConfRep[one.row]), (Texts{one.stored, L"d:\\"})) << one.typed;
+        EXPECT_EQ(configs.NbConf, one.count) << one.typed;
+    }
+}
+
+TEST(ConfEditing, HasNoRoomForA51st) {
+    Configurations configs = withRows(std::vector<Texts>(50, {L"A"}));
+    std::wstring name = L"B";
+    EXPECT_THROW(storeEdited(configs, name), RuntimeError);
+    configs.ConfSel = 50;
+    EXPECT_THROW(destroySelected(configs), RuntimeError);
+}
+
+TEST(ConfEditing, DestroyingKeepsTheTailOfALongerRow) {
+    Configurations configs =
+        withRows({{L"A", L"1", L"2", L"3", L"4", L"5"}, {L"B", L"x", L"y"}, {L"C", L"z"}});
+    configs.ConfSel = 0;
+    destroySelected(configs);
+    EXPECT_EQ(configs.NbConf, 3);
+    configs.ConfSel = 1;
+    destroySelected(configs);
+    EXPECT_EQ(configs.NbConf, 2);
+    EXPECT_EQ(entriesOf(configs.ConfRep[1]), (Texts{L"B", L"x", L"y", L"3", L"4", L"5"}));
+    EXPECT_EQ(entriesOf(configs.ConfRep[2]), (Texts{L"C", L"z", L"y"}));
+    EXPECT_EQ(configs.ConfRep[3][0], L"");
+}
+
+}  // namespace

@@ -1,0 +1,33 @@
+#include "selection/document_kinds.h"
+
+#include <gtest/gtest.h>
+
+TEST(MotifType, NamesItsKindsAlwaysInTheSameOrder) {
+    const struct {
+        const wchar_t* typed;
+        const wchar_t* pattern;
+    } cases[] = {
+        {L"*.SLDDRW", L"*.slddrw"},
+        {L"*.SLDPRT ; *.SLDDRW", L"*.sldprt;*.slddrw"},
+        {L"*.SLDDRW ; *.SLDPRT ; *.SLDASM", L"*.sldasm;*.sldprt;*.slddrw"},
+        {L"sldprt", L"*.sldprt"},
+        {L"xSldAsmslddrWx", L"*.sldasm;*.slddrw"},
+        {L"*.SLDPR", L""},
+        {L"", L""},
+    };
+    for (const auto& c : cases) EXPECT_EQ(MotifType(c.typed).pattern(), c.pattern) << c.typed;
+}
+
+TEST(MotifType, AcceptsByWhatFollowsTheLastDot) {
+    const MotifType partsAndDrawings(L"*.SLDPRT ; *.SLDDRW");
+    for (const wchar_t* name :
+         {L"a.SLDPRT", L"a.sldprt", L"a.b.SldPrt", L"a.slddrw", L".SLDDRW", L"é b[1].SLDPRT"}) {
+        EXPECT_TRUE(partsAndDrawings.accepts(name)) << name;
+    }
+    for (const wchar_t* name : {L"a.SLDASM", L"SLDPRT", L"a", L"a.", L"a.SLDPRT.bak", L"a.SLDPRT2",
+                                L"a.SLDPRT ", L"a.XSLDPRT", L"a.\x0253LDPRT", L""}) {
+        EXPECT_FALSE(partsAndDrawings.accepts(name)) << name;
+    }
+    EXPECT_TRUE(MotifType(L"sldasm").accepts(L"a.sldasm"));
+    EXPECT_FALSE(MotifType(L"").accepts(L"a.SLDPRT"));
+}

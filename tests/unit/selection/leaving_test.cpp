@@ -1,0 +1,80 @@
+#include "common/runtime_error.h"
+#include "unit/selection/selection_window_fixture.h"
+
+namespace {
+
+class Form1Leaving : public SelectionWindow {
+ protected:
+    void moveWindow() {
+        window().topTwips = 450;
+        window().leftTwips = -75;
+    }
+    std::wstring listFile() { return machine.files.texts.at(module.FichListe); }
+    std::wstring saved(const wchar_t* key) {
+        return machine.settings.read(L"tarnwick", L"startup", key, L"");
+    }
+};
+
+}  // namespace
+
+TEST_F(Form1Leaving, LaunchingWritesTheChosenDocumentsThenHandsOver) {
+    load();
+    moveWindow();
+    highlight({1});
+    click(IDC_FORM1_CMDCOCHE);
+    machine.files.texts[module.FichListe] = L"12  c:\\d'avant\r\n";
+    navigation.whenAsked = [&] {
+        EXPECT_EQ(saved(L"toppos"), L"450");
+        EXPECT_EQ(saved(L"leftpos"), L"-75");
+        EXPECT_EQ(listFile(), L"0  c:\\plans\\Zoe.SLDDRW\r\n");
+        EXPECT_EQ(window().state, FakeWindow::State::Shown);
+    };
+    click(IDC_FORM1_CMD_TRACER);
+    EXPECT_EQ(navigation.asked.back(), L"Form3");
+    EXPECT_EQ(window().state, FakeWindow::State::Hidden);
+}
+
+TEST_F(Form1Leaving, TheListFileHoldsFullPaths) {
+    const struct {
+        const wchar_t* directory;
+        bool withSubdirectories;
+        const wchar_t* written;
+    } cases[] = {
+        {L"c:\\plans", true,
+         L"0  c:\\plans\\axe.slddrw\r\n0  c:\\plans\\Zoe.SLDDRW\r\n"
+         L"0  c:\\plans\\moteur\\bielle.SLDDRW\r\n"},
+        {L"d:\\", false, L"0  d:\\\\b.SLDDRW\r\n"},
+        {L"d:\\", true, L"0  d:\\\\b.SLDDRW\r\n0  d:\\doc\\d.SLDDRW\r\n"},
+    };
+    for (const auto& c : cases) {
+        load(c.directory);
+        machine.boxes.answers = {MessageBoxes::Answer::Yes, MessageBoxes::Answer::Yes};
+        if (c.withSubdirectories) tick(true);
+        click(IDC_FORM1_CMDPLUS);
+        click(IDC_FORM1_CMD_INV);
+        click(IDC_FORM1_CMD_TRACER);
+        EXPECT_EQ(listFile(), c.written);
+    }
+}
+
+TEST_F(Form1Leaving, OnlySortieSavesTheWindowsPlace) {
+    load();
+    moveWindow();
+    EXPECT_THROW(window().close(), ProgramEnd);
+    EXPECT_THROW(click(IDC_FORM1_CMD_ANNULER), ProgramEnd);
+    EXPECT_EQ(window().state, FakeWindow::State::Unloaded);
+    EXPECT_TRUE(machine.settings.entries.empty());
+    EXPECT_THROW(click(IDC_FORM1_CMD_SORTIE), ProgramEnd);
+    EXPECT_EQ(machine.settings.entries.size(), 2U);
+    EXPECT_EQ(saved(L"toppos"), L"450");
+    EXPECT_EQ(saved(L"leftpos"), L"-75");
+    EXPECT_FALSE(machine.files.texts.contains(module.FichListe));
+}
+
+TEST_F(Form1Leaving, OpensTheOtherWindowsBesideItself) {
+    load();
+    click(IDC_FORM1_CMDAP);
+    click(IDC_FORM1_CMDREPDEF);
+    EXPECT_EQ(navigation.asked, (Lines{L"FermerAPropos", L"APropos", L"Form4"}));
+    EXPECT_EQ(window().state, FakeWindow::State::Shown);
+}

@@ -1,0 +1,53 @@
+#include "unit/selection/selection_window_fixture.h"
+
+using Form1Load = SelectionWindow;
+
+TEST_F(Form1Load, ShowsTheDrawingsOfTheWorkingDirectory) {
+    load();
+    EXPECT_EQ(types().content, L"*.SLDDRW");
+    EXPECT_EQ(types().lines, (Lines{L"*.SLDDRW", L"*.SLDASM", L"*.SLDPRT", L"*.SLDPRT ; *.SLDASM",
+                                    L"*.SLDPRT ; *.SLDDRW", L"*.SLDASM ; *.SLDDRW",
+                                    L"*.SLDPRT ; *.SLDASM ; *.SLDDRW"}));
+    EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).lines, (Lines{L"c:", L"d:"}));
+    EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).content, L"c:");
+    EXPECT_EQ(window().listBox(IDC_FORM1_REPERT).texts(),
+              (Lines{L"c:\\", L"  plans", L"    moteur"}));
+    EXPECT_FALSE(ticked());
+    EXPECT_EQ(unchosen(), (Lines{L"axe.slddrw", L"Zoe.SLDDRW"}));
+    EXPECT_EQ(text(IDC_FORM1_NBFICH), L"0");
+    EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"2");
+    EXPECT_EQ(text(IDC_FORM1_NNIVEAU), L"0");
+}
+
+TEST_F(Form1Load, ClosesTheSplashTakesItsPlaceAndHidesWhatIsNotForTheUser) {
+    load();
+    EXPECT_EQ(navigation.asked, Lines{L"FermerAPropos"});
+    EXPECT_EQ(window().topTwips, 300);
+    EXPECT_EQ(window().leftTwips, -600);
+    for (const int id :
+         {IDC_FORM1_FILE1, IDC_FORM1_REP, IDC_FORM1_CDMTEST, IDC_FORM1_S, IDC_FORM1_T}) {
+        EXPECT_FALSE(control(id).visible) << id;
+    }
+    click(IDC_FORM1_CDMTEST);
+    EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"2");
+}
+
+TEST_F(Form1Load, StartsWhereverTheSessionWorks) {
+    machine.files.add(L"\\\\serveur\\part\\plans\\r.SLDDRW");
+    const struct {
+        const wchar_t* workingDirectory;
+        const wchar_t* drive;
+        Lines found;
+    } cases[] = {
+        {L"d:\\doc\\", L"d:", {L"d.SLDDRW"}},
+        {L"\\\\serveur\\part\\plans", L"", {L"r.SLDDRW"}},
+        {L"c:", L"c:", {L"a.SLDDRW"}},
+        {L"", L"c:", {L"a.SLDDRW"}},
+    };
+    for (const auto& c : cases) {
+        load(c.workingDirectory);
+        EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).content, c.drive) << c.workingDirectory;
+        EXPECT_EQ(unchosen(), c.found) << c.workingDirectory;
+    }
+    EXPECT_TRUE(machine.boxes.shown.empty());
+}

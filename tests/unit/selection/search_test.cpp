@@ -1,0 +1,111 @@
+#include <functional>
+
+#include "unit/raised.h"
+#include "unit/selection/selection_window_fixture.h"
+
+using Form1Search = SelectionWindow;
+
+TEST_F(Form1Search, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
+    const struct {
+        const char* what;
+        std::function<void()> act;
+        Lines found;
+    } cases[] = {
+        {"typing", [&] { type(L"xsldprt"); }, {L"Bras.SLDPRT"}},
+        {"choosing a kind", [&] { chooseType(3); }, {L"Bras.SLDPRT", L"corps.SLDASM"}},
+        {"leaving the kinds", [&] { leaveTypes(); }, {L"axe.slddrw", L"Zoe.SLDDRW"}},
+        {"opening below", [&] { openDirectory(L"moteur"); }, {L"bielle.SLDDRW"}},
+        {"opening above", [&] { openDirectory(L"c:\\"); }, {L"a.SLDDRW"}},
+        {"another drive", [&] { chooseDrive(1); }, {L"d.SLDDRW"}},
+        {"sub-directories",
+         [&] { tick(true); },
+         {L"c:\\plans\\axe.slddrw", L"c:\\plans\\Zoe.SLDDRW", L"c:\\plans\\moteur\\bielle.SLDDRW"}},
+    };
+    for (const auto& c : cases) {
+        load();
+        click(IDC_FORM1_CMD_INV);
+        ASSERT_EQ(text(IDC_FORM1_NBFICH), L"2");
+        c.act();
+        EXPECT_EQ(unchosen(), c.found) << c.what;
+        EXPECT_EQ(marks(), std::wstring(c.found.size(), L'0')) << c.what;
+        EXPECT_EQ(text(IDC_FORM1_NBFICH), L"0") << c.what;
+        EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), std::to_wstring(c.found.size())) << c.what;
+    }
+}
+
+TEST_F(Form1Search, FailsWhenThereAreTooManyDocuments) {
+    machine.files.texts.clear();
+    for (int i = 0; i < 8001; ++i) machine.files.add(L"c:\\n\\" + std::to_wstring(i) + L".slddrw");
+    load(L"c:\\n");
+    EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"8001");
+    // The very last place is not emptied, and so its document is taken for one that is there.
+    leaveTypes();
+    EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"8000");
+    machine.files.add(L"c:\\n\\trop.SLDDRW");
+    EXPECT_EQ(raised([&] { tick(true); }), 9);
+}
+
+namespace {
+
+constexpr auto kYes = MessageBoxes::Answer::Yes;
+constexpr auto kNo = MessageBoxes::Answer::No;
+
+}  // namespace
+
+TEST_F(Form1Search, AsksBeforeAWholeDriveIsSearched) {
+    const auto tickAtRoot = [&] {
+        load(L"d:\\");
+        tick(true);
+    };
+    const auto openRoot = [&] {
+        load(L"d:\\doc");
+        tick(true);
+        openDirectory(L"d:\\");
+    };
+    const auto changeToRoot = [&] {
+        machine.files.currentDirectories.clear();
+        load(L"c:\\plans");
+        tick(true);
+        chooseDrive(1);
+    };
+    const struct {
+        const char* what;
+        std::function<void()> act;
+        std::deque<MessageBoxes::Answer> answers;
+        bool ticked;
+    } cases[] = {
+        {"tick", tickAtRoot, {kYes, kYes}, true},
+        {"tick, no", tickAtRoot, {kNo}, false},
+        {"tick, no the second time", tickAtRoot, {kYes, kNo}, false},
+        {"open", openRoot, {kYes}, true},
+        {"drive", changeToRoot, {kYes, kYes}, true},
+        {"drive, no the second time", changeToRoot, {kYes, kNo}, false},
+    };
+    const Lines whole = {L"d:\\\\b.SLDDRW", L"d:\\doc\\d.SLDDRW"};
+    for (const auto& c : cases) {
+        machine.boxes.shown.clear();
+        machine.boxes.answers = c.answers;
+        c.act();
+        EXPECT_EQ(machine.boxes.shown.size(), c.answers.size()) << c.what;
+        EXPECT_EQ(ticked(), c.ticked) << c.what;
+        EXPECT_EQ(unchosen(), c.ticked ? whole : Lines{L"b.SLDDRW"}) << c.what;
+    }
+}
+
+TEST_F(Form1Search, AsksAgainAtEveryRebuildOfAWholeDrive) {
+    load(L"d:\\");
+    machine.boxes.answers = {kYes, kYes, kYes, kYes, kNo};
+    tick(true);
+    type(L"SLDDRW");
+    leaveTypes();
+    EXPECT_EQ(machine.boxes.shown.size(), 4U);
+    chooseType(0);
+    EXPECT_EQ(machine.boxes.shown.size(), 5U);
+    EXPECT_FALSE(ticked());
+    EXPECT_EQ(unchosen(), Lines{L"b.SLDDRW"});
+    leaveTypes();
+    openDirectory(L"doc");
+    tick(true);
+    tick(false);
+    EXPECT_EQ(machine.boxes.shown.size(), 5U);
+}

@@ -1,0 +1,26 @@
+#include "session/window_places.h"
+
+#include <gtest/gtest.h>
+
+#include "fakes/fake_settings.h"
+#include "fakes/fake_window.h"
+
+namespace {
+
+struct NoEvents : EventSink {
+    void raise(int, Event) override {}
+};
+
+}  // namespace
+
+TEST(WindowPlace, SavedFarOffCanBeReadBack) {
+    FakeSettings settings;
+    NoEvents sink;
+    FakeWindow window(0, sink);
+    window.moveTo(-480'000, 57'600);
+    savePlace(settings, PlacedWindow::Form1, window);
+    Module1 module;
+    readPlace(settings, module, PlacedWindow::Form1);
+    EXPECT_EQ(module.place(PlacedWindow::Form1).top, -32768);
+    EXPECT_EQ(module.place(PlacedWindow::Form1).left, 32767);
+}

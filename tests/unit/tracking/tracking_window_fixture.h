@@ -1,0 +1,44 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/module1.h"
+#include "fakes/fake_platform.h"
+#include "tracking/tracking_ids.h"
+#include "tracking/tracking_window.h"
+
+/// The tracking window on a machine in memory, driven by its controls' events.
+class TrackingWindow : public testing::Test {
+ protected:
+    TrackingWindow();
+
+    /// Loads the window over a list file with this text. What that called stays in the journal.
+    void load(const std::wstring& listFile);
+
+    /// Loads a list of the documents c:\a, c:\b … whose states are these one-character codes, and
+    /// forgets the calls.
+    void loadStates(const std::wstring& codes);
+
+    void click(int id) { window().click(id); }
+    FakeWindow& window() { return machine.window(IDD_FORM3); }
+    FakeListBox& list() { return window().listBox(IDC_FORM3_LIST1); }
+    std::wstring text(int id) { return window().control(id).content; }
+    CallJournal takeCalls() { return machine.automation.takeJournal(); }
+
+    /// All states, separated by blanks.
+    std::wstring states();
+    /// Whether the six advance buttons are enabled; they must be alike.
+    bool canAdvance();
+    /// Whether the two step-back buttons are enabled; they must be alike.
+    bool canStepBack();
+
+    FakePlatform machine;
+    Module1 module;
+    std::unique_ptr<Form3> form;
+
+ private:
+    bool enabledAlike(const std::vector<int>& buttons);
+};

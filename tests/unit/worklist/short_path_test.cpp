@@ -1,0 +1,49 @@
+#include "worklist/short_path.h"
+
+#include <gtest/gtest.h>
+
+#include "unit/raised.h"
+
+namespace {
+
+/// A path with this many backslashes before the file's name: "c:\d\d\f".
+std::wstring pathWithBackslashes(int count) {
+    std::wstring path = L"c:\\";
+    for (int i = 1; i < count; ++i) path += L"d\\";
+    return path + L"f";
+}
+
+}  // namespace
+
+TEST(CheminCourt, HidesTheFirstLevels) {
+    constexpr wchar_t kPath[] = L"C:\\A\\B\\C\\f.SLDPRT";
+    const struct {
+        const wchar_t* depth;
+        const wchar_t* path;
+        const wchar_t* shown;
+    } cases[] = {
+        {L"0", kPath, L""},
+        {L"-1", kPath, L""},
+        {L"1", kPath, L"C:\\..\\B\\C\\f.SLDPRT"},
+        {L"2 niveaux", kPath, L"C:\\..\\..\\C\\f.SLDPRT"},
+        {L"4", kPath, L"C:\\..\\..\\..\\f.SLDPRT"},
+        {L"99999999999999999999", kPath, L"C:\\..\\..\\..\\f.SLDPRT"},
+        {L"1", L"C:\\f.SLDPRT", L""},  // in the root: no level to hide
+        {L"1", L"f.SLDPRT", L""},      // a bare name
+        {L"1", L"C:\\A\\", L""},       // a trailing backslash hides no level
+        {L"1", L"C:\\A\\B\\", L"C:\\..\\B\\"},
+        {L"1", L"C:\\\\f", L"C:\\..\\f"},  // an empty level is a level
+        {L"1", L"\\\\serveur\\plans\\f", L"\\\\\\..\\serveur\\plans\\f"},
+        {L"3", L"\\\\serveur\\plans\\f", L"\\\\\\..\\..\\..\\f"},
+        {L"1", L"x\\\\y", L"x\\\\..\\y"},  // the "drive" is always two characters
+    };
+    for (const auto& c : cases) EXPECT_EQ(CheminCourt(c.depth, c.path), c.shown) << c.path;
+}
+
+TEST(CheminCourt, TakesSixteenBackslashesAndNoMore) {
+    EXPECT_EQ(CheminCourt(L"9", pathWithBackslashes(16)),
+              L"c:\\..\\..\\..\\..\\..\\..\\..\\..\\..\\d\\d\\d\\d\\d\\d\\f");
+    EXPECT_EQ(CheminCourt(L"1", pathWithBackslashes(16) + L"\\").substr(0, 8), L"c:\\..\\d\\");
+    EXPECT_EQ(raised([] { CheminCourt(L"1", pathWithBackslashes(17)); }), 9);
+    EXPECT_EQ(raised([] { CheminCourt(L"0", pathWithBackslashes(17)); }), 9);
+}
