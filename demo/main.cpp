@@ -13,7 +13,7 @@
 #include "driver/settings.h"
 #include "driver/text.h"
 
-namespace endtoend::demo {
+namespace driver::demo {
 namespace {
 
 void StartCad(Stage& stage) {
@@ -53,10 +53,10 @@ void OpenForAPerson(const std::filesystem::path& directory) {
 }
 
 }  // namespace
-}  // namespace endtoend::demo
+}  // namespace driver::demo
 
 int wmain(int count, wchar_t** arguments) {
-    using namespace endtoend::demo;
+    using namespace driver::demo;
     if (count < 2) {
         std::cerr << "usage: tarnwick-demo DIRECTORY [--scripted]\n";
         return 2;

@@ -1,6 +1,6 @@
 #include "demo/sample_documents.h"
 
-namespace endtoend::demo {
+namespace driver::demo {
 namespace {
 
 constexpr const char* kDocuments[] = {
@@ -41,4 +41,4 @@ std::vector<std::string> CreateSampleDocuments(const Sandbox& sandbox) {
     return paths;
 }
 
-}  // namespace endtoend::demo
+}  // namespace driver::demo

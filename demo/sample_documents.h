@@ -5,10 +5,10 @@
 
 #include "driver/sandbox.h"
 
-namespace endtoend::demo {
+namespace driver::demo {
 
 /// Creates a tree of sample documents as a small design office might have it; gives their full
 /// paths.
 std::vector<std::string> CreateSampleDocuments(const Sandbox& sandbox);
 
-}  // namespace endtoend::demo
+}  // namespace driver::demo

@@ -3,7 +3,7 @@
 #include "searchfolders/configuration_ids.h"
 #include "selection/selection_ids.h"
 
-namespace endtoend::demo {
+namespace driver::demo {
 namespace {
 
 constexpr const char* kConfigurations =
@@ -46,4 +46,4 @@ void PlaySearchFolders(Stage& stage) {
     stage.Press(IDC_FORM4_CMDANNULER);
 }
 
-}  // namespace endtoend::demo
+}  // namespace driver::demo

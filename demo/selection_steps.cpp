@@ -2,7 +2,7 @@
 #include "driver/wait.h"
 #include "selection/selection_ids.h"
 
-namespace endtoend::demo {
+namespace driver::demo {
 namespace {
 
 constexpr const char* kSelection = "Mervale 2002 - Tarnwick";
@@ -48,4 +48,4 @@ void PlaySelectionWindow(Stage& stage) {
     stage.Press(IDC_FORM1_CMD_TRACER);
 }
 
-}  // namespace endtoend::demo
+}  // namespace driver::demo

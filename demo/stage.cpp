@@ -8,7 +8,7 @@
 #include "driver/wait.h"
 #include "driver/winapi.h"
 
-namespace endtoend::demo {
+namespace driver::demo {
 namespace {
 
 /// What `import -crop` takes for the place of a window on the screen.
@@ -70,4 +70,4 @@ void Stage::Picture(const std::string& name, HWND window) const {
     std::cout << "    (picture " << name << ".png)" << std::endl;
 }
 
-}  // namespace endtoend::demo
+}  // namespace driver::demo

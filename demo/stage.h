@@ -7,7 +7,7 @@
 #include "driver/sandbox.h"
 #include "driver/trial_cad.h"
 
-namespace endtoend::demo {
+namespace driver::demo {
 
 /// Where the demonstration is played: the program, a trial CAD session and sample documents. All
 /// that happens is told on the standard output.
@@ -40,4 +40,4 @@ class Stage {
     size_t callsShown_ = 0;
 };
 
-}  // namespace endtoend::demo
+}  // namespace driver::demo

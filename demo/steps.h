@@ -3,7 +3,7 @@
 #include "demo/stage.h"
 
 // The acts of the demonstration, in the order they are played.
-namespace endtoend::demo {
+namespace driver::demo {
 
 /// Prepares a pass in the selection window and launches it.
 void PlaySelectionWindow(Stage& stage);
@@ -19,4 +19,4 @@ void PlayTrackingWindow(Stage& stage);
 /// Starts again and accepts the list file that the pass left.
 void PlayResuming(Stage& stage);
 
-}  // namespace endtoend::demo
+}  // namespace driver::demo

@@ -2,7 +2,7 @@
 #include "resume/existing_list_ids.h"
 #include "tracking/tracking_ids.h"
 
-namespace endtoend::demo {
+namespace driver::demo {
 namespace {
 
 constexpr const char* kTracking = "Tarnwick - suivi du travail -";
@@ -55,4 +55,4 @@ void PlayResuming(Stage& stage) {
     SaveListAndLeave(stage);
 }
 
-}  // namespace endtoend::demo
+}  // namespace driver::demo

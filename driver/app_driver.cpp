@@ -4,7 +4,7 @@
 #include "driver/wait.h"
 #include "driver/winapi.h"
 
-namespace endtoend {
+namespace driver {
 
 void AppDriver::Start() {
     process_ = std::make_unique<Process>(sandbox_.Program(), std::vector<std::wstring>{},
@@ -15,7 +15,7 @@ HWND AppDriver::Window(const std::string& caption) const {
     HWND found = nullptr;
     WaitFor("the window \"" + caption + "\"", [&] {
         for (HWND window : TopLevelWindows(process_->Id()))
-            if (IsWindowVisible(window) && endtoend::TextOf(window) == caption) found = window;
+            if (IsWindowVisible(window) && driver::TextOf(window) == caption) found = window;
         return found != nullptr;
     });
     return found;
@@ -24,7 +24,7 @@ HWND AppDriver::Window(const std::string& caption) const {
 std::vector<std::string> AppDriver::ShownWindows() const {
     std::vector<std::string> captions;
     for (HWND window : TopLevelWindows(process_->Id()))
-        if (IsWindowVisible(window)) captions.push_back(endtoend::TextOf(window));
+        if (IsWindowVisible(window)) captions.push_back(driver::TextOf(window));
     return captions;
 }
 
@@ -47,7 +47,7 @@ HWND AppDriver::Control(int id) const {
 
 void AppDriver::Click(int id) const { Post(Control(id), BM_CLICK); }
 
-std::string AppDriver::TextOf(int id) const { return endtoend::TextOf(Control(id)); }
+std::string AppDriver::TextOf(int id) const { return driver::TextOf(Control(id)); }
 
 bool AppDriver::Enabled(int id) const { return IsWindowEnabled(Control(id)); }
 
@@ -95,8 +95,8 @@ bool AppDriver::ShowsBox() const { return FindBox() != nullptr; }
 std::string AppDriver::Describe() const {
     if (!Running()) return "tarnwick does not run\n";
     std::string text;
-    for (HWND window : TopLevelWindows(process_->Id())) text += endtoend::Describe(window);
+    for (HWND window : TopLevelWindows(process_->Id())) text += driver::Describe(window);
     return text;
 }
 
-}  // namespace endtoend
+}  // namespace driver

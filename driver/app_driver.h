@@ -8,7 +8,7 @@
 #include "driver/process.h"
 #include "driver/sandbox.h"
 
-namespace endtoend {
+namespace driver {
 
 /// Drives a running tarnwick.exe through its windows, as its user would. Controls are named by
 /// their ids, which are unique in the whole program; a control that is not there yet is waited for.
@@ -67,4 +67,4 @@ class AppDriver {
     std::unique_ptr<Process> process_;
 };
 
-}  // namespace endtoend
+}  // namespace driver

@@ -1,6 +1,6 @@
 #include "driver/expected_calls.h"
 
-namespace endtoend::calls {
+namespace driver::calls {
 namespace {
 
 std::string Title(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
@@ -38,4 +38,4 @@ Calls Together(const std::vector<Calls>& parts) {
     return all;
 }
 
-}  // namespace endtoend::calls
+}  // namespace driver::calls

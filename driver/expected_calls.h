@@ -4,7 +4,7 @@
 #include <vector>
 
 // The calls that the CAD session receives, spelled as its journal spells them.
-namespace endtoend::calls {
+namespace driver::calls {
 
 using Calls = std::vector<std::string>;
 
@@ -21,4 +21,4 @@ Calls Open(const std::string& path, bool silent = true, Rebuild rebuild = Rebuil
 
 Calls Together(const std::vector<Calls>& parts);
 
-}  // namespace endtoend::calls
+}  // namespace driver::calls

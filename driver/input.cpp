@@ -6,7 +6,7 @@
 #include "driver/wait.h"
 #include "driver/winapi.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 HWND EditField(HWND field) {
@@ -51,4 +51,4 @@ void OpenLine(HWND list, const std::string& ending) {
     });
 }
 
-}  // namespace endtoend
+}  // namespace driver

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace endtoend {
+namespace driver {
 
 /// Replaces the text of an edit field, or of a combo box's, as if it were typed.
 void TypeInto(HWND field, const std::string& text);
@@ -15,4 +15,4 @@ void ChooseLine(HWND comboBox, const std::string& line);
 /// Double-clicks the line of a single-selection list box that ends with this text.
 void OpenLine(HWND list, const std::string& ending);
 
-}  // namespace endtoend
+}  // namespace driver

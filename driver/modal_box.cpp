@@ -5,7 +5,7 @@
 #include "driver/wait.h"
 #include "driver/winapi.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 constexpr int kTextId = 0xFFFF;  // of the label that holds a message box's text
@@ -68,4 +68,4 @@ void ModalBox::Answer(int button) const {
     WaitFor("a message box to close", [this] { return !IsWindow(window_); });
 }
 
-}  // namespace endtoend
+}  // namespace driver

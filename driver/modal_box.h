@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace endtoend {
+namespace driver {
 
 /// One of the system's message boxes, shown by another process.
 class ModalBox {
@@ -29,4 +29,4 @@ class ModalBox {
     HWND window_;
 };
 
-}  // namespace endtoend
+}  // namespace driver

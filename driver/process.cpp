@@ -3,7 +3,7 @@
 #include "driver/text.h"
 #include "driver/wait.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 /// Quotes an argument that holds no quotation mark of its own.
@@ -51,4 +51,4 @@ void Process::Kill() {
     WaitForSingleObject(handle_, kPatience);
 }
 
-}  // namespace endtoend
+}  // namespace driver

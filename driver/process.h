@@ -7,7 +7,7 @@
 
 #include "driver/resources.h"
 
-namespace endtoend {
+namespace driver {
 
 /// A process that we started; ended, if it still runs, when this object goes.
 class Process {
@@ -36,4 +36,4 @@ class Process {
     DWORD id_ = 0;
 };
 
-}  // namespace endtoend
+}  // namespace driver

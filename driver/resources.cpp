@@ -6,7 +6,7 @@
 
 #include "driver/winapi.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 constexpr auto kSystemHandleInformation = static_cast<SYSTEM_INFORMATION_CLASS>(16);
@@ -92,4 +92,4 @@ Resources ResourcesOf(HANDLE process) {
             .memoryBytes = memory.PagefileUsage};
 }
 
-}  // namespace endtoend
+}  // namespace driver

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace endtoend {
+namespace driver {
 
 /// What a process holds of the system.
 struct Resources {
@@ -18,4 +18,4 @@ struct Resources {
 
 Resources ResourcesOf(HANDLE process);
 
-}  // namespace endtoend
+}  // namespace driver

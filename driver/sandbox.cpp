@@ -7,7 +7,7 @@
 
 #include "driver/text.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 namespace fs = std::filesystem;
@@ -96,4 +96,4 @@ void WriteFileBytes(const fs::path& file, std::string_view bytes) {
     if (!stream.flush()) throw std::runtime_error("could not write " + Utf8(file.wstring()));
 }
 
-}  // namespace endtoend
+}  // namespace driver

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace endtoend {
+namespace driver {
 
 /// A directory with a copy of the program (its list and configuration files stand beside it) and
 /// with documents.
@@ -50,4 +50,4 @@ class Sandbox {
 std::optional<std::string> ReadFileBytes(const std::filesystem::path& file);
 void WriteFileBytes(const std::filesystem::path& file, std::string_view bytes);
 
-}  // namespace endtoend
+}  // namespace driver

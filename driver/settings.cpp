@@ -7,7 +7,7 @@
 
 #include "driver/text.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 // The two places where the program keeps settings.
@@ -84,4 +84,4 @@ void Settings::RemoveAll() {
         RegDeleteTreeW(HKEY_CURRENT_USER, Key(application).c_str());
 }
 
-}  // namespace endtoend
+}  // namespace driver

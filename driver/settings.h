@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-namespace endtoend {
+namespace driver {
 
 /// The program's per-user settings. While this object lives the program finds none but the test's
 /// own; the user's own are put back afterwards.
@@ -31,4 +31,4 @@ class Settings {
     Values kept_;
 };
 
-}  // namespace endtoend
+}  // namespace driver

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace endtoend {
+namespace driver {
 
 std::wstring Wide(std::string_view utf8) {
     const int size = static_cast<int>(utf8.size());
@@ -21,4 +21,4 @@ std::string Utf8(std::wstring_view wide) {
     return utf8;
 }
 
-}  // namespace endtoend
+}  // namespace driver

@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
-namespace endtoend {
+namespace driver {
 
 // The scenarios speak UTF-8; Windows is spoken to in UTF-16.
 std::wstring Wide(std::string_view utf8);
 std::string Utf8(std::wstring_view wide);
 
-}  // namespace endtoend
+}  // namespace driver

@@ -7,7 +7,7 @@
 #include "driver/text.h"
 #include "driver/winapi.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 constexpr size_t kLongest = 512;  // characters
@@ -74,4 +74,4 @@ std::string ToolTipOf(HWND control) {
     return {};
 }
 
-}  // namespace endtoend
+}  // namespace driver

@@ -4,10 +4,10 @@
 
 #include <string>
 
-namespace endtoend {
+namespace driver {
 
 /// The text of the tool that a tooltip window of the same process keeps for a control; empty if
 /// there is none.
 std::string ToolTipOf(HWND control);
 
-}  // namespace endtoend
+}  // namespace driver

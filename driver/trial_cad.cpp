@@ -9,7 +9,7 @@
 #include "driver/wait.h"
 #include "driver/winapi.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 bool ProgramsCanAttach() {
@@ -50,4 +50,4 @@ std::vector<std::string> TrialCad::Calls() const {
     return calls;
 }
 
-}  // namespace endtoend
+}  // namespace driver

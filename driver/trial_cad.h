@@ -7,7 +7,7 @@
 #include "driver/process.h"
 #include "driver/sandbox.h"
 
-namespace endtoend {
+namespace driver {
 
 /// A trial CAD session, with its journal in the sandbox.
 class TrialCad {
@@ -34,4 +34,4 @@ class TrialCad {
     std::unique_ptr<Process> process_;
 };
 
-}  // namespace endtoend
+}  // namespace driver

@@ -1,9 +1,9 @@
 #include "driver/wait.h"
 
-namespace endtoend {
+namespace driver {
 
 void WaitFor(const std::string& what, const std::function<bool()>& condition) {
     if (!Eventually<bool>(true, condition)) throw TimedOut("waited in vain for " + what);
 }
 
-}  // namespace endtoend
+}  // namespace driver

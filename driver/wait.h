@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace endtoend {
+namespace driver {
 
 // Long enough for the slowest machine: only a failing test ever waits so long.
 constexpr DWORD kPatience = 60'000;     // milliseconds
@@ -31,4 +31,4 @@ Value Eventually(const Value& expected, const std::function<Value()>& read) {
     }
 }
 
-}  // namespace endtoend
+}  // namespace driver

@@ -3,7 +3,7 @@
 #include "driver/text.h"
 #include "driver/wait.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 struct Search {
@@ -120,4 +120,4 @@ std::string Describe(HWND window) {
     return text;
 }
 
-}  // namespace endtoend
+}  // namespace driver

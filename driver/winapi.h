@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace endtoend {
+namespace driver {
 
 /// All top-level windows of a process, hidden ones included.
 std::vector<HWND> TopLevelWindows(DWORD processId);
@@ -41,4 +41,4 @@ void SelectLines(HWND list, const std::vector<int>& lines);
 /// A readable picture of a window and all that is in it, for the report of a failed test.
 std::string Describe(HWND window);
 
-}  // namespace endtoend
+}  // namespace driver

@@ -73,10 +73,10 @@ class BareDocument {
 }  // namespace
 
 Row cadCalls(const Setting& setting) {
-    const endtoend::Sandbox sandbox;
-    endtoend::TrialCad trial(sandbox);
+    const driver::Sandbox sandbox;
+    driver::TrialCad trial(sandbox);
     trial.Start({"--hidden"});
-    const std::wstring path = endtoend::Wide(sandbox.AddDocument("piece.SLDPRT"));
+    const std::wstring path = driver::Wide(sandbox.AddDocument("piece.SLDPRT"));
 
     BareDocument bare(path);
     const InputSieve sieve;

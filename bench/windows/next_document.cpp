@@ -28,7 +28,7 @@ Comparison compareNext(const Setting& setting, int count, UINT repaint) {
     stage.module.FichListe = (setting.directory / "next.lst").wstring();
     stage.platform.files.replace(stage.module.FichListe,
                                  [&](const ByteSink& file) { file(halfDone(count)); });
-    Form3 form(stage.module, stage.platform);
+    TrackingWindow form(stage.module, stage.platform);
     form.Form_Load();
     form.window().show();
     HWND list = controlOf(IDC_FORM3_LIST1);

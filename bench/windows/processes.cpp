@@ -19,14 +19,14 @@
 
 namespace {
 
-using endtoend::Process;
-using endtoend::Sandbox;
+using driver::Process;
+using driver::Sandbox;
 namespace fs = std::filesystem;
 
 fs::path floorProgram() { return Sandbox::BuiltPrograms() / "bench-floor.exe"; }
 
 bool showsWindow(const Process& process) {
-    for (HWND window : endtoend::TopLevelWindows(process.Id())) {
+    for (HWND window : driver::TopLevelWindows(process.Id())) {
         if (IsWindowVisible(window)) return true;
     }
     return false;
@@ -66,7 +66,7 @@ double floorMemory(const fs::path& lines) {
 /// A list file whose first line is a document that exists, and its lines as the window shows them.
 void writeList(const Sandbox& sandbox, int count, const fs::path& linesFile) {
     std::vector<std::wstring> paths = samplePaths(count);
-    paths.front() = endtoend::Wide(sandbox.AddDocument("piece.SLDPRT"));
+    paths.front() = driver::Wide(sandbox.AddDocument("piece.SLDPRT"));
     std::string text;
     std::wstring lines;
     for (const std::wstring& path : paths) {
@@ -74,16 +74,16 @@ void writeList(const Sandbox& sandbox, int count, const fs::path& linesFile) {
         lines += displayLine(0, standardLabels().LibAFaire, path, L"0") + L"\n";
     }
     sandbox.WriteList(text);
-    endtoend::WriteFileBytes(
+    driver::WriteFileBytes(
         linesFile, {reinterpret_cast<const char*>(lines.data()), lines.size() * sizeof(wchar_t)});
 }
 
 double programMemory(const Sandbox& sandbox) {
-    endtoend::AppDriver app(sandbox);
+    driver::AppDriver app(sandbox);
     app.Start();
     app.Click(IDC_FORM2_CMDOK);
     app.WaitForText(IDC_FORM3_TXTETAT,
-                    endtoend::Utf8((sandbox.Documents() / "piece.SLDPRT").wstring()));
+                    driver::Utf8((sandbox.Documents() / "piece.SLDPRT").wstring()));
     DWORD id = 0;
     GetWindowThreadProcessId(app.Window("Tarnwick - suivi du travail -"), &id);
     return privateBytes(id);
@@ -97,8 +97,8 @@ std::string kilobytes(double bytes) {
 
 Row start(const Setting& setting) {
     const Sandbox sandbox;
-    const endtoend::Settings settings;
-    endtoend::TrialCad trial(sandbox);
+    const driver::Settings settings;
+    driver::TrialCad trial(sandbox);
     trial.Start({"--hidden"});
     const Comparison compared = compareTimes(
         setting.rounds, [] { return startTime(floorProgram()); },
@@ -131,8 +131,8 @@ Row memoryInUse(const Setting& setting) {
             .goal = "<= 1.30",
             .limit = 1.30};
     const Sandbox sandbox;
-    const endtoend::Settings settings;
-    endtoend::TrialCad trial(sandbox);
+    const driver::Settings settings;
+    driver::TrialCad trial(sandbox);
     trial.Start({"--hidden"});
     const fs::path lines = sandbox.Directory() / "lines.txt";
     const Rounds few{.least = 1, .most = 1, .enoughMilliseconds = 0};

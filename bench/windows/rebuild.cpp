@@ -5,7 +5,7 @@
 #include "common/numbers.h"
 #include "rows.h"
 #include "sample_tree.h"
-#include "selection_window.h"
+#include "shown_selection.h"
 
 namespace {
 
@@ -36,7 +36,7 @@ long barePass(const std::wstring& directory, bool deep) {
 
 Comparison compareRebuild(const Setting& setting, const std::filesystem::path& directory,
                           int documents, bool deep) {
-    SelectionWindow window(directory, deep);
+    ShownSelection window(directory, deep);
     const auto floor = [&] {
         require(barePass(directory.wstring(), deep) == documents, "all documents found");
     };

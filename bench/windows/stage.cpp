@@ -11,8 +11,8 @@ Stage::Stage()
 }
 
 HWND controlOf(int id) {
-    for (HWND window : endtoend::TopLevelWindows(GetCurrentProcessId())) {
-        if (HWND control = endtoend::Descendant(window, id)) return control;
+    for (HWND window : driver::TopLevelWindows(GetCurrentProcessId())) {
+        if (HWND control = driver::Descendant(window, id)) return control;
     }
     require(false, "a control of the program");
     return nullptr;

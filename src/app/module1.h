@@ -16,7 +16,12 @@ struct WindowPlace {
 };
 
 /// The windows whose places are kept, in the order of PosFenetre.
-enum class PlacedWindow { Form1, Form2, Form3, Form4 };
+enum class PlacedWindow {
+    SelectionWindow,
+    ExistingListWindow,
+    TrackingWindow,
+    ConfigurationWindow
+};
 
 /// The program-wide variables. Start-up sets them; the windows share them.
 struct Module1 {

@@ -11,30 +11,30 @@ Program::Program(const Platform& platform) : platform_(platform) {}
 Program::~Program() = default;
 
 void Program::ChargerForm1() {
-    form1_ = std::make_unique<Form1>(module_, platform_, *this);
-    form1_->Form_Load();
-    form1_->window().show();
+    selection_ = std::make_unique<SelectionWindow>(module_, platform_, *this);
+    selection_->Form_Load();
+    selection_->window().show();
 }
 
 void Program::ChargerForm2() {
-    form2_ = std::make_unique<Form2>(module_, platform_, *this);
-    form2_->Form_Load();
+    existingList_ = std::make_unique<ExistingListWindow>(module_, platform_, *this);
+    existingList_->Form_Load();
     FermerAPropos();
-    form2_->window().show();
+    existingList_->window().show();
 }
 
 void Program::ChargerForm3() {
-    form3_ = std::make_unique<Form3>(module_, platform_);
-    form3_->Form_Load();
-    form3_->window().show();
+    tracking_ = std::make_unique<TrackingWindow>(module_, platform_);
+    tracking_->Form_Load();
+    tracking_->window().show();
 }
 
 void Program::ChargerForm4() {
-    if (!form4_ || !form4_->isOpen()) {
-        form4_ = std::make_unique<Form4>(module_, platform_);
-        form4_->Form_Load();
+    if (!configuration_ || !configuration_->isOpen()) {
+        configuration_ = std::make_unique<ConfigurationWindow>(module_, platform_);
+        configuration_->Form_Load();
     }
-    form4_->window().show();
+    configuration_->window().show();
 }
 
 void Program::ChargerAPropos() {

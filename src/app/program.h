@@ -7,10 +7,10 @@
 #include "session/navigation.h"
 
 class AboutWindow;
-class Form1;
-class Form2;
-class Form3;
-class Form4;
+class SelectionWindow;
+class ExistingListWindow;
+class TrackingWindow;
+class ConfigurationWindow;
 
 /// The program: its variables, its windows, and the way from one to the next.
 class Program : public Navigation {
@@ -36,8 +36,8 @@ class Program : public Navigation {
     Platform platform_;
     Module1 module_;
     std::unique_ptr<AboutWindow> about_;
-    std::unique_ptr<Form1> form1_;
-    std::unique_ptr<Form2> form2_;
-    std::unique_ptr<Form3> form3_;
-    std::unique_ptr<Form4> form4_;
+    std::unique_ptr<SelectionWindow> selection_;
+    std::unique_ptr<ExistingListWindow> existingList_;
+    std::unique_ptr<TrackingWindow> tracking_;
+    std::unique_ptr<ConfigurationWindow> configuration_;
 };

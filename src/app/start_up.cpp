@@ -36,7 +36,8 @@ void Program::Main() {
 
 void Program::readPlaces() {
     for (const PlacedWindow window :
-         {PlacedWindow::Form1, PlacedWindow::Form2, PlacedWindow::Form3, PlacedWindow::Form4}) {
+         {PlacedWindow::SelectionWindow, PlacedWindow::ExistingListWindow,
+          PlacedWindow::TrackingWindow, PlacedWindow::ConfigurationWindow}) {
         readPlace(platform_.settings, module_, window);
     }
 }

@@ -10,9 +10,9 @@ struct Platform;
 
 /// The prompt shown when a list file of an earlier run exists: resume it, start a new selection,
 /// or erase it first.
-class Form2 : public EventSink {
+class ExistingListWindow : public EventSink {
  public:
-    Form2(Module1& module, Platform& platform, Navigation& navigation);
+    ExistingListWindow(Module1& module, Platform& platform, Navigation& navigation);
 
     void raise(int controlId, Event event) override;
     Window& window() { return *window_; }

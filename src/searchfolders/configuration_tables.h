@@ -5,7 +5,7 @@
 
 // On both pages the directories of a configuration take the width of a larger window, all lists
 // take the height.
-inline constexpr Anchor kForm4Anchors[] = {
+inline constexpr Anchor kConfigurationAnchors[] = {
     {IDC_FORM4_TABSTRIP1, Growth::Stretch, Growth::Stretch},
 
     {IDC_FORM4_FRATAB0, Growth::Stretch, Growth::Stretch},
@@ -34,7 +34,7 @@ inline constexpr Anchor kForm4Anchors[] = {
 };
 
 // Fields and lists have no caption of their own, signs say little when they are heard.
-inline constexpr AccessibleName kForm4Names[] = {
+inline constexpr AccessibleName kConfigurationNames[] = {
     {IDC_FORM4_LIST1, L"Liste des configurations"},
     {IDC_FORM4_LIST3, L"Liste des répertoires de la configuration"},
     {IDC_FORM4_DRIVE1, L"Unité"},
@@ -49,10 +49,10 @@ inline constexpr AccessibleName kForm4Names[] = {
     {IDC_FORM4_NOMDELACONF, L"Nom de la configuration"},
 };
 
-inline constexpr WindowTemplate kForm4Window = {
+inline constexpr WindowTemplate kConfigurationWindow = {
     .dialogId = IDD_FORM4,
-    .tooltips = kForm4Tooltips,
+    .tooltips = kConfigurationTooltips,
     .focusId = IDC_FORM4_LIST1,
-    .anchors = kForm4Anchors,
-    .names = kForm4Names,
+    .anchors = kConfigurationAnchors,
+    .names = kConfigurationNames,
 };

@@ -3,7 +3,7 @@
 #include "platform/window.h"
 #include "searchfolders/configuration_ids.h"
 
-inline constexpr Tooltip kForm4Tooltips[] = {
+inline constexpr Tooltip kConfigurationTooltips[] = {
     {IDC_FORM4_LIST1,
      L"Liste des configurations. Cliquez sur une ligne, la liste des répertoires correspondante "
      L"apparaitra à droite.  "},

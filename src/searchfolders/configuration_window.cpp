@@ -41,10 +41,10 @@ void showDirectories(ListBox& list, const Configuration& configuration) {
 
 }  // namespace
 
-Form4::Form4(Module1& module, Platform& platform)
+ConfigurationWindow::ConfigurationWindow(Module1& module, Platform& platform)
     : module_(module),
       platform_(platform),
-      window_(platform.windows.create(kForm4Window, *this)),
+      window_(platform.windows.create(kConfigurationWindow, *this)),
       TabStrip1(window_->tabStrip(IDC_FORM4_TABSTRIP1)),
       List1(window_->listBox(IDC_FORM4_LIST1)),
       List2(window_->listBox(IDC_FORM4_LIST2)),
@@ -55,14 +55,14 @@ Form4::Form4(Module1& module, Platform& platform)
       Drive1(window_->comboBox(IDC_FORM4_DRIVE1), platform.files),
       Dir1(window_->listBox(IDC_FORM4_DIR1), platform.files) {}
 
-void Form4::raise(int controlId, Event event) {
-    dispatch<Form4>(*this, kForm4Bindings, controlId, event);
+void ConfigurationWindow::raise(int controlId, Event event) {
+    dispatch<ConfigurationWindow>(*this, kConfigurationBindings, controlId, event);
 }
 
-void Form4::Form_Load() {
+void ConfigurationWindow::Form_Load() {
     window_->resize(kWidth, kHeight);
-    readPlace(platform_.settings, module_, PlacedWindow::Form4);
-    const WindowPlace& place = module_.place(PlacedWindow::Form4);
+    readPlace(platform_.settings, module_, PlacedWindow::ConfigurationWindow);
+    const WindowPlace& place = module_.place(PlacedWindow::ConfigurationWindow);
     window_->moveTo(place.top, place.left);
     Cpt_Rep.setText(L"0");
     NNiv.setText(L"0");
@@ -75,24 +75,24 @@ void Form4::Form_Load() {
     AfficherConfs();
 }
 
-void Form4::PreparerOnglets() {
+void ConfigurationWindow::PreparerOnglets() {
     TabStrip1.addTab(L"Configuration Courante");
     TabStrip1.addTab(L"Gestion des configurations");
     MontrerPage(Page::Configurations);
 }
 
-void Form4::MontrerPage(Page page) {
+void ConfigurationWindow::MontrerPage(Page page) {
     const bool editing = page == Page::Editing;
     TabStrip1.selectTab(editing ? 1 : 0);
     setVisible(*window_, kConfigurationsPage, !editing);
     setVisible(*window_, kEditingPage, editing);
 }
 
-void Form4::TabStrip1_Click() {
+void ConfigurationWindow::TabStrip1_Click() {
     MontrerPage(TabStrip1.selectedTab() == 1 ? Page::Editing : Page::Configurations);
 }
 
-void Form4::AfficherConfs() {
+void ConfigurationWindow::AfficherConfs() {
     Configurations& configs = module_.configs;
     List1.setLines(configs.NbConf + 1, [&](int line) { return configs.ConfRep[line][0]; });
     showDirectories(List3, configs.ConfRep[configs.NbConf]);
@@ -100,14 +100,14 @@ void Form4::AfficherConfs() {
     configs.ConfSel = configs.NbConf;
 }
 
-void Form4::ChercherSelection() {
+void ConfigurationWindow::ChercherSelection() {
     Configurations& configs = module_.configs;
     for (std::int16_t i = 0; i <= configs.NbConf; ++i) {
         if (List1.selected(i)) configs.ConfSel = i;
     }
 }
 
-void Form4::List1_Click() {
+void ConfigurationWindow::List1_Click() {
     Configurations& configs = module_.configs;
     configs.ConfSel = 0;
     ChercherSelection();
@@ -118,36 +118,38 @@ void Form4::List1_Click() {
     showDirectories(List3, configs.ConfRep[configs.ConfSel]);
 }
 
-void Form4::CmdEnregister_Click() { EcrireConfigs(module_, platform_.files); }
+void ConfigurationWindow::CmdEnregister_Click() { EcrireConfigs(module_, platform_.files); }
 
-void Form4::CmdChoisir_Click() {
+void ConfigurationWindow::CmdChoisir_Click() {
     module_.configs.ConfSel = 0;
     ChercherSelection();
     AppliquerConf(module_, platform_.messageBoxes, module_.configs.ConfSel);
 }
 
-void Form4::CmdDetruire_Click() {
+void ConfigurationWindow::CmdDetruire_Click() {
     module_.configs.ConfSel = 0;
     ChercherSelection();
     destroySelected(module_.configs);
     AfficherConfs();
 }
 
-void Form4::CmdAnnuler_Click() {
+void ConfigurationWindow::CmdAnnuler_Click() {
     SauverPosition();
     RetenirPosition();
     window_->hide();
     Form_Close();
 }
 
-void Form4::Form_Close() {
+void ConfigurationWindow::Form_Close() {
     open_ = false;
     window_->unload();
 }
 
-void Form4::SauverPosition() { savePlace(platform_.settings, PlacedWindow::Form4, *window_); }
+void ConfigurationWindow::SauverPosition() {
+    savePlace(platform_.settings, PlacedWindow::ConfigurationWindow, *window_);
+}
 
-void Form4::RetenirPosition() {
-    module_.place(PlacedWindow::Form4) = {withinSixteenBits(window_->top()),
-                                          withinSixteenBits(window_->left())};
+void ConfigurationWindow::RetenirPosition() {
+    module_.place(PlacedWindow::ConfigurationWindow) = {withinSixteenBits(window_->top()),
+                                                        withinSixteenBits(window_->left())};
 }

@@ -15,9 +15,9 @@ struct Platform;
 
 /// The configuration window: on one tab the configurations and their directories, on the other a
 /// copy of one of them being edited. Editing changes the table, "Sauvegarder" the file.
-class Form4 : public EventSink {
+class ConfigurationWindow : public EventSink {
  public:
-    Form4(Module1& module, Platform& platform);
+    ConfigurationWindow(Module1& module, Platform& platform);
 
     void raise(int controlId, Event event) override;
     Window& window() { return *window_; }

@@ -9,13 +9,13 @@
 #include "platform/platform.h"
 #include "searchfolders/configuration_window.h"
 
-void Form4::PreparerRepertoires() {
+void ConfigurationWindow::PreparerRepertoires() {
     Drive1.fill();
     Dir1.setPath(module_.RepAppli);
     Drive1.setDrive(Dir1.path());
 }
 
-void Form4::Ouvrir(const std::function<void()>& opening) {
+void ConfigurationWindow::Ouvrir(const std::function<void()>& opening) {
     std::wstring problem;
     try {
         opening();
@@ -29,32 +29,32 @@ void Form4::Ouvrir(const std::function<void()>& opening) {
                                  .icon = MessageBoxContent::Icon::Stop});
 }
 
-void Form4::Drive1_Change() {
+void ConfigurationWindow::Drive1_Change() {
     const wchar_t drive = Drive1.drive();
     if (drive == 0) return;
     Ouvrir([&] { Dir1.setPath(platform_.files.currentDirectory(drive)); });
 }
 
-void Form4::Dir1_DblClick() {
+void ConfigurationWindow::Dir1_DblClick() {
     Ouvrir([&] { Dir1.openSelected(); });
 }
 
-void Form4::AjouterRep(const std::wstring& path) {
+void ConfigurationWindow::AjouterRep(const std::wstring& path) {
     const long count = nombreRep();
     if (!addDirectory(module_.configs.RepEdit, count, path)) return;
     Cpt_Rep.setText(decimal(count + 1));
     AfficherRepEdit();
 }
 
-void Form4::CmdAjo1_Click() { AjouterRep(Dir1.path()); }
+void ConfigurationWindow::CmdAjo1_Click() { AjouterRep(Dir1.path()); }
 
-void Form4::CmdAjo2_Click() {
+void ConfigurationWindow::CmdAjo2_Click() {
     AjouterRep(Dir1.path());
     OpenDirectories way(platform_.files);
     AjouterSousRep(way);
 }
 
-void Form4::AjouterSousRep(OpenDirectories& way) {
+void ConfigurationWindow::AjouterSousRep(OpenDirectories& way) {
     way.enter(Dir1.path());
     for (int i = 0; i < Dir1.subdirectoryCount(); ++i) {
         if (Dir1.subdirectoryIsLink(i) && way.leadsBack(Dir1.subdirectory(i))) continue;

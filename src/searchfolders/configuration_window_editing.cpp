@@ -9,9 +9,9 @@
 #include "worklist/display_depth.h"
 #include "worklist/display_line.h"
 
-long Form4::nombreRep() const { return numericValue(Cpt_Rep.text()); }
+long ConfigurationWindow::nombreRep() const { return numericValue(Cpt_Rep.text()); }
 
-void Form4::CmdCreer_Click() {
+void ConfigurationWindow::CmdCreer_Click() {
     MontrerPage(Page::Editing);
     Cpt_Rep.setText(L"0");
     module_.configs.NomConfEdit.clear();
@@ -20,17 +20,17 @@ void Form4::CmdCreer_Click() {
     AfficherRepEdit();
 }
 
-void Form4::CmdModifier_Click() {
+void ConfigurationWindow::CmdModifier_Click() {
     EditerSelection();
     module_.configs.NomConfEdit.clear();
 }
 
-void Form4::CmdRenommer_Click() {
+void ConfigurationWindow::CmdRenommer_Click() {
     EditerSelection();
     module_.configs.NomConfEdit = NomDeLaConf.text();
 }
 
-void Form4::EditerSelection() {
+void ConfigurationWindow::EditerSelection() {
     Configurations& configs = module_.configs;
     ChercherSelection();
     MontrerPage(Page::Editing);
@@ -41,25 +41,25 @@ void Form4::EditerSelection() {
     NomDeLaConf.setText(selected[0]);
 }
 
-void Form4::AfficherRepEdit() {
+void ConfigurationWindow::AfficherRepEdit() {
     List2.setLines(static_cast<int>(nombreRep()), [&](int line) {
         return shownPath(module_.configs.RepEdit[line + 1], NNiv.text());
     });
 }
 
-void Form4::CmdPlus1_Click() {
+void ConfigurationWindow::CmdPlus1_Click() {
     if (hideOneLevelMore(NNiv)) AfficherRepEdit();
 }
 
-void Form4::CmdMoins1_Click() {
+void ConfigurationWindow::CmdMoins1_Click() {
     if (hideOneLevelLess(NNiv)) AfficherRepEdit();
 }
 
-void Form4::CmdRetir1_Click() { Retirer(Removal::Selected); }
+void ConfigurationWindow::CmdRetir1_Click() { Retirer(Removal::Selected); }
 
-void Form4::CmdRetir2_Click() { Retirer(Removal::WithFollowers); }
+void ConfigurationWindow::CmdRetir2_Click() { Retirer(Removal::WithFollowers); }
 
-void Form4::Retirer(Removal removal) {
+void ConfigurationWindow::Retirer(Removal removal) {
     const long left = removeDirectories(
         module_.configs.RepEdit, nombreRep(), [&](int line) { return List2.selected(line); },
         removal);
@@ -67,7 +67,7 @@ void Form4::Retirer(Removal removal) {
     AfficherRepEdit();
 }
 
-void Form4::CmdValider_Click() {
+void ConfigurationWindow::CmdValider_Click() {
     SauverPosition();
     std::wstring name = NomDeLaConf.text();
     storeEdited(module_.configs, name);
@@ -77,7 +77,7 @@ void Form4::CmdValider_Click() {
     if (equalIgnoringCase(name, L"En Cours")) AppliquerConf(module_, platform_.messageBoxes, 0);
 }
 
-void Form4::CmdAnnuler1_Click() {
+void ConfigurationWindow::CmdAnnuler1_Click() {
     SauverPosition();
     RetenirPosition();
     MontrerPage(Page::Configurations);

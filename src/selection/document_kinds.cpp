@@ -15,7 +15,7 @@ bool isInAnyCase(std::wstring_view text, std::wstring_view capitals) {
 
 }  // namespace
 
-MotifType::MotifType(std::wstring_view typeText) {
+DocumentKinds::DocumentKinds(std::wstring_view typeText) {
     const std::wstring text = upperCase(typeText);
     const auto take = [&](const wchar_t* kind, const wchar_t* pattern) {
         const bool named = text.find(kind) != std::wstring::npos;
@@ -27,7 +27,7 @@ MotifType::MotifType(std::wstring_view typeText) {
     drawings_ = take(L"SLDDRW", L"*.slddrw");
 }
 
-bool MotifType::accepts(std::wstring_view fileName) const {
+bool DocumentKinds::accepts(std::wstring_view fileName) const {
     const std::size_t dot = fileName.find_last_of(L'.');
     if (dot == std::wstring_view::npos) return false;
     const std::wstring_view extension = fileName.substr(dot + 1);

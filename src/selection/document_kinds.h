@@ -4,10 +4,10 @@
 #include <string_view>
 
 /// Which CAD documents are looked for, from the type text that the user chose or typed.
-class MotifType {
+class DocumentKinds {
  public:
     /// Takes the kinds that the text names anywhere, in any case: sldasm, sldprt, slddrw.
-    explicit MotifType(std::wstring_view typeText);
+    explicit DocumentKinds(std::wstring_view typeText);
 
     /// The file pattern, always assemblies, parts, drawings in that order; empty for no kind.
     const std::wstring& pattern() const { return pattern_; }

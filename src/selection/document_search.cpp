@@ -5,7 +5,7 @@
 #include "platform/files.h"
 #include "selection/found_documents.h"
 
-DocumentSearch::DocumentSearch(Files& files, FoundDocuments& found, MotifType motif,
+DocumentSearch::DocumentSearch(Files& files, FoundDocuments& found, DocumentKinds motif,
                                Progress progress)
     : files_(files),
       found_(found),

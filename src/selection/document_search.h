@@ -17,7 +17,7 @@ class DocumentSearch {
     /// Told, as often as a directory has been read, how many files of the kinds it holds.
     using Progress = std::function<void(long filesListed)>;
 
-    DocumentSearch(Files& files, FoundDocuments& found, MotifType motif, Progress progress);
+    DocumentSearch(Files& files, FoundDocuments& found, DocumentKinds motif, Progress progress);
 
     /// Puts the directory's documents into the table, in ascending name order; then, if wanted,
     /// those of its sub-directories depth-first, each directory before its own sub-directories.
@@ -33,7 +33,7 @@ class DocumentSearch {
 
     Files& files_;
     FoundDocuments& found_;
-    MotifType motif_;
+    DocumentKinds motif_;
     Progress progress_;
     OpenDirectories open_;
 };

@@ -4,7 +4,7 @@
 #include "selection/selection_tooltips.h"
 
 // The list of documents takes the width of a larger window, both lists take the height.
-inline constexpr Anchor kForm1Anchors[] = {
+inline constexpr Anchor kSelectionAnchors[] = {
     {IDC_FORM1_LABEL3, Growth::Stretch, Growth::Stay},
     {IDC_FORM1_CMDAP, Growth::Move, Growth::Stay},
 
@@ -30,7 +30,7 @@ inline constexpr Anchor kForm1Anchors[] = {
 };
 
 // Fields and lists have no caption of their own, "-", "+" and "AP" say little when they are heard.
-inline constexpr AccessibleName kForm1Names[] = {
+inline constexpr AccessibleName kSelectionNames[] = {
     {IDC_FORM1_TYPEF, L"Type de fichiers à traiter"},
     {IDC_FORM1_UNITE, L"Unité"},
     {IDC_FORM1_REPERT, L"Répertoire"},
@@ -41,12 +41,12 @@ inline constexpr AccessibleName kForm1Names[] = {
     {IDC_FORM1_CMDAP, L"A Propos de Tarnwick"},
 };
 
-inline constexpr WindowTemplate kForm1Window = {
+inline constexpr WindowTemplate kSelectionWindow = {
     .dialogId = IDD_FORM1,
-    .tooltips = kForm1Tooltips,
+    .tooltips = kSelectionTooltips,
     .headingId = IDC_FORM1_LABEL3,
     .focusId = IDC_FORM1_REPERT,
     .fixedPitchId = IDC_FORM1_LIST1,
-    .anchors = kForm1Anchors,
-    .names = kForm1Names,
+    .anchors = kSelectionAnchors,
+    .names = kSelectionNames,
 };

@@ -3,7 +3,7 @@
 #include "platform/window.h"
 #include "selection/selection_ids.h"
 
-inline constexpr Tooltip kForm1Tooltips[] = {
+inline constexpr Tooltip kSelectionTooltips[] = {
     {IDC_FORM1_SOUSREP, L"Indique si il faut traiter également les sous répertoires  "},
     {IDC_FORM1_REPERT, L"Double cliquer pour sélectionner le répertoire souhaité  "},
     {IDC_FORM1_LIST1, L"Les lignes commençant par un X correspondent à des fichiers sélectionnés."},

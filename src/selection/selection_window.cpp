@@ -26,11 +26,11 @@ const std::wstring kTypes[] = {L"*.SLDDRW",
 
 }  // namespace
 
-Form1::Form1(Module1& module, Platform& platform, Navigation& navigation)
+SelectionWindow::SelectionWindow(Module1& module, Platform& platform, Navigation& navigation)
     : module_(module),
       platform_(platform),
       navigation_(navigation),
-      window_(platform.windows.create(kForm1Window, *this)),
+      window_(platform.windows.create(kSelectionWindow, *this)),
       typef(window_->comboBox(IDC_FORM1_TYPEF)),
       sousrep(window_->checkBox(IDC_FORM1_SOUSREP)),
       nbfich(window_->control(IDC_FORM1_NBFICH)),
@@ -41,11 +41,11 @@ Form1::Form1(Module1& module, Platform& platform, Navigation& navigation)
       repert(window_->listBox(IDC_FORM1_REPERT), platform.files),
       liste_(window_->listBox(IDC_FORM1_LIST1), trouves_, module.labels) {}
 
-void Form1::raise(int controlId, Event event) {
-    dispatch<Form1>(*this, kForm1Bindings, controlId, event);
+void SelectionWindow::raise(int controlId, Event event) {
+    dispatch<SelectionWindow>(*this, kSelectionBindings, controlId, event);
 }
 
-void Form1::Form_Load() {
+void SelectionWindow::Form_Load() {
     navigation_.FermerAPropos();
     cptfichier.setText(L"0");
     nbfich.setText(L"0");
@@ -54,11 +54,11 @@ void Form1::Form_Load() {
     typef.setText(L"*.SLDDRW");
     MasquerEssais();
     ChoisirDepart();
-    const WindowPlace& place = module_.place(PlacedWindow::Form1);
+    const WindowPlace& place = module_.place(PlacedWindow::SelectionWindow);
     window_->moveTo(place.top, place.left);
 }
 
-void Form1::ChoisirDepart() {
+void SelectionWindow::ChoisirDepart() {
     constexpr std::size_t kDriveLength = 3;
     const bool named = module_.RepTravailSw.size() >= kDriveLength;
     const std::wstring depart = named ? module_.RepTravailSw : L"c:\\";
@@ -68,53 +68,53 @@ void Form1::ChoisirDepart() {
     repert_Change();
 }
 
-void Form1::MasquerEssais() {
+void SelectionWindow::MasquerEssais() {
     for (const int id :
          {IDC_FORM1_FILE1, IDC_FORM1_REP, IDC_FORM1_CDMTEST, IDC_FORM1_S, IDC_FORM1_T}) {
         window_->control(id).setVisible(false);
     }
 }
 
-void Form1::Form_Close() { throw ProgramEnd{}; }
+void SelectionWindow::Form_Close() { throw ProgramEnd{}; }
 
-void Form1::List1_Click() { nbfich.setText(decimal(liste_.chosenCount())); }
+void SelectionWindow::List1_Click() { nbfich.setText(decimal(liste_.chosenCount())); }
 
-void Form1::CmdCoche_Click() {
+void SelectionWindow::CmdCoche_Click() {
     liste_.toggleHighlighted();
     List1_Click();
 }
 
-void Form1::Cmd_Inv_Click() {
+void SelectionWindow::Cmd_Inv_Click() {
     liste_.toggleAll();
     List1_Click();
 }
 
-void Form1::cmd_ajo_Click() {
+void SelectionWindow::cmd_ajo_Click() {
     liste_.chooseMatching(n_filtre.text());
     List1_Click();
 }
 
-void Form1::cmd_enl_Click() {
+void SelectionWindow::cmd_enl_Click() {
     liste_.dropMatching(n_filtre.text());
     List1_Click();
 }
 
-void Form1::CmdPlus_Click() {
+void SelectionWindow::CmdPlus_Click() {
     if (hideOneLevelMore(NNiveau)) liste_.RemplirListe(0, NNiveau.text());
 }
 
-void Form1::CmdMoins_Click() {
+void SelectionWindow::CmdMoins_Click() {
     if (hideOneLevelLess(NNiveau)) liste_.RemplirListe(0, NNiveau.text());
 }
 
-void Form1::CmdAP_Click() { navigation_.ChargerAPropos(); }
+void SelectionWindow::CmdAP_Click() { navigation_.ChargerAPropos(); }
 
-void Form1::CmdRepDef_Click() { navigation_.ChargerForm4(); }
+void SelectionWindow::CmdRepDef_Click() { navigation_.ChargerForm4(); }
 
-void Form1::cmd_tracer_Click() { LancerTraitement(); }
+void SelectionWindow::cmd_tracer_Click() { LancerTraitement(); }
 
-void Form1::LancerTraitement() {
-    savePlace(platform_.settings, PlacedWindow::Form1, *window_);
+void SelectionWindow::LancerTraitement() {
+    savePlace(platform_.settings, PlacedWindow::SelectionWindow, *window_);
     std::string text;
     const long count = numericValue(cptfichier.text());
     for (long i = 0; i < count; ++i) {
@@ -125,18 +125,18 @@ void Form1::LancerTraitement() {
     window_->hide();
 }
 
-std::wstring Form1::cheminComplet(long index) const {
+std::wstring SelectionWindow::cheminComplet(long index) const {
     const std::wstring& entry = trouves_.entry(index);
     return trouves_.CheminsComplets() ? entry : repFichiers_ + L"\\" + entry;
 }
 
-void Form1::cmd_sortie_Click() {
-    savePlace(platform_.settings, PlacedWindow::Form1, *window_);
+void SelectionWindow::cmd_sortie_Click() {
+    savePlace(platform_.settings, PlacedWindow::SelectionWindow, *window_);
     window_->unload();
     throw ProgramEnd{};
 }
 
-void Form1::cmd_annuler_Click() {
+void SelectionWindow::cmd_annuler_Click() {
     window_->unload();
     throw ProgramEnd{};
 }

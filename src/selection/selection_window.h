@@ -15,9 +15,9 @@ struct Platform;
 
 /// The selection window: a pass is prepared here. It finds the documents under a directory, lets
 /// the user choose among them, and launches the pass.
-class Form1 : public EventSink {
+class SelectionWindow : public EventSink {
  public:
-    Form1(Module1& module, Platform& platform, Navigation& navigation);
+    SelectionWindow(Module1& module, Platform& platform, Navigation& navigation);
 
     void raise(int controlId, Event event) override;
     Window& window() { return *window_; }

@@ -30,17 +30,17 @@ class Pulse {
 }  // namespace
 
 // A click only highlights a directory; a double click opens it.
-void Form1::repert_Click() {}
+void SelectionWindow::repert_Click() {}
 
-void Form1::repert_DblClick() {
+void SelectionWindow::repert_DblClick() {
     if (repert.openSelected()) repert_Change();
 }
 
-void Form1::typef_Change() { repert_Change(); }
-void Form1::typef_Click() { repert_Change(); }
-void Form1::typef_Validate() { repert_Change(); }
+void SelectionWindow::typef_Change() { repert_Change(); }
+void SelectionWindow::typef_Click() { repert_Change(); }
+void SelectionWindow::typef_Validate() { repert_Change(); }
 
-void Form1::unite_Change() {
+void SelectionWindow::unite_Change() {
     if (unite.drive() == 0) return;
     const bool elsewhere = repert.setPath(platform_.files.currentDirectory(unite.drive()));
     repert_Change();
@@ -49,11 +49,11 @@ void Form1::unite_Change() {
     if (elsewhere && rechercheDepuisRacine()) repert_Change();
 }
 
-bool Form1::rechercheDepuisRacine() const {
+bool SelectionWindow::rechercheDepuisRacine() const {
     return isDriveRoot(repert.path()) && sousrep.checked();
 }
 
-bool Form1::ConfirmerRacine() {
+bool SelectionWindow::ConfirmerRacine() {
     const auto answer = platform_.messageBoxes.show(
         {.text = L"    La recherche de tous les fichiers à partir de la racine  \n\r"
                  L"                risque d'être assez longue .\n\r"
@@ -64,12 +64,12 @@ bool Form1::ConfirmerRacine() {
     return answer == MessageBoxes::Answer::Yes;
 }
 
-void Form1::DecocherSousRep() {
+void SelectionWindow::DecocherSousRep() {
     sousrep.setChecked(false);
     sousrep_Click();
 }
 
-void Form1::sousrep_Click() {
+void SelectionWindow::sousrep_Click() {
     cptfichier.setText(L"0");
     trouves_.restart(sousrep.checked());
     if (rechercheDepuisRacine() && !ConfirmerRacine()) {
@@ -79,7 +79,7 @@ void Form1::sousrep_Click() {
     }
 }
 
-void Form1::repert_Change() {
+void SelectionWindow::repert_Change() {
     if (rechercheDepuisRacine() && !ConfirmerRacine()) DecocherSousRep();
     repFichiers_ = repert.path();
     Rechercher();
@@ -88,7 +88,7 @@ void Form1::repert_Change() {
     List1_Click();
 }
 
-void Form1::Rechercher() {
+void SelectionWindow::Rechercher() {
     Pulse pulse;
     const auto showProgress = [&](long filesListed) {
         if (!pulse.due()) return;
@@ -97,6 +97,6 @@ void Form1::Rechercher() {
         nbfich.repaint();
         cptfichier.repaint();
     };
-    DocumentSearch search(platform_.files, trouves_, MotifType(typef.text()), showProgress);
+    DocumentSearch search(platform_.files, trouves_, DocumentKinds(typef.text()), showProgress);
     search.run(repert.path(), sousrep.checked());
 }

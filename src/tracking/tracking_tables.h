@@ -4,7 +4,7 @@
 #include "tracking/tracking_tooltips.h"
 
 // The list takes the space of a larger window; its commands stay below it, the sequencer beside.
-inline constexpr Anchor kForm3Anchors[] = {
+inline constexpr Anchor kTrackingAnchors[] = {
     {IDC_FORM3_LABEL2, Growth::Stretch, Growth::Stay},
     {IDC_FORM3_TXTETAT, Growth::Stretch, Growth::Stay},
 
@@ -40,7 +40,7 @@ inline constexpr Anchor kForm3Anchors[] = {
 };
 
 // The sequencer's narrow twins show no caption.
-inline constexpr AccessibleName kForm3Names[] = {
+inline constexpr AccessibleName kTrackingNames[] = {
     {IDC_FORM3_LIST1, L"Liste courante de fichiers à traiter"},
     {IDC_FORM3_CMDMOINS1, L"Démasquer un niveau de l'arborescence"},
     {IDC_FORM3_CMDPLUS1, L"Masquer un niveau de l'arborescence"},
@@ -50,12 +50,12 @@ inline constexpr AccessibleName kForm3Names[] = {
     {IDC_FORM3_CMD4, L"Précédent"},
 };
 
-inline constexpr WindowTemplate kForm3Window = {
+inline constexpr WindowTemplate kTrackingWindow = {
     .dialogId = IDD_FORM3,
-    .tooltips = kForm3Tooltips,
+    .tooltips = kTrackingTooltips,
     .headingId = IDC_FORM3_LABEL2,
     .focusId = IDC_FORM3_LIST1,
     .fixedPitchId = IDC_FORM3_LIST1,
-    .anchors = kForm3Anchors,
-    .names = kForm3Names,
+    .anchors = kTrackingAnchors,
+    .names = kTrackingNames,
 };

@@ -3,7 +3,7 @@
 #include "platform/window.h"
 #include "tracking/tracking_ids.h"
 
-inline constexpr Tooltip kForm3Tooltips[] = {
+inline constexpr Tooltip kTrackingTooltips[] = {
     {IDC_FORM3_CMDSUIV, L"Marquer comme FAIT et passer au suivant en sauvegardant  "},
     {IDC_FORM3_CMDSUIVQUITTER, L"Marquer comme VU et passer au suivant sans sauvegarder  "},
     {IDC_FORM3_CMDSUIVSAUTER, L"Passer au suivant sans Marquer ni Sauvegarder  "},

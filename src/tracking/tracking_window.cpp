@@ -17,10 +17,10 @@
 #include "worklist/list_file.h"
 #include "worklist/progress.h"
 
-Form3::Form3(Module1& module, Platform& platform)
+TrackingWindow::TrackingWindow(Module1& module, Platform& platform)
     : module_(module),
       platform_(platform),
-      window_(platform.windows.create(kForm3Window, *this)),
+      window_(platform.windows.create(kTrackingWindow, *this)),
       cad_(module, platform.desktop),
       vue_(window_->listBox(IDC_FORM3_LIST1)),
       TxtEtat(window_->control(IDC_FORM3_TXTETAT)),
@@ -34,12 +34,12 @@ Form3::Form3(Module1& module, Platform& platform)
       CkRecons(window_->checkBox(IDC_FORM3_CKRECONS)),
       CkRecons2(window_->checkBox(IDC_FORM3_CKRECONS2)) {}
 
-void Form3::raise(int controlId, Event event) {
-    dispatch<Form3>(*this, kForm3Bindings, controlId, event);
+void TrackingWindow::raise(int controlId, Event event) {
+    dispatch<TrackingWindow>(*this, kTrackingBindings, controlId, event);
 }
 
-void Form3::Form_Load() {
-    const WindowPlace& place = module_.place(PlacedWindow::Form3);
+void TrackingWindow::Form_Load() {
+    const WindowPlace& place = module_.place(PlacedWindow::TrackingWindow);
     window_->moveTo(place.top, place.left);
     CocherOptions();
     CkMinimise.setVisible(false);
@@ -59,7 +59,7 @@ void Form3::Form_Load() {
     }
 }
 
-void Form3::CocherOptions() {
+void TrackingWindow::CocherOptions() {
     const std::wstring options =
         platform_.settings.read(L"tarnwick", L"startup", L"regcheck", L"1111");
     const std::array boxes{&CkMinimise, &CkSilent, &CkRecons, &CkRecons2};
@@ -68,7 +68,7 @@ void Form3::CocherOptions() {
     }
 }
 
-std::wstring Form3::ChaineOptions() const {
+std::wstring TrackingWindow::ChaineOptions() const {
     std::wstring options;
     for (const CheckBox* box : {&CkMinimise, &CkSilent, &CkRecons, &CkRecons2}) {
         options += box->checked() ? L'1' : L'0';
@@ -76,11 +76,11 @@ std::wstring Form3::ChaineOptions() const {
     return options;
 }
 
-void Form3::LireListe() {
+void TrackingWindow::LireListe() {
     if (!parseListFile(platform_.files.read(module_.FichListe), module_.liste)) throw ProgramEnd{};
 }
 
-int Form3::ChoisirDepart() {
+int TrackingWindow::ChoisirDepart() {
     WorkList& liste = module_.liste;
     for (int i = 0; i <= liste.DerFich; ++i) {
         if (liste.EtatFich[i].code == state::kInProgress) liste.EtatFich[i].code = state::kToDo;
@@ -93,7 +93,7 @@ int Form3::ChoisirDepart() {
     return depart;
 }
 
-void Form3::Demarrer(int index) {
+void TrackingWindow::Demarrer(int index) {
     fixerLigneCourante(index);
     nbfich1.setText(decimal(index + 1));
     cptfichier1.setText(decimal(module_.liste.lineCount()));
@@ -103,7 +103,7 @@ void Form3::Demarrer(int index) {
     MontrerDocument();
 }
 
-void Form3::DemarrerEnFin() {
+void TrackingWindow::DemarrerEnFin() {
     AfficherListe(0);
     ActiverSuivants(1);
     // The pointer stands past the end, so that "Précédent" searches from the last line; the count
@@ -112,33 +112,33 @@ void Form3::DemarrerEnFin() {
     cptfichier1.setText(decimal(module_.liste.lineCount()));
 }
 
-void Form3::CmdSortie_Click() {
-    savePlace(platform_.settings, PlacedWindow::Form3, *window_);
+void TrackingWindow::CmdSortie_Click() {
+    savePlace(platform_.settings, PlacedWindow::TrackingWindow, *window_);
     platform_.settings.write(L"tarnwick", L"startup", L"RegCheck", ChaineOptions());
     cad_.closeDocument();
     throw ProgramEnd{};
 }
 
-void Form3::Form_Close() { throw ProgramEnd{}; }
+void TrackingWindow::Form_Close() { throw ProgramEnd{}; }
 
 // The button is hidden and has no function.
-void Form3::CmdMemo_Click() {}
+void TrackingWindow::CmdMemo_Click() {}
 
-void Form3::CmdFichierListe_Click() {
+void TrackingWindow::CmdFichierListe_Click() {
     platform_.files.replace(module_.FichListe, [&](const ByteSink& file) {
         formatListFile(module_.liste, numericValue(cptfichier1.text()), file);
     });
 }
 
-void Form3::CmdPlus1_Click() {
+void TrackingWindow::CmdPlus1_Click() {
     if (hideOneLevelMore(NNiveau1)) AfficherListe(0);
 }
 
-void Form3::CmdMoins1_Click() {
+void TrackingWindow::CmdMoins1_Click() {
     if (hideOneLevelLess(NNiveau1)) AfficherListe(0);
 }
 
-void Form3::AfficherListe(std::int16_t mode) {
+void TrackingWindow::AfficherListe(std::int16_t mode) {
     const auto [done, total] = passProgress(module_.liste);
     window_->showProgress(done, total);
     if (mode == 0) {

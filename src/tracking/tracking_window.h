@@ -16,9 +16,9 @@ struct Question;
 
 /// The tracking window: the work list, the document in progress, and the commands that lead the
 /// pass from one document to the next.
-class Form3 : public EventSink {
+class TrackingWindow : public EventSink {
  public:
-    Form3(Module1& module, Platform& platform);
+    TrackingWindow(Module1& module, Platform& platform);
 
     void raise(int controlId, Event event) override;
     Window& window() { return *window_; }

@@ -7,61 +7,61 @@
 #include "tracking/list_command_texts.h"
 #include "tracking/tracking_window.h"
 
-int Form3::AuMoinsUneSelection() const {
+int TrackingWindow::AuMoinsUneSelection() const {
     for (int i = 0; i <= module_.liste.DerFich; ++i) {
         if (List1.selected(i)) return 1;
     }
     return 0;
 }
 
-bool Form3::verifierSelection(const wchar_t* reproche) {
+bool TrackingWindow::verifierSelection(const wchar_t* reproche) {
     if (AuMoinsUneSelection() != 0) return true;
     platform_.messageBoxes.show(missingSelectionBox(reproche));
     return false;
 }
 
-bool Form3::confirmer(const Question& question) {
+bool TrackingWindow::confirmer(const Question& question) {
     return platform_.messageBoxes.show(boxOf(question)) == MessageBoxes::Answer::Yes;
 }
 
-LineSelected Form3::selectionnee() const {
+LineSelected TrackingWindow::selectionnee() const {
     return [this](int line) { return List1.selected(line); };
 }
 
-void Form3::CmdChaF_Click() { ChangerSelection(kQuestionChaF, state::kDone); }
-void Form3::CmdChaV_Click() { ChangerSelection(kQuestionChaV, state::kSeen); }
+void TrackingWindow::CmdChaF_Click() { ChangerSelection(kQuestionChaF, state::kDone); }
+void TrackingWindow::CmdChaV_Click() { ChangerSelection(kQuestionChaV, state::kSeen); }
 
-void Form3::ChangerSelection(const Question& question, std::string_view code) {
+void TrackingWindow::ChangerSelection(const Question& question, std::string_view code) {
     if (!verifierSelection(kNothingSelected) || !confirmer(question)) return;
     changeSelected(module_.liste, selectionnee(), code);
     ReprendreCourant();
 }
 
-void Form3::CmdChaRaz_Click() {
+void TrackingWindow::CmdChaRaz_Click() {
     if (!verifierSelection(kNothingSelectedToResume) || !confirmer(kQuestionChaRaz)) return;
     ActiverSuivants(0);
     ReprendreA(resetSelected(module_.liste, selectionnee()));
     MontrerDocument();
 }
 
-void Form3::CmdEliF_Click() { EliminerSelection(kQuestionEliF, Eliminate::DoneAndSeen); }
-void Form3::CmdEliFV_Click() { EliminerSelection(kQuestionEliFV, Eliminate::DoneAndSeen); }
-void Form3::CmdEliV_Click() { EliminerSelection(kQuestionEliV, Eliminate::Seen); }
+void TrackingWindow::CmdEliF_Click() { EliminerSelection(kQuestionEliF, Eliminate::DoneAndSeen); }
+void TrackingWindow::CmdEliFV_Click() { EliminerSelection(kQuestionEliFV, Eliminate::DoneAndSeen); }
+void TrackingWindow::CmdEliV_Click() { EliminerSelection(kQuestionEliV, Eliminate::Seen); }
 
-void Form3::EliminerSelection(const Question& question, Eliminate states) {
+void TrackingWindow::EliminerSelection(const Question& question, Eliminate states) {
     if (!verifierSelection(kNothingSelected) || !confirmer(question)) return;
     eliminateLines(module_.liste, selectionnee(), states);
     ReprendreCourant();
 }
 
-void Form3::CmdPurge_Click() {
+void TrackingWindow::CmdPurge_Click() {
     if (!confirmer(kQuestionPurge)) return;
     eliminateLines(
         module_.liste, [](int) { return true; }, Eliminate::DoneAndSeen);
     ReprendreCourant();
 }
 
-void Form3::CmdRepA_Click() {
+void TrackingWindow::CmdRepA_Click() {
     if (!verifierSelection(kNothingSelectedToResume)) return;
     int first = 0;
     while (!List1.selected(first)) ++first;
@@ -71,9 +71,9 @@ void Form3::CmdRepA_Click() {
     ReprendreA(found.value_or(module_.liste.DerFich));
 }
 
-void Form3::CmdDeSelect_Click() { List1.clearSelection(); }
+void TrackingWindow::CmdDeSelect_Click() { List1.clearSelection(); }
 
-void Form3::ReprendreCourant() {
+void TrackingWindow::ReprendreCourant() {
     if (const auto current = reestablishCurrent(module_.liste)) {
         ActiverSuivants(0);
         ReprendreA(*current);
@@ -87,7 +87,7 @@ void Form3::ReprendreCourant() {
     ActiverSuivants(1);
 }
 
-void Form3::ReprendreA(int index) {
+void TrackingWindow::ReprendreA(int index) {
     fixerLigneCourante(index);
     AfficherListe(2);
     nbfich1.setText(decimal(index + 1));

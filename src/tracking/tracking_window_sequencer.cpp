@@ -10,20 +10,20 @@
 #include "tracking/tracking_window.h"
 #include "worklist/next_line.h"
 
-int Form3::ligneCourante() const { return wholeNumber(NumFichCour.text()); }
+int TrackingWindow::ligneCourante() const { return wholeNumber(NumFichCour.text()); }
 
-void Form3::fixerLigneCourante(long index) { NumFichCour.setText(decimal(index)); }
+void TrackingWindow::fixerLigneCourante(long index) { NumFichCour.setText(decimal(index)); }
 
-void Form3::CmdSuiv_Click() { Avancer(state::kDone); }
-void Form3::CmdSuivQuitter_Click() { Avancer(state::kSeen); }
-void Form3::CmdSuivSauter_Click() { Avancer(state::kToDo); }
+void TrackingWindow::CmdSuiv_Click() { Avancer(state::kDone); }
+void TrackingWindow::CmdSuivQuitter_Click() { Avancer(state::kSeen); }
+void TrackingWindow::CmdSuivSauter_Click() { Avancer(state::kToDo); }
 
-void Form3::Cmd1_Click() { CmdSuiv_Click(); }
-void Form3::Cmd2_Click() { CmdSuivQuitter_Click(); }
-void Form3::Cmd3_Click() { CmdSuivSauter_Click(); }
-void Form3::Cmd4_Click() { CmdPrecedent_Click(); }
+void TrackingWindow::Cmd1_Click() { CmdSuiv_Click(); }
+void TrackingWindow::Cmd2_Click() { CmdSuivQuitter_Click(); }
+void TrackingWindow::Cmd3_Click() { CmdSuivSauter_Click(); }
+void TrackingWindow::Cmd4_Click() { CmdPrecedent_Click(); }
 
-void Form3::Avancer(std::string_view mark) {
+void TrackingWindow::Avancer(std::string_view mark) {
     WorkList& liste = module_.liste;
     const int courante = ligneCourante();
     if (courante >= List1.count()) return;
@@ -35,7 +35,7 @@ void Form3::Avancer(std::string_view mark) {
         liste.EtatFich[courante].code = mark;
     }
 
-    const int suivante = prochaineAFaire(liste, courante);
+    const int suivante = nextToDo(liste, courante);
     fixerLigneCourante(suivante);
     if (suivante > liste.DerFich) {
         AfficherListe(0);
@@ -47,7 +47,7 @@ void Form3::Avancer(std::string_view mark) {
     MontrerDocument();
 }
 
-void Form3::CmdPrecedent_Click() {
+void TrackingWindow::CmdPrecedent_Click() {
     WorkList& liste = module_.liste;
     int courante = ligneCourante();
     if (courante < 0) return;
@@ -61,7 +61,7 @@ void Form3::CmdPrecedent_Click() {
         --courante;
     }
 
-    const int precedente = precedenteAFaire(liste, courante);
+    const int precedente = previousToDo(liste, courante);
     fixerLigneCourante(precedente);
     if (precedente < 0) {
         AfficherListe(0);
@@ -73,7 +73,7 @@ void Form3::CmdPrecedent_Click() {
     MontrerDocument();
 }
 
-void Form3::PasserEnCours(int index) {
+void TrackingWindow::PasserEnCours(int index) {
     WorkLine& ligne = module_.liste.EtatFich[index];
     nbfich1.setText(decimal(index + 1));
     ligne.code = state::kInProgress;
@@ -86,7 +86,7 @@ void Form3::PasserEnCours(int index) {
     TxtEtat.setText(wideText(ligne.path));
 }
 
-void Form3::OuvrirLigne(int index) {
+void TrackingWindow::OuvrirLigne(int index) {
     const std::wstring path = wideText(module_.liste.EtatFich[index].path);
     if (equalIgnoringCase(path, module_.NomDocCourant)) return;
     // Shown now: the opening may take long.
@@ -104,9 +104,9 @@ void Form3::OuvrirLigne(int index) {
     }
 }
 
-void Form3::MontrerDocument() { cad_.bringForward(); }
+void TrackingWindow::MontrerDocument() { cad_.bringForward(); }
 
-void Form3::ActiverSuivants(std::int16_t flag) {
+void TrackingWindow::ActiverSuivants(std::int16_t flag) {
     for (const int button : {IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIVQUITTER, IDC_FORM3_CMDSUIVSAUTER,
                              IDC_FORM3_CMD1, IDC_FORM3_CMD2, IDC_FORM3_CMD3}) {
         window_->control(button).setEnabled(flag != 1);
@@ -114,7 +114,7 @@ void Form3::ActiverSuivants(std::int16_t flag) {
     if (flag == 1) TxtEtat.setText(L"Aucun");
 }
 
-void Form3::ActiverPrecedent(std::int16_t flag) {
+void TrackingWindow::ActiverPrecedent(std::int16_t flag) {
     for (const int button : {IDC_FORM3_CMDPRECEDENT, IDC_FORM3_CMD4}) {
         window_->control(button).setEnabled(flag != 1);
     }

@@ -4,7 +4,7 @@
 #include "worklist/short_path.h"
 
 std::wstring shownPath(std::wstring_view path, std::wstring_view depth) {
-    return numericValue(depth) > 0 ? CheminCourt(depth, path) : std::wstring(path);
+    return numericValue(depth) > 0 ? shortPath(depth, path) : std::wstring(path);
 }
 
 std::wstring displayLine(int index, std::wstring_view label, std::wstring_view path,

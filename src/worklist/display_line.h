@@ -8,5 +8,5 @@
 std::wstring displayLine(int index, std::wstring_view label, std::wstring_view path,
                          std::wstring_view depth);
 
-/// A path as the lists show it: whole at depth 0, otherwise shortened. Raises 9 as CheminCourt.
+/// A path as the lists show it: whole at depth 0, otherwise shortened. Raises 9 as shortPath.
 std::wstring shownPath(std::wstring_view path, std::wstring_view depth);

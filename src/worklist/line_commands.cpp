@@ -38,7 +38,7 @@ int resetSelected(WorkList& list, const LineSelected& selected) {
         if (selected(i)) list.EtatFich[i].code = state::kToDo;
     }
     takeBackInProgress(list);
-    const int first = prochaineAFaire(list, -1);
+    const int first = nextToDo(list, -1);
     list.EtatFich[first].code = state::kInProgress;
     return first;
 }
@@ -66,7 +66,7 @@ std::optional<int> reestablishCurrent(WorkList& list) {
 
 std::optional<int> resumeFrom(WorkList& list, int from) {
     takeBackInProgress(list);
-    const int line = prochaineAFaire(list, from - 1);
+    const int line = nextToDo(list, from - 1);
     if (line > list.DerFich) return std::nullopt;
     list.EtatFich[line].code = state::kInProgress;
     return line;

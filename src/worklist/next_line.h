@@ -3,7 +3,7 @@
 struct WorkList;
 
 /// The first line to do below line `from` (-1: from the top); one past the last when none is.
-int prochaineAFaire(const WorkList& list, int from);
+int nextToDo(const WorkList& list, int from);
 
 /// The nearest line to do from line `from` upwards, itself included; -1 when none is.
-int precedenteAFaire(const WorkList& list, int from);
+int previousToDo(const WorkList& list, int from);

@@ -18,14 +18,14 @@ std::size_t afterBackslash(std::wstring_view path, long rank) {
 
 }  // namespace
 
-std::wstring RemonteeNiveaux(int k) {
+std::wstring upwards(int k) {
     if (k == 0) return {};
     std::wstring result = L"\\";
     for (int level = 0; level < k; ++level) result += L"..\\";
     return result;
 }
 
-std::wstring CheminCourt(std::wstring_view depth, std::wstring_view path) {
+std::wstring shortPath(std::wstring_view depth, std::wstring_view path) {
     // The last character is never examined: a trailing backslash hides no level.
     const std::wstring_view examined = path.substr(0, path.empty() ? 0 : path.size() - 1);
     const long backslashes = static_cast<long>(std::ranges::count(examined, L'\\'));
@@ -34,7 +34,7 @@ std::wstring CheminCourt(std::wstring_view depth, std::wstring_view path) {
     const long levels = std::min(backslashes - 1, numericValue(depth));
     if (levels < 1) return {};
     std::wstring result(path.substr(0, 2));
-    result += RemonteeNiveaux(static_cast<int>(levels));
+    result += upwards(static_cast<int>(levels));
     result += path.substr(afterBackslash(path, levels));
     return result;
 }

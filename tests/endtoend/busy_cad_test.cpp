@@ -10,7 +10,7 @@
 #include "selection/selection_ids.h"
 #include "tracking/tracking_ids.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 class BusyCad : public Scenario {
@@ -167,4 +167,4 @@ TEST_F(BusyCad, SessionThatDiesLeavesTheSavedList) {
 }
 
 }  // namespace
-}  // namespace endtoend
+}  // namespace driver

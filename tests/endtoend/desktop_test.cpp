@@ -7,7 +7,7 @@
 #include "selection/selection_ids.h"
 #include "tracking/tracking_ids.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 constexpr const char* kTracking = "Tarnwick - suivi du travail -";
@@ -117,4 +117,4 @@ TEST_F(Desktop, SelectingAllLinesByKeyCountsAsAClick) {
 }
 
 }  // namespace
-}  // namespace endtoend
+}  // namespace driver

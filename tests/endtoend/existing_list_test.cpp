@@ -2,7 +2,7 @@
 #include "resume/existing_list_ids.h"
 #include "scenario.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 constexpr const char* kPrompt = "Tarnwick  :  Message";
@@ -70,4 +70,4 @@ TEST_F(ExistingList, ThatVanishedMeanwhileIsAnError) {
 }
 
 }  // namespace
-}  // namespace endtoend
+}  // namespace driver

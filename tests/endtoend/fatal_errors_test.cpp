@@ -2,7 +2,7 @@
 #include "scenario.h"
 #include "tracking/tracking_ids.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 class FatalErrors : public Scenario {
@@ -58,4 +58,4 @@ TEST_F(FatalErrors, CadSessionThatHasGone) {
 }
 
 }  // namespace
-}  // namespace endtoend
+}  // namespace driver

@@ -8,7 +8,7 @@
 #include "scenario.h"
 #include "tracking/tracking_ids.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 constexpr int kLines = 8000;
@@ -73,4 +73,4 @@ TEST_F(InterruptedSave, LeavesTheOldFileOrTheNew) {
 }
 
 }  // namespace
-}  // namespace endtoend
+}  // namespace driver

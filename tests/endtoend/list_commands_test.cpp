@@ -2,7 +2,7 @@
 #include "scenario.h"
 #include "tracking/tracking_ids.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 using calls::Close;
@@ -102,4 +102,4 @@ TEST_F(ListCommands, ChangeEliminateResumeAndPurge) {
 }
 
 }  // namespace
-}  // namespace endtoend
+}  // namespace driver

@@ -5,7 +5,7 @@
 #include "driver/wait.h"
 #include "resume/existing_list_ids.h"
 
-namespace endtoend {
+namespace driver {
 
 Scenario::Scenario() : cad(sandbox), app(sandbox) {}
 
@@ -55,4 +55,4 @@ std::string ListLine(const std::string& code, const std::string& path) {
     return code + "  " + path + "\r\n";
 }
 
-}  // namespace endtoend
+}  // namespace driver

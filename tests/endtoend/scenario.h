@@ -10,7 +10,7 @@
 #include "driver/settings.h"
 #include "driver/trial_cad.h"
 
-namespace endtoend {
+namespace driver {
 
 /// What every scenario has at hand: a directory, fresh settings, the program and a trial CAD
 /// session (neither is started yet). A scenario that fails reports all that can be seen of them.
@@ -45,4 +45,4 @@ class Scenario : public testing::Test {
 /// A line of the list file.
 std::string ListLine(const std::string& code, const std::string& path);
 
-}  // namespace endtoend
+}  // namespace driver

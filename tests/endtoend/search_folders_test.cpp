@@ -10,7 +10,7 @@
 #include "searchfolders/configuration_ids.h"
 #include "selection/selection_ids.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -112,4 +112,4 @@ TEST_F(SearchFolders, ShowOnePageAtATimeWithItsTexts) {
 }
 
 }  // namespace
-}  // namespace endtoend
+}  // namespace driver

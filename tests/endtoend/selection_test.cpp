@@ -4,7 +4,7 @@
 #include "selection/selection_ids.h"
 #include "tracking/tracking_ids.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 const std::string kUnmarked = "              ";
@@ -108,4 +108,4 @@ TEST_F(Selection, AsksBeforeAWholeDriveIsSearched) {
 }
 
 }  // namespace
-}  // namespace endtoend
+}  // namespace driver

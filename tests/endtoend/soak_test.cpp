@@ -6,7 +6,7 @@
 #include "scenario.h"
 #include "tracking/tracking_ids.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 /// TARNWICK_SOAK in the environment makes the pass longer (2000 for a real soak).
@@ -57,4 +57,4 @@ TEST_F(Soak, ResourcesStayFlat) {
 }
 
 }  // namespace
-}  // namespace endtoend
+}  // namespace driver

@@ -1,6 +1,6 @@
 #include "scenario.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 class StartUp : public Scenario {};
@@ -33,4 +33,4 @@ TEST_F(StartUp, RefusesAPositionThatIsNoNumber) {
 }
 
 }  // namespace
-}  // namespace endtoend
+}  // namespace driver

@@ -2,7 +2,7 @@
 #include "scenario.h"
 #include "tracking/tracking_ids.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 using calls::Close;
@@ -196,4 +196,4 @@ TEST_F(TrackingPass, BringsTheCadWindowForwardUnderEitherTitle) {
 }
 
 }  // namespace
-}  // namespace endtoend
+}  // namespace driver

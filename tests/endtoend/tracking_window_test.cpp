@@ -2,7 +2,7 @@
 #include "scenario.h"
 #include "tracking/tracking_ids.h"
 
-namespace endtoend {
+namespace driver {
 namespace {
 
 class TrackingWindow : public Scenario {
@@ -42,4 +42,4 @@ TEST_F(TrackingWindow, KeepsItsToolTips) {
 }
 
 }  // namespace
-}  // namespace endtoend
+}  // namespace driver

@@ -11,10 +11,10 @@ struct FakeNavigation : Navigation {
     std::vector<std::wstring> asked;
     std::function<void()> whenAsked = [] {};  ///< looks at what stands at that moment
 
-    void ChargerForm1() override { note(L"Form1"); }
-    void ChargerForm2() override { note(L"Form2"); }
-    void ChargerForm3() override { note(L"Form3"); }
-    void ChargerForm4() override { note(L"Form4"); }
+    void ChargerForm1() override { note(L"SelectionWindow"); }
+    void ChargerForm2() override { note(L"ExistingListWindow"); }
+    void ChargerForm3() override { note(L"TrackingWindow"); }
+    void ChargerForm4() override { note(L"ConfigurationWindow"); }
     void ChargerAPropos() override { note(L"APropos"); }
     void FermerAPropos() override { note(L"FermerAPropos"); }
 

@@ -23,8 +23,8 @@ struct StartUp : Program {
     StartUp(const Platform& platform, CallJournal& calls) : Program(platform), journal(calls) {}
     CallJournal& journal;
 
-    void ChargerForm1() override { journal.push_back(L"[Form1]"); }
-    void ChargerForm2() override { journal.push_back(L"[Form2]"); }
+    void ChargerForm1() override { journal.push_back(L"[SelectionWindow]"); }
+    void ChargerForm2() override { journal.push_back(L"[ExistingListWindow]"); }
     void ChargerAPropos() override { journal.push_back(L"[APropos]"); }
 };
 
@@ -70,12 +70,12 @@ TEST_F(ProgramMain, GoesThroughItsStepsInOrder) {
                                 L"GetCurrentWorkingDirectory()",
                                 L"create Scripting.FileSystemObject",
                                 L"Fso.fileExists(\"d:\\outils\\tarnwick\\tarnwick.lst\")",
-                                L"[Form1]",
+                                L"[SelectionWindow]",
                             }));
     EXPECT_TRUE(machine.boxes.shown.empty());
 
     // An existing list is asked about, even an empty one.
     machine.files.texts[L"d:\\outils\\tarnwick\\tarnwick.lst"] = L"";
     main();
-    EXPECT_EQ(machine.automation.journal.back(), L"[Form2]");
+    EXPECT_EQ(machine.automation.journal.back(), L"[ExistingListWindow]");
 }

@@ -17,12 +17,12 @@ class ExistingListPrompt : public testing::Test {
  protected:
     ExistingListPrompt() {
         module.FichListe = kListFile;
-        module.place(PlacedWindow::Form2) = {.top = 300, .left = -600};
+        module.place(PlacedWindow::ExistingListWindow) = {.top = 300, .left = -600};
         machine.files.texts[kListFile] = L"0  c:\\a\r\n";
     }
 
     void open() {
-        form = std::make_unique<Form2>(module, machine.platform, navigation);
+        form = std::make_unique<ExistingListWindow>(module, machine.platform, navigation);
         form->Form_Load();
         window().show();
     }
@@ -32,7 +32,7 @@ class ExistingListPrompt : public testing::Test {
     FakePlatform machine;
     FakeNavigation navigation;
     Module1 module;
-    std::unique_ptr<Form2> form;
+    std::unique_ptr<ExistingListWindow> form;
 };
 
 }  // namespace
@@ -43,9 +43,9 @@ TEST_F(ExistingListPrompt, EveryAnswerSavesThePlaceClosesThePromptAndGoesOn) {
         bool resumed;
         const wchar_t* next;
     } cases[] = {
-        {IDC_FORM2_CMDOK, true, L"Form3"},
-        {IDC_FORM2_CMDANNULE, false, L"Form1"},
-        {IDC_FORM2_CMDEFFACER, false, L"Form1"},
+        {IDC_FORM2_CMDOK, true, L"TrackingWindow"},
+        {IDC_FORM2_CMDANNULE, false, L"SelectionWindow"},
+        {IDC_FORM2_CMDEFFACER, false, L"SelectionWindow"},
     };
     for (const auto& c : cases) {
         machine.settings.entries.clear();

@@ -11,9 +11,9 @@ namespace {
 
 using Texts = std::vector<std::wstring>;
 
-class ConfigurationWindow : public testing::Test {
+class ConfigurationFixture : public testing::Test {
  protected:
-    ConfigurationWindow() {
+    ConfigurationFixture() {
         module.RepAppli = L"c:\\tarnwick";
         module.FichConfig = L"c:\\tarnwick\\tarnwick.cfg";
         module.LibConfiguration = L"Configuration:";
@@ -25,7 +25,7 @@ class ConfigurationWindow : public testing::Test {
 
     void open(const wchar_t* file) {
         machine.files.texts[module.FichConfig] = file;
-        form = std::make_unique<Form4>(module, machine.platform);
+        form = std::make_unique<ConfigurationWindow>(module, machine.platform);
         list(IDC_FORM4_LIST1).severalSelectable = false;
         form->Form_Load();
         machine.automation.takeJournal();
@@ -49,13 +49,13 @@ class ConfigurationWindow : public testing::Test {
 
     FakePlatform machine;
     Module1 module;
-    std::unique_ptr<Form4> form;
+    std::unique_ptr<ConfigurationWindow> form;
 };
 
 constexpr auto kTwo =
     L"Configuration:  A\r\n   c:\\a\r\nConfiguration:  B\r\n   c:\\b\r\n   d:\\b\r\n";
 
-TEST_F(ConfigurationWindow, OpensOnTheLastConfiguration) {
+TEST_F(ConfigurationFixture, OpensOnTheLastConfiguration) {
     machine.settings.write(L"mervale", L"listerepert", L"toppos4", L"300");
     open(kTwo);
     EXPECT_EQ(std::tie(window().widthTwips, window().heightTwips), std::tuple(13600, 6200));
@@ -67,7 +67,7 @@ TEST_F(ConfigurationWindow, OpensOnTheLastConfiguration) {
     EXPECT_FALSE(editing());
 }
 
-TEST_F(ConfigurationWindow, AsksForTheFoldersInForceAtEachClickOnThem) {
+TEST_F(ConfigurationFixture, AsksForTheFoldersInForceAtEachClickOnThem) {
     open(kTwo);
     machine.automation.searchFolders = L"s:\\3";
     choose(1);
@@ -77,7 +77,7 @@ TEST_F(ConfigurationWindow, AsksForTheFoldersInForceAtEachClickOnThem) {
     EXPECT_EQ(machine.automation.takeJournal(), CallJournal{L"GetSearchFolders(0:i4)"});
 }
 
-TEST_F(ConfigurationWindow, AppliesTheSelectedConfigurationAndTellsTheOutcome) {
+TEST_F(ConfigurationFixture, AppliesTheSelectedConfigurationAndTellsTheOutcome) {
     open(kTwo);
     window().click(IDC_FORM4_CMDCHOISIR);
     machine.automation.setSearchFoldersResult = std::int32_t{1};
@@ -96,7 +96,7 @@ TEST_F(ConfigurationWindow, AppliesTheSelectedConfigurationAndTellsTheOutcome) {
     EXPECT_EQ(failure.defaultButton, 2);
 }
 
-TEST_F(ConfigurationWindow, AddsATreeInThePickersOrderAndPassesOverLoops) {
+TEST_F(ConfigurationFixture, AddsATreeInThePickersOrderAndPassesOverLoops) {
     machine.files.links[L"c:\\p\\1\\retour"] = L"c:\\p";
     open(kTwo);
     window().click(IDC_FORM4_CMDCREER);
@@ -125,7 +125,7 @@ TEST_F(ConfigurationWindow, AddsATreeInThePickersOrderAndPassesOverLoops) {
     EXPECT_TRUE(machine.automation.takeJournal().empty());
 }
 
-TEST_F(ConfigurationWindow, ModifyingTheFoldersInForceAppliesThemAtOnce) {
+TEST_F(ConfigurationFixture, ModifyingTheFoldersInForceAppliesThemAtOnce) {
     open(kTwo);
     choose(0);
     window().click(IDC_FORM4_CMDMODIFIER);
@@ -137,7 +137,7 @@ TEST_F(ConfigurationWindow, ModifyingTheFoldersInForceAppliesThemAtOnce) {
     EXPECT_EQ(machine.automation.takeJournal(), CallJournal{L"setsearchfolders(0:i4, &\"s:\\2\")"});
 }
 
-TEST_F(ConfigurationWindow, OnlySauvegarderWritesTheFile) {
+TEST_F(ConfigurationFixture, OnlySauvegarderWritesTheFile) {
     open(kTwo);
     choose(1);
     window().click(IDC_FORM4_CMDRENOMMER);
@@ -152,7 +152,7 @@ TEST_F(ConfigurationWindow, OnlySauvegarderWritesTheFile) {
     EXPECT_THROW(window().click(IDC_FORM4_CMDENREGISTER), RuntimeError);
 }
 
-TEST_F(ConfigurationWindow, AnnulerKeepsTheConfigurationsAndThePlace) {
+TEST_F(ConfigurationFixture, AnnulerKeepsTheConfigurationsAndThePlace) {
     open(kTwo);
     window().click(IDC_FORM4_CMDCREER);
     window().moveTo(90000, 15);
@@ -160,10 +160,10 @@ TEST_F(ConfigurationWindow, AnnulerKeepsTheConfigurationsAndThePlace) {
     EXPECT_FALSE(editing());
     EXPECT_EQ(module.configs.NbConf, 2);
     EXPECT_EQ(machine.settings.read(L"mervale", L"listerepert", L"leftpos4", L""), L"15");
-    EXPECT_EQ(module.place(PlacedWindow::Form4).top, 32767);
+    EXPECT_EQ(module.place(PlacedWindow::ConfigurationFixture).top, 32767);
 }
 
-TEST_F(ConfigurationWindow, StaysOnItsDirectoryWhenADriveIsNotReady) {
+TEST_F(ConfigurationFixture, StaysOnItsDirectoryWhenADriveIsNotReady) {
     machine.files.presentDrives = {L'c', L'd'};
     machine.files.unreadable.insert(L"d:");
     open(kTwo);

@@ -2,7 +2,7 @@
 
 namespace {
 
-class Form1Choosing : public SelectionWindow {
+class Form1Choosing : public SelectionFixture {
  protected:
     /// The list holds, in this order, c:\plans\axe.slddrw, c:\plans\Zoe.SLDDRW and
     /// c:\plans\moteur\bielle.SLDDRW.

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(MotifType, NamesItsKindsAlwaysInTheSameOrder) {
+TEST(DocumentKinds, NamesItsKindsAlwaysInTheSameOrder) {
     const struct {
         const wchar_t* typed;
         const wchar_t* pattern;
@@ -15,11 +15,11 @@ TEST(MotifType, NamesItsKindsAlwaysInTheSameOrder) {
         {L"*.SLDPR", L""},
         {L"", L""},
     };
-    for (const auto& c : cases) EXPECT_EQ(MotifType(c.typed).pattern(), c.pattern) << c.typed;
+    for (const auto& c : cases) EXPECT_EQ(DocumentKinds(c.typed).pattern(), c.pattern) << c.typed;
 }
 
-TEST(MotifType, AcceptsByWhatFollowsTheLastDot) {
-    const MotifType partsAndDrawings(L"*.SLDPRT ; *.SLDDRW");
+TEST(DocumentKinds, AcceptsByWhatFollowsTheLastDot) {
+    const DocumentKinds partsAndDrawings(L"*.SLDPRT ; *.SLDDRW");
     for (const wchar_t* name :
          {L"a.SLDPRT", L"a.sldprt", L"a.b.SldPrt", L"a.slddrw", L".SLDDRW", L"é b[1].SLDPRT"}) {
         EXPECT_TRUE(partsAndDrawings.accepts(name)) << name;
@@ -28,6 +28,6 @@ TEST(MotifType, AcceptsByWhatFollowsTheLastDot) {
                                 L"a.SLDPRT ", L"a.XSLDPRT", L"a.\x0253LDPRT", L""}) {
         EXPECT_FALSE(partsAndDrawings.accepts(name)) << name;
     }
-    EXPECT_TRUE(MotifType(L"sldasm").accepts(L"a.sldasm"));
-    EXPECT_FALSE(MotifType(L"").accepts(L"a.SLDPRT"));
+    EXPECT_TRUE(DocumentKinds(L"sldasm").accepts(L"a.sldasm"));
+    EXPECT_FALSE(DocumentKinds(L"").accepts(L"a.SLDPRT"));
 }

@@ -19,7 +19,7 @@ class Search : public testing::Test {
               const wchar_t* types = L"*.SLDPRT ; *.SLDASM ; *.SLDDRW") {
         found.restart(withSubdirectories);
         listed.clear();
-        DocumentSearch search(files, found, MotifType(types),
+        DocumentSearch search(files, found, DocumentKinds(types),
                               [&](long filesListed) { listed.push_back(filesListed); });
         search.run(directory, withSubdirectories);
         Paths result;

@@ -3,7 +3,7 @@
 
 namespace {
 
-class Form1Leaving : public SelectionWindow {
+class Form1Leaving : public SelectionFixture {
  protected:
     void moveWindow() {
         window().topTwips = 450;
@@ -30,7 +30,7 @@ TEST_F(Form1Leaving, LaunchingWritesTheChosenDocumentsThenHandsOver) {
         EXPECT_EQ(window().state, FakeWindow::State::Shown);
     };
     click(IDC_FORM1_CMD_TRACER);
-    EXPECT_EQ(navigation.asked.back(), L"Form3");
+    EXPECT_EQ(navigation.asked.back(), L"TrackingWindow");
     EXPECT_EQ(window().state, FakeWindow::State::Hidden);
 }
 
@@ -75,6 +75,6 @@ TEST_F(Form1Leaving, OpensTheOtherWindowsBesideItself) {
     load();
     click(IDC_FORM1_CMDAP);
     click(IDC_FORM1_CMDREPDEF);
-    EXPECT_EQ(navigation.asked, (Lines{L"FermerAPropos", L"APropos", L"Form4"}));
+    EXPECT_EQ(navigation.asked, (Lines{L"FermerAPropos", L"APropos", L"ConfigurationWindow"}));
     EXPECT_EQ(window().state, FakeWindow::State::Shown);
 }

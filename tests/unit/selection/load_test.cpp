@@ -1,6 +1,6 @@
 #include "unit/selection/selection_window_fixture.h"
 
-using Form1Load = SelectionWindow;
+using Form1Load = SelectionFixture;
 
 TEST_F(Form1Load, ShowsTheDrawingsOfTheWorkingDirectory) {
     load();

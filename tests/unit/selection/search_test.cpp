@@ -3,7 +3,7 @@
 #include "unit/raised.h"
 #include "unit/selection/selection_window_fixture.h"
 
-using Form1Search = SelectionWindow;
+using Form1Search = SelectionFixture;
 
 TEST_F(Form1Search, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
     const struct {

@@ -1,6 +1,6 @@
 #include "unit/selection/selection_window_fixture.h"
 
-SelectionWindow::SelectionWindow() {
+SelectionFixture::SelectionFixture() {
     for (const wchar_t* path :
          {L"c:\\a.SLDDRW", L"c:\\plans\\axe.slddrw", L"c:\\plans\\Bras.SLDPRT",
           L"c:\\plans\\corps.SLDASM", L"c:\\plans\\Zoe.SLDDRW", L"c:\\plans\\moteur\\bielle.SLDDRW",
@@ -11,33 +11,33 @@ SelectionWindow::SelectionWindow() {
     machine.files.currentDirectories[L'd'] = L"d:\\doc";
     module.labels = standardLabels();
     module.FichListe = L"c:\\tarnwick\\tarnwick.lst";
-    module.place(PlacedWindow::Form1) = {.top = 300, .left = -600};
+    module.place(PlacedWindow::SelectionWindow) = {.top = 300, .left = -600};
 }
 
-void SelectionWindow::load(const std::wstring& workingDirectory) {
+void SelectionFixture::load(const std::wstring& workingDirectory) {
     module.RepTravailSw = workingDirectory;
-    form = std::make_unique<Form1>(module, machine.platform, navigation);
+    form = std::make_unique<SelectionWindow>(module, machine.platform, navigation);
     window().listBox(IDC_FORM1_REPERT).severalSelectable = false;
     form->Form_Load();
     window().show();
 }
 
-void SelectionWindow::type(const std::wstring& typed) {
+void SelectionFixture::type(const std::wstring& typed) {
     types().content = typed;
     window().sink.raise(IDC_FORM1_TYPEF, Event::Change);
 }
 
-void SelectionWindow::chooseType(int line) {
+void SelectionFixture::chooseType(int line) {
     types().selectLine(line);
     click(IDC_FORM1_TYPEF);
 }
 
-void SelectionWindow::chooseDrive(int line) {
+void SelectionFixture::chooseDrive(int line) {
     window().comboBox(IDC_FORM1_UNITE).selectLine(line);
     click(IDC_FORM1_UNITE);
 }
 
-void SelectionWindow::openDirectory(const std::wstring& name) {
+void SelectionFixture::openDirectory(const std::wstring& name) {
     FakeListBox& tree = window().listBox(IDC_FORM1_REPERT);
     for (int i = 0; i < tree.count(); ++i) {
         const std::wstring line = tree.line(i);
@@ -46,17 +46,17 @@ void SelectionWindow::openDirectory(const std::wstring& name) {
     window().sink.raise(IDC_FORM1_REPERT, Event::DoubleClick);
 }
 
-void SelectionWindow::tick(bool ticked) {
+void SelectionFixture::tick(bool ticked) {
     window().checkBox(IDC_FORM1_SOUSREP).ticked = ticked;
     click(IDC_FORM1_SOUSREP);
 }
 
-void SelectionWindow::highlight(const std::vector<int>& lines) {
+void SelectionFixture::highlight(const std::vector<int>& lines) {
     list().clearSelection();
     for (const int line : lines) list().select(line, true);
 }
 
-SelectionWindow::Lines SelectionWindow::unchosen() {
+SelectionFixture::Lines SelectionFixture::unchosen() {
     Lines result;
     for (const std::wstring& line : list().texts()) {
         EXPECT_EQ(line.substr(0, 14), std::wstring(14, L' '));
@@ -65,7 +65,7 @@ SelectionWindow::Lines SelectionWindow::unchosen() {
     return result;
 }
 
-std::wstring SelectionWindow::marks() {
+std::wstring SelectionFixture::marks() {
     std::wstring result;
     for (const auto& line : list().lines) result += std::to_wstring(line.mark);
     return result;

@@ -17,11 +17,11 @@
 ///   c:\plans\moteur      bielle.SLDDRW, piston.SLDPRT
 ///   d:\b.SLDDRW
 ///   d:\doc        d.SLDDRW; the current directory of its drive
-class SelectionWindow : public testing::Test {
+class SelectionFixture : public testing::Test {
  protected:
     using Lines = std::vector<std::wstring>;
 
-    SelectionWindow();
+    SelectionFixture();
 
     /// Builds and loads the window on a working directory.
     void load(const std::wstring& workingDirectory = L"c:\\plans");
@@ -54,5 +54,5 @@ class SelectionWindow : public testing::Test {
     FakePlatform machine;
     FakeNavigation navigation;
     Module1 module;
-    std::unique_ptr<Form1> form;
+    std::unique_ptr<SelectionWindow> form;
 };

@@ -18,9 +18,9 @@ TEST(WindowPlace, SavedFarOffCanBeReadBack) {
     NoEvents sink;
     FakeWindow window(0, sink);
     window.moveTo(-480'000, 57'600);
-    savePlace(settings, PlacedWindow::Form1, window);
+    savePlace(settings, PlacedWindow::SelectionWindow, window);
     Module1 module;
-    readPlace(settings, module, PlacedWindow::Form1);
-    EXPECT_EQ(module.place(PlacedWindow::Form1).top, -32768);
-    EXPECT_EQ(module.place(PlacedWindow::Form1).left, 32767);
+    readPlace(settings, module, PlacedWindow::SelectionWindow);
+    EXPECT_EQ(module.place(PlacedWindow::SelectionWindow).top, -32768);
+    EXPECT_EQ(module.place(PlacedWindow::SelectionWindow).left, 32767);
 }

@@ -1,6 +1,6 @@
 #include "unit/tracking/tracking_window_fixture.h"
 
-using Advance = TrackingWindow;
+using Advance = TrackingFixture;
 
 TEST_F(Advance, EachButtonAndItsTwinMarkInTheirWay) {
     const CallJournal opensNext = {

@@ -1,6 +1,6 @@
 #include "unit/tracking/tracking_window_fixture.h"
 
-using Display = TrackingWindow;
+using Display = TrackingFixture;
 using Lines = std::vector<std::wstring>;
 
 TEST_F(Display, OfANewListShowsAllLinesButTheFirstAsToDo) {

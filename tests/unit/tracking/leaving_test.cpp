@@ -1,6 +1,6 @@
 #include "unit/tracking/tracking_window_fixture.h"
 
-using Leaving = TrackingWindow;
+using Leaving = TrackingFixture;
 
 TEST_F(Leaving, BySortieSavesPlaceAndOptionsAndClosesTheDocument) {
     loadStates(L"00");

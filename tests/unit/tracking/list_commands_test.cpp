@@ -7,7 +7,7 @@ namespace {
 constexpr auto kYes = MessageBoxes::Answer::Yes;
 constexpr auto kNo = MessageBoxes::Answer::No;
 
-class ListCommands : public TrackingWindow {
+class ListCommands : public TrackingFixture {
  protected:
     void select(const std::vector<int>& lines) {
         list().clearSelection();

@@ -1,6 +1,6 @@
 #include "unit/tracking/tracking_window_fixture.h"
 
-using Load = TrackingWindow;
+using Load = TrackingFixture;
 
 TEST_F(Load, PutsTheWindowInItsPlaceAndHidesWhatIsNotForTheUser) {
     load(L"0  c:\\a\r\n0  c:\\b\r\n");

@@ -1,6 +1,6 @@
 #include "unit/tracking/tracking_window_fixture.h"
 
-using Progress = TrackingWindow;
+using Progress = TrackingFixture;
 
 TEST_F(Progress, CountsTheLinesNoLongerToDoUntilThePassEnds) {
     const auto shown = [&] { return std::pair(window().progressDone, window().progressTotal); };

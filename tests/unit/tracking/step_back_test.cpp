@@ -1,6 +1,6 @@
 #include "unit/tracking/tracking_window_fixture.h"
 
-using StepBack = TrackingWindow;
+using StepBack = TrackingFixture;
 
 TEST_F(StepBack, OpensTheNearestLineToDoAbove) {
     for (const int button : {IDC_FORM3_CMDPRECEDENT, IDC_FORM3_CMD4}) {

@@ -2,24 +2,24 @@
 
 #include "common/utf8.h"
 
-TrackingWindow::TrackingWindow() {
+TrackingFixture::TrackingFixture() {
     module.labels = standardLabels();
     module.FichListe = L"c:\\tarnwick\\tarnwick.lst";
     module.NomVersionSw = L"SolidWorks 2004";
-    module.place(PlacedWindow::Form3) = {.top = 300, .left = -600};
+    module.place(PlacedWindow::TrackingWindow) = {.top = 300, .left = -600};
     // No rebuild: the cases that are about it tick the boxes.
     machine.settings.write(L"tarnwick", L"startup", L"regcheck", L"1100");
 }
 
-void TrackingWindow::load(const std::wstring& listFile) {
+void TrackingFixture::load(const std::wstring& listFile) {
     machine.files.texts[module.FichListe] = listFile;
     module.SwApp = machine.automation.attach(L"SldWorks.Application");
     takeCalls();
-    form = std::make_unique<Form3>(module, machine.platform);
+    form = std::make_unique<TrackingWindow>(module, machine.platform);
     form->Form_Load();
 }
 
-void TrackingWindow::loadStates(const std::wstring& codes) {
+void TrackingFixture::loadStates(const std::wstring& codes) {
     std::wstring listFile;
     wchar_t name = L'a';
     for (const wchar_t code : codes) {
@@ -29,7 +29,7 @@ void TrackingWindow::loadStates(const std::wstring& codes) {
     takeCalls();
 }
 
-std::wstring TrackingWindow::states() {
+std::wstring TrackingFixture::states() {
     std::wstring result;
     for (int i = 0; i <= module.liste.DerFich; ++i) {
         result += (i == 0 ? L"" : L" ") + wideText(module.liste.EtatFich[i].code);
@@ -37,16 +37,16 @@ std::wstring TrackingWindow::states() {
     return result;
 }
 
-bool TrackingWindow::canAdvance() {
+bool TrackingFixture::canAdvance() {
     return enabledAlike({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIVQUITTER, IDC_FORM3_CMDSUIVSAUTER,
                          IDC_FORM3_CMD1, IDC_FORM3_CMD2, IDC_FORM3_CMD3});
 }
 
-bool TrackingWindow::canStepBack() {
+bool TrackingFixture::canStepBack() {
     return enabledAlike({IDC_FORM3_CMDPRECEDENT, IDC_FORM3_CMD4});
 }
 
-bool TrackingWindow::enabledAlike(const std::vector<int>& buttons) {
+bool TrackingFixture::enabledAlike(const std::vector<int>& buttons) {
     const bool first = window().control(buttons.front()).enabled;
     for (const int button : buttons) EXPECT_EQ(window().control(button).enabled, first) << button;
     return first;

@@ -11,9 +11,9 @@
 #include "tracking/tracking_window.h"
 
 /// The tracking window on a machine in memory, driven by its controls' events.
-class TrackingWindow : public testing::Test {
+class TrackingFixture : public testing::Test {
  protected:
-    TrackingWindow();
+    TrackingFixture();
 
     /// Loads the window over a list file with this text. What that called stays in the journal.
     void load(const std::wstring& listFile);
@@ -37,7 +37,7 @@ class TrackingWindow : public testing::Test {
 
     FakePlatform machine;
     Module1 module;
-    std::unique_ptr<Form3> form;
+    std::unique_ptr<TrackingWindow> form;
 
  private:
     bool enabledAlike(const std::vector<int>& buttons);

@@ -15,7 +15,7 @@ std::wstring pathWithBackslashes(int count) {
 
 }  // namespace
 
-TEST(CheminCourt, HidesTheFirstLevels) {
+TEST(shortPath, HidesTheFirstLevels) {
     constexpr wchar_t kPath[] = L"C:\\A\\B\\C\\f.SLDPRT";
     const struct {
         const wchar_t* depth;
@@ -37,13 +37,13 @@ TEST(CheminCourt, HidesTheFirstLevels) {
         {L"3", L"\\\\serveur\\plans\\f", L"\\\\\\..\\..\\..\\f"},
         {L"1", L"x\\\\y", L"x\\\\..\\y"},  // the "drive" is always two characters
     };
-    for (const auto& c : cases) EXPECT_EQ(CheminCourt(c.depth, c.path), c.shown) << c.path;
+    for (const auto& c : cases) EXPECT_EQ(shortPath(c.depth, c.path), c.shown) << c.path;
 }
 
-TEST(CheminCourt, TakesSixteenBackslashesAndNoMore) {
-    EXPECT_EQ(CheminCourt(L"9", pathWithBackslashes(16)),
+TEST(shortPath, TakesSixteenBackslashesAndNoMore) {
+    EXPECT_EQ(shortPath(L"9", pathWithBackslashes(16)),
               L"c:\\..\\..\\..\\..\\..\\..\\..\\..\\..\\d\\d\\d\\d\\d\\d\\f");
-    EXPECT_EQ(CheminCourt(L"1", pathWithBackslashes(16) + L"\\").substr(0, 8), L"c:\\..\\d\\");
-    EXPECT_EQ(raised([] { CheminCourt(L"1", pathWithBackslashes(17)); }), 9);
-    EXPECT_EQ(raised([] { CheminCourt(L"0", pathWithBackslashes(17)); }), 9);
+    EXPECT_EQ(shortPath(L"1", pathWithBackslashes(16) + L"\\").substr(0, 8), L"c:\\..\\d\\");
+    EXPECT_EQ(raised([] { shortPath(L"1", pathWithBackslashes(17)); }), 9);
+    EXPECT_EQ(raised([] { shortPath(L"0", pathWithBackslashes(17)); }), 9);
 }

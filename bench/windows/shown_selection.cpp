@@ -1,10 +1,10 @@
-#include "selection_window.h"
+#include "shown_selection.h"
 
 #include "selection/selection_ids.h"
 
-SelectionWindow::SelectionWindow(const std::filesystem::path& directory, bool withSubdirectories) {
+ShownSelection::ShownSelection(const std::filesystem::path& directory, bool withSubdirectories) {
     stage_.module.RepTravailSw = directory.wstring();
-    form_ = std::make_unique<Form1>(stage_.module, stage_.platform, stage_.navigation);
+    form_ = std::make_unique<SelectionWindow>(stage_.module, stage_.platform, stage_.navigation);
     form_->Form_Load();
     Window& window = form_->window();
     window.show();
@@ -13,4 +13,4 @@ SelectionWindow::SelectionWindow(const std::filesystem::path& directory, bool wi
     form_->sousrep_Click();
 }
 
-int SelectionWindow::lineCount() { return form_->window().listBox(IDC_FORM1_LIST1).count(); }
+int ShownSelection::lineCount() { return form_->window().listBox(IDC_FORM1_LIST1).count(); }

@@ -6,14 +6,14 @@
 #include "stage.h"
 
 /// The selection window, shown, on a directory and all kinds of documents.
-class SelectionWindow {
+class ShownSelection {
  public:
-    SelectionWindow(const std::filesystem::path& directory, bool withSubdirectories);
+    ShownSelection(const std::filesystem::path& directory, bool withSubdirectories);
 
-    Form1& form() { return *form_; }
+    SelectionWindow& form() { return *form_; }
     int lineCount();
 
  private:
     Stage stage_;
-    std::unique_ptr<Form1> form_;
+    std::unique_ptr<SelectionWindow> form_;
 };
