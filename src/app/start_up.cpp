@@ -35,9 +35,8 @@ void Program::Main() {
 }
 
 void Program::readPlaces() {
-    for (const PlacedWindow window :
-         {PlacedWindow::SelectionWindow, PlacedWindow::ExistingListWindow,
-          PlacedWindow::TrackingWindow, PlacedWindow::ConfigurationWindow}) {
+    for (const PlacedWindow window : {PlacedWindow::Selection, PlacedWindow::ExistingList,
+                                      PlacedWindow::Tracking, PlacedWindow::Configuration}) {
         readPlace(platform_.settings, module_, window);
     }
 }

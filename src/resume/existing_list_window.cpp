@@ -20,7 +20,7 @@ void ExistingListWindow::raise(int controlId, Event event) {
 }
 
 void ExistingListWindow::Form_Load() {
-    const WindowPlace& place = module_.place(PlacedWindow::ExistingListWindow);
+    const WindowPlace& place = module_.place(PlacedWindow::ExistingList);
     window_->moveTo(place.top, place.left);
 }
 
@@ -44,7 +44,7 @@ void ExistingListWindow::CmdEffacer_Click() {
 }
 
 void ExistingListWindow::Quitter(bool reprendre) {
-    savePlace(platform_.settings, PlacedWindow::ExistingListWindow, *window_);
+    savePlace(platform_.settings, PlacedWindow::ExistingList, *window_);
     window_->unload();
     module_.NouvelleListe = !reprendre;
     module_.ReprendreListe = reprendre;

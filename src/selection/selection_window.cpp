@@ -54,7 +54,7 @@ void SelectionWindow::Form_Load() {
     typef.setText(L"*.SLDDRW");
     MasquerEssais();
     ChoisirDepart();
-    const WindowPlace& place = module_.place(PlacedWindow::SelectionWindow);
+    const WindowPlace& place = module_.place(PlacedWindow::Selection);
     window_->moveTo(place.top, place.left);
 }
 
@@ -114,7 +114,7 @@ void SelectionWindow::CmdRepDef_Click() { navigation_.ChargerForm4(); }
 void SelectionWindow::cmd_tracer_Click() { LancerTraitement(); }
 
 void SelectionWindow::LancerTraitement() {
-    savePlace(platform_.settings, PlacedWindow::SelectionWindow, *window_);
+    savePlace(platform_.settings, PlacedWindow::Selection, *window_);
     std::string text;
     const long count = numericValue(cptfichier.text());
     for (long i = 0; i < count; ++i) {
@@ -131,7 +131,7 @@ std::wstring SelectionWindow::cheminComplet(long index) const {
 }
 
 void SelectionWindow::cmd_sortie_Click() {
-    savePlace(platform_.settings, PlacedWindow::SelectionWindow, *window_);
+    savePlace(platform_.settings, PlacedWindow::Selection, *window_);
     window_->unload();
     throw ProgramEnd{};
 }

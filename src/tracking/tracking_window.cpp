@@ -39,7 +39,7 @@ void TrackingWindow::raise(int controlId, Event event) {
 }
 
 void TrackingWindow::Form_Load() {
-    const WindowPlace& place = module_.place(PlacedWindow::TrackingWindow);
+    const WindowPlace& place = module_.place(PlacedWindow::Tracking);
     window_->moveTo(place.top, place.left);
     CocherOptions();
     CkMinimise.setVisible(false);
@@ -113,7 +113,7 @@ void TrackingWindow::DemarrerEnFin() {
 }
 
 void TrackingWindow::CmdSortie_Click() {
-    savePlace(platform_.settings, PlacedWindow::TrackingWindow, *window_);
+    savePlace(platform_.settings, PlacedWindow::Tracking, *window_);
     platform_.settings.write(L"tarnwick", L"startup", L"RegCheck", ChaineOptions());
     cad_.closeDocument();
     throw ProgramEnd{};

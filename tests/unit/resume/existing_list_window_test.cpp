@@ -17,7 +17,7 @@ class ExistingListPrompt : public testing::Test {
  protected:
     ExistingListPrompt() {
         module.FichListe = kListFile;
-        module.place(PlacedWindow::ExistingListWindow) = {.top = 300, .left = -600};
+        module.place(PlacedWindow::ExistingList) = {.top = 300, .left = -600};
         machine.files.texts[kListFile] = L"0  c:\\a\r\n";
     }
 

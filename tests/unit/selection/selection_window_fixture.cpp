@@ -11,7 +11,7 @@ SelectionFixture::SelectionFixture() {
     machine.files.currentDirectories[L'd'] = L"d:\\doc";
     module.labels = standardLabels();
     module.FichListe = L"c:\\tarnwick\\tarnwick.lst";
-    module.place(PlacedWindow::SelectionWindow) = {.top = 300, .left = -600};
+    module.place(PlacedWindow::Selection) = {.top = 300, .left = -600};
 }
 
 void SelectionFixture::load(const std::wstring& workingDirectory) {

@@ -18,9 +18,9 @@ TEST(WindowPlace, SavedFarOffCanBeReadBack) {
     NoEvents sink;
     FakeWindow window(0, sink);
     window.moveTo(-480'000, 57'600);
-    savePlace(settings, PlacedWindow::SelectionWindow, window);
+    savePlace(settings, PlacedWindow::Selection, window);
     Module1 module;
-    readPlace(settings, module, PlacedWindow::SelectionWindow);
-    EXPECT_EQ(module.place(PlacedWindow::SelectionWindow).top, -32768);
-    EXPECT_EQ(module.place(PlacedWindow::SelectionWindow).left, 32767);
+    readPlace(settings, module, PlacedWindow::Selection);
+    EXPECT_EQ(module.place(PlacedWindow::Selection).top, -32768);
+    EXPECT_EQ(module.place(PlacedWindow::Selection).left, 32767);
 }

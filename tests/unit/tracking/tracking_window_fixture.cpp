@@ -6,7 +6,7 @@ TrackingFixture::TrackingFixture() {
     module.labels = standardLabels();
     module.FichListe = L"c:\\tarnwick\\tarnwick.lst";
     module.NomVersionSw = L"SolidWorks 2004";
-    module.place(PlacedWindow::TrackingWindow) = {.top = 300, .left = -600};
+    module.place(PlacedWindow::Tracking) = {.top = 300, .left = -600};
     // No rebuild: the cases that are about it tick the boxes.
     machine.settings.write(L"tarnwick", L"startup", L"regcheck", L"1100");
 }
