@@ -16,7 +16,7 @@ struct WindowPlace {
 };
 
 /// The windows whose places are kept, in the order of PosFenetre.
-enum class PlacedWindow { Selection, ExistingList, Tracking, Configuration };
+enum class PlacedWindow { Selection, ExistingList, Tracking, SearchFolders };
 
 /// The program-wide variables. Start-up sets them; the windows share them.
 struct Module1 {

@@ -36,7 +36,7 @@ void Program::Main() {
 
 void Program::readPlaces() {
     for (const PlacedWindow window : {PlacedWindow::Selection, PlacedWindow::ExistingList,
-                                      PlacedWindow::Tracking, PlacedWindow::Configuration}) {
+                                      PlacedWindow::Tracking, PlacedWindow::SearchFolders}) {
         readPlace(platform_.settings, module_, window);
     }
 }

@@ -61,8 +61,8 @@ void ConfigurationWindow::raise(int controlId, Event event) {
 
 void ConfigurationWindow::Form_Load() {
     window_->resize(kWidth, kHeight);
-    readPlace(platform_.settings, module_, PlacedWindow::Configuration);
-    const WindowPlace& place = module_.place(PlacedWindow::Configuration);
+    readPlace(platform_.settings, module_, PlacedWindow::SearchFolders);
+    const WindowPlace& place = module_.place(PlacedWindow::SearchFolders);
     window_->moveTo(place.top, place.left);
     Cpt_Rep.setText(L"0");
     NNiv.setText(L"0");
@@ -146,10 +146,10 @@ void ConfigurationWindow::Form_Close() {
 }
 
 void ConfigurationWindow::SauverPosition() {
-    savePlace(platform_.settings, PlacedWindow::Configuration, *window_);
+    savePlace(platform_.settings, PlacedWindow::SearchFolders, *window_);
 }
 
 void ConfigurationWindow::RetenirPosition() {
-    module_.place(PlacedWindow::Configuration) = {withinSixteenBits(window_->top()),
+    module_.place(PlacedWindow::SearchFolders) = {withinSixteenBits(window_->top()),
                                                         withinSixteenBits(window_->left())};
 }

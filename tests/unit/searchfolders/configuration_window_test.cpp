@@ -160,7 +160,7 @@ TEST_F(ConfigurationFixture, AnnulerKeepsTheConfigurationsAndThePlace) {
     EXPECT_FALSE(editing());
     EXPECT_EQ(module.configs.NbConf, 2);
     EXPECT_EQ(machine.settings.read(L"mervale", L"listerepert", L"leftpos4", L""), L"15");
-    EXPECT_EQ(module.place(PlacedWindow::Configuration).top, 32767);
+    EXPECT_EQ(module.place(PlacedWindow::SearchFolders).top, 32767);
 }
 
 TEST_F(ConfigurationFixture, StaysOnItsDirectoryWhenADriveIsNotReady) {
