@@ -11,22 +11,21 @@
 
 namespace {
 
-std::wstring samplePath(long i) {
+std::wstring samplePath(std::int64_t i) {
     return L"C:\\plans\\moteur\\ensemble " + decimal(i / 100) + L"\\sous-ensemble " +
            decimal(i / 10) + L"\\piece " + decimal(i) + L".SLDPRT";
 }
 
-std::string sampleFile(long count) {
+std::string sampleFile(std::int64_t count) {
     std::string text;
-    for (long i = 0; i < count; ++i) appendFreshLine(text, samplePath(i));
+    for (std::int64_t i = 0; i < count; ++i) appendFreshLine(text, samplePath(i));
     return text;
 }
 
 void displayLines(benchmark::State& state) {
     const std::wstring path = samplePath(4321);
-    const StateLabels labels = standardLabels();
-    const std::wstring depth = decimal(state.range(0));
-    for (auto _ : state) benchmark::DoNotOptimize(displayLine(4321, labels.LibFait, path, depth));
+    const int depth = static_cast<int>(state.range(0));
+    for (auto _ : state) benchmark::DoNotOptimize(displayLine(4321, label::kDone, path, depth));
 }
 BENCHMARK(displayLines)->Arg(0)->Arg(3);
 
@@ -41,7 +40,7 @@ void formatting(benchmark::State& state) {
     WorkList list;
     parseListFile(sampleFile(state.range(0)), list);
     const ByteSink sink = [](std::string_view piece) { benchmark::DoNotOptimize(piece.data()); };
-    for (auto _ : state) formatListFile(list, state.range(0), sink);
+    for (auto _ : state) formatListFile(list, static_cast<int>(state.range(0)), sink);
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(formatting)->Arg(1000)->Arg(2000)->Arg(4000)->Arg(8001)->Complexity(benchmark::oN);
@@ -51,7 +50,8 @@ void storingBareNames(benchmark::State& state) {
     for (auto _ : state) {
         found.restart(false);
         found.beginPass(false);
-        for (long i = 0; i < state.range(0); ++i) found.store(L"c:\\plans", L"piece" + decimal(i));
+        for (std::int64_t i = 0; i < state.range(0); ++i)
+            found.store(L"c:\\plans", L"piece" + decimal(i));
     }
     state.SetComplexityN(state.range(0));
 }

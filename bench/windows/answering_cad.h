@@ -1,11 +1,19 @@
 #pragma once
 
+#include <string>
+#include <utility>
+
 #include "platform/automation.h"
 
 /// An object that answers every call at once: a text to a question for one, else a document.
 struct AnsweringObject : AutomationObject {
+    explicit AnsweringObject(std::wstring directory = {})
+        : workingDirectory(std::move(directory)) {}
+    std::wstring workingDirectory;
+
     Value call(std::wstring_view name, std::span<const Argument>, std::wstring_view) override {
-        if (name == L"GetTitle") return std::wstring(L"piece");
+        if (name == L"GetTitle" || name == L"RevisionNumber") return std::wstring(L"12.0");
+        if (name == L"GetCurrentWorkingDirectory") return workingDirectory;
         if (name == L"OpenDoc6" || name == L"ActivateDoc2") {
             return ObjectPtr(std::make_shared<AnsweringObject>());
         }
@@ -15,6 +23,11 @@ struct AnsweringObject : AutomationObject {
 };
 
 struct AnsweringAutomation : Automation {
-    ObjectPtr attach(const std::wstring&) override { return std::make_shared<AnsweringObject>(); }
+    explicit AnsweringAutomation(std::wstring directory) : workingDirectory(std::move(directory)) {}
+    std::wstring workingDirectory;
+
+    ObjectPtr attach(const std::wstring&) override {
+        return std::make_shared<AnsweringObject>(workingDirectory);
+    }
     ObjectPtr create(const std::wstring&) override { return std::make_shared<AnsweringObject>(); }
 };

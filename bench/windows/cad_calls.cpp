@@ -82,20 +82,16 @@ Row cadCalls(const Setting& setting) {
     const InputSieve sieve;
     const MessageFilter filter;
     WinAutomation automation;
-    Module1 module;
     DesktopWithAll desktop;
-    CadSession cad(module, desktop);
+    CadSession cad(desktop);
     require(cad.attach(automation), "a running session");
-    module.NomDocCourant = path;
 
     const auto subject = [&] {
-        cad.open(path, 1, true);
-        cad.activate(path, 1);
-        cad.showApplication();
-        cad.rebuild(false);
+        cad.open(path, {.silent = true, .rebuild = LoadingOptions::Rebuild::AllLevels});
         cad.bringForward();
         cad.save();
         cad.closeDocument();
+        cad.forgetDocument();
     };
     const Comparison compared = compare(setting.rounds, {[&] { bare.eightCalls(); }}, {subject});
     return {.work = "the 8 CAD calls of one document",

@@ -29,8 +29,8 @@ Comparison compareFilter(const Setting& setting, int documents) {
     ListBox& list = window->listBox(IDC_FORM1_LIST1);
     FoundDocuments found;
     fill(found, documents);
-    SelectionList selection(list, found, stage.module.labels);
-    selection.RemplirListe(1, L"0");
+    SelectionList selection(list, found);
+    selection.fill(0);
 
     std::vector<std::wstring> folded;
     for (int i = 0; i < list.count(); ++i) folded.push_back(upperCase(list.line(i)));

@@ -7,6 +7,8 @@
 #include "tracking/tracking_ids.h"
 #include "tracking/work_list_view.h"
 #include "worklist/display_line.h"
+#include "worklist/state_labels.h"
+#include "worklist/work_list.h"
 
 namespace {
 
@@ -34,14 +36,14 @@ Comparison compareFill(const Setting& setting, int count) {
         const int i = static_cast<int>(lines.size());
         std::string utf8;
         appendUtf8(utf8, path);
-        work.EtatFich[i] = {.code = state::kToDo, .path = work.keep(std::move(utf8))};
-        lines.push_back(displayLine(i, stage.module.labels.LibAFaire, path, L"0"));
+        work.lines[i] = {.code = state::kToDo, .path = work.keep(std::move(utf8))};
+        lines.push_back(displayLine(i, label::kToDo, path, 0));
     }
-    work.DerFich = static_cast<std::int16_t>(count - 1);
+    work.last = count - 1;
 
     WorkListView view(window->listBox(IDC_FORM3_LIST1));
     const auto emptied = [&] { SendMessageW(list, LB_RESETCONTENT, 0, 0); };
-    const auto subject = [&] { view.rebuild(work, stage.module.labels, L"0", false); };
+    const auto subject = [&] { view.rebuild(work, 0, false); };
     const Comparison result =
         compare(setting.rounds, {[&] { bareFill(list, lines); }, emptied}, {subject, emptied});
     require(window->listBox(IDC_FORM3_LIST1).line(count - 1) == lines.back(), "the list's lines");

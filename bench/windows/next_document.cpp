@@ -24,12 +24,11 @@ std::string halfDone(int count) {
 }
 
 Comparison compareNext(const Setting& setting, int count, UINT repaint) {
-    Stage stage;
-    stage.module.FichListe = (setting.directory / "next.lst").wstring();
-    stage.platform.files.replace(stage.module.FichListe,
+    Stage stage({}, (setting.directory / "next.lst").wstring());
+    stage.platform.files.replace(stage.files.list,
                                  [&](const ByteSink& file) { file(halfDone(count)); });
-    TrackingWindow form(stage.module, stage.platform);
-    form.Form_Load();
+    TrackingWindow form(stage.platform, stage.places, stage.cad, stage.files);
+    form.Form_Load(TrackingWindow::FirstDisplay::States);
     form.window().show();
     HWND list = controlOf(IDC_FORM3_LIST1);
     HWND window = GetAncestor(list, GA_ROOT);
@@ -43,7 +42,7 @@ Comparison compareNext(const Setting& setting, int count, UINT repaint) {
         drawNow(window);
     };
     const Comparison result = compare(setting.rounds, {floor}, {subject});
-    require(stage.module.liste.EtatFich[count / 2].code == state::kSeen, "documents passed");
+    require(form.pass().list().lines[count / 2].code == state::kSeen, "documents passed");
     return result;
 }
 

@@ -71,7 +71,7 @@ void writeList(const Sandbox& sandbox, int count, const fs::path& linesFile) {
     std::wstring lines;
     for (const std::wstring& path : paths) {
         appendFreshLine(text, path);
-        lines += displayLine(0, standardLabels().LibAFaire, path, L"0") + L"\n";
+        lines += displayLine(0, label::kToDo, path, 0) + L"\n";
     }
     sandbox.WriteList(text);
     driver::WriteFileBytes(

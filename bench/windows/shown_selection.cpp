@@ -2,9 +2,10 @@
 
 #include "selection/selection_ids.h"
 
-ShownSelection::ShownSelection(const std::filesystem::path& directory, bool withSubdirectories) {
-    stage_.module.RepTravailSw = directory.wstring();
-    form_ = std::make_unique<SelectionWindow>(stage_.module, stage_.platform, stage_.navigation);
+ShownSelection::ShownSelection(const std::filesystem::path& directory, bool withSubdirectories)
+    : stage_(directory.wstring()) {
+    form_ = std::make_unique<SelectionWindow>(stage_.platform, stage_.places, stage_.cad,
+                                              stage_.files, stage_.exits);
     form_->Form_Load();
     Window& window = form_->window();
     window.show();

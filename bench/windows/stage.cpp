@@ -3,11 +3,13 @@
 #include "driver/winapi.h"
 #include "setting.h"
 
-Stage::Stage()
-    : windows_(gate_), platform{automation_, settings_, files_, messageBoxes_,
-                                desktop_,    windows_,  L""} {
-    module.labels = standardLabels();
-    module.SwApp = automation_.attach(L"");
+Stage::Stage(const std::wstring& workingDirectory, const std::wstring& list)
+    : windows_(gate_),
+      automation_{workingDirectory},
+      platform{automation_, settings_, files_, messageBoxes_, desktop_, windows_, L""},
+      files{L"", list, L""} {
+    cad.attach(automation_);
+    cad.identify();
 }
 
 HWND controlOf(int id) {

@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "answering_cad.h"
-#include "app/module1.h"
+#include "cad/cad_session.h"
 #include "platform/desktop.h"
 #include "platform/platform.h"
 #include "platform/win32/files/win_files.h"
@@ -14,7 +14,9 @@
 #include "platform/win32/window/event_gate.h"
 #include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/win_message_boxes.h"
-#include "session/navigation.h"
+#include "selection/selection_window.h"
+#include "session/program_files.h"
+#include "session/window_places.h"
 
 /// A desktop where every window is found.
 struct DesktopWithAll : Desktop {
@@ -22,14 +24,12 @@ struct DesktopWithAll : Desktop {
     void bringToFront(WindowHandle) override {}
 };
 
-/// The ways between windows, none of which is taken.
-struct NoNavigation : Navigation {
-    void ChargerForm1() override {}
-    void ChargerForm2() override {}
-    void ChargerForm3() override {}
-    void ChargerForm4() override {}
-    void ChargerAPropos() override {}
-    void FermerAPropos() override {}
+/// The ways out of the selection window, none of which is taken.
+struct NoExits : SelectionExits {
+    void closeSplash() override {}
+    void launchPass() override {}
+    void showConfigurations() override {}
+    void showAbout() override {}
 };
 
 /// For a window without a form.
@@ -41,10 +41,8 @@ struct NoEvents : EventSink {
 /// that answers at once.
 class Stage {
  public:
-    Stage();
-
-    Module1 module;
-    NoNavigation navigation;
+    /// A CAD application that works in a directory, and a list file.
+    explicit Stage(const std::wstring& workingDirectory = {}, const std::wstring& list = {});
 
  private:
     InputSieve sieve_;
@@ -58,6 +56,10 @@ class Stage {
 
  public:
     Platform platform;
+    NoExits exits;
+    ProgramFiles files;
+    WindowPlaces places{settings_};
+    CadSession cad{desktop_};
 };
 
 /// The control of this process with this id.

@@ -1,47 +1,56 @@
 #include "app/program.h"
 
-#include "about/about_window.h"
-#include "resume/existing_list_window.h"
-#include "searchfolders/configuration_window.h"
-#include "selection/selection_window.h"
-#include "tracking/tracking_window.h"
+Program::Program(const Platform& platform)
+    : platform_(platform),
+      files_{platform.programDirectory, platform.programDirectory + L"\\tarnwick.lst",
+             platform.programDirectory + L"\\tarnwick.cfg"},
+      places_(platform.settings),
+      cad_(platform.desktop) {}
 
-Program::Program(const Platform& platform) : platform_(platform) {}
+void Program::showExistingList() {
+    existingList_ = std::make_unique<ExistingListWindow>(platform_.windows, places_, *fileSystem_,
+                                                         files_, *this);
+    existingList_->Form_Load();
+    existingList_->window().show();
+    closeSplash();
+}
 
-Program::~Program() = default;
-
-void Program::ChargerForm1() {
-    selection_ = std::make_unique<SelectionWindow>(module_, platform_, *this);
+void Program::showSelection() {
+    selection_ = std::make_unique<SelectionWindow>(platform_, places_, cad_, files_, *this);
     selection_->Form_Load();
     selection_->window().show();
 }
 
-void Program::ChargerForm2() {
-    existingList_ = std::make_unique<ExistingListWindow>(module_, platform_, *this);
-    existingList_->Form_Load();
-    FermerAPropos();
-    existingList_->window().show();
-}
-
-void Program::ChargerForm3() {
-    tracking_ = std::make_unique<TrackingWindow>(module_, platform_);
-    tracking_->Form_Load();
+void Program::showTracking() {
+    using FirstDisplay = TrackingWindow::FirstDisplay;
+    tracking_ = std::make_unique<TrackingWindow>(platform_, places_, cad_, files_);
+    tracking_->Form_Load(listDeclined_ ? FirstDisplay::AllToDo : FirstDisplay::States);
     tracking_->window().show();
 }
 
-void Program::ChargerForm4() {
+void Program::showConfigurations() {
     if (!configuration_ || !configuration_->isOpen()) {
-        configuration_ = std::make_unique<ConfigurationWindow>(module_, platform_);
+        configuration_ = std::make_unique<ConfigurationWindow>(
+            platform_, places_, cad_, *fileSystem_, files_, configurations_);
         configuration_->Form_Load();
     }
     configuration_->window().show();
 }
 
-void Program::ChargerAPropos() {
-    if (!about_ || !about_->isOpen()) about_ = std::make_unique<AboutWindow>(module_, platform_);
-    about_->show();
+void Program::showAbout() {
+    if (!about_ || !about_->isOpen()) about_ = std::make_unique<AboutWindow>(platform_.windows);
+    about_->window().show();
 }
 
-void Program::FermerAPropos() {
+void Program::closeSplash() {
     if (about_ && about_->isOpen()) about_->close();
 }
+
+void Program::resumePass() { showTracking(); }
+
+void Program::declineList() {
+    listDeclined_ = true;
+    showSelection();
+}
+
+void Program::launchPass() { showTracking(); }

@@ -1,43 +1,52 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
-#include "app/module1.h"
+#include "about/about_window.h"
+#include "cad/cad_session.h"
+#include "platform/file_system_object.h"
 #include "platform/platform.h"
-#include "session/navigation.h"
+#include "resume/existing_list_window.h"
+#include "searchfolders/configuration_window.h"
+#include "selection/selection_window.h"
+#include "session/program_files.h"
+#include "session/window_places.h"
+#include "tracking/tracking_window.h"
 
-class AboutWindow;
-class SelectionWindow;
-class ExistingListWindow;
-class TrackingWindow;
-class ConfigurationWindow;
-
-/// The program: its variables, its windows, and the way from one to the next.
-class Program : public Navigation {
+/// The program: what lives as long as it does, its windows, and the way from one to the next.
+class Program : public ExistingListExits, public SelectionExits {
  public:
     explicit Program(const Platform& platform);
-    ~Program() override;
 
     /// Start-up, before any window of its own: ends with the first window shown, or with the
     /// program's end when no CAD session runs.
-    void Main();
-
-    void ChargerForm1() override;
-    void ChargerForm2() override;
-    void ChargerForm3() override;
-    void ChargerForm4() override;
-    void ChargerAPropos() override;
-    void FermerAPropos() override;
+    void start();
 
  private:
     void attachToCad();
-    void readPlaces();
+    void showExistingList();
+    void showSelection();
+    void showTracking();
+
+    void resumePass() override;
+    void declineList() override;
+    void closeSplash() override;
+    void launchPass() override;
+    void showConfigurations() override;
+    void showAbout() override;
 
     Platform platform_;
-    Module1 module_;
+    ProgramFiles files_;
+    WindowPlaces places_;
+    CadSession cad_;
+    std::optional<FileSystemObject> fileSystem_;
+    Configurations configurations_;
+    bool listDeclined_ = false;  ///< an old list was there, and the user went past it
+
     std::unique_ptr<AboutWindow> about_;
-    std::unique_ptr<SelectionWindow> selection_;
     std::unique_ptr<ExistingListWindow> existingList_;
+    std::unique_ptr<SelectionWindow> selection_;
     std::unique_ptr<TrackingWindow> tracking_;
     std::unique_ptr<ConfigurationWindow> configuration_;
 };

@@ -50,7 +50,7 @@ int runProgram() {
     const MessageFilter filter;
     Program program(
         {automation, settings, files, messageBoxes, desktop, windows, programDirectory()});
-    gate.run([&] { program.Main(); });
+    gate.run([&] { program.start(); });
     return gate.ended() ? gate.exitCode() : runMessageLoop();
 }
 

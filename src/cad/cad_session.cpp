@@ -1,69 +1,105 @@
 #include "cad/cad_session.h"
 
-#include "app/module1.h"
+#include "cad/document_type.h"
 #include "cad/release_name.h"
 #include "common/numbers.h"
-#include "platform/automation.h"
+#include "common/runtime_error.h"
+#include "common/text.h"
 #include "platform/desktop.h"
 
 namespace {
 
 constexpr std::int32_t kOpenSilently = 1;
+constexpr std::int32_t kReferencedDocuments = 0;  // the search folders for those
 
 /// Documents of one type answer a name alike; parts, assemblies and drawings each in their way.
-std::wstring documentClass(std::int16_t typeCode) { return L"document " + decimal(typeCode); }
+/// Of a document whose ending tells no type nothing is known.
+std::wstring documentClass(const std::wstring& path) {
+    const auto type = documentType(path);
+    return type ? L"document " + decimal(*type) : std::wstring();
+}
+
+/// Does something with a document. A failure names it.
+template <class Action>
+void with(const std::wstring& path, const Action& action) {
+    try {
+        action();
+    } catch (RuntimeError& error) {
+        if (!path.empty()) error.addLine(L"Document : " + path);
+        throw;
+    }
+}
 
 }  // namespace
 
 bool CadSession::attach(Automation& automation) {
-    module_.SwApp = automation.attach(L"SldWorks.Application");
-    return module_.SwApp != nullptr;
+    application_ = automation.attach(L"SldWorks.Application");
+    return application_ != nullptr;
 }
 
-void CadSession::readRevision() {
-    module_.NomVersionSw = releaseName(textOf(callMethod(module_.SwApp, L"RevisionNumber")));
+void CadSession::identify() {
+    releaseName_ = releaseName(textOf(callMethod(application_, L"RevisionNumber")));
+    workingDirectory_ = textOf(callMethod(application_, L"GetCurrentWorkingDirectory"));
 }
 
-void CadSession::readWorkingDirectory() {
-    module_.RepTravailSw = textOf(callMethod(module_.SwApp, L"GetCurrentWorkingDirectory"));
+bool CadSession::hasOpen(const std::wstring& path) const {
+    return equalIgnoringCase(path, openPath_);
 }
 
-void CadSession::open(const std::wstring& path, std::int16_t typeCode, bool silent) {
+void CadSession::open(const std::wstring& path, const LoadingOptions& options) {
+    if (!openPath_.empty()) closeDocument();
+    openPath_ = path;
+    typeCode_ = documentType(path).value_or(typeCode_);
+    with(path, [&] { load(path, options); });
+}
+
+void CadSession::load(const std::wstring& path, const LoadingOptions& options) {
+    const std::wstring objectClass = documentClass(path);
     std::wstring name = path;
-    std::int16_t type = typeCode;
+    std::int16_t type = typeCode_;
     std::int32_t errorCode = 0;
     std::int32_t warningCode = 0;
-    const std::int32_t options = silent ? kOpenSilently : 0;
-    module_.SwDoc =
-        objectOf(callMethod(module_.SwApp, L"OpenDoc6",
-                            {&name, &type, options, std::wstring(), &errorCode, &warningCode},
-                            documentClass(typeCode)));
+    const std::int32_t mode = options.silent ? kOpenSilently : 0;
+    document_ = objectOf(callMethod(application_, L"OpenDoc6",
+                                    {&name, &type, mode, std::wstring(), &errorCode, &warningCode},
+                                    objectClass));
+    name = path;
+    errorCode = 0;
+    document_ =
+        objectOf(callMethod(application_, L"ActivateDoc2", {&name, true, &errorCode}, objectClass));
+    putProperty(application_, L"Visible", true);
+    rebuild(options.rebuild);
 }
 
-void CadSession::activate(const std::wstring& path, std::int16_t typeCode) {
-    std::wstring name = path;
-    std::int32_t errorCode = 0;
-    module_.SwDoc = objectOf(callMethod(module_.SwApp, L"ActivateDoc2", {&name, true, &errorCode},
-                                        documentClass(typeCode)));
+void CadSession::rebuild(LoadingOptions::Rebuild wanted) {
+    using Rebuild = LoadingOptions::Rebuild;
+    if (wanted == Rebuild::None) return;
+    callMethod(document_, L"ForceRebuild3", {wanted == Rebuild::TopLevel});
 }
 
-void CadSession::showApplication() { putProperty(module_.SwApp, L"Visible", true); }
-
-void CadSession::rebuild(bool topLevelOnly) {
-    callMethod(module_.SwDoc, L"ForceRebuild3", {topLevelOnly});
+void CadSession::save() {
+    with(openPath_, [&] { callMethod(document_, L"save2", {true}); });
 }
-
-void CadSession::save() { callMethod(module_.SwDoc, L"save2", {true}); }
 
 void CadSession::closeDocument() {
-    callMethod(module_.SwApp, L"closedoc", {module_.NomDocCourant});
+    with(openPath_, [&] { callMethod(application_, L"closedoc", {openPath_}); });
 }
 
-std::wstring CadSession::title() { return textOf(callMethod(module_.SwDoc, L"GetTitle")); }
+std::wstring CadSession::title() { return textOf(callMethod(document_, L"GetTitle")); }
 
 void CadSession::bringForward() {
-    auto window = desktop_.findWindow(module_.NomVersionSw + L" - " + title());
-    if (window == 0) window = desktop_.findWindow(module_.NomVersionSw + L" - [" + title() + L"]");
-    desktop_.bringToFront(window);
-    callMethod(module_.SwDoc, L"ViewZoomtofit2");
+    with(openPath_, [&] {
+        auto window = desktop_.findWindow(releaseName_ + L" - " + title());
+        if (window == 0) window = desktop_.findWindow(releaseName_ + L" - [" + title() + L"]");
+        desktop_.bringToFront(window);
+        callMethod(document_, L"ViewZoomtofit2");
+    });
+}
+
+std::wstring CadSession::searchFolders() {
+    return textOf(callMethod(application_, L"GetSearchFolders", {kReferencedDocuments}));
+}
+
+bool CadSession::setSearchFolders(std::wstring folders) {
+    return isTrue(callMethod(application_, L"setsearchfolders", {kReferencedDocuments, &folders}));
 }

@@ -3,39 +3,60 @@
 #include <cstdint>
 #include <string>
 
-class Automation;
-class Desktop;
-struct Module1;
+#include "platform/automation.h"
 
-/// The calls to the CAD application, each by the name and with the arguments it is known for.
-/// Works on SwApp, SwDoc and NomDocCourant. Every call but `attach` raises what the application
-/// answers (438, 440), and 91 when its object is empty.
+class Desktop;
+
+/// How a document is loaded.
+struct LoadingOptions {
+    enum class Rebuild { None, TopLevel, AllLevels };
+
+    bool silent = false;
+    Rebuild rebuild = Rebuild::None;
+};
+
+/// The running CAD application, and the document that the program has open in it. Every call goes
+/// out by the name and with the arguments that the application knows. All but `attach` raise what
+/// it answers (438, 440), and 91 when there is no document to call.
 class CadSession {
  public:
-    CadSession(Module1& module, Desktop& desktop) : module_(module), desktop_(desktop) {}
+    explicit CadSession(Desktop& desktop) : desktop_(desktop) {}
 
     /// Attaches to the running application, which is never started. False when there is none.
     bool attach(Automation& automation);
-    void readRevision();
-    void readWorkingDirectory();
+    /// Asks it for its release and its working directory.
+    void identify();
+    const std::wstring& workingDirectory() const { return workingDirectory_; }
 
-    /// Document type codes, 16-bit as the application takes them; 0 before the first document.
-    /// Opens a document and leaves it in SwDoc.
-    void open(const std::wstring& path, std::int16_t typeCode, bool silent);
-    /// Makes an open document the active one and leaves it in SwDoc.
-    void activate(const std::wstring& path, std::int16_t typeCode);
-    void showApplication();
-    void rebuild(bool topLevelOnly);
+    /// Whether this is the document that counts as open, in any letter case.
+    bool hasOpen(const std::wstring& path) const;
+    /// Closes the document that counts as open, if any, opens another, makes it the active one,
+    /// shows the application and rebuilds the document as wanted.
+    void open(const std::wstring& path, const LoadingOptions& options);
     void save();
-    /// Closes the document NomDocCourant without saving it, even when that name is empty.
+    /// Closes the open document without saving it, even when none is open. It still counts as
+    /// open: see forgetDocument.
     void closeDocument();
+    void forgetDocument() { openPath_.clear(); }
     /// Brings the application's window to the front, if its title is as expected, and zooms the
     /// document to fit.
     void bringForward();
 
+    /// The directories where it looks for referenced documents, separated by semicolons.
+    std::wstring searchFolders();
+    /// True when it took them.
+    bool setSearchFolders(std::wstring folders);
+
  private:
+    void load(const std::wstring& path, const LoadingOptions& options);
+    void rebuild(LoadingOptions::Rebuild wanted);
     std::wstring title();
 
-    Module1& module_;
     Desktop& desktop_;
+    ObjectPtr application_;
+    ObjectPtr document_;  ///< the one opened last, null when that failed
+    std::wstring releaseName_;
+    std::wstring workingDirectory_;
+    std::wstring openPath_;  ///< empty when no document counts as open
+    std::int16_t typeCode_ = 0;
 };

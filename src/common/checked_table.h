@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 #include "common/runtime_error.h"
@@ -11,11 +12,11 @@ class CheckedTable {
  public:
     CheckedTable() : entries_(Size) {}
 
-    Entry& operator[](long index) { return entries_[checked(index)]; }
-    const Entry& operator[](long index) const { return entries_[checked(index)]; }
+    Entry& operator[](std::int64_t index) { return entries_[checked(index)]; }
+    const Entry& operator[](std::int64_t index) const { return entries_[checked(index)]; }
 
  private:
-    static std::size_t checked(long index) {
+    static std::size_t checked(std::int64_t index) {
         if (index < 0 || static_cast<std::size_t>(index) >= Size) {
             throw errors::subscriptOutOfRange();
         }

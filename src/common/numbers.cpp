@@ -25,18 +25,18 @@ int againstHalf(std::wstring_view decimals) {
     return decimals.find_first_not_of(L'0', 1) == std::wstring_view::npos ? 0 : 1;
 }
 
-long rounded(long whole, std::wstring_view decimals) {
+std::int32_t rounded(std::int32_t whole, std::wstring_view decimals) {
     const int half = againstHalf(decimals);
     return half > 0 || (half == 0 && whole % 2 == 1) ? whole + 1 : whole;
 }
 
 }  // namespace
 
-long numericValue(std::wstring_view text) {
-    constexpr long kLargest = std::numeric_limits<long>::max();
-    long value = 0;
+std::int32_t numericValue(std::wstring_view text) {
+    constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
+    std::int32_t value = 0;
     for (std::size_t i = 0; i < text.size() && isDigit(text[i]); ++i) {
-        const long digit = text[i] - L'0';
+        const std::int32_t digit = text[i] - L'0';
         if (value > (kLargest - digit) / 10) return kLargest;
         value = value * 10 + digit;
     }
@@ -57,9 +57,9 @@ std::int16_t wholeNumber(std::wstring_view text) {
     }
     if (!rest.empty() || (whole.empty() && decimals.empty())) throw errors::typeMismatch();
 
-    constexpr long kPastAll = 1L << 20;
-    const long magnitude = rounded(std::min(numericValue(whole), kPastAll), decimals);
-    const long value = negative ? -magnitude : magnitude;
+    constexpr std::int32_t kPastAll = 1 << 20;
+    const std::int32_t magnitude = rounded(std::min(numericValue(whole), kPastAll), decimals);
+    const std::int32_t value = negative ? -magnitude : magnitude;
     if (value < std::numeric_limits<std::int16_t>::min() ||
         value > std::numeric_limits<std::int16_t>::max()) {
         throw errors::overflow();
@@ -67,7 +67,7 @@ std::int16_t wholeNumber(std::wstring_view text) {
     return static_cast<std::int16_t>(value);
 }
 
-std::wstring decimal(long number) {
+std::wstring decimal(std::int64_t number) {
     char digits[24];
     const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
     return {digits, end};

@@ -5,12 +5,12 @@
 #include <string_view>
 
 /// The value of the text's leading digits, 0 when it starts with none.
-/// Values past the largest long stay there.
-long numericValue(std::wstring_view text);
+/// Values past the largest 32-bit number stay there.
+std::int32_t numericValue(std::wstring_view text);
 
 /// The whole number that the text spells: blanks around, a sign and decimals are allowed,
 /// halves go to the even neighbour. Raises 13 for anything but a number, 6 outside 16 bits.
 std::int16_t wholeNumber(std::wstring_view text);
 
 /// The decimal text of a number.
-std::wstring decimal(long number);
+std::wstring decimal(std::int64_t number);

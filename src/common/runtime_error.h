@@ -7,6 +7,9 @@
 struct RuntimeError {
     int number;
     std::wstring text;
+
+    /// Adds a line that tells more: which document, which file.
+    void addLine(const std::wstring& line) { text += L"\r\n" + line; }
 };
 
 /// The program ends at once and without a message, with exit code 0.

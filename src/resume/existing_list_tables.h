@@ -15,3 +15,9 @@ inline constexpr Binding<ExistingListWindow> kExistingListBindings[] = {
 inline constexpr Tooltip kExistingListTooltips[] = {
     {IDC_FORM2_CMDEFFACER, L"Effacer le fichier LISTE existant."},
 };
+
+inline constexpr WindowTemplate kExistingListWindow = {
+    .dialogId = IDD_FORM2,
+    .tooltips = kExistingListTooltips,
+    .headingId = IDC_FORM2_LABEL1,
+};

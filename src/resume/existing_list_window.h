@@ -1,21 +1,25 @@
 #pragma once
 
-#include <memory>
+#include "platform/program_window.h"
 
-#include "platform/window.h"
+class FileSystemObject;
+class WindowPlaces;
+struct ProgramFiles;
 
-class Navigation;
-struct Module1;
-struct Platform;
+/// Where the prompt leads.
+class ExistingListExits {
+ public:
+    virtual ~ExistingListExits() = default;
+    virtual void resumePass() = 0;
+    virtual void declineList() = 0;
+};
 
 /// The prompt shown when a list file of an earlier run exists: resume it, start a new selection,
 /// or erase it first.
-class ExistingListWindow : public EventSink {
+class ExistingListWindow : public ProgramWindow<ExistingListWindow> {
  public:
-    ExistingListWindow(Module1& module, Platform& platform, Navigation& navigation);
-
-    void raise(int controlId, Event event) override;
-    Window& window() { return *window_; }
+    ExistingListWindow(WindowFactory& windows, WindowPlaces& places, FileSystemObject& fileSystem,
+                       const ProgramFiles& files, ExistingListExits& exits);
 
     void Form_Load();
     /// Closed by its frame: the program ends, nothing is saved.
@@ -26,10 +30,10 @@ class ExistingListWindow : public EventSink {
     void CmdEffacer_Click();
 
  private:
-    void Quitter(bool reprendre);
+    void leave();
 
-    Module1& module_;
-    Platform& platform_;
-    Navigation& navigation_;
-    std::unique_ptr<Window> window_;
+    WindowPlaces& places_;
+    FileSystemObject& fileSystem_;
+    const ProgramFiles& files_;
+    ExistingListExits& exits_;
 };

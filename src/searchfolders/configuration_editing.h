@@ -10,7 +10,7 @@
 
 /// Adds a directory behind the `count` first ones, unless one of them is spelled alike, case
 /// included. True when it was added. Raises 9 for the 201st.
-bool addDirectory(Configuration& edited, long count, const std::wstring& path);
+bool addDirectory(Configuration& edited, int count, const std::wstring& path);
 
 enum class Removal {
     Selected,      ///< the selected directories only
@@ -19,12 +19,12 @@ enum class Removal {
 
 /// Removes directories; gives how many are left. `selected` answers for the lines of the list,
 /// which count from 0.
-long removeDirectories(Configuration& edited, long count, const std::function<bool(int)>& selected,
-                       Removal removal);
+int removeDirectories(Configuration& edited, int count, const std::function<bool(int)>& selected,
+                      Removal removal);
 
-/// Stores the edited directories under `name`: in the row of NomConfEdit, or of `name` itself when
-/// that is empty, or else in the first free row, which then counts as one more. A blank name
-/// becomes "Defaut_" and the number of configurations. Raises 9 when no row is free.
+/// Stores the edited directories under `name`: in the row of the one renamed, or of `name` itself
+/// when none is, or else in the first free row, which then counts as one more. A blank name becomes
+/// "Defaut_" and the number of configurations. Raises 9 when no row is free.
 void storeEdited(Configurations& configs, std::wstring& name);
 
 /// Removes the selected row by moving up the ones below; none is removed for row 0. A row moved

@@ -1,12 +1,13 @@
 #include "searchfolders/configuration_window.h"
 
-#include "app/module1.h"
+#include "cad/cad_session.h"
+#include "platform/files.h"
+#include "platform/message_boxes.h"
 #include "platform/platform.h"
-#include "searchfolders/configuration_events.h"
 #include "searchfolders/configuration_file.h"
-#include "searchfolders/configuration_ids.h"
 #include "searchfolders/configuration_tables.h"
 #include "searchfolders/folder_list.h"
+#include "session/program_files.h"
 #include "session/window_places.h"
 
 namespace {
@@ -39,12 +40,30 @@ void showDirectories(ListBox& list, const Configuration& configuration) {
                   [&](int line) { return configuration[line + 1]; });
 }
 
+MessageBoxContent outcome(bool applied) {
+    using Icon = MessageBoxContent::Icon;
+    return {.text = applied ? L"les répertoires de recherche de SOLIDWORKS ont été changés !"
+                            : L"Echec de la tentative de modification des répertoires de recherche "
+                              L"de SOLIDWORKS !",
+            .title = applied ? L"Réglages SOLIDWORKS réussie" : L"Echec du Réglage SOLIDWORKS",
+            .icon = applied ? Icon::None : Icon::Stop,
+            .defaultButton = 2,
+            .helpFile = L"DEMO.HLP",
+            .helpContext = 1000};
+}
+
 }  // namespace
 
-ConfigurationWindow::ConfigurationWindow(Module1& module, Platform& platform)
-    : module_(module),
+ConfigurationWindow::ConfigurationWindow(Platform& platform, WindowPlaces& places, CadSession& cad,
+                                         FileSystemObject& fileSystem, const ProgramFiles& files,
+                                         Configurations& configurations)
+    : ProgramWindow(platform.windows, kConfigurationWindow, kConfigurationBindings),
       platform_(platform),
-      window_(platform.windows.create(kConfigurationWindow, *this)),
+      places_(places),
+      cad_(cad),
+      fileSystem_(fileSystem),
+      files_(files),
+      configurations_(configurations),
       TabStrip1(window_->tabStrip(IDC_FORM4_TABSTRIP1)),
       List1(window_->listBox(IDC_FORM4_LIST1)),
       List2(window_->listBox(IDC_FORM4_LIST2)),
@@ -55,33 +74,28 @@ ConfigurationWindow::ConfigurationWindow(Module1& module, Platform& platform)
       Drive1(window_->comboBox(IDC_FORM4_DRIVE1), platform.files),
       Dir1(window_->listBox(IDC_FORM4_DIR1), platform.files) {}
 
-void ConfigurationWindow::raise(int controlId, Event event) {
-    dispatch<ConfigurationWindow>(*this, kConfigurationBindings, controlId, event);
-}
-
 void ConfigurationWindow::Form_Load() {
     window_->resize(kWidth, kHeight);
-    readPlace(platform_.settings, module_, PlacedWindow::SearchFolders);
-    const WindowPlace& place = module_.place(PlacedWindow::SearchFolders);
-    window_->moveTo(place.top, place.left);
-    Cpt_Rep.setText(L"0");
-    NNiv.setText(L"0");
-    PreparerOnglets();
-    PreparerRepertoires();
-    clearFrom(module_.configs.ConfRep[0], 0);
+    places_.read(PlacedWindow::SearchFolders);
+    places_.restore(PlacedWindow::SearchFolders, *window_);
+    showEditedCount(0);
+    NNiv.reset();
+    prepareTabs();
+    prepareDirectories();
+    clearFrom(configurations_.rows[0], 0);
     // The folders first: directories before the file's first header are written over them.
-    LireRepCourants(module_);
-    LireConfigs(module_, platform_.files);
-    AfficherConfs();
+    readCurrentFolders();
+    readConfigurations(configurations_, files_.configurations, fileSystem_, platform_.files);
+    showConfigurations();
 }
 
-void ConfigurationWindow::PreparerOnglets() {
+void ConfigurationWindow::prepareTabs() {
     TabStrip1.addTab(L"Configuration Courante");
     TabStrip1.addTab(L"Gestion des configurations");
-    MontrerPage(Page::Configurations);
+    showPage(Page::Configurations);
 }
 
-void ConfigurationWindow::MontrerPage(Page page) {
+void ConfigurationWindow::showPage(Page page) {
     const bool editing = page == Page::Editing;
     TabStrip1.selectTab(editing ? 1 : 0);
     setVisible(*window_, kConfigurationsPage, !editing);
@@ -89,53 +103,63 @@ void ConfigurationWindow::MontrerPage(Page page) {
 }
 
 void ConfigurationWindow::TabStrip1_Click() {
-    MontrerPage(TabStrip1.selectedTab() == 1 ? Page::Editing : Page::Configurations);
+    showPage(TabStrip1.selectedTab() == 1 ? Page::Editing : Page::Configurations);
 }
 
-void ConfigurationWindow::AfficherConfs() {
-    Configurations& configs = module_.configs;
-    List1.setLines(configs.NbConf + 1, [&](int line) { return configs.ConfRep[line][0]; });
-    showDirectories(List3, configs.ConfRep[configs.NbConf]);
-    if (configs.NbConf >= 1) List1.select(configs.NbConf, true);
-    configs.ConfSel = configs.NbConf;
+void ConfigurationWindow::showConfigurations() {
+    const int last = configurations_.last;
+    List1.setLines(last + 1, [&](int line) { return configurations_.rows[line][0]; });
+    showDirectories(List3, configurations_.rows[last]);
+    if (last >= 1) List1.select(last, true);
+    configurations_.selected = last;
 }
 
-void ConfigurationWindow::ChercherSelection() {
-    Configurations& configs = module_.configs;
-    for (std::int16_t i = 0; i <= configs.NbConf; ++i) {
-        if (List1.selected(i)) configs.ConfSel = i;
+void ConfigurationWindow::findSelection() {
+    for (int i = 0; i <= configurations_.last; ++i) {
+        if (List1.selected(i)) configurations_.selected = i;
     }
 }
 
 void ConfigurationWindow::List1_Click() {
-    Configurations& configs = module_.configs;
-    configs.ConfSel = 0;
-    ChercherSelection();
-    if (configs.ConfSel == 0) {
-        clearFrom(configs.ConfRep[0], 1);
-        LireRepCourants(module_);
+    configurations_.selected = 0;
+    findSelection();
+    if (configurations_.selected == 0) {
+        clearFrom(configurations_.rows[0], 1);
+        readCurrentFolders();
     }
-    showDirectories(List3, configs.ConfRep[configs.ConfSel]);
+    showDirectories(List3, configurations_.rows[configurations_.selected]);
 }
 
-void ConfigurationWindow::CmdEnregister_Click() { EcrireConfigs(module_, platform_.files); }
+void ConfigurationWindow::readCurrentFolders() {
+    const std::wstring folders = cad_.searchFolders();
+    Configuration& current = configurations_.rows[0];
+    current[0] = L"En Cours";
+    splitFolders(folders, current);
+}
+
+void ConfigurationWindow::CmdEnregister_Click() {
+    platform_.files.replaceText(files_.configurations, formatConfigurationFile(configurations_));
+}
 
 void ConfigurationWindow::CmdChoisir_Click() {
-    module_.configs.ConfSel = 0;
-    ChercherSelection();
-    AppliquerConf(module_, platform_.messageBoxes, module_.configs.ConfSel);
+    configurations_.selected = 0;
+    findSelection();
+    apply(configurations_.rows[configurations_.selected]);
+}
+
+void ConfigurationWindow::apply(const Configuration& configuration) {
+    platform_.messageBoxes.show(outcome(cad_.setSearchFolders(joinFolders(configuration))));
 }
 
 void ConfigurationWindow::CmdDetruire_Click() {
-    module_.configs.ConfSel = 0;
-    ChercherSelection();
-    destroySelected(module_.configs);
-    AfficherConfs();
+    configurations_.selected = 0;
+    findSelection();
+    destroySelected(configurations_);
+    showConfigurations();
 }
 
 void ConfigurationWindow::CmdAnnuler_Click() {
-    SauverPosition();
-    RetenirPosition();
+    places_.save(PlacedWindow::SearchFolders, *window_);
     window_->hide();
     Form_Close();
 }
@@ -143,13 +167,4 @@ void ConfigurationWindow::CmdAnnuler_Click() {
 void ConfigurationWindow::Form_Close() {
     open_ = false;
     window_->unload();
-}
-
-void ConfigurationWindow::SauverPosition() {
-    savePlace(platform_.settings, PlacedWindow::SearchFolders, *window_);
-}
-
-void ConfigurationWindow::RetenirPosition() {
-    module_.place(PlacedWindow::SearchFolders) = {withinSixteenBits(window_->top()),
-                                                        withinSixteenBits(window_->left())};
 }

@@ -1,26 +1,30 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string>
 
 #include "pickers/directory_picker.h"
 #include "pickers/drive_picker.h"
-#include "platform/window.h"
+#include "platform/program_window.h"
 #include "searchfolders/configuration_editing.h"
+#include "worklist/display_depth.h"
 
+class CadSession;
+class FileSystemObject;
 class OpenDirectories;
-struct Module1;
+class WindowPlaces;
 struct Platform;
+struct ProgramFiles;
 
 /// The configuration window: on one tab the configurations and their directories, on the other a
 /// copy of one of them being edited. Editing changes the table, "Sauvegarder" the file.
-class ConfigurationWindow : public EventSink {
+class ConfigurationWindow : public ProgramWindow<ConfigurationWindow> {
  public:
-    ConfigurationWindow(Module1& module, Platform& platform);
+    /// The configurations outlive the window: what was being edited is still there next time.
+    ConfigurationWindow(Platform& platform, WindowPlaces& places, CadSession& cad,
+                        FileSystemObject& fileSystem, const ProgramFiles& files,
+                        Configurations& configurations);
 
-    void raise(int controlId, Event event) override;
-    Window& window() { return *window_; }
     /// False once the user has closed the window: its controls are gone then.
     bool isOpen() const { return open_; }
 
@@ -55,35 +59,45 @@ class ConfigurationWindow : public EventSink {
  private:
     enum class Page { Configurations, Editing };
 
-    void PreparerOnglets();
-    void MontrerPage(Page page);
-    void PreparerRepertoires();
-    void AfficherConfs();
-    void AfficherRepEdit();
+    void prepareTabs();
+    void showPage(Page page);
+    void prepareDirectories();
+    void showConfigurations();
+    void showEdited();
 
-    /// Sets ConfSel to the line selected in List1; keeps it when there is none.
-    void ChercherSelection();
-    void EditerSelection();
-    void SauverPosition();
-    void RetenirPosition();
+    /// The configuration selected in List1 becomes the selected one; none changes nothing.
+    void findSelection();
+    void editSelection();
+    /// Reads the CAD application's search folders into row 0, under the name "En Cours". Raises
+    /// what the application answers, and 9 past 200 folders.
+    void readCurrentFolders();
+    /// Makes a configuration the CAD application's search folders, and tells the user whether the
+    /// application took them. Raises what the application answers, and 9 as joinFolders.
+    void apply(const Configuration& configuration);
 
     /// Lets the user open a directory in Dir1. When it can't be read Dir1 stays where it was and
     /// the user is told: what is being edited is worth more than a drive that isn't ready.
-    void Ouvrir(const std::function<void()>& opening);
-    void AjouterRep(const std::wstring& path);
+    void openDirectory(const std::function<void()>& opening);
+    void addDirectoryOf(const std::wstring& path);
     /// Adds what Dir1 lists and all below; ends where it began.
-    void AjouterSousRep(OpenDirectories& way);
-    void Retirer(Removal removal);
-    long nombreRep() const;
+    void addSubdirectories(OpenDirectories& way);
+    void remove(Removal removal);
+    /// How many directories are being edited: what Cpt_Rep shows.
+    int editedCount() const;
+    void showEditedCount(int count);
 
-    Module1& module_;
     Platform& platform_;
-    std::unique_ptr<Window> window_;
+    WindowPlaces& places_;
+    CadSession& cad_;
+    FileSystemObject& fileSystem_;
+    const ProgramFiles& files_;
+    Configurations& configurations_;
     bool open_ = true;
 
     TabStrip& TabStrip1;
     ListBox &List1, &List2, &List3;
-    Control &NomDeLaConf, &Cpt_Rep, &NNiv;
+    Control &NomDeLaConf, &Cpt_Rep;
+    DisplayDepth NNiv;
     DrivePicker Drive1;
     DirectoryPicker Dir1;
 };

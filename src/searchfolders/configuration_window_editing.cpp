@@ -1,84 +1,143 @@
 // The configuration window's second tab: one configuration being edited.
 
-#include "app/module1.h"
 #include "common/numbers.h"
+#include "common/runtime_error.h"
 #include "common/text.h"
+#include "pickers/open_directories.h"
+#include "platform/files.h"
+#include "platform/message_boxes.h"
 #include "platform/platform.h"
 #include "searchfolders/configuration_window.h"
-#include "searchfolders/folder_list.h"
-#include "worklist/display_depth.h"
-#include "worklist/display_line.h"
+#include "session/program_files.h"
+#include "session/window_places.h"
+#include "worklist/short_path.h"
 
-long ConfigurationWindow::nombreRep() const { return numericValue(Cpt_Rep.text()); }
+void ConfigurationWindow::prepareDirectories() {
+    Drive1.fill();
+    Dir1.setPath(files_.directory);
+    Drive1.setDrive(Dir1.path());
+}
+
+int ConfigurationWindow::editedCount() const { return numericValue(Cpt_Rep.text()); }
+
+void ConfigurationWindow::showEditedCount(int count) { Cpt_Rep.setText(decimal(count)); }
 
 void ConfigurationWindow::CmdCreer_Click() {
-    MontrerPage(Page::Editing);
-    Cpt_Rep.setText(L"0");
-    module_.configs.NomConfEdit.clear();
+    showPage(Page::Editing);
+    showEditedCount(0);
+    configurations_.renamed.clear();
     NomDeLaConf.setText(L"");
-    clearFrom(module_.configs.RepEdit, 1);
-    AfficherRepEdit();
+    clearFrom(configurations_.edited, 1);
+    showEdited();
 }
 
 void ConfigurationWindow::CmdModifier_Click() {
-    EditerSelection();
-    module_.configs.NomConfEdit.clear();
+    editSelection();
+    configurations_.renamed.clear();
 }
 
 void ConfigurationWindow::CmdRenommer_Click() {
-    EditerSelection();
-    module_.configs.NomConfEdit = NomDeLaConf.text();
+    editSelection();
+    configurations_.renamed = NomDeLaConf.text();
 }
 
-void ConfigurationWindow::EditerSelection() {
-    Configurations& configs = module_.configs;
-    ChercherSelection();
-    MontrerPage(Page::Editing);
-    const Configuration& selected = configs.ConfRep[configs.ConfSel];
-    copyDirectories(selected, configs.RepEdit);
-    Cpt_Rep.setText(decimal(directoryCount(selected)));
-    AfficherRepEdit();
+void ConfigurationWindow::editSelection() {
+    findSelection();
+    showPage(Page::Editing);
+    const Configuration& selected = configurations_.rows[configurations_.selected];
+    copyDirectories(selected, configurations_.edited);
+    showEditedCount(directoryCount(selected));
+    showEdited();
     NomDeLaConf.setText(selected[0]);
 }
 
-void ConfigurationWindow::AfficherRepEdit() {
-    List2.setLines(static_cast<int>(nombreRep()), [&](int line) {
-        return shownPath(module_.configs.RepEdit[line + 1], NNiv.text());
+void ConfigurationWindow::showEdited() {
+    List2.setLines(editedCount(), [&](int line) {
+        return shownPath(configurations_.edited[line + 1], NNiv.levels());
     });
 }
 
 void ConfigurationWindow::CmdPlus1_Click() {
-    if (hideOneLevelMore(NNiv)) AfficherRepEdit();
+    if (NNiv.hideOneMore()) showEdited();
 }
 
 void ConfigurationWindow::CmdMoins1_Click() {
-    if (hideOneLevelLess(NNiv)) AfficherRepEdit();
+    if (NNiv.hideOneLess()) showEdited();
 }
 
-void ConfigurationWindow::CmdRetir1_Click() { Retirer(Removal::Selected); }
+void ConfigurationWindow::openDirectory(const std::function<void()>& opening) {
+    std::wstring problem;
+    try {
+        opening();
+    } catch (const RuntimeError& error) {
+        problem = error.text;
+    }
+    Drive1.setDrive(Dir1.path());
+    if (problem.empty()) return;
+    platform_.messageBoxes.show({.text = L"Ce répertoire ne peut pas être ouvert.\r\n" + problem,
+                                 .title = L"Gestion des répertoires de recherche",
+                                 .icon = MessageBoxContent::Icon::Stop});
+}
 
-void ConfigurationWindow::CmdRetir2_Click() { Retirer(Removal::WithFollowers); }
+void ConfigurationWindow::Drive1_Change() {
+    const wchar_t drive = Drive1.drive();
+    if (drive == 0) return;
+    openDirectory([&] { Dir1.setPath(platform_.files.currentDirectory(drive)); });
+}
 
-void ConfigurationWindow::Retirer(Removal removal) {
-    const long left = removeDirectories(
-        module_.configs.RepEdit, nombreRep(), [&](int line) { return List2.selected(line); },
-        removal);
-    Cpt_Rep.setText(decimal(left));
-    AfficherRepEdit();
+void ConfigurationWindow::Dir1_DblClick() {
+    openDirectory([&] { Dir1.openSelected(); });
+}
+
+void ConfigurationWindow::addDirectoryOf(const std::wstring& path) {
+    const int count = editedCount();
+    if (!addDirectory(configurations_.edited, count, path)) return;
+    showEditedCount(count + 1);
+    showEdited();
+}
+
+void ConfigurationWindow::CmdAjo1_Click() { addDirectoryOf(Dir1.path()); }
+
+void ConfigurationWindow::CmdAjo2_Click() {
+    addDirectoryOf(Dir1.path());
+    OpenDirectories way(platform_.files);
+    addSubdirectories(way);
+}
+
+void ConfigurationWindow::addSubdirectories(OpenDirectories& way) {
+    way.enter(Dir1.path());
+    for (int i = 0; i < Dir1.subdirectoryCount(); ++i) {
+        if (Dir1.subdirectoryIsLink(i) && way.leadsBack(Dir1.subdirectory(i))) continue;
+        Dir1.setPath(Dir1.subdirectory(i));
+        addDirectoryOf(Dir1.path());
+        addSubdirectories(way);
+        Dir1.setPath(Dir1.parent());
+    }
+    way.leave();
+}
+
+void ConfigurationWindow::CmdRetir1_Click() { remove(Removal::Selected); }
+
+void ConfigurationWindow::CmdRetir2_Click() { remove(Removal::WithFollowers); }
+
+void ConfigurationWindow::remove(Removal removal) {
+    showEditedCount(removeDirectories(
+        configurations_.edited, editedCount(), [&](int line) { return List2.selected(line); },
+        removal));
+    showEdited();
 }
 
 void ConfigurationWindow::CmdValider_Click() {
-    SauverPosition();
+    places_.save(PlacedWindow::SearchFolders, *window_);
     std::wstring name = NomDeLaConf.text();
-    storeEdited(module_.configs, name);
+    storeEdited(configurations_, name);
     NomDeLaConf.setText(name);
-    MontrerPage(Page::Configurations);
-    AfficherConfs();
-    if (equalIgnoringCase(name, L"En Cours")) AppliquerConf(module_, platform_.messageBoxes, 0);
+    showPage(Page::Configurations);
+    showConfigurations();
+    if (equalIgnoringCase(name, L"En Cours")) apply(configurations_.rows[0]);
 }
 
 void ConfigurationWindow::CmdAnnuler1_Click() {
-    SauverPosition();
-    RetenirPosition();
-    MontrerPage(Page::Configurations);
+    places_.save(PlacedWindow::SearchFolders, *window_);
+    showPage(Page::Configurations);
 }

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "common/checked_table.h"
 
-inline constexpr long kMostConfigurations = 50;
-inline constexpr long kMostDirectories = 200;
+inline constexpr int kMostConfigurations = 50;
+inline constexpr int kMostDirectories = 200;
 
 /// A configuration: entry 0 its name, entries 1 to 200 its directories. An empty one ends them.
 using Configuration = CheckedTable<std::wstring, kMostDirectories + 1>;
@@ -15,22 +14,22 @@ using Configuration = CheckedTable<std::wstring, kMostDirectories + 1>;
 /// outlive the window that edits them. Reaching past a table raises 9.
 struct Configurations {
     /// Row 0 mirrors the CAD application's own setting, "En Cours"; a row without a name is free.
-    CheckedTable<Configuration, kMostConfigurations + 1> ConfRep;
-    std::int16_t NbConf = 0;   ///< the last row in use
-    std::int16_t ConfSel = 0;  ///< the row last found selected
+    CheckedTable<Configuration, kMostConfigurations + 1> rows;
+    int last = 0;      ///< the last row in use
+    int selected = 0;  ///< the row last found selected
 
-    Configuration RepEdit;     ///< the directories being edited; entry 0 stays empty
-    std::wstring NomConfEdit;  ///< the name before renaming; empty when creating or modifying
+    Configuration edited;  ///< the directories being edited; entry 0 stays empty
+    std::wstring renamed;  ///< the name before renaming; empty when creating or modifying
 };
 
 /// Empties the entries from `first` on.
-void clearFrom(Configuration& configuration, long first);
+void clearFrom(Configuration& configuration, int first);
 
 /// The first empty entry from `first` on, 201 when there is none.
-long firstEmpty(const Configuration& configuration, long first);
+int firstEmpty(const Configuration& configuration, int first);
 
 /// How many directories stand before the first empty entry.
-inline long directoryCount(const Configuration& configuration) {
+inline int directoryCount(const Configuration& configuration) {
     return firstEmpty(configuration, 1) - 1;
 }
 

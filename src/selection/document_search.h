@@ -15,9 +15,9 @@ class FoundDocuments;
 class DocumentSearch {
  public:
     /// Told, as often as a directory has been read, how many files of the kinds it holds.
-    using Progress = std::function<void(long filesListed)>;
+    using Progress = std::function<void(int filesListed)>;
 
-    DocumentSearch(Files& files, FoundDocuments& found, DocumentKinds motif, Progress progress);
+    DocumentSearch(Files& files, FoundDocuments& found, DocumentKinds kinds, Progress progress);
 
     /// Puts the directory's documents into the table, in ascending name order; then, if wanted,
     /// those of its sub-directories depth-first, each directory before its own sub-directories.
@@ -28,12 +28,12 @@ class DocumentSearch {
  private:
     using Subdirectories = std::vector<Subdirectory>;
 
-    Subdirectories CollecterRepertoire(const std::wstring& RepCourant, bool ajout);
-    void ParcourirSousRep(const std::wstring& directory, const Subdirectories& subdirectories);
+    Subdirectories collect(const std::wstring& directory, bool append);
+    void walk(const std::wstring& directory, const Subdirectories& subdirectories);
 
     Files& files_;
     FoundDocuments& found_;
-    DocumentKinds motif_;
+    DocumentKinds kinds_;
     Progress progress_;
     OpenDirectories open_;
 };

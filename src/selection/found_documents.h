@@ -9,16 +9,17 @@
 /// The documents found, in the order of their discovery.
 class FoundDocuments {
  public:
-    static constexpr long kCapacity = 8001;
+    static constexpr int kCapacity = 8001;
 
-    long count() const { return count_; }
+    int count() const { return count_; }
     /// A bare file name or, when sub-directories are included, a full path.
-    const std::wstring& entry(long index) const { return TabFich_[index]; }
+    const std::wstring& entry(int index) const { return entries_[index]; }
 
-    bool CheminsComplets() const { return CheminsComplets_; }
+    /// Whether the entries are full paths.
+    bool fullPaths() const { return fullPaths_; }
 
     /// Empties the table and says what its next entries will be.
-    void restart(bool CheminsComplets);
+    void restart(bool fullPaths);
 
     /// Begins a pass over one directory. Unless it appends, the table is emptied but for its very
     /// last entry, which so still counts as present.
@@ -31,8 +32,8 @@ class FoundDocuments {
  private:
     bool presentInPass(const std::wstring& entry) const;
 
-    CheckedTable<std::wstring, kCapacity> TabFich_;
+    CheckedTable<std::wstring, kCapacity> entries_;
     std::unordered_set<std::wstring> pass_;  ///< the bare names of the current pass
-    long count_ = 0;
-    bool CheminsComplets_ = false;
+    int count_ = 0;
+    bool fullPaths_ = false;
 };

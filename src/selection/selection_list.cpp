@@ -3,18 +3,18 @@
 #include "common/letter_case.h"
 #include "platform/controls.h"
 #include "selection/found_documents.h"
-#include "worklist/display_line.h"
+#include "worklist/short_path.h"
 #include "worklist/state_labels.h"
 
-void SelectionList::RemplirListe(int mode, const std::wstring& depth) {
+void SelectionList::fill(int depth) {
     depth_ = depth;
-    const int count = static_cast<int>(found_.count());
-    if (mode == 1) {
-        list_.setLines(count, [&](int i) { return lineText(i, false); });
-        return;
-    }
+    list_.setLines(found_.count(), [&](int i) { return lineText(i, false); });
+}
+
+void SelectionList::redraw(int depth) {
+    depth_ = depth;
     DrawingPause pause(list_);
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < found_.count(); ++i) {
         const int mark = list_.mark(i);
         list_.replaceLine(i, lineText(i, mark != 0));
         list_.setMark(i, mark);
@@ -22,7 +22,7 @@ void SelectionList::RemplirListe(int mode, const std::wstring& depth) {
 }
 
 void SelectionList::appendLine(std::wstring& text, int line, bool chosen) const {
-    text += chosen ? labels_.LibX : labels_.LibAFaire;
+    text += chosen ? label::kChosen : label::kToDo;
     text += shownPath(found_.entry(line), depth_);
 }
 
@@ -32,8 +32,8 @@ std::wstring SelectionList::lineText(int line, bool chosen) const {
     return text;
 }
 
-long SelectionList::chosenCount() const {
-    long chosen = 0;
+int SelectionList::chosenCount() const {
+    int chosen = 0;
     for (int i = 0; i < found_.count(); ++i) {
         if (list_.mark(i) == 1) ++chosen;
     }

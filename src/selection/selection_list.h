@@ -6,19 +6,19 @@
 
 class FoundDocuments;
 class ListBox;
-struct StateLabels;
 
 /// The documents found as lines of a list, each chosen or not: its mark, 1 or 0, and an "X" in
 /// front. The list's own selection (the highlight) is another thing.
 class SelectionList {
  public:
-    SelectionList(ListBox& list, const FoundDocuments& found, const StateLabels& labels)
-        : list_(list), found_(found), labels_(labels) {}
+    SelectionList(ListBox& list, const FoundDocuments& found) : list_(list), found_(found) {}
 
-    /// Draws all lines from the table. Mode 1: anew, none is chosen; mode 0: choices are kept.
-    void RemplirListe(int mode, const std::wstring& depth);
+    /// Draws all lines from the table; none is chosen.
+    void fill(int depth);
+    /// Draws all lines at another depth; choices are kept.
+    void redraw(int depth);
 
-    long chosenCount() const;
+    int chosenCount() const;
     /// Whether the pass takes a line.
     bool chosen(int line) const;
 
@@ -39,6 +39,5 @@ class SelectionList {
 
     ListBox& list_;
     const FoundDocuments& found_;
-    const StateLabels& labels_;
-    std::wstring depth_;  ///< at which the lines were drawn last
+    int depth_ = 0;  ///< at which the lines were drawn last
 };

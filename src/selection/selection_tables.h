@@ -1,7 +1,58 @@
 #pragma once
 
 #include "selection/selection_ids.h"
-#include "selection/selection_tooltips.h"
+#include "selection/selection_window.h"
+
+/// Which handler each event of the selection window goes to.
+inline constexpr Binding<SelectionWindow> kSelectionBindings[] = {
+    {kTheWindow, Event::Close, &SelectionWindow::Form_Close},
+    {IDC_FORM1_UNITE, Event::Click, &SelectionWindow::unite_Change},
+    {IDC_FORM1_REPERT, Event::DoubleClick, &SelectionWindow::repert_DblClick},
+    {IDC_FORM1_TYPEF, Event::Change, &SelectionWindow::repert_Change},
+    {IDC_FORM1_TYPEF, Event::Click, &SelectionWindow::repert_Change},
+    {IDC_FORM1_TYPEF, Event::Validate, &SelectionWindow::repert_Change},
+    {IDC_FORM1_SOUSREP, Event::Click, &SelectionWindow::sousrep_Click},
+    {IDC_FORM1_LIST1, Event::Click, &SelectionWindow::List1_Click},
+    {IDC_FORM1_CMDCOCHE, Event::Click, &SelectionWindow::CmdCoche_Click},
+    {IDC_FORM1_CMD_INV, Event::Click, &SelectionWindow::Cmd_Inv_Click},
+    {IDC_FORM1_N_FILTRE, Event::Enter, &SelectionWindow::cmd_ajo_Click},
+    {IDC_FORM1_CMD_AJO, Event::Click, &SelectionWindow::cmd_ajo_Click},
+    {IDC_FORM1_CMD_ENL, Event::Click, &SelectionWindow::cmd_enl_Click},
+    {IDC_FORM1_CMDPLUS, Event::Click, &SelectionWindow::CmdPlus_Click},
+    {IDC_FORM1_CMDMOINS, Event::Click, &SelectionWindow::CmdMoins_Click},
+    {IDC_FORM1_CMDAP, Event::Click, &SelectionWindow::CmdAP_Click},
+    {IDC_FORM1_CMDREPDEF, Event::Click, &SelectionWindow::CmdRepDef_Click},
+    {IDC_FORM1_CMD_TRACER, Event::Click, &SelectionWindow::cmd_tracer_Click},
+    {IDC_FORM1_CMD_SORTIE, Event::Click, &SelectionWindow::cmd_sortie_Click},
+    {IDC_FORM1_CMD_ANNULER, Event::Click, &SelectionWindow::cmd_annuler_Click},
+};
+
+inline constexpr Tooltip kSelectionTooltips[] = {
+    {IDC_FORM1_SOUSREP, L"Indique si il faut traiter également les sous répertoires  "},
+    {IDC_FORM1_REPERT, L"Double cliquer pour sélectionner le répertoire souhaité  "},
+    {IDC_FORM1_LIST1, L"Les lignes commençant par un X correspondent à des fichiers sélectionnés."},
+    {IDC_FORM1_CMDMOINS,
+     L"Rallonge la longueur des noms de fichiers en démasquant un niveau supplémentaire de "
+     L"l'arborescence"},
+    {IDC_FORM1_CMDPLUS,
+     L"Réduit la longueur des noms de fichiers en masquant un niveau supplémentaire de "
+     L"l'arborescence  "},
+    {IDC_FORM1_CMD_AJO,
+     L"Ajoute à la sélection les fichiers dont le nom comprend la chaine de caractère ci-contre."},
+    {IDC_FORM1_N_FILTRE, L"Chaine de caractère utilisée par les deux boutons ci contre."},
+    {IDC_FORM1_CMD_ENL,
+     L"Enlève de la sélection les fichiers dont le nom comprend la chaine de caractère "
+     L"ci-contre."},
+    {IDC_FORM1_CMDCOCHE, L"Ajoute ou enlève de la sélection les fichiers marqués en bleu."},
+    {IDC_FORM1_CMD_INV,
+     L"Inverse complétement les fichiers sélectionnés (sur toute la liste)  sans tenir compte des "
+     L"lignes marquées de bleu."},
+    {IDC_FORM1_CMDREPDEF, L"Gére la liste des répertoires de recherche fichiers SOLIDWORKS"},
+    {IDC_FORM1_CMD_ANNULER, L"Sortie Immédiate"},
+    {IDC_FORM1_CMD_SORTIE, L"Sortie avec sauvegarde de la position de la fenêtre."},
+    {IDC_FORM1_CMD_TRACER, L"Démarre le traitement de la liste des fichiers sélectionnés.  "},
+    {IDC_FORM1_CMDAP, L"A Propos de Tarnwick"},
+};
 
 // The list of documents takes the width of a larger window, both lists take the height.
 inline constexpr Anchor kSelectionAnchors[] = {

@@ -1,26 +1,35 @@
 #pragma once
 
-#include <memory>
 #include <string>
 
 #include "pickers/directory_picker.h"
 #include "pickers/drive_picker.h"
-#include "platform/window.h"
+#include "platform/program_window.h"
 #include "selection/found_documents.h"
 #include "selection/selection_list.h"
+#include "worklist/display_depth.h"
 
-class Navigation;
-struct Module1;
+class CadSession;
+class WindowPlaces;
 struct Platform;
+struct ProgramFiles;
+
+/// Where the selection window leads.
+class SelectionExits {
+ public:
+    virtual ~SelectionExits() = default;
+    virtual void closeSplash() = 0;
+    virtual void launchPass() = 0;
+    virtual void showConfigurations() = 0;
+    virtual void showAbout() = 0;
+};
 
 /// The selection window: a pass is prepared here. It finds the documents under a directory, lets
 /// the user choose among them, and launches the pass.
-class SelectionWindow : public EventSink {
+class SelectionWindow : public ProgramWindow<SelectionWindow> {
  public:
-    SelectionWindow(Module1& module, Platform& platform, Navigation& navigation);
-
-    void raise(int controlId, Event event) override;
-    Window& window() { return *window_; }
+    SelectionWindow(Platform& platform, WindowPlaces& places, const CadSession& cad,
+                    const ProgramFiles& files, SelectionExits& exits);
 
     void Form_Load();
     /// Closed by its frame: the program ends, nothing is saved.
@@ -28,12 +37,8 @@ class SelectionWindow : public EventSink {
 
     // Where and what to search: every change rebuilds the list.
     void unite_Change();
-    void repert_Click();
     void repert_DblClick();
     void repert_Change();
-    void typef_Change();
-    void typef_Click();
-    void typef_Validate();
     void sousrep_Click();
 
     // Choosing among the documents found.
@@ -53,28 +58,30 @@ class SelectionWindow : public EventSink {
     void cmd_annuler_Click();
 
  private:
-    void ChoisirDepart();
-    void MasquerEssais();
+    void openWorkingDirectory();
+    void hideTrials();
     /// The chosen directory is a drive root and its sub-directories are wanted.
-    bool rechercheDepuisRacine() const;
+    bool searchesWholeDrive() const;
     /// Asks whether a whole drive is to be searched. True for Yes.
-    bool ConfirmerRacine();
-    void DecocherSousRep();
-    void Rechercher();
-    void LancerTraitement();
-    std::wstring cheminComplet(long index) const;
+    bool confirmWholeDrive();
+    void leaveOutSubdirectories();
+    void search();
+    void writeList();
+    std::wstring fullPath(int index) const;
 
-    Module1& module_;
     Platform& platform_;
-    Navigation& navigation_;
-    std::unique_ptr<Window> window_;
+    WindowPlaces& places_;
+    const CadSession& cad_;
+    const ProgramFiles& files_;
+    SelectionExits& exits_;
 
     ComboBox& typef;
     CheckBox& sousrep;
-    Control &nbfich, &cptfichier, &NNiveau, &n_filtre;
+    Control &nbfich, &cptfichier, &n_filtre;
+    DisplayDepth NNiveau;
     DrivePicker unite;
     DirectoryPicker repert;
-    FoundDocuments trouves_;
-    SelectionList liste_;
-    std::wstring repFichiers_;  ///< the directory that the file enumerator stands at
+    FoundDocuments found_;
+    SelectionList List1;
+    std::wstring searched_;  ///< the directory searched last
 };

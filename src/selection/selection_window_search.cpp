@@ -29,16 +29,9 @@ class Pulse {
 
 }  // namespace
 
-// A click only highlights a directory; a double click opens it.
-void SelectionWindow::repert_Click() {}
-
 void SelectionWindow::repert_DblClick() {
     if (repert.openSelected()) repert_Change();
 }
-
-void SelectionWindow::typef_Change() { repert_Change(); }
-void SelectionWindow::typef_Click() { repert_Change(); }
-void SelectionWindow::typef_Validate() { repert_Change(); }
 
 void SelectionWindow::unite_Change() {
     if (unite.drive() == 0) return;
@@ -46,14 +39,14 @@ void SelectionWindow::unite_Change() {
     repert_Change();
     // Another directory and the drive each ask for a rebuild. The second finds the same again, so
     // it is spared unless it has a question to repeat.
-    if (elsewhere && rechercheDepuisRacine()) repert_Change();
+    if (elsewhere && searchesWholeDrive()) repert_Change();
 }
 
-bool SelectionWindow::rechercheDepuisRacine() const {
+bool SelectionWindow::searchesWholeDrive() const {
     return isDriveRoot(repert.path()) && sousrep.checked();
 }
 
-bool SelectionWindow::ConfirmerRacine() {
+bool SelectionWindow::confirmWholeDrive() {
     const auto answer = platform_.messageBoxes.show(
         {.text = L"    La recherche de tous les fichiers à partir de la racine  \n\r"
                  L"                risque d'être assez longue .\n\r"
@@ -64,39 +57,39 @@ bool SelectionWindow::ConfirmerRacine() {
     return answer == MessageBoxes::Answer::Yes;
 }
 
-void SelectionWindow::DecocherSousRep() {
+void SelectionWindow::leaveOutSubdirectories() {
     sousrep.setChecked(false);
     sousrep_Click();
 }
 
 void SelectionWindow::sousrep_Click() {
     cptfichier.setText(L"0");
-    trouves_.restart(sousrep.checked());
-    if (rechercheDepuisRacine() && !ConfirmerRacine()) {
-        DecocherSousRep();
+    found_.restart(sousrep.checked());
+    if (searchesWholeDrive() && !confirmWholeDrive()) {
+        leaveOutSubdirectories();
     } else {
         repert_Change();
     }
 }
 
 void SelectionWindow::repert_Change() {
-    if (rechercheDepuisRacine() && !ConfirmerRacine()) DecocherSousRep();
-    repFichiers_ = repert.path();
-    Rechercher();
-    cptfichier.setText(decimal(trouves_.count()));
-    liste_.RemplirListe(1, NNiveau.text());
+    if (searchesWholeDrive() && !confirmWholeDrive()) leaveOutSubdirectories();
+    searched_ = repert.path();
+    search();
+    cptfichier.setText(decimal(found_.count()));
+    List1.fill(NNiveau.levels());
     List1_Click();
 }
 
-void SelectionWindow::Rechercher() {
+void SelectionWindow::search() {
     Pulse pulse;
-    const auto showProgress = [&](long filesListed) {
+    const auto showProgress = [&](int filesListed) {
         if (!pulse.due()) return;
         nbfich.setText(decimal(filesListed));
-        cptfichier.setText(decimal(trouves_.count()));
+        cptfichier.setText(decimal(found_.count()));
         nbfich.repaint();
         cptfichier.repaint();
     };
-    DocumentSearch search(platform_.files, trouves_, DocumentKinds(typef.text()), showProgress);
+    DocumentSearch search(platform_.files, found_, DocumentKinds(typef.text()), showProgress);
     search.run(repert.path(), sousrep.checked());
 }

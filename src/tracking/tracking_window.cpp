@@ -1,74 +1,66 @@
 #include "tracking/tracking_window.h"
 
-#include <array>
-
-#include "app/module1.h"
+#include "cad/cad_session.h"
 #include "common/numbers.h"
 #include "common/runtime_error.h"
-#include "common/utf8.h"
 #include "platform/files.h"
 #include "platform/platform.h"
-#include "platform/settings.h"
+#include "session/program_files.h"
+#include "session/setting_values.h"
 #include "session/window_places.h"
-#include "tracking/tracking_events.h"
-#include "tracking/tracking_ids.h"
 #include "tracking/tracking_tables.h"
-#include "worklist/display_depth.h"
-#include "worklist/list_file.h"
 #include "worklist/progress.h"
 
-TrackingWindow::TrackingWindow(Module1& module, Platform& platform)
-    : module_(module),
+TrackingWindow::TrackingWindow(Platform& platform, WindowPlaces& places, CadSession& cad,
+                               const ProgramFiles& files)
+    : ProgramWindow(platform.windows, kTrackingWindow, kTrackingBindings),
       platform_(platform),
-      window_(platform.windows.create(kTrackingWindow, *this)),
-      cad_(module, platform.desktop),
-      vue_(window_->listBox(IDC_FORM3_LIST1)),
+      places_(places),
+      cad_(cad),
+      files_(files),
       TxtEtat(window_->control(IDC_FORM3_TXTETAT)),
       nbfich1(window_->control(IDC_FORM3_NBFICH1)),
       cptfichier1(window_->control(IDC_FORM3_CPTFICHIER1)),
-      NNiveau1(window_->control(IDC_FORM3_NNIVEAU1)),
       NumFichCour(window_->control(IDC_FORM3_NUMFICHCOUR)),
+      NNiveau1(window_->control(IDC_FORM3_NNIVEAU1)),
       List1(window_->listBox(IDC_FORM3_LIST1)),
       CkMinimise(window_->checkBox(IDC_FORM3_CKMINIMISE)),
       CkSilent(window_->checkBox(IDC_FORM3_CKSILENT)),
       CkRecons(window_->checkBox(IDC_FORM3_CKRECONS)),
-      CkRecons2(window_->checkBox(IDC_FORM3_CKRECONS2)) {}
+      CkRecons2(window_->checkBox(IDC_FORM3_CKRECONS2)),
+      lines_(List1) {}
 
-void TrackingWindow::raise(int controlId, Event event) {
-    dispatch<TrackingWindow>(*this, kTrackingBindings, controlId, event);
-}
-
-void TrackingWindow::Form_Load() {
-    const WindowPlace& place = module_.place(PlacedWindow::Tracking);
-    window_->moveTo(place.top, place.left);
-    CocherOptions();
+void TrackingWindow::Form_Load(FirstDisplay display) {
+    places_.restore(PlacedWindow::Tracking, *window_);
+    tickOptions();
     CkMinimise.setVisible(false);
-    NNiveau1.setText(L"0");
-    LireListe();
-    const int depart = ChoisirDepart();
-    module_.FenetreSuiviPrete = false;
+    NNiveau1.reset();
+    readList();
+    const bool opens = pass_.start();
     window_->control(IDC_FORM3_CMDMEMO).setVisible(false);
     NumFichCour.setVisible(false);
-    AfficherListe(module_.NouvelleListe ? 1 : 2);
-    module_.FenetreSuiviPrete = true;
-    // Strict on purpose: a list whose last line is the only one to do starts at its end.
-    if (depart < module_.liste.DerFich) {
-        Demarrer(depart);
+    if (opens) {
+        showAndOpen(display == FirstDisplay::AllToDo ? Redraw::AllToDo : Redraw::Anew);
+        cad_.bringForward();
     } else {
-        DemarrerEnFin();
+        showNumbers();
+        showEnd(Redraw::Anew);
     }
 }
 
-void TrackingWindow::CocherOptions() {
-    const std::wstring options =
-        platform_.settings.read(L"tarnwick", L"startup", L"regcheck", L"1111");
+void TrackingWindow::readList() {
+    if (!pass_.read(platform_.files.read(files_.list))) throw ProgramEnd{};
+}
+
+void TrackingWindow::tickOptions() {
+    const std::wstring options = valueOf(platform_.settings, setting::kLoadingOptions);
     const std::array boxes{&CkMinimise, &CkSilent, &CkRecons, &CkRecons2};
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         boxes[i]->setChecked(i < options.size() && options[i] == L'1');
     }
 }
 
-std::wstring TrackingWindow::ChaineOptions() const {
+std::wstring TrackingWindow::tickedOptions() const {
     std::wstring options;
     for (const CheckBox* box : {&CkMinimise, &CkSilent, &CkRecons, &CkRecons2}) {
         options += box->checked() ? L'1' : L'0';
@@ -76,76 +68,126 @@ std::wstring TrackingWindow::ChaineOptions() const {
     return options;
 }
 
-void TrackingWindow::LireListe() {
-    if (!parseListFile(platform_.files.read(module_.FichListe), module_.liste)) throw ProgramEnd{};
-}
-
-int TrackingWindow::ChoisirDepart() {
-    WorkList& liste = module_.liste;
-    for (int i = 0; i <= liste.DerFich; ++i) {
-        if (liste.EtatFich[i].code == state::kInProgress) liste.EtatFich[i].code = state::kToDo;
-    }
-    int depart = 0;
-    while (depart < liste.DerFich && liste.EtatFich[depart].code != state::kToDo) ++depart;
-    if (liste.EtatFich[depart].code == state::kToDo) {
-        liste.EtatFich[depart].code = state::kInProgress;
-    }
-    return depart;
-}
-
-void TrackingWindow::Demarrer(int index) {
-    fixerLigneCourante(index);
-    nbfich1.setText(decimal(index + 1));
-    cptfichier1.setText(decimal(module_.liste.lineCount()));
-    List1.select(index, true);
-    OuvrirLigne(index);
-    TxtEtat.setText(wideText(module_.liste.EtatFich[index].path));
-    MontrerDocument();
-}
-
-void TrackingWindow::DemarrerEnFin() {
-    AfficherListe(0);
-    ActiverSuivants(1);
-    // The pointer stands past the end, so that "Précédent" searches from the last line; the count
-    // shows the lines, so that saving the list writes them all.
-    fixerLigneCourante(module_.liste.lineCount());
-    cptfichier1.setText(decimal(module_.liste.lineCount()));
+LoadingOptions TrackingWindow::loadingOptions() const {
+    using Rebuild = LoadingOptions::Rebuild;
+    const Rebuild rebuild = CkRecons2.checked()  ? Rebuild::AllLevels
+                            : CkRecons.checked() ? Rebuild::TopLevel
+                                                 : Rebuild::None;
+    return {.silent = CkSilent.checked(), .rebuild = rebuild};
 }
 
 void TrackingWindow::CmdSortie_Click() {
-    savePlace(platform_.settings, PlacedWindow::Tracking, *window_);
-    platform_.settings.write(L"tarnwick", L"startup", L"RegCheck", ChaineOptions());
+    places_.save(PlacedWindow::Tracking, *window_);
+    setValue(platform_.settings, setting::kLoadingOptionsWritten, tickedOptions());
     cad_.closeDocument();
     throw ProgramEnd{};
 }
 
 void TrackingWindow::Form_Close() { throw ProgramEnd{}; }
 
-// The button is hidden and has no function.
-void TrackingWindow::CmdMemo_Click() {}
-
 void TrackingWindow::CmdFichierListe_Click() {
-    platform_.files.replace(module_.FichListe, [&](const ByteSink& file) {
-        formatListFile(module_.liste, numericValue(cptfichier1.text()), file);
-    });
+    // As many lines as the window says there are.
+    const std::int32_t count = numericValue(cptfichier1.text());
+    platform_.files.replace(files_.list, [&](const ByteSink& file) { pass_.write(count, file); });
+}
+
+void TrackingWindow::CmdSuiv_Click() { advance(state::kDone); }
+void TrackingWindow::CmdSuivQuitter_Click() { advance(state::kSeen); }
+void TrackingWindow::CmdSuivSauter_Click() { advance(state::kToDo); }
+
+void TrackingWindow::advance(std::string_view mark) {
+    takePointer();
+    if (pass_.pastEnd()) return;
+    if (mark == state::kDone) cad_.save();
+    cad_.closeDocument();
+    cad_.forgetDocument();
+    if (!pass_.advance(mark)) {
+        showNumbers();
+        showEnd(Redraw::InPlace);
+        return;
+    }
+    showAndOpen(Redraw::InPlace);
+    enableStepBack(true);
+    cad_.bringForward();
+}
+
+void TrackingWindow::CmdPrecedent_Click() {
+    takePointer();
+    if (pass_.current() < 0) return;
+    // It still counts as open: a document of the same path further up is taken for it.
+    cad_.closeDocument();
+    if (!pass_.stepBack()) {
+        showNumbers();
+        drawList(Redraw::InPlace);
+        enableStepBack(false);
+        return;
+    }
+    showAndOpen(Redraw::InPlace);
+    enableAdvance(true);
+    cad_.bringForward();
+}
+
+void TrackingWindow::takePointer() { pass_.moveTo(wholeNumber(NumFichCour.text())); }
+
+void TrackingWindow::showAndOpen(Redraw redraw) {
+    showNumbers();
+    {
+        DrawingPause pause(List1);
+        drawList(redraw);
+        List1.select(pass_.current(), true);
+    }
+    openCurrent();
+    TxtEtat.setText(pass_.currentPath());
+}
+
+void TrackingWindow::openCurrent() {
+    const std::wstring path = pass_.currentPath();
+    if (cad_.hasOpen(path)) return;
+    // Shown now: the opening may take long.
+    List1.repaint();
+    cad_.open(path, loadingOptions());
+}
+
+void TrackingWindow::showEnd(Redraw redraw) {
+    drawList(redraw);
+    enableAdvance(false);
+}
+
+void TrackingWindow::showNumbers() {
+    NumFichCour.setText(decimal(pass_.current()));
+    nbfich1.setText(decimal(pass_.shownNumber()));
+}
+
+void TrackingWindow::drawList(Redraw redraw) {
+    const auto [done, total] = passProgress(pass_.list());
+    window_->showProgress(done, total);
+    if (redraw == Redraw::InPlace) {
+        lines_.update(pass_.list(), NNiveau1.levels());
+    } else {
+        lines_.rebuild(pass_.list(), NNiveau1.levels(), redraw == Redraw::AllToDo);
+        cptfichier1.setText(decimal(pass_.list().lineCount()));
+    }
 }
 
 void TrackingWindow::CmdPlus1_Click() {
-    if (hideOneLevelMore(NNiveau1)) AfficherListe(0);
+    if (NNiveau1.hideOneMore()) drawList(Redraw::InPlace);
 }
 
 void TrackingWindow::CmdMoins1_Click() {
-    if (hideOneLevelLess(NNiveau1)) AfficherListe(0);
+    if (NNiveau1.hideOneLess()) drawList(Redraw::InPlace);
 }
 
-void TrackingWindow::AfficherListe(std::int16_t mode) {
-    const auto [done, total] = passProgress(module_.liste);
-    window_->showProgress(done, total);
-    if (mode == 0) {
-        vue_.update(module_.liste, module_.labels, NNiveau1.text());
-    } else {
-        nbfich1.setText(L"0");
-        cptfichier1.setText(L"0");
-        vue_.rebuild(module_.liste, module_.labels, NNiveau1.text(), mode == 1);
+void TrackingWindow::enableAdvance(bool enabled) {
+    for (const int button : {IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIVQUITTER, IDC_FORM3_CMDSUIVSAUTER,
+                             IDC_FORM3_CMD1, IDC_FORM3_CMD2, IDC_FORM3_CMD3}) {
+        window_->control(button).setEnabled(enabled);
     }
+    if (!enabled) TxtEtat.setText(L"Aucun");
+}
+
+void TrackingWindow::enableStepBack(bool enabled) {
+    for (const int button : {IDC_FORM3_CMDPRECEDENT, IDC_FORM3_CMD4}) {
+        window_->control(button).setEnabled(enabled);
+    }
+    if (!enabled) TxtEtat.setText(L"aucun");
 }

@@ -1,44 +1,43 @@
 #pragma once
 
-#include <cstdint>
-#include <memory>
+#include <array>
 #include <string>
 #include <string_view>
 
-#include "cad/cad_session.h"
-#include "platform/window.h"
+#include "platform/program_window.h"
 #include "tracking/work_list_view.h"
-#include "worklist/line_commands.h"
+#include "worklist/display_depth.h"
+#include "worklist/pass.h"
 
-struct Module1;
+class CadSession;
+class WindowPlaces;
+struct LoadingOptions;
 struct Platform;
+struct ProgramFiles;
 struct Question;
 
 /// The tracking window: the work list, the document in progress, and the commands that lead the
-/// pass from one document to the next.
-class TrackingWindow : public EventSink {
+/// pass from one document to the next. It mirrors a pass and makes the calls between its steps.
+class TrackingWindow : public ProgramWindow<TrackingWindow> {
  public:
-    TrackingWindow(Module1& module, Platform& platform);
+    /// How the lines show at first: by their states or, after an old list was declined, all but
+    /// the first as to do.
+    enum class FirstDisplay { States, AllToDo };
 
-    void raise(int controlId, Event event) override;
-    Window& window() { return *window_; }
+    TrackingWindow(Platform& platform, WindowPlaces& places, CadSession& cad,
+                   const ProgramFiles& files);
 
     /// Reads the list file and opens the first document to do. Ends the program when it is empty.
-    void Form_Load();
+    void Form_Load(FirstDisplay display);
     /// Closed by its frame: the program ends, nothing is saved.
     void Form_Close();
     void CmdSortie_Click();
-    void CmdMemo_Click();
 
-    // The sequencer.
+    // From one document to another.
     void CmdSuiv_Click();
     void CmdSuivQuitter_Click();
     void CmdSuivSauter_Click();
     void CmdPrecedent_Click();
-    void Cmd1_Click();
-    void Cmd2_Click();
-    void Cmd3_Click();
-    void Cmd4_Click();
 
     // The list and its display.
     void CmdFichierListe_Click();
@@ -57,51 +56,47 @@ class TrackingWindow : public EventSink {
     void CmdRepA_Click();
     void CmdDeSelect_Click();
 
+    const Pass& pass() const { return pass_; }
+
  private:
-    void LireListe();
-    void CocherOptions();
-    std::wstring ChaineOptions() const;
-    /// Puts lines left in progress back to do; gives the line to start at, in progress if to do.
-    int ChoisirDepart();
-    void Demarrer(int index);
-    void DemarrerEnFin();
+    enum class Redraw { InPlace, Anew, AllToDo };
 
-    /// Marks the current line ("1" saves its document), closes it and opens the next one to do.
-    void Avancer(std::string_view mark);
-    /// Opens a line's document, unless it is the open one already. Raises 9 from 8001 on.
-    void OuvrirLigne(int index);
-    void MontrerDocument();
-    /// 1 disables the six advance buttons and shows "Aucun"; anything else enables them.
-    void ActiverSuivants(std::int16_t flag);
-    /// 1 disables the two step-back buttons and shows "aucun"; anything else enables them.
-    void ActiverPrecedent(std::int16_t flag);
-    /// Makes a line the current one: in progress, shown, selected, its document open.
-    void PasserEnCours(int index);
-    void AfficherListe(std::int16_t mode);
+    void readList();
+    void tickOptions();
+    std::wstring tickedOptions() const;
+    LoadingOptions loadingOptions() const;
 
-    /// 1 when at least one line is selected, else 0.
-    int AuMoinsUneSelection() const;
-    bool verifierSelection(const wchar_t* reproche);
-    bool confirmer(const Question& question);
-    LineSelected selectionnee() const;
-    void ChangerSelection(const Question& question, std::string_view code);
-    void EliminerSelection(const Question& question, Eliminate states);
-    /// Finds the current line again after an edit of the list, and opens its document.
-    void ReprendreCourant();
-    /// Draws the list anew and makes a line the current one, its document open.
-    void ReprendreA(int index);
+    /// The pass takes over the line that NumFichCour names. Raises 13 when that is no number,
+    /// 6 outside 16 bits.
+    void takePointer();
+    void advance(std::string_view mark);
+    /// The current line is shown, selected, and its document opened unless it is open already.
+    void showAndOpen(Redraw redraw);
+    void openCurrent();
+    void showEnd(Redraw redraw);
+    void showNumbers();
+    void drawList(Redraw redraw);
+    void enableAdvance(bool enabled);
+    void enableStepBack(bool enabled);
 
-    int ligneCourante() const;
-    void fixerLigneCourante(long index);
+    bool anySelected() const;
+    LineSelected selected() const;
+    bool requireSelection(const wchar_t* reproach);
+    bool confirm(const Question& question);
+    void changeSelection(const Question& question, std::string_view code);
+    void eliminateSelection(const Question& question, Eliminate states);
+    /// After an edit of the list: opens the document of the current line, if there is one.
+    void followEdit(bool inProgress);
 
-    Module1& module_;
     Platform& platform_;
-    std::unique_ptr<Window> window_;
-    CadSession cad_;
-    WorkListView vue_;
-    std::int16_t typeDocument_ = 0;
+    WindowPlaces& places_;
+    CadSession& cad_;
+    const ProgramFiles& files_;
+    Pass pass_;
 
-    Control &TxtEtat, &nbfich1, &cptfichier1, &NNiveau1, &NumFichCour;
+    Control &TxtEtat, &nbfich1, &cptfichier1, &NumFichCour;
+    DisplayDepth NNiveau1;
     ListBox& List1;
     CheckBox &CkMinimise, &CkSilent, &CkRecons, &CkRecons2;
+    WorkListView lines_;
 };

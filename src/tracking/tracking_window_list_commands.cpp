@@ -1,98 +1,79 @@
 // The tracking window's list commands: many lines at once, and where the pass goes on.
 
-#include "app/module1.h"
+#include "cad/cad_session.h"
 #include "common/numbers.h"
-#include "common/utf8.h"
 #include "platform/platform.h"
 #include "tracking/list_command_texts.h"
 #include "tracking/tracking_window.h"
 
-int TrackingWindow::AuMoinsUneSelection() const {
-    for (int i = 0; i <= module_.liste.DerFich; ++i) {
-        if (List1.selected(i)) return 1;
+bool TrackingWindow::anySelected() const {
+    for (int i = 0; i <= pass_.list().last; ++i) {
+        if (List1.selected(i)) return true;
     }
-    return 0;
-}
-
-bool TrackingWindow::verifierSelection(const wchar_t* reproche) {
-    if (AuMoinsUneSelection() != 0) return true;
-    platform_.messageBoxes.show(missingSelectionBox(reproche));
     return false;
 }
 
-bool TrackingWindow::confirmer(const Question& question) {
+bool TrackingWindow::requireSelection(const wchar_t* reproach) {
+    if (anySelected()) return true;
+    platform_.messageBoxes.show(missingSelectionBox(reproach));
+    return false;
+}
+
+bool TrackingWindow::confirm(const Question& question) {
     return platform_.messageBoxes.show(boxOf(question)) == MessageBoxes::Answer::Yes;
 }
 
-LineSelected TrackingWindow::selectionnee() const {
+LineSelected TrackingWindow::selected() const {
     return [this](int line) { return List1.selected(line); };
 }
 
-void TrackingWindow::CmdChaF_Click() { ChangerSelection(kQuestionChaF, state::kDone); }
-void TrackingWindow::CmdChaV_Click() { ChangerSelection(kQuestionChaV, state::kSeen); }
+void TrackingWindow::CmdChaF_Click() { changeSelection(kQuestionChaF, state::kDone); }
+void TrackingWindow::CmdChaV_Click() { changeSelection(kQuestionChaV, state::kSeen); }
 
-void TrackingWindow::ChangerSelection(const Question& question, std::string_view code) {
-    if (!verifierSelection(kNothingSelected) || !confirmer(question)) return;
-    changeSelected(module_.liste, selectionnee(), code);
-    ReprendreCourant();
+void TrackingWindow::changeSelection(const Question& question, std::string_view code) {
+    if (!requireSelection(kNothingSelected) || !confirm(question)) return;
+    followEdit(pass_.change(selected(), code));
 }
 
 void TrackingWindow::CmdChaRaz_Click() {
-    if (!verifierSelection(kNothingSelectedToResume) || !confirmer(kQuestionChaRaz)) return;
-    ActiverSuivants(0);
-    ReprendreA(resetSelected(module_.liste, selectionnee()));
-    MontrerDocument();
+    if (!requireSelection(kNothingSelectedToResume) || !confirm(kQuestionChaRaz)) return;
+    pass_.reset(selected());
+    followEdit(true);
+    cad_.bringForward();
 }
 
-void TrackingWindow::CmdEliF_Click() { EliminerSelection(kQuestionEliF, Eliminate::DoneAndSeen); }
-void TrackingWindow::CmdEliFV_Click() { EliminerSelection(kQuestionEliFV, Eliminate::DoneAndSeen); }
-void TrackingWindow::CmdEliV_Click() { EliminerSelection(kQuestionEliV, Eliminate::Seen); }
+void TrackingWindow::CmdEliF_Click() { eliminateSelection(kQuestionEliF, Eliminate::DoneAndSeen); }
+void TrackingWindow::CmdEliFV_Click() {
+    eliminateSelection(kQuestionEliFV, Eliminate::DoneAndSeen);
+}
+void TrackingWindow::CmdEliV_Click() { eliminateSelection(kQuestionEliV, Eliminate::Seen); }
 
-void TrackingWindow::EliminerSelection(const Question& question, Eliminate states) {
-    if (!verifierSelection(kNothingSelected) || !confirmer(question)) return;
-    eliminateLines(module_.liste, selectionnee(), states);
-    ReprendreCourant();
+void TrackingWindow::eliminateSelection(const Question& question, Eliminate states) {
+    if (!requireSelection(kNothingSelected) || !confirm(question)) return;
+    followEdit(pass_.eliminate(selected(), states));
 }
 
 void TrackingWindow::CmdPurge_Click() {
-    if (!confirmer(kQuestionPurge)) return;
-    eliminateLines(
-        module_.liste, [](int) { return true; }, Eliminate::DoneAndSeen);
-    ReprendreCourant();
+    if (!confirm(kQuestionPurge)) return;
+    followEdit(pass_.eliminate([](int) { return true; }, Eliminate::DoneAndSeen));
 }
 
 void TrackingWindow::CmdRepA_Click() {
-    if (!verifierSelection(kNothingSelectedToResume)) return;
+    if (!requireSelection(kNothingSelectedToResume)) return;
     int first = 0;
     while (!List1.selected(first)) ++first;
-    const auto found = resumeFrom(module_.liste, first);
-    if (found) ActiverSuivants(0);
+    if (pass_.resumeAt(first)) enableAdvance(true);
     // With nothing left to do below, the last line is opened again, whatever its state.
-    ReprendreA(found.value_or(module_.liste.DerFich));
+    showAndOpen(Redraw::Anew);
 }
 
 void TrackingWindow::CmdDeSelect_Click() { List1.clearSelection(); }
 
-void TrackingWindow::ReprendreCourant() {
-    if (const auto current = reestablishCurrent(module_.liste)) {
-        ActiverSuivants(0);
-        ReprendreA(*current);
-        return;
+void TrackingWindow::followEdit(bool inProgress) {
+    if (inProgress) {
+        enableAdvance(true);
+        showAndOpen(Redraw::Anew);
+    } else {
+        showEnd(Redraw::Anew);
     }
-    const std::wstring shown = nbfich1.text();
-    AfficherListe(2);
-    // The number stays; the count shows the lines, so that saving the list writes them all.
-    nbfich1.setText(shown);
-    cptfichier1.setText(decimal(module_.liste.lineCount()));
-    ActiverSuivants(1);
-}
-
-void TrackingWindow::ReprendreA(int index) {
-    fixerLigneCourante(index);
-    AfficherListe(2);
-    nbfich1.setText(decimal(index + 1));
-    cptfichier1.setText(decimal(module_.liste.lineCount()));
-    List1.select(index, true);
-    OuvrirLigne(index);
-    TxtEtat.setText(wideText(module_.liste.EtatFich[index].path));
 }

@@ -3,18 +3,14 @@
 #include "common/numbers.h"
 #include "platform/controls.h"
 
-namespace {
+bool DisplayDepth::hideOneMore() { return set(levels_ + 1); }
 
-bool change(Control& depth, long step) {
-    constexpr long kDeepest = 9;
-    const long wanted = numericValue(depth.text()) + step;
-    if (wanted < 0 || wanted > kDeepest) return false;
-    depth.setText(decimal(wanted));
+bool DisplayDepth::hideOneLess() { return set(levels_ - 1); }
+
+bool DisplayDepth::set(int levels) {
+    constexpr int kDeepest = 9;
+    if (levels < 0 || levels > kDeepest) return false;
+    levels_ = levels;
+    label_.setText(decimal(levels));
     return true;
 }
-
-}  // namespace
-
-bool hideOneLevelMore(Control& depth) { return change(depth, +1); }
-
-bool hideOneLevelLess(Control& depth) { return change(depth, -1); }

@@ -2,10 +2,22 @@
 
 class Control;
 
-// The number of leading directory levels that a window hides, kept as the caption of a label.
+/// The number of leading directory levels that a window hides in the paths of its list, 0 to 9,
+/// with the label that shows it between the buttons "-" and "+".
+class DisplayDepth {
+ public:
+    explicit DisplayDepth(Control& label) : label_(label) {}
 
-/// Hides one level more, up to 9. True when the list must be redrawn.
-bool hideOneLevelMore(Control& depth);
+    int levels() const { return levels_; }
+    void reset() { set(0); }
 
-/// Hides one level less, down to 0. True when the list must be redrawn.
-bool hideOneLevelLess(Control& depth);
+    // Each is true when the list must be redrawn.
+    bool hideOneMore();
+    bool hideOneLess();
+
+ private:
+    bool set(int levels);
+
+    Control& label_;
+    int levels_ = 0;
+};

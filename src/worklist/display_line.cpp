@@ -3,12 +3,7 @@
 #include "common/numbers.h"
 #include "worklist/short_path.h"
 
-std::wstring shownPath(std::wstring_view path, std::wstring_view depth) {
-    return numericValue(depth) > 0 ? shortPath(depth, path) : std::wstring(path);
-}
-
-std::wstring displayLine(int index, std::wstring_view label, std::wstring_view path,
-                         std::wstring_view depth) {
+std::wstring displayLine(int index, std::wstring_view label, std::wstring_view path, int depth) {
     std::wstring line = decimal(index + 1);
     if (line.size() < 4) line.insert(0, 4 - line.size(), L'0');
     line += L"  ";

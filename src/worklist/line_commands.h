@@ -6,10 +6,19 @@
 
 struct WorkList;
 
-// The commands that change many lines at once, over the table and the user's selection.
+// What the pass does to the table of lines: searches, and changes of many lines at once.
 
 /// Tells whether a line is selected.
 using LineSelected = std::function<bool(int)>;
+
+/// The first line to do below line `from` (-1: from the top); one past the last when none is.
+int nextToDo(const WorkList& list, int from);
+
+/// The nearest line to do from line `from` upwards, itself included; -1 when none is.
+int previousToDo(const WorkList& list, int from);
+
+/// Puts lines in progress back to do.
+void takeBackInProgress(WorkList& list);
 
 /// Gives the selected lines a state of the namespace `state`; a line in progress keeps its own.
 void changeSelected(WorkList& list, const LineSelected& selected, std::string_view code);

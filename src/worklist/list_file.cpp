@@ -45,18 +45,18 @@ WorkLine parseLine(std::string_view text, WorkList& list) {
 bool parseListFile(std::string text, WorkList& list) {
     if (text.empty()) return false;
     std::string_view rest = list.keep(std::move(text));
-    long count = 0;
-    while (!rest.empty()) list.EtatFich[count++] = parseLine(takeLine(rest), list);
-    list.DerFich = static_cast<std::int16_t>(count - 1);
+    int count = 0;
+    while (!rest.empty()) list.lines[count++] = parseLine(takeLine(rest), list);
+    list.last = count - 1;
     return true;
 }
 
-void formatListFile(WorkList& list, long lineCount, const ByteSink& file) {
+void formatListFile(WorkList& list, std::int32_t lineCount, const ByteSink& file) {
     constexpr std::size_t kPiece = 1 << 16;
     std::string piece;
     piece.reserve(kPiece + 1000);
-    for (long i = 0; i < lineCount; ++i) {
-        WorkLine& line = list.EtatFich[i];
+    for (std::int32_t i = 0; i < lineCount; ++i) {
+        WorkLine& line = list.lines[i];
         if (line.reload) line.code = list.keep(std::string("1").append(line.code));
         (piece += line.code) += kBetween;
         (piece += line.path) += kLineEnd;

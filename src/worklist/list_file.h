@@ -15,7 +15,7 @@ bool parseListFile(std::string text, WorkList& list);
 
 /// Hands on the text for the first `lineCount` lines. As a side effect the code of every flagged
 /// line is given a leading 1 in the list, once more at each call. Raises 9 past the table.
-void formatListFile(WorkList& list, long lineCount, const ByteSink& file);
+void formatListFile(WorkList& list, std::int32_t lineCount, const ByteSink& file);
 
 /// Appends the line of a document still to do, as a freshly launched pass writes it. Raises 5 for
 /// a path that can't be encoded.

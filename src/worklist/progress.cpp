@@ -5,8 +5,8 @@
 PassProgress passProgress(const WorkList& list) {
     PassProgress progress{0, list.lineCount()};
     bool inProgress = false;
-    for (int i = 0; i <= list.DerFich; ++i) {
-        const std::string_view code = list.EtatFich[i].code;
+    for (int i = 0; i <= list.last; ++i) {
+        const std::string_view code = list.lines[i].code;
         inProgress = inProgress || code == state::kInProgress;
         if (code == state::kDone || code == state::kSeen) ++progress.done;
     }

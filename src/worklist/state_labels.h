@@ -1,19 +1,16 @@
 #pragma once
 
-#include <string>
+#include <optional>
 #include <string_view>
 
 /// What stands before a path in the lists. The widths differ on purpose.
-struct StateLabels {
-    std::wstring LibAFaire;   ///< to do
-    std::wstring LibX;        ///< chosen, in the selection window
-    std::wstring LibVu;       ///< seen
-    std::wstring LibEnCours;  ///< in progress
-    std::wstring LibFait;     ///< done
-};
+namespace label {
+inline constexpr std::wstring_view kToDo = L"              ";
+inline constexpr std::wstring_view kChosen = L" X   ";  ///< in the selection window
+inline constexpr std::wstring_view kSeen = L" Vu            ";
+inline constexpr std::wstring_view kInProgress = L" EnCours  ";
+inline constexpr std::wstring_view kDone = L" Fait          ";
+}  // namespace label
 
-/// The labels as start-up sets them.
-StateLabels standardLabels();
-
-/// The label of a state code, with or without the reload flag's leading 1; null for other codes.
-const std::wstring* labelOf(const StateLabels& labels, std::string_view code);
+/// The label of a state code, with or without the reload flag's leading 1; none for other codes.
+std::optional<std::wstring_view> labelOf(std::string_view code);

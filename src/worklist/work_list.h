@@ -25,17 +25,18 @@ struct WorkLine {
 
 /// The ordered list of documents of a pass, each with its state.
 struct WorkList {
-    static constexpr long kCapacity = 8001;
+    static constexpr std::int32_t kCapacity = 8001;
 
     WorkList() = default;
     /// Not copied: the copy's lines would stand in this one's texts.
     WorkList(WorkList&&) = default;
     WorkList& operator=(WorkList&&) = default;
 
-    CheckedTable<WorkLine, kCapacity> EtatFich;
-    std::int16_t DerFich = 0;  ///< index of the last line in use; the lines above it are stale
+    CheckedTable<WorkLine, kCapacity> lines;
+    int last = -1;  ///< index of the last line in use; the lines above it are stale
 
-    int lineCount() const { return DerFich + 1; }
+    int lineCount() const { return last + 1; }
+    bool isToDo(int line) const { return lines[line].code == state::kToDo; }
 
     /// Keeps a text as long as the list, for lines to stand in: the whole list file is one.
     std::string_view keep(std::string text) { return texts_.emplace_back(std::move(text)); }

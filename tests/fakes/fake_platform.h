@@ -6,7 +6,10 @@
 #include "fakes/fake_message_boxes.h"
 #include "fakes/fake_settings.h"
 #include "fakes/fake_window.h"
+#include "platform/file_system_object.h"
 #include "platform/platform.h"
+#include "session/program_files.h"
+#include "session/window_places.h"
 
 /// A whole machine in memory.
 struct FakePlatform {
@@ -22,6 +25,18 @@ struct FakePlatform {
         automation.fileExists = [this](const std::wstring& path) {
             return files.texts.contains(path);
         };
+    }
+
+    const ProgramFiles programFiles{L"c:\\tarnwick", L"c:\\tarnwick\\tarnwick.lst",
+                                    L"c:\\tarnwick\\tarnwick.cfg"};
+    WindowPlaces places{settings};
+
+    /// Has a window left at a place, in twips.
+    void leaveWindowAt(const wchar_t* topKey, const wchar_t* leftKey, int top, int left) {
+        settings.write(L"tarnwick", L"startup", topKey, std::to_wstring(top));
+        settings.write(L"tarnwick", L"startup", leftKey, std::to_wstring(left));
+        places.readAll();
+        settings.entries.clear();
     }
 
     FakeWindow& window(int dialogId) { return *windows.made.at(dialogId); }

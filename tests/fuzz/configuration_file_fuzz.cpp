@@ -6,33 +6,31 @@
 
 namespace {
 
-constexpr std::wstring_view kMarker = L"Configuration:";
-
 bool sameConfigurations(const Configurations& a, const Configurations& b) {
-    for (long row = 1; row <= a.NbConf; ++row) {
-        for (long entry = 0; entry <= kMostDirectories; ++entry) {
-            if (a.ConfRep[row][entry] != b.ConfRep[row][entry]) return false;
+    for (int row = 1; row <= a.last; ++row) {
+        for (int entry = 0; entry <= kMostDirectories; ++entry) {
+            if (a.rows[row][entry] != b.rows[row][entry]) return false;
         }
     }
-    return a.NbConf == b.NbConf;
+    return a.last == b.last;
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Configurations configs;
-    const int error = errorOf([&] { parseConfFile(textOfBytes(data, size), kMarker, configs); });
+    const int error = errorOf([&] { parseConfigurationFile(textOfBytes(data, size), configs); });
     require(error == 0 || error == 9);
     if (error != 0) return 0;
-    require(configs.NbConf >= 0 && configs.NbConf <= kMostConfigurations);
+    require(configs.last >= 0 && configs.last <= kMostConfigurations);
 
     // The first saving drops nameless rows and closes holes; from then on nothing changes.
     Configurations saved;
     Configurations again;
-    if (errorOf([&] { parseConfFile(formatConfFile(configs, kMarker), kMarker, saved); }) != 0) {
+    if (errorOf([&] { parseConfigurationFile(formatConfigurationFile(configs), saved); }) != 0) {
         return 0;
     }
-    parseConfFile(formatConfFile(saved, kMarker), kMarker, again);
+    parseConfigurationFile(formatConfigurationFile(saved), again);
     require(sameConfigurations(saved, again));
     return 0;
 }

@@ -34,10 +34,10 @@ void requireSameAfterSave(WorkList& list) {
     std::string text;
     formatListFile(list, list.lineCount(), [&](std::string_view piece) { text += piece; });
     require(parseListFile(text, reread));
-    require(reread.DerFich == list.DerFich);
-    for (int i = 0; i <= list.DerFich; ++i) {
-        const WorkLine& before = list.EtatFich[i];
-        const WorkLine& after = reread.EtatFich[i];
+    require(reread.last == list.last);
+    for (int i = 0; i <= list.last; ++i) {
+        const WorkLine& before = list.lines[i];
+        const WorkLine& after = reread.lines[i];
         require(before.code == (after.reload ? "1" + std::string(after.code) : after.code));
         require(before.path == after.path);
         require(before.reload == after.reload);
@@ -57,9 +57,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(found == (size > 0 && error == 0));
     if (!found) return 0;
 
-    require(list.DerFich >= 0 && list.DerFich < WorkList::kCapacity);
+    require(list.last >= 0 && list.last < WorkList::kCapacity);
     bool survives = true;
-    for (int i = 0; i <= list.DerFich; ++i) survives = survives && survivesSave(list.EtatFich[i]);
+    for (int i = 0; i <= list.last; ++i) survives = survives && survivesSave(list.lines[i]);
     if (survives) requireSameAfterSave(list);
     return 0;
 }

@@ -27,7 +27,7 @@ class HostileLists : public testing::Test {
         EXPECT_EQ(error, wanted.error);
         if (error != 0) return;
         EXPECT_EQ(list.lineCount(), wanted.lines);
-        EXPECT_TRUE(list.EtatFich[list.DerFich].path == wanted.lastPath);
+        EXPECT_TRUE(list.lines[list.last].path == wanted.lastPath);
     }
 
     std::unique_ptr<Machine> machine = makeMachine();

@@ -43,30 +43,30 @@ class WorkListDrawing : public testing::Test {
     /// A list drawn at depth 0 with some lines selected, scrolled, then changed in two lines.
     void prepare(int topLine) {
         for (int i = 0; i < kLines; ++i) {
-            work.EtatFich[i].code = std::array{state::kToDo, state::kDone, state::kSeen}[i % 3];
-            work.EtatFich[i].path = work.keep("c:\\plans\\sous\\f" + std::to_string(i));
+            work.lines[i].code = std::array{state::kToDo, state::kDone, state::kSeen}[i % 3];
+            work.lines[i].path = work.keep("c:\\plans\\sous\\f" + std::to_string(i));
         }
-        work.DerFich = kLines - 1;
-        view.rebuild(work, labels, L"0", false);
+        work.last = kLines - 1;
+        view.rebuild(work, 0, false);
         for (const int line : {10, 100, 190}) list.select(line, true);
         SendMessageW(listHandle(), LB_SETTOPINDEX, static_cast<WPARAM>(topLine), 0);
-        work.EtatFich[100].code = state::kInProgress;
-        work.EtatFich[101].code = state::kDone;
+        work.lines[100].code = state::kInProgress;
+        work.lines[101].code = state::kDone;
     }
 
     /// Every line removed and inserted again, as the rule for a redraw in place has it.
-    Look replacingEachLine(const std::wstring& depth) {
+    Look replacingEachLine(int depth) {
         const DrawingPause pause(list);
         for (int i = 0; i < kLines; ++i) {
-            const WorkLine& line = work.EtatFich[i];
-            const std::wstring* label = labelOf(labels, line.code);
+            const WorkLine& line = work.lines[i];
+            const auto label = labelOf(line.code);
             list.replaceLine(i, displayLine(i, *label, wideText(line.path), depth));
         }
         return lookOf(list);
     }
 
-    Look updating(const std::wstring& depth) {
-        view.update(work, labels, depth);
+    Look updating(int depth) {
+        view.update(work, depth);
         return lookOf(list);
     }
 
@@ -74,13 +74,12 @@ class WorkListDrawing : public testing::Test {
     ListBox& list = machine->window().listBox(IDC_CONTRACT_SEVERAL);
     WorkListView view{list};
     WorkList work;
-    StateLabels labels = standardLabels();
 };
 
 }  // namespace
 
 TEST_F(WorkListDrawing, LooksAsIfEachLineHadBeenReplaced) {
-    for (const wchar_t* depth : {L"0", L"2"}) {
+    for (const int depth : {0, 2}) {
         for (const int top : {0, 1, 50, 95, 101, kLines - 30, kLines - 1}) {
             prepare(top);
             const Look wanted = replacingEachLine(depth);

@@ -23,7 +23,7 @@ class AboutWindowTest : public testing::Test {
 }  // namespace
 
 TEST_F(AboutWindowTest, ClosesByEnterEscapeOrItsFrameAndOpensAgain) {
-    program.Main();
+    program.start();
     const std::pair<int, Event> ways[] = {
         {kEnterKey, Event::Click}, {kEscapeKey, Event::Click}, {kTheWindow, Event::Close}};
     for (const auto& [id, event] : ways) {

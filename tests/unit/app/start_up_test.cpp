@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "about/about_ids.h"
 #include "app/program.h"
 #include "fakes/fake_platform.h"
+#include "resume/existing_list_ids.h"
+#include "selection/selection_ids.h"
 
 namespace {
 
@@ -18,39 +21,28 @@ struct JournalledSettings : FakeSettings {
     }
 };
 
-/// Start-up up to the first window, which is noted and not made.
-struct StartUp : Program {
-    StartUp(const Platform& platform, CallJournal& calls) : Program(platform), journal(calls) {}
-    CallJournal& journal;
-
-    void ChargerForm1() override { journal.push_back(L"[SelectionWindow]"); }
-    void ChargerForm2() override { journal.push_back(L"[ExistingListWindow]"); }
-    void ChargerAPropos() override { journal.push_back(L"[APropos]"); }
-};
-
-class ProgramMain : public testing::Test {
+class StartUp : public testing::Test {
  protected:
-    void main() {
+    StartUp() { machine.files.directories.insert(L"c:\\plans"); }
+
+    void start() {
         Platform platform{machine.automation,     settings,        machine.files,
                           machine.boxes,          machine.desktop, machine.windows,
                           L"d:\\outils\\tarnwick"};
-        StartUp(platform, machine.automation.journal).Main();
+        program = std::make_unique<Program>(platform);
+        program->start();
     }
 
     FakePlatform machine;
     JournalledSettings settings{machine.automation.journal};
+    std::unique_ptr<Program> program;
 };
 
 const CallJournal kPlacesRead = {
-    L"[APropos]",
-    L"read tarnwick/startup/toppos or 1416",
-    L"read tarnwick/startup/leftpos or 2964",
-    L"read tarnwick/startup/toppos2 or 1416",
-    L"read tarnwick/startup/leftpos2 or 2964",
-    L"read tarnwick/startup/toppos3 or 1416",
-    L"read tarnwick/startup/leftpos3 or 2964",
-    L"read mervale/listerepert/toppos4 or 1416",
-    L"read mervale/listerepert/leftpos4 or 2964",
+    L"read tarnwick/startup/toppos or 1416",     L"read tarnwick/startup/leftpos or 2964",
+    L"read tarnwick/startup/toppos2 or 1416",    L"read tarnwick/startup/leftpos2 or 2964",
+    L"read tarnwick/startup/toppos3 or 1416",    L"read tarnwick/startup/leftpos3 or 2964",
+    L"read mervale/listerepert/toppos4 or 1416", L"read mervale/listerepert/leftpos4 or 2964",
 };
 
 CallJournal operator+(CallJournal first, const CallJournal& second) {
@@ -60,22 +52,25 @@ CallJournal operator+(CallJournal first, const CallJournal& second) {
 
 }  // namespace
 
-TEST_F(ProgramMain, GoesThroughItsStepsInOrder) {
-    main();
+TEST_F(StartUp, GoesThroughItsStepsInOrder) {
+    start();
     EXPECT_EQ(machine.automation.journal,
               kPlacesRead + CallJournal({
                                 L"attach SldWorks.Application",
-                                L"[APropos]",
                                 L"RevisionNumber()",
                                 L"GetCurrentWorkingDirectory()",
                                 L"create Scripting.FileSystemObject",
                                 L"Fso.fileExists(\"d:\\outils\\tarnwick\\tarnwick.lst\")",
-                                L"[SelectionWindow]",
                             }));
     EXPECT_TRUE(machine.boxes.shown.empty());
+    EXPECT_EQ(machine.window(IDD_FORM1).state, FakeWindow::State::Shown);
+    EXPECT_EQ(machine.window(IDD_ABOUT).state, FakeWindow::State::Unloaded);
+}
 
-    // An existing list is asked about, even an empty one.
+TEST_F(StartUp, AsksAboutAnExistingListEvenAnEmptyOne) {
     machine.files.texts[L"d:\\outils\\tarnwick\\tarnwick.lst"] = L"";
-    main();
-    EXPECT_EQ(machine.automation.journal.back(), L"[ExistingListWindow]");
+    start();
+    EXPECT_EQ(machine.window(IDD_FORM2).state, FakeWindow::State::Shown);
+    EXPECT_EQ(machine.window(IDD_ABOUT).state, FakeWindow::State::Unloaded);
+    EXPECT_FALSE(machine.windows.made.contains(IDD_FORM1));
 }

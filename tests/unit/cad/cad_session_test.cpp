@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "app/module1.h"
 #include "fakes/fake_automation.h"
 #include "fakes/fake_desktop.h"
 #include "unit/raised.h"
@@ -10,18 +9,19 @@
 namespace {
 
 constexpr wchar_t kPath[] = L"c:\\été\\a.SLDPRT";
+using Rebuild = LoadingOptions::Rebuild;
 
 class CadSessionTest : public testing::Test {
  protected:
-    CadSessionTest() {
+    void attach() {
         EXPECT_TRUE(session.attach(automation));
+        session.identify();
         automation.takeJournal();
     }
 
     FakeAutomation automation;
     FakeDesktop desktop;
-    Module1 module;
-    CadSession session{module, desktop};
+    CadSession session{desktop};
 };
 
 }  // namespace
@@ -32,29 +32,38 @@ TEST_F(CadSessionTest, KeepsThePathThatTheServerChanges) {
         *std::get<std::int16_t*>(arguments[1]) = 3;
         return ObjectPtr();
     };
-    ASSERT_TRUE(session.attach(automation));
-    const std::wstring path = kPath;
-    session.open(path, 1, true);
-    EXPECT_EQ(path, kPath);
-    EXPECT_EQ(module.SwDoc, nullptr);
+    attach();
+    session.open(kPath, {});
+    EXPECT_TRUE(session.hasOpen(kPath));
+    EXPECT_EQ(automation.journal[1], L"ActivateDoc2(&\"c:\\été\\a.SLDPRT\", True, &0:i4)");
 }
 
 TEST_F(CadSessionTest, PassesOnThatThereIsNoSuchWindow) {
     automation.revision = L"14.0";
-    session.open(kPath, 1, true);
-    session.readRevision();
+    attach();
+    session.open(kPath, {});
     desktop.windows = {{L"SolidWorks 2006 - a.SLDPRT", 7}};
     session.bringForward();
     EXPECT_EQ(desktop.broughtForward, std::vector<Desktop::WindowHandle>{0});
     EXPECT_EQ(automation.journal.back(), L"a.SLDPRT.ViewZoomtofit2()");
 }
 
-TEST_F(CadSessionTest, FailsWithoutADocument) {
+TEST_F(CadSessionTest, FailuresNameTheDocument) {
     automation.documentsOpen = false;
-    session.open(kPath, 1, true);
-    session.activate(kPath, 1);
-    EXPECT_EQ(raised([&] { session.rebuild(true); }), 91);
-    EXPECT_EQ(raised([&] { session.save(); }), 91);
-    EXPECT_EQ(raised([&] { session.bringForward(); }), 91);
+    attach();
+    const std::function<void()> calls[] = {
+        [&] { session.open(kPath, {.rebuild = Rebuild::TopLevel}); },
+        [&] { session.save(); },
+        [&] { session.bringForward(); },
+    };
+    for (const auto& call : calls) {
+        try {
+            call();
+            ADD_FAILURE();
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.number, 91);
+            EXPECT_TRUE(error.text.ends_with(L"\r\nDocument : c:\\été\\a.SLDPRT"));
+        }
+    }
     EXPECT_TRUE(desktop.broughtForward.empty());
 }

@@ -18,8 +18,8 @@ TEST(NumericValue, IsThatOfTheLeadingDigits) {
 }
 
 TEST(NumericValue, StaysAtTheLargestNumber) {
-    EXPECT_EQ(numericValue(L"9223372036854775808"), std::numeric_limits<long>::max());
-    EXPECT_EQ(numericValue(std::wstring(1000, L'9')), std::numeric_limits<long>::max());
+    EXPECT_EQ(numericValue(L"9223372036854775808"), std::numeric_limits<std::int32_t>::max());
+    EXPECT_EQ(numericValue(std::wstring(1000, L'9')), std::numeric_limits<std::int32_t>::max());
 }
 
 TEST(WholeNumber, IsSpelledInManyWays) {

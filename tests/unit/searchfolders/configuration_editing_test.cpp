@@ -9,25 +9,25 @@ namespace {
 
 using Texts = std::vector<std::wstring>;
 
-void fill(Configuration& configuration, const Texts& entries, long first) {
+void fill(Configuration& configuration, const Texts& entries, int first) {
     for (const std::wstring& entry : entries) configuration[first++] = entry;
 }
 
 Texts entriesOf(const Configuration& configuration) {
     Texts entries;
-    for (long j = 0; j < firstEmpty(configuration, 0); ++j) entries.push_back(configuration[j]);
+    for (int j = 0; j < firstEmpty(configuration, 0); ++j) entries.push_back(configuration[j]);
     return entries;
 }
 
 /// "En Cours", then the given rows, each its name and its directories.
 Configurations withRows(const std::vector<Texts>& rows) {
     Configurations configs;
-    configs.ConfRep[0][0] = L"En Cours";
-    for (const Texts& row : rows) fill(configs.ConfRep[++configs.NbConf], row, 0);
+    configs.rows[0][0] = L"En Cours";
+    for (const Texts& row : rows) fill(configs.rows[++configs.last], row, 0);
     return configs;
 }
 
-TEST(ConfEditing, AddsADirectoryOnceInEachSpelling) {
+TEST(ConfigurationEditing, AddsADirectoryOnceInEachSpelling) {
     Configuration edited;
     EXPECT_TRUE(addDirectory(edited, 0, L"c:\\a"));
     EXPECT_FALSE(addDirectory(edited, 1, L"c:\\a"));
@@ -36,7 +36,7 @@ TEST(ConfEditing, AddsADirectoryOnceInEachSpelling) {
     EXPECT_THROW(addDirectory(edited, kMostDirectories, L"c:\\b"), RuntimeError);
 }
 
-TEST(ConfEditing, RemovesTheSelectedAndWhatFollowsThem) {
+TEST(ConfigurationEditing, RemovesTheSelectedAndWhatFollowsThem) {
     const Texts all{L"c:\\P", L"C:\\p\\1", L"c:\\P2", L"d:\\", L"c:\\P\\3"};
     struct Case {
         std::set<int> selected;
@@ -51,9 +51,9 @@ TEST(ConfEditing, RemovesTheSelectedAndWhatFollowsThem) {
     for (const Case& one : cases) {
         Configuration edited;
         fill(edited, all, 1);
-        const long left = removeDirectories(
+        const int left = removeDirectories(
             edited, 5, [&](int line) { return one.selected.contains(line); }, one.removal);
-        EXPECT_EQ(left, static_cast<long>(one.left.size()));
+        EXPECT_EQ(left, static_cast<int>(one.left.size()));
         edited[0] = L"*";
         Texts expected = one.left;
         expected.insert(expected.begin(), L"*");
@@ -61,11 +61,11 @@ TEST(ConfEditing, RemovesTheSelectedAndWhatFollowsThem) {
     }
 }
 
-TEST(ConfEditing, StoresUnderTheRightName) {
+TEST(ConfigurationEditing, StoresUnderTheRightName) {
     struct Case {
         const wchar_t* before;  // the name when renaming began
         const wchar_t* typed;
-        long row;
+        int row;
         const wchar_t* stored;
         int count;
     };
@@ -77,36 +77,36 @@ TEST(ConfEditing, StoresUnderTheRightName) {
     };
     for (const Case& one : cases) {
         Configurations configs = withRows({{L"A", L"c:\\1", L"c:\\2"}, {L"B", L"c:\\3", L"c:\\4"}});
-        configs.NomConfEdit = one.before;
-        fill(configs.RepEdit, {L"d:\\"}, 1);
+        configs.renamed = one.before;
+        fill(configs.edited, {L"d:\\"}, 1);
         std::wstring name = one.typed;
         storeEdited(configs, name);
         EXPECT_EQ(name, one.stored);
-        EXPECT_EQ(entriesOf(configs.ConfRep[one.row]), (Texts{one.stored, L"d:\\"})) << one.typed;
-        EXPECT_EQ(configs.NbConf, one.count) << one.typed;
+        EXPECT_EQ(entriesOf(configs.rows[one.row]), (Texts{one.stored, L"d:\\"})) << one.typed;
+        EXPECT_EQ(configs.last, one.count) << one.typed;
     }
 }
 
-TEST(ConfEditing, HasNoRoomForA51st) {
+TEST(ConfigurationEditing, HasNoRoomForA51st) {
     Configurations configs = withRows(std::vector<Texts>(50, {L"A"}));
     std::wstring name = L"B";
     EXPECT_THROW(storeEdited(configs, name), RuntimeError);
-    configs.ConfSel = 50;
+    configs.selected = 50;
     EXPECT_THROW(destroySelected(configs), RuntimeError);
 }
 
-TEST(ConfEditing, DestroyingKeepsTheTailOfALongerRow) {
+TEST(ConfigurationEditing, DestroyingKeepsTheTailOfALongerRow) {
     Configurations configs =
         withRows({{L"A", L"1", L"2", L"3", L"4", L"5"}, {L"B", L"x", L"y"}, {L"C", L"z"}});
-    configs.ConfSel = 0;
+    configs.selected = 0;
     destroySelected(configs);
-    EXPECT_EQ(configs.NbConf, 3);
-    configs.ConfSel = 1;
+    EXPECT_EQ(configs.last, 3);
+    configs.selected = 1;
     destroySelected(configs);
-    EXPECT_EQ(configs.NbConf, 2);
-    EXPECT_EQ(entriesOf(configs.ConfRep[1]), (Texts{L"B", L"x", L"y", L"3", L"4", L"5"}));
-    EXPECT_EQ(entriesOf(configs.ConfRep[2]), (Texts{L"C", L"z", L"y"}));
-    EXPECT_EQ(configs.ConfRep[3][0], L"");
+    EXPECT_EQ(configs.last, 2);
+    EXPECT_EQ(entriesOf(configs.rows[1]), (Texts{L"B", L"x", L"y", L"3", L"4", L"5"}));
+    EXPECT_EQ(entriesOf(configs.rows[2]), (Texts{L"C", L"z", L"y"}));
+    EXPECT_EQ(configs.rows[3][0], L"");
 }
 
 }  // namespace

@@ -6,13 +6,11 @@
 
 namespace {
 
-constexpr auto kMarker = L"Configuration:";
-
-TEST(ConfFile, StoresEveryLineByTheRules) {
+TEST(ConfigurationFile, StoresEveryLineByTheRules) {
     struct Case {
         const wchar_t* text;
         int count;                   // configurations
-        long row;                    // the row to look at
+        int row;                     // the row to look at
         const wchar_t* expected[4];  // its first entries
     };
     const Case cases[] = {
@@ -24,30 +22,30 @@ TEST(ConfFile, StoresEveryLineByTheRules) {
     };
     for (const Case& one : cases) {
         Configurations configs;
-        parseConfFile(one.text, kMarker, configs);
-        EXPECT_EQ(configs.NbConf, one.count) << one.text;
-        for (long j = 0; j < 4; ++j) {
-            EXPECT_EQ(configs.ConfRep[one.row][j], one.expected[j]) << one.text << j;
+        parseConfigurationFile(one.text, configs);
+        EXPECT_EQ(configs.last, one.count) << one.text;
+        for (int j = 0; j < 4; ++j) {
+            EXPECT_EQ(configs.rows[one.row][j], one.expected[j]) << one.text << j;
         }
     }
 }
 
-TEST(ConfFile, HoldsAsMuchAsTheTable) {
+TEST(ConfigurationFile, HoldsAsMuchAsTheTable) {
     const auto read = [](int configurations, int directories) {
         std::wstring text;
         for (int i = 0; i < configurations; ++i) text += L"Configuration:  c\r\n";
         for (int i = 0; i < directories; ++i) text += L"   c:\\d\r\n";
         Configurations configs;
-        parseConfFile(text, kMarker, configs);
-        EXPECT_EQ(configs.NbConf, configurations);
-        EXPECT_EQ(configs.ConfRep[configurations][directories], L"c:\\d");
+        parseConfigurationFile(text, configs);
+        EXPECT_EQ(configs.last, configurations);
+        EXPECT_EQ(configs.rows[configurations][directories], L"c:\\d");
     };
     EXPECT_EQ(raised([&] { read(50, 200); }), 0);
     EXPECT_EQ(raised([&] { read(51, 1); }), 9);
     EXPECT_EQ(raised([&] { read(1, 201); }), 9);
 }
 
-TEST(ConfFile, IsWrittenBackWithItsHolesClosed) {
+TEST(ConfigurationFile, IsWrittenBackWithItsHolesClosed) {
     const std::wstring clean =
         L"Configuration:  Projet A\r\n   c:\\a\r\n   \\\\serveur\\b c\r\nConfiguration:  Été\r\n";
     const std::pair<std::wstring, std::wstring> cases[] = {
@@ -58,8 +56,8 @@ TEST(ConfFile, IsWrittenBackWithItsHolesClosed) {
     };
     for (const auto& [read, written] : cases) {
         Configurations configs;
-        parseConfFile(read, kMarker, configs);
-        EXPECT_EQ(formatConfFile(configs, kMarker), written);
+        parseConfigurationFile(read, configs);
+        EXPECT_EQ(formatConfigurationFile(configs), written);
     }
 }
 

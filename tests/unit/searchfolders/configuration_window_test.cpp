@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/module1.h"
+#include "cad/cad_session.h"
 #include "common/runtime_error.h"
 #include "fakes/fake_platform.h"
 #include "searchfolders/configuration_ids.h"
@@ -14,18 +14,16 @@ using Texts = std::vector<std::wstring>;
 class ConfigurationFixture : public testing::Test {
  protected:
     ConfigurationFixture() {
-        module.RepAppli = L"c:\\tarnwick";
-        module.FichConfig = L"c:\\tarnwick\\tarnwick.cfg";
-        module.LibConfiguration = L"Configuration:";
-        module.SwApp = machine.automation.attach(L"SldWorks.Application");
-        module.Fso = machine.automation.create(L"Scripting.FileSystemObject");
+        cad.attach(machine.automation);
         machine.files.directories = {L"c:\\tarnwick", L"c:\\p\\1\\x", L"c:\\p\\2"};
         machine.automation.searchFolders = L"s:\\1;s:\\2";
     }
 
     void open(const wchar_t* file) {
-        machine.files.texts[module.FichConfig] = file;
-        form = std::make_unique<ConfigurationWindow>(module, machine.platform);
+        machine.files.texts[machine.programFiles.configurations] = file;
+        form =
+            std::make_unique<ConfigurationWindow>(machine.platform, machine.places, cad, fileSystem,
+                                                  machine.programFiles, configurations);
         list(IDC_FORM4_LIST1).severalSelectable = false;
         form->Form_Load();
         machine.automation.takeJournal();
@@ -48,7 +46,9 @@ class ConfigurationFixture : public testing::Test {
     bool editing() { return window().control(IDC_FORM4_FRATAB1).visible; }
 
     FakePlatform machine;
-    Module1 module;
+    CadSession cad{machine.desktop};
+    FileSystemObject fileSystem{machine.automation};
+    Configurations configurations;
     std::unique_ptr<ConfigurationWindow> form;
 };
 
@@ -145,10 +145,11 @@ TEST_F(ConfigurationFixture, OnlySauvegarderWritesTheFile) {
     window().click(IDC_FORM4_CMDVALIDER);
     choose(2);
     window().click(IDC_FORM4_CMDDETRUIRE);
-    EXPECT_EQ(machine.files.texts[module.FichConfig], kTwo);
+    EXPECT_EQ(machine.files.texts[machine.programFiles.configurations], kTwo);
     window().click(IDC_FORM4_CMDENREGISTER);
-    EXPECT_EQ(machine.files.texts[module.FichConfig], L"Configuration:  Z\r\n   c:\\a\r\n");
-    machine.files.unreadable.insert(module.FichConfig);
+    EXPECT_EQ(machine.files.texts[machine.programFiles.configurations],
+              L"Configuration:  Z\r\n   c:\\a\r\n");
+    machine.files.unreadable.insert(machine.programFiles.configurations);
     EXPECT_THROW(window().click(IDC_FORM4_CMDENREGISTER), RuntimeError);
 }
 
@@ -158,9 +159,8 @@ TEST_F(ConfigurationFixture, AnnulerKeepsTheConfigurationsAndThePlace) {
     window().moveTo(90000, 15);
     window().click(IDC_FORM4_CMDANNULER1);
     EXPECT_FALSE(editing());
-    EXPECT_EQ(module.configs.NbConf, 2);
+    EXPECT_EQ(configurations.last, 2);
     EXPECT_EQ(machine.settings.read(L"mervale", L"listerepert", L"leftpos4", L""), L"15");
-    EXPECT_EQ(module.place(PlacedWindow::SearchFolders).top, 32767);
 }
 
 TEST_F(ConfigurationFixture, StaysOnItsDirectoryWhenADriveIsNotReady) {

@@ -9,7 +9,7 @@ namespace {
 TEST(SearchFolders, AreSplitAndJoinedAtSemicolons) {
     struct Case {
         const wchar_t* folders;
-        long entries;
+        int entries;
         const wchar_t* rejoined;
     };
     const Case cases[] = {

@@ -2,11 +2,11 @@
 
 namespace {
 
-class Form1Choosing : public SelectionFixture {
+class SelectionChoosing : public SelectionFixture {
  protected:
     /// The list holds, in this order, c:\plans\axe.slddrw, c:\plans\Zoe.SLDDRW and
     /// c:\plans\moteur\bielle.SLDDRW.
-    Form1Choosing() {
+    SelectionChoosing() {
         load();
         tick(true);
     }
@@ -28,7 +28,7 @@ class Form1Choosing : public SelectionFixture {
 
 }  // namespace
 
-TEST_F(Form1Choosing, TogglesTheHighlightedLinesOrAll) {
+TEST_F(SelectionChoosing, TogglesTheHighlightedLinesOrAll) {
     click(IDC_FORM1_CMDCOCHE);
     EXPECT_EQ(chosen(), L"000");
     highlight({0, 2});
@@ -44,7 +44,7 @@ TEST_F(Form1Choosing, TogglesTheHighlightedLinesOrAll) {
     EXPECT_EQ(chosen(), L"100");
 }
 
-TEST_F(Form1Choosing, FiltersTheLinesAsTheyAreDisplayed) {
+TEST_F(SelectionChoosing, FiltersTheLinesAsTheyAreDisplayed) {
     const struct {
         const wchar_t* before;  ///< lines chosen beforehand
         int depth;
@@ -74,7 +74,7 @@ TEST_F(Form1Choosing, FiltersTheLinesAsTheyAreDisplayed) {
     }
 }
 
-TEST_F(Form1Choosing, TheDepthHidesLevelsAndKeepsTheChoice) {
+TEST_F(SelectionChoosing, TheDepthHidesLevelsAndKeepsTheChoice) {
     highlight({0, 2});
     click(IDC_FORM1_CMDCOCHE);
     click(IDC_FORM1_CMDPLUS);

@@ -20,16 +20,16 @@ class Search : public testing::Test {
         found.restart(withSubdirectories);
         listed.clear();
         DocumentSearch search(files, found, DocumentKinds(types),
-                              [&](long filesListed) { listed.push_back(filesListed); });
+                              [&](int filesListed) { listed.push_back(filesListed); });
         search.run(directory, withSubdirectories);
         Paths result;
-        for (long i = 0; i < found.count(); ++i) result.push_back(found.entry(i));
+        for (int i = 0; i < found.count(); ++i) result.push_back(found.entry(i));
         return result;
     }
 
     FakeFiles files;
     FoundDocuments found;
-    std::vector<long> listed;
+    std::vector<int> listed;
 };
 
 }  // namespace
@@ -42,7 +42,7 @@ TEST_F(Search, ListsOneDirectoryByNameWhateverTheKind) {
     files.hidden.insert(L"c:\\plans\\~$bras.SLDASM");
     EXPECT_EQ(run(L"c:\\plans", false),
               (Paths{L"a.b.SldPrt", L"Axe.slddrw", L"bras.SLDASM", L"Zoe.SLDPRT"}));
-    EXPECT_EQ(listed, std::vector<long>{4});
+    EXPECT_EQ(listed, std::vector<int>{4});
     EXPECT_EQ(run(L"c:\\plans", false, L"sldprt"), (Paths{L"a.b.SldPrt", L"Zoe.SLDPRT"}));
     EXPECT_EQ(run(L"c:\\plans", false, L"*.*"), Paths());
     EXPECT_EQ(files.visits, (std::map<std::wstring, int>{{L"c:\\plans", 3}}));
@@ -60,7 +60,7 @@ TEST_F(Search, WalksATreeDepthFirstReadingEachDirectoryOnce) {
                      L"c:\\plans\\Alpha\\fond\\f.SLDPRT",
                      L"c:\\plans\\Alpha\\fond\\profond\\p.SLDDRW", L"c:\\plans\\alpha2\\n.SLDPRT",
                      L"c:\\plans\\beta\\a.SLDPRT", L"c:\\plans\\beta\\b.SLDASM"}));
-    EXPECT_EQ(listed, (std::vector<long>{1, 1, 1, 1, 1, 2, 0}));
+    EXPECT_EQ(listed, (std::vector<int>{1, 1, 1, 1, 1, 2, 0}));
     EXPECT_EQ(files.visits.size(), 7U);
     for (const auto& [directory, times] : files.visits) EXPECT_EQ(times, 1) << directory;
 }

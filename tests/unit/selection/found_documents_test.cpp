@@ -6,15 +6,15 @@
 
 namespace {
 
-constexpr long kCapacity = FoundDocuments::kCapacity;
+constexpr int kCapacity = FoundDocuments::kCapacity;
 
-void storeMany(FoundDocuments& found, const std::wstring& prefix, long count) {
-    for (long i = 0; i < count; ++i) found.store(L"c:\\a", prefix + std::to_wstring(i));
+void storeMany(FoundDocuments& found, const std::wstring& prefix, int count) {
+    for (int i = 0; i < count; ++i) found.store(L"c:\\a", prefix + std::to_wstring(i));
 }
 
 std::vector<std::wstring> entries(const FoundDocuments& found) {
     std::vector<std::wstring> result;
-    for (long i = 0; i < found.count(); ++i) result.push_back(found.entry(i));
+    for (int i = 0; i < found.count(); ++i) result.push_back(found.entry(i));
     return result;
 }
 
@@ -43,7 +43,7 @@ TEST(FoundDocuments, KeepsEveryFullPath) {
     EXPECT_EQ(entries(found), (std::vector<std::wstring>{L"c:\\x\\a", L"c:\\x\\a", L"c:\\\\a"}));
     found.restart(false);
     EXPECT_EQ(found.count(), 0);
-    EXPECT_FALSE(found.CheminsComplets());
+    EXPECT_FALSE(found.fullPaths());
 }
 
 TEST(FoundDocuments, TheVeryLastEntryOutlivesANewPass) {

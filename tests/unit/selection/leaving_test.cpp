@@ -3,13 +3,13 @@
 
 namespace {
 
-class Form1Leaving : public SelectionFixture {
+class SelectionLeaving : public SelectionFixture {
  protected:
     void moveWindow() {
         window().topTwips = 450;
         window().leftTwips = -75;
     }
-    std::wstring listFile() { return machine.files.texts.at(module.FichListe); }
+    std::wstring listFile() { return machine.files.texts.at(machine.programFiles.list); }
     std::wstring saved(const wchar_t* key) {
         return machine.settings.read(L"tarnwick", L"startup", key, L"");
     }
@@ -17,24 +17,24 @@ class Form1Leaving : public SelectionFixture {
 
 }  // namespace
 
-TEST_F(Form1Leaving, LaunchingWritesTheChosenDocumentsThenHandsOver) {
+TEST_F(SelectionLeaving, LaunchingWritesTheChosenDocumentsThenHandsOver) {
     load();
     moveWindow();
     highlight({1});
     click(IDC_FORM1_CMDCOCHE);
-    machine.files.texts[module.FichListe] = L"12  c:\\d'avant\r\n";
-    navigation.whenAsked = [&] {
+    machine.files.texts[machine.programFiles.list] = L"12  c:\\d'avant\r\n";
+    exits.whenTaken = [&] {
         EXPECT_EQ(saved(L"toppos"), L"450");
         EXPECT_EQ(saved(L"leftpos"), L"-75");
         EXPECT_EQ(listFile(), L"0  c:\\plans\\Zoe.SLDDRW\r\n");
         EXPECT_EQ(window().state, FakeWindow::State::Shown);
     };
     click(IDC_FORM1_CMD_TRACER);
-    EXPECT_EQ(navigation.asked.back(), L"TrackingWindow");
+    EXPECT_EQ(exits.taken.back(), L"launchPass");
     EXPECT_EQ(window().state, FakeWindow::State::Hidden);
 }
 
-TEST_F(Form1Leaving, TheListFileHoldsFullPaths) {
+TEST_F(SelectionLeaving, TheListFileHoldsFullPaths) {
     const struct {
         const wchar_t* directory;
         bool withSubdirectories;
@@ -57,7 +57,7 @@ TEST_F(Form1Leaving, TheListFileHoldsFullPaths) {
     }
 }
 
-TEST_F(Form1Leaving, OnlySortieSavesTheWindowsPlace) {
+TEST_F(SelectionLeaving, OnlySortieSavesTheWindowsPlace) {
     load();
     moveWindow();
     EXPECT_THROW(window().close(), ProgramEnd);
@@ -68,13 +68,13 @@ TEST_F(Form1Leaving, OnlySortieSavesTheWindowsPlace) {
     EXPECT_EQ(machine.settings.entries.size(), 2U);
     EXPECT_EQ(saved(L"toppos"), L"450");
     EXPECT_EQ(saved(L"leftpos"), L"-75");
-    EXPECT_FALSE(machine.files.texts.contains(module.FichListe));
+    EXPECT_FALSE(machine.files.texts.contains(machine.programFiles.list));
 }
 
-TEST_F(Form1Leaving, OpensTheOtherWindowsBesideItself) {
+TEST_F(SelectionLeaving, OpensTheOtherWindowsBesideItself) {
     load();
     click(IDC_FORM1_CMDAP);
     click(IDC_FORM1_CMDREPDEF);
-    EXPECT_EQ(navigation.asked, (Lines{L"FermerAPropos", L"APropos", L"ConfigurationWindow"}));
+    EXPECT_EQ(exits.taken, (Lines{L"closeSplash", L"showAbout", L"showConfigurations"}));
     EXPECT_EQ(window().state, FakeWindow::State::Shown);
 }

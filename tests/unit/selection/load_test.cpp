@@ -1,8 +1,8 @@
 #include "unit/selection/selection_window_fixture.h"
 
-using Form1Load = SelectionFixture;
+using SelectionLoad = SelectionFixture;
 
-TEST_F(Form1Load, ShowsTheDrawingsOfTheWorkingDirectory) {
+TEST_F(SelectionLoad, ShowsTheDrawingsOfTheWorkingDirectory) {
     load();
     EXPECT_EQ(types().content, L"*.SLDDRW");
     EXPECT_EQ(types().lines, (Lines{L"*.SLDDRW", L"*.SLDASM", L"*.SLDPRT", L"*.SLDPRT ; *.SLDASM",
@@ -19,9 +19,9 @@ TEST_F(Form1Load, ShowsTheDrawingsOfTheWorkingDirectory) {
     EXPECT_EQ(text(IDC_FORM1_NNIVEAU), L"0");
 }
 
-TEST_F(Form1Load, ClosesTheSplashTakesItsPlaceAndHidesWhatIsNotForTheUser) {
+TEST_F(SelectionLoad, ClosesTheSplashTakesItsPlaceAndHidesWhatIsNotForTheUser) {
     load();
-    EXPECT_EQ(navigation.asked, Lines{L"FermerAPropos"});
+    EXPECT_EQ(exits.taken, Lines{L"closeSplash"});
     EXPECT_EQ(window().topTwips, 300);
     EXPECT_EQ(window().leftTwips, -600);
     for (const int id :
@@ -32,7 +32,7 @@ TEST_F(Form1Load, ClosesTheSplashTakesItsPlaceAndHidesWhatIsNotForTheUser) {
     EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"2");
 }
 
-TEST_F(Form1Load, StartsWhereverTheSessionWorks) {
+TEST_F(SelectionLoad, StartsWhereverTheSessionWorks) {
     machine.files.add(L"\\\\serveur\\part\\plans\\r.SLDDRW");
     const struct {
         const wchar_t* workingDirectory;

@@ -3,9 +3,9 @@
 #include "unit/raised.h"
 #include "unit/selection/selection_window_fixture.h"
 
-using Form1Search = SelectionFixture;
+using SelectionSearch = SelectionFixture;
 
-TEST_F(Form1Search, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
+TEST_F(SelectionSearch, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
     const struct {
         const char* what;
         std::function<void()> act;
@@ -33,7 +33,7 @@ TEST_F(Form1Search, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
     }
 }
 
-TEST_F(Form1Search, FailsWhenThereAreTooManyDocuments) {
+TEST_F(SelectionSearch, FailsWhenThereAreTooManyDocuments) {
     machine.files.texts.clear();
     for (int i = 0; i < 8001; ++i) machine.files.add(L"c:\\n\\" + std::to_wstring(i) + L".slddrw");
     load(L"c:\\n");
@@ -52,7 +52,7 @@ constexpr auto kNo = MessageBoxes::Answer::No;
 
 }  // namespace
 
-TEST_F(Form1Search, AsksBeforeAWholeDriveIsSearched) {
+TEST_F(SelectionSearch, AsksBeforeAWholeDriveIsSearched) {
     const auto tickAtRoot = [&] {
         load(L"d:\\");
         tick(true);
@@ -92,7 +92,7 @@ TEST_F(Form1Search, AsksBeforeAWholeDriveIsSearched) {
     }
 }
 
-TEST_F(Form1Search, AsksAgainAtEveryRebuildOfAWholeDrive) {
+TEST_F(SelectionSearch, AsksAgainAtEveryRebuildOfAWholeDrive) {
     load(L"d:\\");
     machine.boxes.answers = {kYes, kYes, kYes, kYes, kNo};
     tick(true);

@@ -9,14 +9,15 @@ SelectionFixture::SelectionFixture() {
     }
     machine.files.presentDrives = {L'c', L'd'};
     machine.files.currentDirectories[L'd'] = L"d:\\doc";
-    module.labels = standardLabels();
-    module.FichListe = L"c:\\tarnwick\\tarnwick.lst";
-    module.place(PlacedWindow::Selection) = {.top = 300, .left = -600};
+    machine.leaveWindowAt(L"toppos", L"leftpos", 300, -600);
 }
 
 void SelectionFixture::load(const std::wstring& workingDirectory) {
-    module.RepTravailSw = workingDirectory;
-    form = std::make_unique<SelectionWindow>(module, machine.platform, navigation);
+    machine.automation.workingDirectory = workingDirectory;
+    cad.attach(machine.automation);
+    cad.identify();
+    form = std::make_unique<SelectionWindow>(machine.platform, machine.places, cad,
+                                             machine.programFiles, exits);
     window().listBox(IDC_FORM1_REPERT).severalSelectable = false;
     form->Form_Load();
     window().show();

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "app/module1.h"
-#include "fakes/fake_navigation.h"
+#include "cad/cad_session.h"
+#include "fakes/fake_exits.h"
 #include "fakes/fake_platform.h"
 #include "selection/selection_ids.h"
 #include "selection/selection_window.h"
@@ -52,7 +52,7 @@ class SelectionFixture : public testing::Test {
     std::wstring marks();
 
     FakePlatform machine;
-    FakeNavigation navigation;
-    Module1 module;
+    FakeExits exits;
+    CadSession cad{machine.desktop};
     std::unique_ptr<SelectionWindow> form;
 };

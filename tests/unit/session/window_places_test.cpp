@@ -13,14 +13,15 @@ struct NoEvents : EventSink {
 
 }  // namespace
 
-TEST(WindowPlace, SavedFarOffCanBeReadBack) {
+TEST(WindowPlaces, SavedFarOffCanBeReadBack) {
     FakeSettings settings;
     NoEvents sink;
     FakeWindow window(0, sink);
     window.moveTo(-480'000, 57'600);
-    savePlace(settings, PlacedWindow::Selection, window);
-    Module1 module;
-    readPlace(settings, module, PlacedWindow::Selection);
-    EXPECT_EQ(module.place(PlacedWindow::Selection).top, -32768);
-    EXPECT_EQ(module.place(PlacedWindow::Selection).left, 32767);
+    WindowPlaces places(settings);
+    places.save(PlacedWindow::Selection, window);
+    places.readAll();
+    places.restore(PlacedWindow::Selection, window);
+    EXPECT_EQ(window.topTwips, -32768);
+    EXPECT_EQ(window.leftTwips, 32767);
 }

@@ -21,7 +21,6 @@ TEST_F(Advance, EachButtonAndItsTwinMarkInTheirWay) {
         {IDC_FORM3_CMDSUIVSAUTER, false, L"0 3"},  {IDC_FORM3_CMD3, false, L"0 3"},
     };
     for (const auto& c : cases) {
-        module.NomDocCourant.clear();
         loadStates(L"00");
         click(c.button);
         CallJournal expected = {L"closedoc(\"c:\\a\")"};
@@ -50,7 +49,7 @@ TEST_F(Advance, FromTheLastLineToDoEndsTheList) {
     EXPECT_TRUE(list().selection().empty());
     EXPECT_FALSE(canAdvance());
     EXPECT_TRUE(canStepBack());
-    EXPECT_EQ(module.NomDocCourant, L"");
+    EXPECT_TRUE(cad().hasOpen(L""));
 }
 
 TEST_F(Advance, LowerCaseEndingsKeepTheTypeOfTheDocumentBefore) {
@@ -82,7 +81,6 @@ TEST_F(Advance, LoadsAsTheOptionsSay) {
          L"b.ForceRebuild3(False)"},
     };
     for (const auto& c : cases) {
-        module.NomDocCourant.clear();
         loadStates(L"00");
         const int boxes[] = {IDC_FORM3_CKMINIMISE, IDC_FORM3_CKSILENT, IDC_FORM3_CKRECONS,
                              IDC_FORM3_CKRECONS2};

@@ -15,7 +15,7 @@ TEST_F(Leaving, BySortieSavesPlaceAndOptionsAndClosesTheDocument) {
     EXPECT_EQ(machine.settings.read(L"tarnwick", L"startup", L"toppos3", L""), L"1500");
     EXPECT_EQ(machine.settings.read(L"tarnwick", L"startup", L"leftpos3", L""), L"32767");
     EXPECT_EQ(machine.settings.read(L"tarnwick", L"startup", L"regcheck", L""), L"1001");
-    EXPECT_EQ(machine.files.texts[module.FichListe], L"0  c:\\a\r\n0  c:\\b\r\n");
+    EXPECT_EQ(listFile(), L"0  c:\\a\r\n0  c:\\b\r\n");
 }
 
 TEST_F(Leaving, ListFileSavedTwiceLosesItsFlaggedStates) {
@@ -23,23 +23,23 @@ TEST_F(Leaving, ListFileSavedTwiceLosesItsFlaggedStates) {
     click(IDC_FORM3_CMDFICHIERLISTE);
     EXPECT_EQ(states(), L"3 10 0");
     click(IDC_FORM3_CMDFICHIERLISTE);
-    EXPECT_EQ(machine.files.texts[module.FichListe], L"3  c:\\a\r\n110  c:\\b\r\n0  c:\\c\r\n");
+    EXPECT_EQ(listFile(), L"3  c:\\a\r\n110  c:\\b\r\n0  c:\\c\r\n");
     // Flagged and saved, a line is no longer found as to do.
     click(IDC_FORM3_CMDSUIV);
     EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"2");
-    load(machine.files.texts[module.FichListe]);
-    EXPECT_EQ(module.liste.EtatFich[1].code, "100");
+    load(listFile());
+    EXPECT_EQ(work().lines[1].code, "100");
 }
 
 TEST_F(Leaving, ListFileHasAsManyLinesAsTheCounterShows) {
     load(L"0  c:\\a\r\n0  c:\\b\r\n0  c:\\c\r\n");
     window().control(IDC_FORM3_CPTFICHIER1).content = L"2";
     click(IDC_FORM3_CMDFICHIERLISTE);
-    EXPECT_EQ(machine.files.texts[module.FichListe], L"3  c:\\a\r\n0  c:\\b\r\n");
+    EXPECT_EQ(listFile(), L"3  c:\\a\r\n0  c:\\b\r\n");
 }
 
 TEST_F(Leaving, ListFileIsWholeAfterALoadThatEndsTheList) {
     loadStates(L"12");
     click(IDC_FORM3_CMDFICHIERLISTE);
-    EXPECT_EQ(machine.files.texts[module.FichListe], L"1  c:\\a\r\n2  c:\\b\r\n");
+    EXPECT_EQ(listFile(), L"1  c:\\a\r\n2  c:\\b\r\n");
 }

@@ -25,15 +25,15 @@ class ListCommands : public TrackingFixture {
 
     /// That this line is the current one in every place that shows it.
     void expectCurrent(int index) {
-        const std::wstring path = wideText(module.liste.EtatFich[index].path);
+        const std::wstring path = wideText(work().lines[index].path);
         EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), std::to_wstring(index));
         EXPECT_EQ(text(IDC_FORM3_NBFICH1), std::to_wstring(index + 1));
-        EXPECT_EQ(text(IDC_FORM3_CPTFICHIER1), std::to_wstring(module.liste.DerFich + 1));
+        EXPECT_EQ(text(IDC_FORM3_CPTFICHIER1), std::to_wstring(work().last + 1));
         EXPECT_EQ(text(IDC_FORM3_TXTETAT), path);
         EXPECT_EQ(list().selection(), std::vector{index});
-        EXPECT_EQ(list().count(), module.liste.DerFich + 1);
+        EXPECT_EQ(list().count(), work().last + 1);
         EXPECT_TRUE(list().line(index).ends_with(path));
-        EXPECT_EQ(module.NomDocCourant, path);
+        EXPECT_TRUE(cad().hasOpen(path));
     }
 
     void expectHelp(const MessageBoxContent& box) {
@@ -136,7 +136,6 @@ TEST_F(ListCommands, ChangeOrRemoveLinesAndKeepTheCurrentOneOpen) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.afterwards);
-        module.NomDocCourant.clear();
         loadStates(L"10200");
         command(c.button, c.selected);
         EXPECT_EQ(states(), c.afterwards);
@@ -169,7 +168,7 @@ TEST_F(ListCommands, WithNothingLeftToDoThePassIsOver) {
     EXPECT_EQ(text(IDC_FORM3_NBFICH1), L"3");
     EXPECT_EQ(text(IDC_FORM3_CPTFICHIER1), L"1");
     click(IDC_FORM3_CMDFICHIERLISTE);
-    EXPECT_EQ(machine.files.texts[module.FichListe], L"1  c:\\b\r\n");
+    EXPECT_EQ(listFile(), L"1  c:\\b\r\n");
     command(IDC_FORM3_CMDPURGE, {});
     EXPECT_EQ(list().count(), 0);
 }
@@ -186,7 +185,6 @@ TEST_F(ListCommands, ResumingGoesToTheFirstLineToDoFromTheSelectionOn) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.afterwards);
-        module.NomDocCourant.clear();
         loadStates(L"102002");
         command(IDC_FORM3_CMDREPA, c.selected);
         EXPECT_TRUE(machine.boxes.shown.empty());

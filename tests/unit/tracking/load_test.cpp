@@ -10,7 +10,6 @@ TEST_F(Load, PutsTheWindowInItsPlaceAndHidesWhatIsNotForTheUser) {
     EXPECT_FALSE(window().control(IDC_FORM3_CMDMEMO).visible);
     EXPECT_FALSE(window().control(IDC_FORM3_NUMFICHCOUR).visible);
     EXPECT_EQ(text(IDC_FORM3_NNIVEAU1), L"0");
-    EXPECT_TRUE(module.FenetreSuiviPrete);
 }
 
 TEST_F(Load, StartsAtTheFirstLineToDoOrInProgress) {
@@ -31,11 +30,10 @@ TEST_F(Load, StartsAtTheFirstLineToDoOrInProgress) {
         {L"13", L"1 3", L"2", false},
     };
     for (const auto& c : cases) {
-        module.NomDocCourant.clear();
         loadStates(c.codes);
         EXPECT_EQ(states(), c.afterwards) << c.codes;
         EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), c.pointer) << c.codes;
-        EXPECT_EQ(!module.NomDocCourant.empty(), c.opened) << c.codes;
+        EXPECT_EQ(!cad().hasOpen(L""), c.opened) << c.codes;
         EXPECT_EQ(canAdvance(), c.opened) << c.codes;
         EXPECT_TRUE(canStepBack()) << c.codes;
     }

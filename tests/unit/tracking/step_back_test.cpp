@@ -4,7 +4,6 @@ using StepBack = TrackingFixture;
 
 TEST_F(StepBack, OpensTheNearestLineToDoAbove) {
     for (const int button : {IDC_FORM3_CMDPRECEDENT, IDC_FORM3_CMD4}) {
-        module.NomDocCourant.clear();
         loadStates(L"00120");
         click(IDC_FORM3_CMDSUIVSAUTER);  // from a to b
         click(IDC_FORM3_CMDSUIVSAUTER);  // to e

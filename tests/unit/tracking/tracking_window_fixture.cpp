@@ -3,36 +3,37 @@
 #include "common/utf8.h"
 
 TrackingFixture::TrackingFixture() {
-    module.labels = standardLabels();
-    module.FichListe = L"c:\\tarnwick\\tarnwick.lst";
-    module.NomVersionSw = L"SolidWorks 2004";
-    module.place(PlacedWindow::Tracking) = {.top = 300, .left = -600};
+    machine.automation.revision = L"12.0.1";
+    machine.leaveWindowAt(L"toppos3", L"leftpos3", 300, -600);
     // No rebuild: the cases that are about it tick the boxes.
     machine.settings.write(L"tarnwick", L"startup", L"regcheck", L"1100");
 }
 
-void TrackingFixture::load(const std::wstring& listFile) {
-    machine.files.texts[module.FichListe] = listFile;
-    module.SwApp = machine.automation.attach(L"SldWorks.Application");
+void TrackingFixture::load(const std::wstring& text, TrackingWindow::FirstDisplay display) {
+    listFile() = text;
+    session.emplace(machine.desktop);
+    session->attach(machine.automation);
+    session->identify();
     takeCalls();
-    form = std::make_unique<TrackingWindow>(module, machine.platform);
-    form->Form_Load();
+    form = std::make_unique<TrackingWindow>(machine.platform, machine.places, *session,
+                                            machine.programFiles);
+    form->Form_Load(display);
 }
 
 void TrackingFixture::loadStates(const std::wstring& codes) {
-    std::wstring listFile;
+    std::wstring text;
     wchar_t name = L'a';
     for (const wchar_t code : codes) {
-        listFile += {code, L' ', L' ', L'c', L':', L'\\', name++, L'\r', L'\n'};
+        text += {code, L' ', L' ', L'c', L':', L'\\', name++, L'\r', L'\n'};
     }
-    load(listFile);
+    load(text);
     takeCalls();
 }
 
 std::wstring TrackingFixture::states() {
     std::wstring result;
-    for (int i = 0; i <= module.liste.DerFich; ++i) {
-        result += (i == 0 ? L"" : L" ") + wideText(module.liste.EtatFich[i].code);
+    for (int i = 0; i <= work().last; ++i) {
+        result += (i == 0 ? L"" : L" ") + wideText(work().lines[i].code);
     }
     return result;
 }

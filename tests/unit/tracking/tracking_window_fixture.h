@@ -2,10 +2,11 @@
 
 #include <gtest/gtest.h>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "app/module1.h"
+#include "cad/cad_session.h"
 #include "fakes/fake_platform.h"
 #include "tracking/tracking_ids.h"
 #include "tracking/tracking_window.h"
@@ -16,7 +17,8 @@ class TrackingFixture : public testing::Test {
     TrackingFixture();
 
     /// Loads the window over a list file with this text. What that called stays in the journal.
-    void load(const std::wstring& listFile);
+    void load(const std::wstring& listFile,
+              TrackingWindow::FirstDisplay display = TrackingWindow::FirstDisplay::States);
 
     /// Loads a list of the documents c:\a, c:\b … whose states are these one-character codes, and
     /// forgets the calls.
@@ -35,8 +37,13 @@ class TrackingFixture : public testing::Test {
     /// Whether the two step-back buttons are enabled; they must be alike.
     bool canStepBack();
 
+    const WorkList& work() { return form->pass().list(); }
+    std::wstring& listFile() { return machine.files.texts[machine.programFiles.list]; }
+
+    CadSession& cad() { return *session; }
+
     FakePlatform machine;
-    Module1 module;
+    std::optional<CadSession> session;
     std::unique_ptr<TrackingWindow> form;
 
  private:

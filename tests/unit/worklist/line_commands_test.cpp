@@ -10,26 +10,26 @@ namespace {
 /// A list from codes separated by blanks; below its last line stand stale lines, all to do.
 WorkList listOf(const std::string& codes) {
     WorkList list;
-    long row = 0;
+    int row = 0;
     std::string code;
     for (const char c : codes + ' ') {
         if (c != ' ') {
             code += c;
         } else if (!code.empty()) {
             const auto path = list.keep("c:\\" + std::to_string(row));
-            list.EtatFich[row++] = {list.keep(code), path};
+            list.lines[row++] = {list.keep(code), path};
             code.clear();
         }
     }
-    list.DerFich = static_cast<std::int16_t>(row - 1);
-    for (long i = row; i < row + 3; ++i) list.EtatFich[i].code = state::kToDo;
+    list.last = row - 1;
+    for (int i = row; i < row + 3; ++i) list.lines[i].code = state::kToDo;
     return list;
 }
 
 std::string codesOf(const WorkList& list) {
     std::string codes;
-    for (int i = 0; i <= list.DerFich; ++i)
-        codes += (i == 0 ? "" : " ") + std::string(list.EtatFich[i].code);
+    for (int i = 0; i <= list.last; ++i)
+        codes += (i == 0 ? "" : " ") + std::string(list.lines[i].code);
     return codes;
 }
 
@@ -45,7 +45,7 @@ TEST(LineCommands, ChangingSparesTheLineInProgress) {
     WorkList list = listOf("0 1 2 3 10 12 x 0");
     changeSelected(list, only({0, 1, 2, 3, 4, 5, 6}), state::kSeen);
     EXPECT_EQ(codesOf(list), "2 2 2 3 2 2 2 0");
-    EXPECT_EQ(list.EtatFich[8].code, "0");
+    EXPECT_EQ(list.lines[8].code, "0");
 }
 
 TEST(LineCommands, EliminatingRemovesChosenLinesOfItsStates) {
@@ -67,13 +67,13 @@ TEST(LineCommands, EliminatingRemovesChosenLinesOfItsStates) {
 
 TEST(LineCommands, EliminatingMovesPathsButNotReloadFlags) {
     WorkList list = listOf("1 0 2 0");
-    list.EtatFich[0].reload = list.EtatFich[3].reload = true;
+    list.lines[0].reload = list.lines[3].reload = true;
     eliminateLines(list, kAll, Eliminate::DoneAndSeen);
-    EXPECT_EQ(list.DerFich, 1);
-    EXPECT_EQ(list.EtatFich[0].path, "c:\\1");
-    EXPECT_EQ(list.EtatFich[1].path, "c:\\3");
-    EXPECT_TRUE(list.EtatFich[0].reload);
-    EXPECT_FALSE(list.EtatFich[1].reload);
+    EXPECT_EQ(list.last, 1);
+    EXPECT_EQ(list.lines[0].path, "c:\\1");
+    EXPECT_EQ(list.lines[1].path, "c:\\3");
+    EXPECT_TRUE(list.lines[0].reload);
+    EXPECT_FALSE(list.lines[1].reload);
 }
 
 TEST(LineCommands, ReestablishesTheLineInProgressOrTheFirstToDo) {
@@ -90,20 +90,20 @@ TEST(LineCommands, ReestablishesTheLineInProgressOrTheFirstToDo) {
         EXPECT_EQ(reestablishCurrent(list), c.current) << c.before;
         EXPECT_EQ(codesOf(list), c.afterwards) << c.before;
         // The lines below the last one are stale, to do though they are.
-        EXPECT_EQ(list.EtatFich[list.DerFich + 1].code, "0") << c.before;
+        EXPECT_EQ(list.lines[list.last + 1].code, "0") << c.before;
     }
 }
 
 TEST(LineCommands, ReestablishingReadsTheRowPastTheLastOne) {
     WorkList list;
-    for (long i = 0; i < WorkList::kCapacity; ++i) list.EtatFich[i].code = state::kDone;
-    list.DerFich = 7999;
+    for (int i = 0; i < WorkList::kCapacity; ++i) list.lines[i].code = state::kDone;
+    list.last = 7999;
     EXPECT_EQ(reestablishCurrent(list), std::nullopt);
-    list.DerFich = 8000;
+    list.last = 8000;
     EXPECT_EQ(raised([&] { reestablishCurrent(list); }), 9);
     // A line to do does not help: the search for the one in progress comes first.
-    list.EtatFich[4].code = state::kToDo;
+    list.lines[4].code = state::kToDo;
     EXPECT_EQ(raised([&] { reestablishCurrent(list); }), 9);
-    list.EtatFich[8000].code = state::kInProgress;
+    list.lines[8000].code = state::kInProgress;
     EXPECT_EQ(reestablishCurrent(list), 8000);
 }

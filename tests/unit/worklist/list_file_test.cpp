@@ -12,7 +12,7 @@ std::string linesToDo(int count) {
     return text;
 }
 
-std::string saved(WorkList& list, long lineCount) {
+std::string saved(WorkList& list, int lineCount) {
     std::string text;
     formatListFile(list, lineCount, [&](std::string_view piece) { text += piece; });
     return text;
@@ -48,20 +48,20 @@ TEST(ListFile, EachLineIsACodeAndAPath) {
     };
     for (const auto& c : cases) {
         WorkList list;
-        list.EtatFich[0].reload = true;
+        list.lines[0].reload = true;
         ASSERT_TRUE(parseListFile(c.line, list)) << c.line;
-        EXPECT_EQ(list.EtatFich[0].code, c.code) << c.line;
-        EXPECT_EQ(list.EtatFich[0].path, c.path) << c.line;
-        EXPECT_EQ(list.EtatFich[0].reload, c.reload) << c.line;
-        EXPECT_EQ(list.DerFich, 0) << c.line;
+        EXPECT_EQ(list.lines[0].code, c.code) << c.line;
+        EXPECT_EQ(list.lines[0].path, c.path) << c.line;
+        EXPECT_EQ(list.lines[0].reload, c.reload) << c.line;
+        EXPECT_EQ(list.last, 0) << c.line;
     }
 }
 
 TEST(ListFile, AnEmptyTextLeavesTheListAlone) {
     WorkList list;
-    list.DerFich = 5;
+    list.last = 5;
     EXPECT_FALSE(parseListFile("", list));
-    EXPECT_EQ(list.DerFich, 5);
+    EXPECT_EQ(list.last, 5);
 }
 
 TEST(ListFile, ALineShorterThanItsCodeIsAnInvalidArgument) {
@@ -75,8 +75,8 @@ TEST(ListFile, ALineShorterThanItsCodeIsAnInvalidArgument) {
 TEST(ListFile, HoldsAsManyLinesAsTheTable) {
     WorkList list;
     ASSERT_TRUE(parseListFile(linesToDo(8001), list));
-    EXPECT_EQ(list.DerFich, 8000);
-    EXPECT_EQ(list.EtatFich[8000].path, "c:\\f8000");
+    EXPECT_EQ(list.last, 8000);
+    EXPECT_EQ(list.lines[8000].path, "c:\\f8000");
     EXPECT_EQ(saved(list, 8001), linesToDo(8001));
     EXPECT_EQ(raised([&] { saved(list, 8002); }), 9);
 
@@ -88,8 +88,8 @@ TEST(ListFile, AFlaggedCodeGrowsAtEachSave) {
     WorkList list;
     ASSERT_TRUE(parseListFile("10  c:\\a\r\n0  c:\\b\r\n", list));
     EXPECT_EQ(saved(list, 2), "10  c:\\a\r\n0  c:\\b\r\n");
-    EXPECT_EQ(list.EtatFich[0].code, "10");
-    EXPECT_EQ(list.EtatFich[1].code, "0");
+    EXPECT_EQ(list.lines[0].code, "10");
+    EXPECT_EQ(list.lines[1].code, "0");
     EXPECT_EQ(saved(list, 2), "110  c:\\a\r\n0  c:\\b\r\n");
-    EXPECT_EQ(list.EtatFich[0].code, "110");
+    EXPECT_EQ(list.lines[0].code, "110");
 }

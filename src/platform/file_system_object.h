@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "platform/automation.h"
+
+/// The system's own object for files (Scripting.FileSystemObject).
+class FileSystemObject {
+ public:
+    /// Raises 440 when it can't be created.
+    explicit FileSystemObject(Automation& automation);
+
+    bool fileExists(const std::wstring& path);
+    /// Deletes a file, even a read-only one. Raises 53 or 70.
+    void deleteFile(const std::wstring& path);
+
+ private:
+    ObjectPtr object_;
+};

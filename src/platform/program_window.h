@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+#include <span>
+
+#include "platform/window.h"
+
+/// What every window of the program does alike: it is made from its template, and its events go to
+/// the handlers that its table names.
+template <class Self>
+class ProgramWindow : public EventSink {
+ public:
+    void raise(int controlId, Event event) final {
+        dispatch<Self>(static_cast<Self&>(*this), bindings_, controlId, event);
+    }
+
+    Window& window() { return *window_; }
+
+ protected:
+    ProgramWindow(WindowFactory& windows, const WindowTemplate& windowTemplate,
+                  std::span<const Binding<Self>> bindings)
+        : window_(windows.create(windowTemplate, *this)), bindings_(bindings) {}
+
+    std::unique_ptr<Window> window_;
+
+ private:
+    std::span<const Binding<Self>> bindings_;
+};

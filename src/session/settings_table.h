@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+
+/// A setting of the user: where it is kept, and what holds while it is not there.
+template <class Value>
+struct Setting {
+    const wchar_t* application;
+    const wchar_t* section;
+    const wchar_t* key;
+    Value otherwise;
+};
+
+using NumberSetting = Setting<std::int16_t>;
+using TextSetting = Setting<const wchar_t*>;
+
+/// Every setting there is. Adding one takes a line here and the one who uses it.
+namespace setting {
+
+namespace place {
+inline constexpr wchar_t kProgram[] = L"tarnwick";
+inline constexpr wchar_t kStartUp[] = L"startup";
+// The search-folder window keeps its place under names of its own.
+inline constexpr wchar_t kSearchFolders[] = L"mervale";
+inline constexpr wchar_t kDirectoryLists[] = L"listerepert";
+}  // namespace place
+
+// Where the windows stand, in twips.
+inline constexpr std::int16_t kUsualTop = 1416;
+inline constexpr std::int16_t kUsualLeft = 2964;
+inline constexpr NumberSetting kSelectionTop{place::kProgram, place::kStartUp, L"toppos",
+                                             kUsualTop};
+inline constexpr NumberSetting kSelectionLeft{place::kProgram, place::kStartUp, L"leftpos",
+                                              kUsualLeft};
+inline constexpr NumberSetting kExistingListTop{place::kProgram, place::kStartUp, L"toppos2",
+                                                kUsualTop};
+inline constexpr NumberSetting kExistingListLeft{place::kProgram, place::kStartUp, L"leftpos2",
+                                                 kUsualLeft};
+inline constexpr NumberSetting kTrackingTop{place::kProgram, place::kStartUp, L"toppos3",
+                                            kUsualTop};
+inline constexpr NumberSetting kTrackingLeft{place::kProgram, place::kStartUp, L"leftpos3",
+                                             kUsualLeft};
+inline constexpr NumberSetting kConfigurationTop{place::kSearchFolders, place::kDirectoryLists,
+                                                 L"toppos4", kUsualTop};
+inline constexpr NumberSetting kConfigurationLeft{place::kSearchFolders, place::kDirectoryLists,
+                                                  L"leftpos4", kUsualLeft};
+
+// "0" or "1" for each of the tracking window's four options. The store does not tell the two
+// spellings apart.
+inline constexpr TextSetting kLoadingOptions{place::kProgram, place::kStartUp, L"regcheck",
+                                             L"1111"};
+inline constexpr TextSetting kLoadingOptionsWritten{place::kProgram, place::kStartUp, L"RegCheck",
+                                                    L"1111"};
+
+}  // namespace setting
