@@ -5,6 +5,9 @@ add_compile_options(-ffunction-sections -fdata-sections -fstack-protector-strong
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
 add_link_options(-static -fstack-protector-strong -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat -Wl,--high-entropy-va
   $<$<NOT:$<CONFIG:Debug>>:-s>)
+# Two builds of one commit give the same bytes: no time, and no name of the directory they were made in.
+add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=>)
+add_link_options(-Wl,--no-insert-timestamp)
 # windres must read our .rc files as UTF-8.
 set(CMAKE_RC_FLAGS "${CMAKE_RC_FLAGS} -c 65001")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")

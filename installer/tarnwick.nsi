@@ -12,6 +12,7 @@ InstallDir "$LOCALAPPDATA\Programs\Tarnwick"
 InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
 RequestExecutionLevel user
 SetCompressor /SOLID lzma
+SetDateSave off
 ManifestDPIAware true
 
 !define MUI_ICON "${ICON}"

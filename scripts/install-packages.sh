@@ -7,7 +7,7 @@ packages=(
     g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64
     libgtest-dev libbenchmark-dev
     clang libclang-rt-14-dev clang-tidy clang-format cppcheck
-    librsvg2-bin icoutils nsis
+    nsis zip
     wine wine64 xvfb xauth imagemagick
     fonts-wine fonts-liberation fonts-dejavu-core
 )
