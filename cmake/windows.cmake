@@ -11,11 +11,3 @@ add_link_options(-Wl,--no-insert-timestamp)
 # windres must read our .rc files as UTF-8.
 set(CMAKE_RC_FLAGS "${CMAKE_RC_FLAGS} -c 65001")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
-
-# What tests and demonstrations are made of is compiled soon rather than well. Further arguments: headers to parse once.
-function(compile_quickly target)
-  target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-O0>)
-  if(ARGN)
-    target_precompile_headers(${target} PRIVATE ${ARGN})
-  endif()
-endfunction()

@@ -6,7 +6,7 @@ packages=(
     cmake make g++
     g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64
     libgtest-dev libbenchmark-dev
-    clang libclang-rt-14-dev clang-tidy clang-format cppcheck
+    clang lld libclang-rt-14-dev clang-tidy clang-format cppcheck
     nsis zip
     wine wine64 xvfb xauth imagemagick
     fonts-wine fonts-liberation fonts-dejavu-core

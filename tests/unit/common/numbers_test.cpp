@@ -8,7 +8,7 @@
 TEST(NumericValue, IsThatOfTheLeadingDigits) {
     const struct {
         const wchar_t* text;
-        long value;
+        std::int32_t value;
     } cases[] = {
         {L"", 0},       {L"abc", 0},      {L"0", 0},  {L"007", 7}, {L"12  x", 12},
         {L"3.9", 3},    {L"12c:\\3", 12}, {L" 5", 0}, {L"-5", 0},  {L"2147483647", 2147483647},
