@@ -11,9 +11,10 @@ complain() { echo "$1: $2"; failures=$((failures + 1)); }
 
 for program in tarnwick.exe tarnwick-trialcad.exe; do
     headers="$(LC_ALL=C TZ=UTC x86_64-w64-mingw32-objdump -p "$program")"
-    for flag in HIGH_ENTROPY_VA DYNAMIC_BASE NX_COMPAT; do
+    for flag in HIGH_ENTROPY_VA DYNAMIC_BASE NX_COMPAT TERMINAL_SERVICE_AWARE; do
         grep -q "$flag" <<<"$headers" || complain "$program" "linked without $flag"
     done
+    grep -qP '^MajorSubsystemVersion\t10$' <<<"$headers" || complain "$program" "does not ask for Windows 10"
     grep -q '^Time/Date.*Jan  1 00:00:00 1970$' <<<"$headers" || complain "$program" "tells when it was linked"
     ! grep -qaF "$root" "$program" || complain "$program" "tells where it was built"
     strange="$(sed -n 's/^\s*DLL Name: //p' <<<"$headers" | grep -viE "^($allowed)\.dll$" || true)"
