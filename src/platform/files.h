@@ -1,22 +1,19 @@
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-/// One name in a directory, valid only while it is being visited.
-struct DirectoryEntry {
-    std::wstring_view name;
-    bool isDirectory;
-    bool isHidden;
-    bool isLink;  ///< a junction or symbolic link: it may lead back up
-};
+#include "platform/directory_entry.h"
 
-/// What tells one directory from all others, whatever path leads to it.
+/// What tells one directory from all others, whatever path leads to it. Where the file system does
+/// not tell its directories apart, all of a volume are alike.
 struct DirectoryId {
-    unsigned long long volume;
-    unsigned long long file;
+    std::uint64_t volume;
+    std::array<std::uint8_t, 16> file;
     bool operator==(const DirectoryId&) const = default;
 };
 

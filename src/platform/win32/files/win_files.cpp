@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/win32/files/directory_identity.h"
 #include "platform/win32/files/file_error.h"
 #include "platform/win32/files/file_replacement.h"
 #include "platform/win32/files/long_path.h"
@@ -42,18 +43,21 @@ struct FindCloser {
 };
 using FindHandle = std::unique_ptr<HANDLE, FindCloser>;
 
-DirectoryEntry entryOf(const WIN32_FIND_DATAW& found) {
-    return {.name = found.cFileName,
-            .isDirectory = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
-            .isHidden = (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0,
-            .isLink = (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0};
-}
+static_assert(attribute::kHidden == FILE_ATTRIBUTE_HIDDEN &&
+              attribute::kSystem == FILE_ATTRIBUTE_SYSTEM &&
+              attribute::kDirectory == FILE_ATTRIBUTE_DIRECTORY &&
+              attribute::kReparsePoint == FILE_ATTRIBUTE_REPARSE_POINT &&
+              kMountPointTag == IO_REPARSE_TAG_MOUNT_POINT);
 
 bool isDotEntry(const wchar_t* name) {
     return name[0] == L'.' && (name[1] == 0 || (name[1] == L'.' && name[2] == 0));
 }
 
 }  // namespace
+
+DirectoryEntry entryOf(const WIN32_FIND_DATAW& found) {
+    return directoryEntry(found.cFileName, found.dwFileAttributes, found.dwReserved0);
+}
 
 std::string WinFiles::read(const std::wstring& path) { return textInUtf8(readBytes(path)); }
 
@@ -84,13 +88,12 @@ DirectoryId WinFiles::identify(const std::wstring& directory) {
     const UniqueHandle handle(CreateFileW(longPath(directory).c_str(), FILE_READ_ATTRIBUTES,
                                           kShareAll, nullptr, OPEN_EXISTING,
                                           FILE_FLAG_BACKUP_SEMANTICS, nullptr));
-    BY_HANDLE_FILE_INFORMATION information{};
-    if (!isValid(handle) || !GetFileInformationByHandle(handle.get(), &information)) {
+    DirectoryId id{};
+    IdentityCalls calls;
+    if (!isValid(handle) || !::identify(handle.get(), id, calls)) {
         throw directoryError(GetLastError(), directory);
     }
-    return {information.dwVolumeSerialNumber,
-            (static_cast<unsigned long long>(information.nFileIndexHigh) << 32) |
-                information.nFileIndexLow};
+    return id;
 }
 
 std::vector<wchar_t> WinFiles::drives() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <windows.h>
+
 #include "platform/files.h"
 
 class WinFiles : public Files {
@@ -12,3 +14,6 @@ class WinFiles : public Files {
     std::vector<wchar_t> drives() override;
     std::wstring currentDirectory(wchar_t drive) override;
 };
+
+/// What Windows says of a name in a directory.
+DirectoryEntry entryOf(const WIN32_FIND_DATAW& found);
