@@ -26,9 +26,10 @@ class Files {
  public:
     virtual ~Files() = default;
 
-    /// The text of a file, in UTF-8. Bytes that are no valid UTF-8 are taken to be of the system's
-    /// single-byte code page; a byte-order mark is dropped. Raises 53, 70, 75 or 76.
-    virtual std::string read(const std::wstring& path) = 0;
+    /// The bytes of a file. Raises 53, 70, 75 or 76.
+    virtual std::string readBytes(const std::wstring& path) = 0;
+    /// The text of a file, in UTF-8, whatever it was written in (textInUtf8).
+    std::string read(const std::wstring& path);
     std::wstring readText(const std::wstring& path);
 
     /// Creates or replaces a file whole with what `write` puts into its sink: an interrupted write

@@ -22,7 +22,7 @@ std::wstring nameBelow(const std::wstring& directory, const std::wstring& path) 
 
 }  // namespace
 
-std::string FakeFiles::read(const std::wstring& path) {
+std::string FakeFiles::readBytes(const std::wstring& path) {
     const auto file = texts.find(path);
     if (file == texts.end()) throw errors::fileNotFound(path);
     std::string utf8;

@@ -19,7 +19,7 @@ struct FakeFiles : Files {
     /// An empty document, and its directories.
     void add(const std::wstring& path) { texts[path]; }
 
-    std::string read(const std::wstring& path) override;
+    std::string readBytes(const std::wstring& path) override;
     void replace(const std::wstring& path, const WriteContent& write) override;
     void visit(const std::wstring& directory,
                const std::function<void(const DirectoryEntry&)>& visitor) override;

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -10,30 +11,8 @@
 #include "platform/win32/files/file_replacement.h"
 #include "platform/win32/files/long_path.h"
 #include "platform/win32/process/unique_handle.h"
-#include "platform/win32/text/text_encoding.h"
 
 namespace {
-
-std::string readBytes(const std::wstring& path) {
-    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    const UniqueHandle file(CreateFileW(longPath(path).c_str(), GENERIC_READ, kShareAll, nullptr,
-                                        OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    if (!isValid(file)) throw fileError(GetLastError(), path);
-    LARGE_INTEGER size{};
-    GetFileSizeEx(file.get(), &size);
-    std::string bytes;
-    DWORD got = 0;
-    do {
-        const std::size_t have = bytes.size();
-        const DWORD wanted = static_cast<DWORD>(size.QuadPart) - static_cast<DWORD>(have) + 1;
-        bytes.resize(have + wanted);
-        if (!ReadFile(file.get(), bytes.data() + have, wanted, &got, nullptr)) {
-            throw fileError(GetLastError(), path);
-        }
-        bytes.resize(have + got);
-    } while (got != 0 && bytes.size() <= static_cast<std::size_t>(size.QuadPart));
-    return bytes;
-}
 
 struct FindCloser {
     using pointer = HANDLE;
@@ -59,7 +38,24 @@ DirectoryEntry entryOf(const WIN32_FIND_DATAW& found) {
     return directoryEntry(found.cFileName, found.dwFileAttributes, found.dwReserved0);
 }
 
-std::string WinFiles::read(const std::wstring& path) { return textInUtf8(readBytes(path)); }
+std::string WinFiles::readBytes(const std::wstring& path) {
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const UniqueHandle file(CreateFileW(longPath(path).c_str(), GENERIC_READ, kShareAll, nullptr,
+                                        OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!isValid(file)) throw fileError(GetLastError(), path);
+    LARGE_INTEGER size{};
+    GetFileSizeEx(file.get(), &size);
+    std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
+    std::size_t have = 0;
+    for (DWORD got = 1; got != 0 && have < bytes.size(); have += got) {
+        const auto wanted = std::min<std::size_t>(bytes.size() - have, 1U << 30);
+        if (!ReadFile(file.get(), bytes.data() + have, static_cast<DWORD>(wanted), &got, nullptr)) {
+            throw fileError(GetLastError(), path);
+        }
+    }
+    bytes.resize(have);
+    return bytes;
+}
 
 void WinFiles::replace(const std::wstring& path, const WriteContent& write) {
     replaceFile(path, write);

@@ -6,7 +6,7 @@
 
 class WinFiles : public Files {
  public:
-    std::string read(const std::wstring& path) override;
+    std::string readBytes(const std::wstring& path) override;
     void replace(const std::wstring& path, const WriteContent& write) override;
     void visit(const std::wstring& directory,
                const std::function<void(const DirectoryEntry&)>& visitor) override;
