@@ -1,6 +1,9 @@
 #include "common/text.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <cstring>
 
 #include "common/letter_case.h"
 
@@ -13,12 +16,43 @@ View withoutBlanksAround(View text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+template <class Character>
+bool isLineEnd(Character c) {
+    return c == '\n' || c == '\r';
+}
+
+std::size_t lineLength(std::wstring_view text) {
+    return static_cast<std::size_t>(std::ranges::find_if(text, isLineEnd<wchar_t>) - text.begin());
+}
+
+/// Where, of eight bytes, the first is that may be a line end: 8 for none. A byte under 14 alone
+/// borrows its highest bit, and so do at most some of the bytes after it.
+std::size_t firstControl(const char* bytes) {
+    static_assert(std::endian::native == std::endian::little);
+    constexpr std::uint64_t kEach = 0x0101010101010101U;
+    std::uint64_t word = 0;
+    std::memcpy(&word, bytes, sizeof word);
+    const std::uint64_t borrowed = (word - kEach * ('\r' + 1)) & ~word & (kEach * 0x80);
+    return static_cast<std::size_t>(std::countr_zero(borrowed)) / 8;
+}
+
+// Lists are read byte by byte nowhere else, and are long.
+std::size_t lineLength(std::string_view text) {
+    std::size_t length = 0;
+    while (length + 8 <= text.size()) {
+        const std::size_t plain = firstControl(text.data() + length);
+        length += plain;
+        if (plain == 8) continue;
+        if (isLineEnd(text[length])) return length;
+        ++length;
+    }
+    while (length < text.size() && !isLineEnd(text[length])) ++length;
+    return length;
+}
+
 template <class View>
 View takeLineOf(View& rest) {
-    // One comparison tells almost all characters.
-    const auto isLineEnd = [](auto c) { return c <= '\r' && (c == '\n' || c == '\r'); };
-    const auto end = std::ranges::find_if(rest, isLineEnd);
-    const View line(rest.begin(), end);
+    const View line = rest.substr(0, lineLength(rest));
     rest.remove_prefix(line.size());
     const bool two = rest.size() > 1 && rest[0] == '\r' && rest[1] == '\n';
     rest.remove_prefix(std::min<std::size_t>(rest.size(), two ? 2 : 1));

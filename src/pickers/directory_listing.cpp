@@ -47,7 +47,7 @@ void sortByName(std::vector<Subdirectory>& subdirectories) {
 std::vector<Subdirectory> listSubdirectories(Files& files, const std::wstring& directory) {
     std::vector<Subdirectory> found;
     files.visit(directory, [&](const DirectoryEntry& entry) {
-        if (entry.isDirectory && !entry.isHidden) {
+        if (entry.isDirectory && !entry.isLeftOut) {
             found.push_back({std::wstring(entry.name), entry.isLink});
         }
     });

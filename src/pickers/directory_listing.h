@@ -15,7 +15,8 @@ struct Subdirectory {
 void sortByName(std::vector<std::wstring>& names);
 void sortByName(std::vector<Subdirectory>& subdirectories);
 
-/// A directory's sub-directories in order, hidden ones left out. Raises 70 or 76.
+/// A directory's sub-directories in order, but those that the Explorer keeps from its users.
+/// Raises 70 or 76.
 std::vector<Subdirectory> listSubdirectories(Files& files, const std::wstring& directory);
 
 /// A directory's path as it is reported: a drive root with its trailing backslash (c:\), any

@@ -1,6 +1,9 @@
 #include "platform/files.h"
 
+#include "common/text_decoding.h"
 #include "common/utf8.h"
+
+std::string Files::read(const std::wstring& path) { return textInUtf8(readBytes(path)); }
 
 std::wstring Files::readText(const std::wstring& path) { return wideText(read(path)); }
 

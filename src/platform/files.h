@@ -1,22 +1,19 @@
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-/// One name in a directory, valid only while it is being visited.
-struct DirectoryEntry {
-    std::wstring_view name;
-    bool isDirectory;
-    bool isHidden;
-    bool isLink;  ///< a junction or symbolic link: it may lead back up
-};
+#include "platform/directory_entry.h"
 
-/// What tells one directory from all others, whatever path leads to it.
+/// What tells one directory from all others, whatever path leads to it. Where the file system does
+/// not tell its directories apart, all of a volume are alike.
 struct DirectoryId {
-    unsigned long long volume;
-    unsigned long long file;
+    std::uint64_t volume;
+    std::array<std::uint8_t, 16> file;
     bool operator==(const DirectoryId&) const = default;
 };
 
@@ -29,9 +26,10 @@ class Files {
  public:
     virtual ~Files() = default;
 
-    /// The text of a file, in UTF-8. Bytes that are no valid UTF-8 are taken to be of the system's
-    /// single-byte code page; a byte-order mark is dropped. Raises 53, 70, 75 or 76.
-    virtual std::string read(const std::wstring& path) = 0;
+    /// The bytes of a file. Raises 53, 70, 75 or 76.
+    virtual std::string readBytes(const std::wstring& path) = 0;
+    /// The text of a file, in UTF-8, whatever it was written in (textInUtf8).
+    std::string read(const std::wstring& path);
     std::wstring readText(const std::wstring& path);
 
     /// Creates or replaces a file whole with what `write` puts into its sink: an interrupted write

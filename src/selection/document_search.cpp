@@ -23,8 +23,7 @@ DocumentSearch::Subdirectories DocumentSearch::collect(const std::wstring& direc
     std::vector<std::wstring> documents;
     Subdirectories subdirectories;
     files_.visit(directory, [&](const DirectoryEntry& entry) {
-        // Hidden files are left out: beside an open document stands a hidden lock of its kind.
-        if (entry.isHidden) return;
+        if (entry.isLeftOut) return;
         if (entry.isDirectory) {
             subdirectories.push_back({std::wstring(entry.name), entry.isLink});
         } else if (kinds_.accepts(entry.name)) {

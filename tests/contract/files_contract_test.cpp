@@ -36,12 +36,15 @@ TEST_F(FilesContract, MissingFileIsNotFound) {
 TEST_F(FilesContract, DirectoryIsVisitedEntryByEntry) {
     files.replaceText(path(L"é.SLDPRT"), L"");
     files.replaceText(path(L"caché.SLDASM"), L"");
-    machine->hideFile(path(L"caché.SLDASM"));
+    machine->hide(path(L"caché.SLDASM"));
     machine->addDirectory(path(L"vide"));
+    machine->hide(path(L"vide"));
+    machine->addDirectory(path(L"système"));
+    machine->hide(path(L"système"), true);
     machine->addDirectory(path(L"plein"));
     files.replaceText(path(L"plein\\b.SLDPRT"), L"");
     EXPECT_EQ(namesIn(files, directory),
-              (Names{L"?caché.SLDASM", L"plein\\", L"vide\\", L"é.SLDPRT"}));
+              (Names{L"?caché.SLDASM", L"?système\\", L"plein\\", L"vide\\", L"é.SLDPRT"}));
     EXPECT_EQ(namesIn(files, path(L"vide")), Names());
     EXPECT_EQ(namesIn(files, path(L"plein")), Names{L"b.SLDPRT"});
     EXPECT_EQ(namesIn(files, path(L"plein\\")), Names{L"b.SLDPRT"});

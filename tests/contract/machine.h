@@ -22,7 +22,8 @@ class Machine {
     /// An empty directory that goes with the machine, without a trailing backslash.
     virtual std::wstring directory() = 0;
     virtual void addDirectory(const std::wstring& path) = 0;
-    virtual void hideFile(const std::wstring& path) = 0;
+    /// Gives a file or directory the hidden attribute and, if wanted, the system one.
+    virtual void hide(const std::wstring& path, bool asSystem = false) = 0;
 
     virtual bool isVisible(int controlId) = 0;
     virtual bool isEnabled(int controlId) = 0;
@@ -33,6 +34,6 @@ class Machine {
 /// The machine of the platform that the checks are built for.
 std::unique_ptr<Machine> makeMachine();
 
-/// The names in a directory, sorted; those of directories end with a backslash, hidden ones
+/// The names in a directory, sorted; those of directories end with a backslash, those left out
 /// begin with a question mark.
 std::vector<std::wstring> namesIn(Files& files, const std::wstring& directory);

@@ -1,5 +1,6 @@
 #include "fakes/fake_files.h"
 
+#include <cstring>
 #include <functional>
 
 #include "common/runtime_error.h"
@@ -21,7 +22,7 @@ std::wstring nameBelow(const std::wstring& directory, const std::wstring& path) 
 
 }  // namespace
 
-std::string FakeFiles::read(const std::wstring& path) {
+std::string FakeFiles::readBytes(const std::wstring& path) {
     const auto file = texts.find(path);
     if (file == texts.end()) throw errors::fileNotFound(path);
     std::string utf8;
@@ -61,6 +62,15 @@ bool FakeFiles::exists(const std::wstring& directory) const {
     return false;
 }
 
+DirectoryEntry FakeFiles::entry(const std::wstring& path, const std::wstring& name,
+                                bool isDirectory) const {
+    const auto given = attributes.find(path);
+    std::uint32_t bits = given == attributes.end() ? 0 : given->second;
+    if (isDirectory) bits |= attribute::kDirectory;
+    if (links.contains(path)) bits |= attribute::kReparsePoint;
+    return directoryEntry(name, bits, kMountPointTag);
+}
+
 void FakeFiles::visit(const std::wstring& directory,
                       const std::function<void(const DirectoryEntry&)>& visitor) {
     const std::wstring where = resolved(directory);
@@ -80,14 +90,17 @@ void FakeFiles::visit(const std::wstring& directory,
     for (const auto& [path, target] : links) note(path, true);
     for (const auto& [name, isDirectory] : names) {
         const std::wstring path = where + L'\\' + name;
-        visitor({name, isDirectory, hidden.contains(path), links.contains(path)});
+        visitor(entry(path, name, isDirectory));
     }
 }
 
 DirectoryId FakeFiles::identify(const std::wstring& directory) {
     const std::wstring where = resolved(directory);
     if (!exists(where)) throw errors::pathNotFound(directory);
-    return {1, std::hash<std::wstring>()(where)};
+    DirectoryId id{.volume = 1, .file = {}};
+    const std::size_t number = std::hash<std::wstring>()(where);
+    std::memcpy(id.file.data(), &number, sizeof number);
+    return id;
 }
 
 std::wstring FakeFiles::currentDirectory(wchar_t drive) {

@@ -8,10 +8,10 @@
 /// A file system in memory: texts by path, and directories that come into being with their files.
 struct FakeFiles : Files {
     std::map<std::wstring, std::wstring> texts;
-    std::set<std::wstring> directories;  ///< made explicitly, empty ones for instance
-    std::set<std::wstring> hidden;
-    std::map<std::wstring, std::wstring> links;  ///< directory path -> where it leads
-    std::set<std::wstring> unreadable;           ///< visiting one of these raises 70
+    std::set<std::wstring> directories;                ///< made explicitly, empty ones for instance
+    std::map<std::wstring, std::uint32_t> attributes;  ///< hidden, system
+    std::map<std::wstring, std::wstring> links;        ///< directory path -> where it leads
+    std::set<std::wstring> unreadable;                 ///< visiting one of these raises 70
     std::vector<wchar_t> presentDrives = {L'c'};
     std::map<wchar_t, std::wstring> currentDirectories;
     std::map<std::wstring, int> visits;  ///< how often each directory was read
@@ -19,7 +19,7 @@ struct FakeFiles : Files {
     /// An empty document, and its directories.
     void add(const std::wstring& path) { texts[path]; }
 
-    std::string read(const std::wstring& path) override;
+    std::string readBytes(const std::wstring& path) override;
     void replace(const std::wstring& path, const WriteContent& write) override;
     void visit(const std::wstring& directory,
                const std::function<void(const DirectoryEntry&)>& visitor) override;
@@ -30,5 +30,7 @@ struct FakeFiles : Files {
  private:
     /// The path with links on the way replaced by where they lead, without a trailing backslash.
     std::wstring resolved(std::wstring path) const;
+    DirectoryEntry entry(const std::wstring& path, const std::wstring& name,
+                         bool isDirectory) const;
     bool exists(const std::wstring& directory) const;
 };

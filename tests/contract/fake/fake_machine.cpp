@@ -17,7 +17,9 @@ class FakeMachine : public Machine, private EventSink {
     Files& files() override { return fakes_.files; }
     std::wstring directory() override { return L"c:\\contrat"; }
     void addDirectory(const std::wstring& path) override { fakes_.files.directories.insert(path); }
-    void hideFile(const std::wstring& path) override { fakes_.files.hidden.insert(path); }
+    void hide(const std::wstring& path, bool asSystem) override {
+        fakes_.files.attributes[path] = attribute::kHidden | (asSystem ? attribute::kSystem : 0);
+    }
     bool isVisible(int controlId) override {
         return look(controlId, [](const auto& control) { return control.visible; });
     }

@@ -51,7 +51,8 @@ TEST_F(HostileLists, AreReadOrRefusedAsDocumented) {
     expectOutcome(
         "\xFF\xFE"
         "0\0 \0 \0c\0:\0\r\0\n\0"s,
-        {.error = 5});  // UTF-16
+        {.lines = 1, .lastPath = "c:"});  // UTF-16
+    expectOutcome("0  c:\\\xE9\r\n0  c:\\\xC3\xA9", {.lines = 2, .lastPath = "c:\\\xC3\xA9"});
     expectOutcome("0  c:\\a\r\n1  c:\\b", {.lines = 2, .lastPath = "c:\\b"});
     expectOutcome("0  c:\\a\r1  c:\\b\r", {.lines = 2, .lastPath = "c:\\b"});
     expectOutcome("0  c:\\a\n1  c:\\b\n", {.lines = 2, .lastPath = "c:\\b"});

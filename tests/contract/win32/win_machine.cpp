@@ -27,8 +27,9 @@ class WinMachine : public Machine, private EventSink {
     void addDirectory(const std::wstring& path) override {
         CreateDirectoryW(longPath(path).c_str(), nullptr);
     }
-    void hideFile(const std::wstring& path) override {
-        SetFileAttributesW(longPath(path).c_str(), FILE_ATTRIBUTE_HIDDEN);
+    void hide(const std::wstring& path, bool asSystem) override {
+        SetFileAttributesW(longPath(path).c_str(),
+                           FILE_ATTRIBUTE_HIDDEN | (asSystem ? FILE_ATTRIBUTE_SYSTEM : 0));
     }
     bool isVisible(int controlId) override { return IsWindowVisible(handle(controlId)); }
     bool isEnabled(int controlId) override { return IsWindowEnabled(handle(controlId)); }

@@ -36,3 +36,18 @@ TEST(TakeLine, EndsAtEveryKindOfLineEnd) {
         EXPECT_EQ(lines, c.lines) << c.text;
     }
 }
+
+TEST(TakeLine, FindsTheEndOfALineOfBytesWhereverItIs) {
+    for (std::size_t length = 0; length < 40; ++length) {
+        // Neither other control characters nor bytes that only look like line ends count.
+        for (const char filler : {'a', '\t', '\x0E', '\x8A', '\x8D', '\xFF', '\0'}) {
+            const std::string line(length, filler);
+            for (const char* end : {"\r\n", "\n", "\r"}) {
+                const std::string text = line + end + line;
+                std::string_view rest = text;
+                EXPECT_EQ(takeLine(rest), line);
+                EXPECT_EQ(rest, line);
+            }
+        }
+    }
+}

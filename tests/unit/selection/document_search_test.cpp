@@ -39,7 +39,7 @@ TEST_F(Search, ListsOneDirectoryByNameWhateverTheKind) {
             L"c:\\plans\\a.b.SldPrt", L"c:\\plans\\sans_extension", L"c:\\plans\\notes.txt",
             L"c:\\plans\\~$bras.SLDASM", L"c:\\plans\\sous\\d.SLDPRT",
             L"c:\\plans\\dossier.SLDPRT\\e.SLDPRT"});
-    files.hidden.insert(L"c:\\plans\\~$bras.SLDASM");
+    files.attributes[L"c:\\plans\\~$bras.SLDASM"] = attribute::kHidden;
     EXPECT_EQ(run(L"c:\\plans", false),
               (Paths{L"a.b.SldPrt", L"Axe.slddrw", L"bras.SLDASM", L"Zoe.SLDPRT"}));
     EXPECT_EQ(listed, std::vector<int>{4});
@@ -52,16 +52,18 @@ TEST_F(Search, WalksATreeDepthFirstReadingEachDirectoryOnce) {
     addAll({L"c:\\plans\\z.SLDPRT", L"c:\\plans\\beta\\b.SLDASM", L"c:\\plans\\beta\\a.SLDPRT",
             L"c:\\plans\\Alpha\\fond\\profond\\p.SLDDRW", L"c:\\plans\\Alpha\\fond\\f.SLDPRT",
             L"c:\\plans\\Alpha\\x.SLDPRT", L"c:\\plans\\alpha2\\n.SLDPRT",
-            L"c:\\plans\\cache\\c.SLDPRT"});
+            L"c:\\plans\\cache\\c.SLDPRT", L"c:\\plans\\systeme\\s.SLDPRT"});
     files.directories.insert(L"c:\\plans\\vide");
-    files.hidden.insert(L"c:\\plans\\cache");
-    EXPECT_EQ(run(L"c:\\plans", true),
-              (Paths{L"c:\\plans\\z.SLDPRT", L"c:\\plans\\Alpha\\x.SLDPRT",
-                     L"c:\\plans\\Alpha\\fond\\f.SLDPRT",
-                     L"c:\\plans\\Alpha\\fond\\profond\\p.SLDDRW", L"c:\\plans\\alpha2\\n.SLDPRT",
-                     L"c:\\plans\\beta\\a.SLDPRT", L"c:\\plans\\beta\\b.SLDASM"}));
-    EXPECT_EQ(listed, (std::vector<int>{1, 1, 1, 1, 1, 2, 0}));
-    EXPECT_EQ(files.visits.size(), 7U);
+    files.attributes[L"c:\\plans\\cache"] = attribute::kHidden;
+    files.attributes[L"c:\\plans\\systeme"] = attribute::kHidden | attribute::kSystem;
+    EXPECT_EQ(
+        run(L"c:\\plans", true),
+        (Paths{L"c:\\plans\\z.SLDPRT", L"c:\\plans\\Alpha\\x.SLDPRT",
+               L"c:\\plans\\Alpha\\fond\\f.SLDPRT", L"c:\\plans\\Alpha\\fond\\profond\\p.SLDDRW",
+               L"c:\\plans\\alpha2\\n.SLDPRT", L"c:\\plans\\beta\\a.SLDPRT",
+               L"c:\\plans\\beta\\b.SLDASM", L"c:\\plans\\cache\\c.SLDPRT"}));
+    EXPECT_EQ(listed, (std::vector<int>{1, 1, 1, 1, 1, 2, 1, 0}));
+    EXPECT_EQ(files.visits.size(), 8U);
     for (const auto& [directory, times] : files.visits) EXPECT_EQ(times, 1) << directory;
 }
 

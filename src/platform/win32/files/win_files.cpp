@@ -2,37 +2,17 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 
+#include "platform/win32/files/directory_identity.h"
 #include "platform/win32/files/file_error.h"
 #include "platform/win32/files/file_replacement.h"
 #include "platform/win32/files/long_path.h"
 #include "platform/win32/process/unique_handle.h"
-#include "platform/win32/text/text_encoding.h"
 
 namespace {
-
-std::string readBytes(const std::wstring& path) {
-    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    const UniqueHandle file(CreateFileW(longPath(path).c_str(), GENERIC_READ, kShareAll, nullptr,
-                                        OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    if (!isValid(file)) throw fileError(GetLastError(), path);
-    LARGE_INTEGER size{};
-    GetFileSizeEx(file.get(), &size);
-    std::string bytes;
-    DWORD got = 0;
-    do {
-        const std::size_t have = bytes.size();
-        const DWORD wanted = static_cast<DWORD>(size.QuadPart) - static_cast<DWORD>(have) + 1;
-        bytes.resize(have + wanted);
-        if (!ReadFile(file.get(), bytes.data() + have, wanted, &got, nullptr)) {
-            throw fileError(GetLastError(), path);
-        }
-        bytes.resize(have + got);
-    } while (got != 0 && bytes.size() <= static_cast<std::size_t>(size.QuadPart));
-    return bytes;
-}
 
 struct FindCloser {
     using pointer = HANDLE;
@@ -42,12 +22,11 @@ struct FindCloser {
 };
 using FindHandle = std::unique_ptr<HANDLE, FindCloser>;
 
-DirectoryEntry entryOf(const WIN32_FIND_DATAW& found) {
-    return {.name = found.cFileName,
-            .isDirectory = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
-            .isHidden = (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0,
-            .isLink = (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0};
-}
+static_assert(attribute::kHidden == FILE_ATTRIBUTE_HIDDEN &&
+              attribute::kSystem == FILE_ATTRIBUTE_SYSTEM &&
+              attribute::kDirectory == FILE_ATTRIBUTE_DIRECTORY &&
+              attribute::kReparsePoint == FILE_ATTRIBUTE_REPARSE_POINT &&
+              kMountPointTag == IO_REPARSE_TAG_MOUNT_POINT);
 
 bool isDotEntry(const wchar_t* name) {
     return name[0] == L'.' && (name[1] == 0 || (name[1] == L'.' && name[2] == 0));
@@ -55,7 +34,28 @@ bool isDotEntry(const wchar_t* name) {
 
 }  // namespace
 
-std::string WinFiles::read(const std::wstring& path) { return textInUtf8(readBytes(path)); }
+DirectoryEntry entryOf(const WIN32_FIND_DATAW& found) {
+    return directoryEntry(found.cFileName, found.dwFileAttributes, found.dwReserved0);
+}
+
+std::string WinFiles::readBytes(const std::wstring& path) {
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const UniqueHandle file(CreateFileW(longPath(path).c_str(), GENERIC_READ, kShareAll, nullptr,
+                                        OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!isValid(file)) throw fileError(GetLastError(), path);
+    LARGE_INTEGER size{};
+    GetFileSizeEx(file.get(), &size);
+    std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
+    std::size_t have = 0;
+    for (DWORD got = 1; got != 0 && have < bytes.size(); have += got) {
+        const auto wanted = std::min<std::size_t>(bytes.size() - have, 1U << 30);
+        if (!ReadFile(file.get(), bytes.data() + have, static_cast<DWORD>(wanted), &got, nullptr)) {
+            throw fileError(GetLastError(), path);
+        }
+    }
+    bytes.resize(have);
+    return bytes;
+}
 
 void WinFiles::replace(const std::wstring& path, const WriteContent& write) {
     replaceFile(path, write);
@@ -84,13 +84,12 @@ DirectoryId WinFiles::identify(const std::wstring& directory) {
     const UniqueHandle handle(CreateFileW(longPath(directory).c_str(), FILE_READ_ATTRIBUTES,
                                           kShareAll, nullptr, OPEN_EXISTING,
                                           FILE_FLAG_BACKUP_SEMANTICS, nullptr));
-    BY_HANDLE_FILE_INFORMATION information{};
-    if (!isValid(handle) || !GetFileInformationByHandle(handle.get(), &information)) {
+    DirectoryId id{};
+    IdentityCalls calls;
+    if (!isValid(handle) || !::identify(handle.get(), id, calls)) {
         throw directoryError(GetLastError(), directory);
     }
-    return {information.dwVolumeSerialNumber,
-            (static_cast<unsigned long long>(information.nFileIndexHigh) << 32) |
-                information.nFileIndexLow};
+    return id;
 }
 
 std::vector<wchar_t> WinFiles::drives() {

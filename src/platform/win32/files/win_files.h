@@ -1,10 +1,12 @@
 #pragma once
 
+#include <windows.h>
+
 #include "platform/files.h"
 
 class WinFiles : public Files {
  public:
-    std::string read(const std::wstring& path) override;
+    std::string readBytes(const std::wstring& path) override;
     void replace(const std::wstring& path, const WriteContent& write) override;
     void visit(const std::wstring& directory,
                const std::function<void(const DirectoryEntry&)>& visitor) override;
@@ -12,3 +14,6 @@ class WinFiles : public Files {
     std::vector<wchar_t> drives() override;
     std::wstring currentDirectory(wchar_t drive) override;
 };
+
+/// What Windows says of a name in a directory.
+DirectoryEntry entryOf(const WIN32_FIND_DATAW& found);

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
+#include "common/plain_text.h"
 #include "common/runtime_error.h"
-#include "platform/win32/text/plain_text.h"
 
 std::wstring wideText(std::string_view utf8) {
     // No character has more units of UTF-16 than bytes of UTF-8.

@@ -6,7 +6,7 @@
 /// system need not convert them; most lists hold no others.
 template <class Character>
 bool isPlain(std::basic_string_view<Character> text) {
-    unsigned all = 0;
-    for (const Character c : text) all |= static_cast<unsigned>(c);
-    return (all & ~0x7FU) == 0;
+    Character all = 0;  // no wider than a character, so that one instruction takes many
+    for (const Character c : text) all = static_cast<Character>(all | c);
+    return (all & ~0x7F) == 0;
 }
