@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "contract/machine.h"
-#include "platform/win32/files/long_path.h"
+#include "platform/long_path.h"
 #include "platform/win32/process/unique_handle.h"
 #include "unit/raised.h"
 

@@ -5,7 +5,7 @@
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
 #include "contract/win32/scratch_directory.h"
-#include "platform/win32/files/long_path.h"
+#include "platform/long_path.h"
 #include "platform/win32/files/win_files.h"
 #include "platform/win32/process/registry_settings.h"
 #include "platform/win32/window/dialog_window.h"

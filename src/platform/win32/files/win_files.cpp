@@ -5,9 +5,9 @@
 #include <memory>
 #include <string>
 
-#include "platform/win32/files/file_error.h"
+#include "platform/file_error.h"
 #include "platform/win32/files/file_replacement.h"
-#include "platform/win32/files/long_path.h"
+#include "platform/long_path.h"
 #include "platform/win32/process/unique_handle.h"
 #include "platform/win32/text/text_encoding.h"
 

@@ -1,4 +1,4 @@
-#include "platform/win32/files/long_path.h"
+#include "platform/long_path.h"
 
 namespace {
 
