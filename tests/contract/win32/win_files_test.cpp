@@ -6,7 +6,7 @@
 
 #include "contract/machine.h"
 #include "platform/long_path.h"
-#include "platform/win32/process/unique_handle.h"
+#include "platform/win32/process/unique.h"
 #include "unit/raised.h"
 
 namespace {

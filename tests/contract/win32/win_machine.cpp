@@ -9,7 +9,7 @@
 #include "platform/win32/files/win_files.h"
 #include "platform/win32/process/registry_settings.h"
 #include "platform/win32/window/dialog_window.h"
-#include "platform/win32/window/event_gate.h"
+#include "platform/win32/window/win_gate_keeper.h"
 
 namespace {
 
@@ -49,7 +49,8 @@ class WinMachine : public Machine, private EventSink {
     };
 
     TabClass tabClass_;
-    EventGate gate_;
+    WinGateKeeper keeper_;
+    EventGate gate_{keeper_};
     DialogFactory factory_{gate_};
     std::unique_ptr<Window> window_ =
         factory_.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);

@@ -6,9 +6,11 @@
 /// Objects of other programs, through COM. Lives between CoInitialize and CoUninitialize.
 class WinAutomation : public Automation {
  public:
+    explicit WinAutomation(Patience& patience) : binding_{patience} {}
+
     ObjectPtr attach(const std::wstring& progId) override;
     ObjectPtr create(const std::wstring& progId) override;
 
  private:
-    NameTables tables_;
+    LateBinding binding_;
 };

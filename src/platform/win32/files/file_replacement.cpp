@@ -5,7 +5,7 @@
 #include "common/numbers.h"
 #include "platform/file_error.h"
 #include "platform/long_path.h"
-#include "platform/win32/process/unique_handle.h"
+#include "platform/win32/process/unique.h"
 
 namespace {
 

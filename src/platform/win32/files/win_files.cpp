@@ -8,7 +8,7 @@
 #include "platform/file_error.h"
 #include "platform/win32/files/file_replacement.h"
 #include "platform/long_path.h"
-#include "platform/win32/process/unique_handle.h"
+#include "platform/win32/process/unique.h"
 #include "platform/win32/text/text_encoding.h"
 
 namespace {
@@ -19,7 +19,7 @@ std::string readBytes(const std::wstring& path) {
                                         OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!isValid(file)) throw fileError(GetLastError(), path);
     LARGE_INTEGER size{};
-    GetFileSizeEx(file.get(), &size);
+    if (!GetFileSizeEx(file.get(), &size)) throw fileError(GetLastError(), path);
     std::string bytes;
     DWORD got = 0;
     do {

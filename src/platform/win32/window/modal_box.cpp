@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "platform/win32/process/unique.h"
+
 namespace {
 
 struct ButtonText {
@@ -16,9 +18,6 @@ constexpr ButtonText kFrenchButtons[] = {
 class FrenchButtons {
  public:
     FrenchButtons() : hook_(SetWindowsHookExW(WH_CBT, onCbt, nullptr, GetCurrentThreadId())) {}
-    ~FrenchButtons() { UnhookWindowsHookEx(hook_); }
-    FrenchButtons(const FrenchButtons&) = delete;
-    FrenchButtons& operator=(const FrenchButtons&) = delete;
 
  private:
     static LRESULT CALLBACK onCbt(int code, WPARAM wParam, LPARAM lParam) {
@@ -35,7 +34,8 @@ class FrenchButtons {
         }
     }
 
-    HHOOK hook_;
+    // Without it the buttons speak the language of the system, which is better than no box.
+    UniqueHook hook_;
 };
 
 /// Disables every window of the program but the box's owner, which the box disables itself.

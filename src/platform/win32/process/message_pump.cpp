@@ -1,4 +1,4 @@
-#include "platform/win32/window/message_pump.h"
+#include "platform/win32/process/message_pump.h"
 
 void handleWaitingMessages(UINT first, UINT last) {
     MSG message;

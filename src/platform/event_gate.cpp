@@ -1,15 +1,14 @@
-#include "platform/win32/window/event_gate.h"
+#include "platform/event_gate.h"
 
 #include <new>
 
 #include "common/runtime_error.h"
-#include "platform/win32/window/fatal_error.h"
-#include "platform/win32/window/hourglass.h"
+#include "platform/fatal_error.h"
 
-void EventGate::deliver(EventSink& sink, int controlId, Event event, HWND window) {
+void EventGate::deliver(EventSink& sink, int controlId, Event event, const EventSource& source) {
     if (ended_) return;
     if (running_) {
-        waiting_.push_back({&sink, controlId, event, window});
+        waiting_.push_back({&sink, controlId, event, &source});
         return;
     }
     run([&] { sink.raise(controlId, event); });
@@ -25,35 +24,37 @@ void EventGate::run(const std::function<void()>& action) {
 }
 
 bool EventGate::stillPossible(const Waiting& waiting) {
-    if (!IsWindowVisible(waiting.window)) return false;
-    HWND control = GetDlgItem(waiting.window, waiting.controlId);
-    return !control || IsWindowEnabled(control);
+    return waiting.source->isShown() && waiting.source->isEnabled(waiting.controlId);
 }
 
-void EventGate::forget(const EventSink& sink) {
-    std::erase_if(waiting_, [&](const Waiting& event) { return event.sink == &sink; });
+void EventGate::forget(const EventSource& source) {
+    std::erase_if(waiting_, [&](const Waiting& event) { return event.source == &source; });
 }
 
 void EventGate::runOne(const std::function<void()>& action) {
     running_ = true;
-    const Hourglass hourglass;
+    keeper_.setHourglass(true);
     try {
         action();
     } catch (const ProgramEnd&) {
         end(0);
     } catch (const RuntimeError& error) {
-        showFatalError(error);
-        end(error.number);
+        fail(error);
     } catch (const std::bad_alloc&) {
-        showFatalError(errors::outOfMemory());
-        end(errors::outOfMemory().number);
+        fail(errors::outOfMemory());
     }
+    keeper_.setHourglass(false);
     running_ = false;
+}
+
+void EventGate::fail(const RuntimeError& error) {
+    keeper_.showFatalError(fatalErrorText(error));
+    end(error.number);
 }
 
 void EventGate::end(int exitCode) {
     ended_ = true;
     exitCode_ = exitCode;
     waiting_.clear();
-    PostQuitMessage(exitCode);
+    keeper_.quit(exitCode);
 }

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/event_gate.h"
+#include "platform/win32/window/hourglass.h"
+
+class WinGateKeeper : public GateKeeper {
+ public:
+    void setHourglass(bool shown) override { hourglass_.set(shown); }
+    void showFatalError(const std::wstring& text) override;
+    void quit(int exitCode) override;
+
+ private:
+    Hourglass hourglass_;
+};
