@@ -6,10 +6,11 @@
 
 #include "app/program.h"
 #include "platform/event_gate.h"
+#include "platform/late_bound_automation.h"
 #include "platform/patience.h"
 #include "platform/platform.h"
 #include "platform/win32/com/message_filter.h"
-#include "platform/win32/com/win_automation.h"
+#include "platform/win32/com/win_objects.h"
 #include "platform/win32/files/win_files.h"
 #include "platform/win32/process/registry_settings.h"
 #include "platform/win32/process/require.h"
@@ -51,7 +52,8 @@ struct RunningProgram {
     Apartment apartment;
     WinBusyWaiting waiting;
     Patience patience{waiting};
-    WinAutomation automation{patience};
+    WinObjectServers servers;
+    LateBoundAutomation automation{servers, patience};
     RegistrySettings settings;
     WinFiles files;
     WinMessageBoxes messageBoxes;

@@ -19,6 +19,21 @@ BSTR OwnedBstr::release() { return std::exchange(text_, nullptr); }
 
 std::wstring textIn(BSTR text) { return text ? std::wstring(text, SysStringLen(text)) : L""; }
 
+Value valueIn(const VARIANT& variant) {
+    switch (V_VT(&variant)) {
+        case VT_BSTR:
+            return textIn(V_BSTR(&variant));
+        case VT_BOOL:
+            return V_BOOL(&variant) == VARIANT_TRUE;
+        case VT_I2:
+            return static_cast<std::int16_t>(V_I2(&variant));
+        case VT_I4:
+            return static_cast<std::int32_t>(V_I4(&variant));
+        default:
+            return std::monostate();
+    }
+}
+
 CallArguments::CallArguments(std::span<const Argument> arguments) : variants_(arguments.size()) {
     // The VARIANTs point into this table, which therefore must not move.
     texts_.reserve(arguments.size());

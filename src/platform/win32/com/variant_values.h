@@ -36,6 +36,9 @@ class OwnedBstr {
 /// The text of a BSTR, which may be null.
 std::wstring textIn(BSTR text);
 
+/// What a VARIANT holds, unless it is an object.
+Value valueIn(const VARIANT& variant);
+
 /// The arguments of one call as Invoke wants them: the last one first. By-reference arguments
 /// are written back by `writeBack`, after the call.
 class CallArguments {
