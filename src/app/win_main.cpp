@@ -47,16 +47,17 @@ struct Apartment {
 
 /// The program on the machine it runs on.
 struct RunningProgram {
-    explicit RunningProgram(EventGate& gate) : windows(gate) {}
+    RunningProgram(EventGate& gate, MessageBoxes& boxes)
+        : messageBoxes(boxes), patience(waiting, boxes), windows(gate) {}
 
     Apartment apartment;
+    MessageBoxes& messageBoxes;
     WinBusyWaiting waiting;
-    Patience patience{waiting};
+    Patience patience;
     WinObjectServers servers;
     LateBoundAutomation automation{servers, patience};
     RegistrySettings settings;
     WinFiles files;
-    WinMessageBoxes messageBoxes;
     WinDesktop desktop;
     DialogFactory windows;
     InputSieve sieve;
@@ -72,10 +73,11 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
     InitCommonControlsEx(&controls);
     WinGateKeeper keeper;
-    EventGate gate(keeper);
+    WinMessageBoxes boxes;
+    EventGate gate(keeper, boxes);
     std::optional<RunningProgram> running;
     gate.run([&] {
-        running.emplace(gate);
+        running.emplace(gate, boxes);
         running->program.start();
     });
     return gate.ended() ? gate.exitCode() : runMessageLoop();

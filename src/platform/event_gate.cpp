@@ -2,8 +2,15 @@
 
 #include <new>
 
+#include "common/numbers.h"
 #include "common/runtime_error.h"
-#include "platform/fatal_error.h"
+#include "platform/message_boxes.h"
+
+MessageBoxContent fatalErrorBox(const RuntimeError& error) {
+    return {.text = L"Erreur d'exécution '" + decimal(error.number) + L"' :\r\n" + error.text,
+            .title = L"Tarnwick",
+            .icon = MessageBoxContent::Icon::Stop};
+}
 
 void EventGate::deliver(EventSink& sink, int controlId, Event event, const EventSource& source) {
     if (ended_) return;
@@ -48,7 +55,7 @@ void EventGate::runOne(const std::function<void()>& action) {
 }
 
 void EventGate::fail(const RuntimeError& error) {
-    keeper_.showFatalError(fatalErrorText(error));
+    boxes_.show(fatalErrorBox(error));
     end(error.number);
 }
 

@@ -2,11 +2,15 @@
 
 #include <deque>
 #include <functional>
-#include <string>
 
 #include "platform/events.h"
 
+class MessageBoxes;
+struct MessageBoxContent;
 struct RuntimeError;
+
+/// What tells the user why a run-time error ends the program.
+MessageBoxContent fatalErrorBox(const RuntimeError& error);
 
 /// The window that an event comes from, as the gate asks about it.
 class EventSource {
@@ -24,8 +28,6 @@ class GateKeeper {
     virtual ~GateKeeper() = default;
 
     virtual void setHourglass(bool shown) = 0;
-    /// Tells the user why the program ends, in one modal box.
-    virtual void showFatalError(const std::wstring& text) = 0;
     /// Lets the message loop end.
     virtual void quit(int exitCode) = 0;
 };
@@ -34,7 +36,7 @@ class GateKeeper {
 /// program. One handler runs at a time: an event that arrives meanwhile waits until it has ended.
 class EventGate {
  public:
-    explicit EventGate(GateKeeper& keeper) : keeper_(keeper) {}
+    EventGate(GateKeeper& keeper, MessageBoxes& boxes) : keeper_(keeper), boxes_(boxes) {}
 
     /// Runs the handler of an event now, or after the one that runs; then only if the user could
     /// still do what it stands for.
@@ -64,6 +66,7 @@ class EventGate {
     void end(int exitCode);
 
     GateKeeper& keeper_;
+    MessageBoxes& boxes_;
     std::deque<Waiting> waiting_;
     bool running_ = false;
     bool ended_ = false;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/call_out.h"
+#include "platform/message_boxes.h"
 
 namespace {
 
@@ -28,6 +29,13 @@ std::optional<unsigned> Patience::afterRefusal() {
     return static_cast<unsigned>(std::clamp(elapsed, kFirstWait, kLongestWait));
 }
 
+bool Patience::userGoesOn() {
+    return boxes_.show({.text = L"SolidWorks est occupé.",
+                        .title = L"Tarnwick",
+                        .buttons = MessageBoxContent::Buttons::RetryCancel,
+                        .icon = MessageBoxContent::Icon::Warning}) == MessageBoxes::Answer::Retry;
+}
+
 CallResult Patience::call(const std::function<CallResult()>& attempt) {
     refusedSince_.reset();
     CallResult result = tryOnce(attempt);
@@ -35,7 +43,7 @@ CallResult Patience::call(const std::function<CallResult()>& attempt) {
         if (const auto wait = afterRefusal()) {
             const CallOut waiting;
             if (*wait != 0) machine_.wait(*wait);
-        } else if (machine_.userGoesOn()) {
+        } else if (userGoesOn()) {
             refusedSince_.reset();
         } else {
             return result;

@@ -6,6 +6,8 @@
 
 #include "platform/call_error.h"
 
+class MessageBoxes;
+
 /// What waiting for a busy application needs of the machine.
 class BusyWaiting {
  public:
@@ -15,8 +17,6 @@ class BusyWaiting {
     virtual std::uint64_t now() const = 0;
     /// Lets this time pass; the windows draw meanwhile.
     virtual void wait(unsigned milliseconds) = 0;
-    /// Asks the user whether to go on trying.
-    virtual bool userGoesOn() = 0;
 };
 
 /// When a call that a busy application refused is tried again. A refused call never ran, so it
@@ -24,7 +24,7 @@ class BusyWaiting {
 /// first refusal the user is asked. One clock serves all who see a refusal.
 class Patience {
  public:
-    explicit Patience(BusyWaiting& machine) : machine_(machine) {}
+    Patience(BusyWaiting& machine, MessageBoxes& boxes) : machine_(machine), boxes_(boxes) {}
 
     /// Makes a call, again and again while it is refused. Gives the last answer, which is a refusal
     /// when the user gave up.
@@ -35,6 +35,9 @@ class Patience {
     std::optional<unsigned> afterRefusal();
 
  private:
+    bool userGoesOn();
+
     BusyWaiting& machine_;
+    MessageBoxes& boxes_;
     std::optional<std::uint64_t> refusedSince_;
 };

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <objbase.h>
 
+#include "fakes/fake_message_boxes.h"
 #include "platform/patience.h"
 
 namespace {
@@ -13,7 +14,6 @@ struct FakeClock : BusyWaiting {
     std::uint64_t time = 0;
     std::uint64_t now() const override { return time; }
     void wait(unsigned milliseconds) override { time += milliseconds; }
-    bool userGoesOn() override { return false; }
 };
 
 /// COM keeps a filter for each thread that it serves.
@@ -29,7 +29,8 @@ TEST_F(MessageFilterTest, RepeatsARefusedCallFromTheFirstRefusalOn) {
     constexpr DWORD kGiveUp = static_cast<DWORD>(-1);
     constexpr DWORD kHung = 12'000;
     FakeClock clock;
-    Patience patience(clock);
+    FakeMessageBoxes boxes;
+    Patience patience(clock, boxes);
     MessageFilter filter(patience);
     const std::pair<DWORD, DWORD> answers[] = {
         {0, 0}, {30, 100}, {5'000, 1'000}, {9'999, 1'000}, {10'000, kGiveUp}};

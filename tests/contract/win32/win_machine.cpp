@@ -10,6 +10,7 @@
 #include "platform/win32/process/registry_settings.h"
 #include "platform/win32/window/dialog_window.h"
 #include "platform/win32/window/win_gate_keeper.h"
+#include "platform/win32/window/win_message_boxes.h"
 
 namespace {
 
@@ -50,7 +51,8 @@ class WinMachine : public Machine, private EventSink {
 
     TabClass tabClass_;
     WinGateKeeper keeper_;
-    EventGate gate_{keeper_};
+    WinMessageBoxes boxes_;
+    EventGate gate_{keeper_, boxes_};
     DialogFactory factory_{gate_};
     std::unique_ptr<Window> window_ =
         factory_.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);

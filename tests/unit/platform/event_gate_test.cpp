@@ -7,21 +7,23 @@
 #include <vector>
 
 #include "common/runtime_error.h"
+#include "fakes/fake_message_boxes.h"
 
 namespace {
 
 struct FakeKeeper : GateKeeper {
     bool hourglass = false;
-    std::vector<std::wstring> boxes;
     std::vector<int> quits;
-    std::function<void()> whileBoxIsShown = [] {};
-
     void setHourglass(bool shown) override { hourglass = shown; }
-    void showFatalError(const std::wstring& text) override {
-        boxes.push_back(text);
-        whileBoxIsShown();
-    }
     void quit(int exitCode) override { quits.push_back(exitCode); }
+};
+
+struct BoxesThatWait : FakeMessageBoxes {
+    std::function<void()> whileShown = [] {};
+    Answer show(const MessageBoxContent& box) override {
+        whileShown();
+        return FakeMessageBoxes::show(box);
+    }
 };
 
 struct FakeSource : EventSource {
@@ -43,7 +45,8 @@ struct FakeSink : EventSink {
 
 struct EventGateTest : testing::Test {
     FakeKeeper keeper;
-    EventGate gate{keeper};
+    BoxesThatWait boxes;
+    EventGate gate{keeper, boxes};
     FakeSource source;
     FakeSink sink;
 
@@ -91,11 +94,10 @@ TEST_F(EventGateTest, DropsWaitingEventsThatTheUserCouldNotCauseAnyMore) {
 }
 
 TEST_F(EventGateTest, TurnsARunTimeErrorIntoABoxAndTheEnd) {
-    keeper.whileBoxIsShown = [&] { click(2); };
+    boxes.whileShown = [&] { click(2); };
     sink.handlers[1] = [] { throw errors::fileNotFound(L"c:\\a"); };
     click(1);
-    EXPECT_EQ(keeper.boxes, std::vector<std::wstring>{
-                                L"Erreur d'exécution '53' :\r\nFichier introuvable : c:\\a"});
+    EXPECT_EQ(boxes.shown.at(0).text, L"Erreur d'exécution '53' :\r\nFichier introuvable : c:\\a");
     expectEnd(53);
     click(3);
     EXPECT_EQ(sink.raised, std::vector{1});
@@ -103,12 +105,12 @@ TEST_F(EventGateTest, TurnsARunTimeErrorIntoABoxAndTheEnd) {
 
 TEST_F(EventGateTest, EndsWithoutABoxWhenTheProgramWantsTo) {
     gate.run([] { throw ProgramEnd{}; });
-    EXPECT_TRUE(keeper.boxes.empty());
+    EXPECT_TRUE(boxes.shown.empty());
     expectEnd(0);
 }
 
 TEST_F(EventGateTest, NamesAShortageOfMemory) {
     gate.run([] { throw std::bad_alloc(); });
-    EXPECT_EQ(keeper.boxes.size(), 1U);
+    EXPECT_EQ(boxes.shown.size(), 1U);
     expectEnd(7);
 }

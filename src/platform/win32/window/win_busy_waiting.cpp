@@ -1,7 +1,6 @@
 #include "platform/win32/window/win_busy_waiting.h"
 
 #include "platform/win32/process/message_pump.h"
-#include "platform/win32/window/modal_box.h"
 
 std::uint64_t WinBusyWaiting::now() const { return GetTickCount64(); }
 
@@ -11,10 +10,4 @@ void WinBusyWaiting::wait(unsigned milliseconds) {
         MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(end - time), QS_ALLINPUT, 0);
         handleWaitingMessages();
     }
-}
-
-bool WinBusyWaiting::userGoesOn() {
-    return showModalBox({.text = L"SolidWorks est occupé.",
-                         .title = L"Tarnwick",
-                         .style = MB_RETRYCANCEL | MB_ICONEXCLAMATION}) == IDRETRY;
 }

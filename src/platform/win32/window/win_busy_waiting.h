@@ -6,5 +6,4 @@ class WinBusyWaiting : public BusyWaiting {
  public:
     std::uint64_t now() const override;
     void wait(unsigned milliseconds) override;
-    bool userGoesOn() override;
 };

@@ -6,8 +6,7 @@
 class WinGateKeeper : public GateKeeper {
  public:
     void setHourglass(bool shown) override { hourglass_.set(shown); }
-    void showFatalError(const std::wstring& text) override;
-    void quit(int exitCode) override;
+    void quit(int exitCode) override { PostQuitMessage(exitCode); }
 
  private:
     Hourglass hourglass_;
