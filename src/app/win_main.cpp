@@ -1,20 +1,25 @@
 #include <windows.h>
 
 #include <commctrl.h>
-#include <memory>
 #include <objbase.h>
+#include <optional>
 
 #include "app/program.h"
+#include "platform/event_gate.h"
+#include "platform/late_bound_automation.h"
+#include "platform/patience.h"
 #include "platform/platform.h"
 #include "platform/win32/com/message_filter.h"
-#include "platform/win32/com/win_automation.h"
+#include "platform/win32/com/win_objects.h"
 #include "platform/win32/files/win_files.h"
 #include "platform/win32/process/registry_settings.h"
+#include "platform/win32/process/require.h"
 #include "platform/win32/window/dialog_window.h"
-#include "platform/win32/window/event_gate.h"
 #include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/message_loop.h"
+#include "platform/win32/window/win_busy_waiting.h"
 #include "platform/win32/window/win_desktop.h"
+#include "platform/win32/window/win_gate_keeper.h"
 #include "platform/win32/window/win_message_boxes.h"
 
 namespace {
@@ -32,27 +37,34 @@ std::wstring programDirectory() {
 
 /// COM for the thread, as long as it lives.
 struct Apartment {
-    Apartment() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
+    Apartment() {
+        requireSuccess(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), L"l'accès à COM");
+    }
     ~Apartment() { CoUninitialize(); }
     Apartment(const Apartment&) = delete;
     Apartment& operator=(const Apartment&) = delete;
 };
 
-int runProgram() {
-    EventGate gate;
-    WinAutomation automation;
+/// The program on the machine it runs on.
+struct RunningProgram {
+    RunningProgram(EventGate& gate, MessageBoxes& boxes)
+        : messageBoxes(boxes), patience(waiting, boxes), windows(gate) {}
+
+    Apartment apartment;
+    MessageBoxes& messageBoxes;
+    WinBusyWaiting waiting;
+    Patience patience;
+    WinObjectServers servers;
+    LateBoundAutomation automation{servers, patience};
     RegistrySettings settings;
     WinFiles files;
-    WinMessageBoxes messageBoxes;
     WinDesktop desktop;
-    DialogFactory windows(gate);
-    const InputSieve sieve;
-    const MessageFilter filter;
-    Program program(
-        {automation, settings, files, messageBoxes, desktop, windows, programDirectory()});
-    gate.run([&] { program.start(); });
-    return gate.ended() ? gate.exitCode() : runMessageLoop();
-}
+    DialogFactory windows;
+    InputSieve sieve;
+    MessageFilter filter{patience};
+    Program program{
+        {automation, settings, files, messageBoxes, desktop, windows, programDirectory()}};
+};
 
 }  // namespace
 
@@ -60,6 +72,13 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
     INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
     InitCommonControlsEx(&controls);
-    const Apartment apartment;
-    return runProgram();
+    WinGateKeeper keeper;
+    WinMessageBoxes boxes;
+    EventGate gate(keeper, boxes);
+    std::optional<RunningProgram> running;
+    gate.run([&] {
+        running.emplace(gate, boxes);
+        running->program.start();
+    });
+    return gate.ended() ? gate.exitCode() : runMessageLoop();
 }

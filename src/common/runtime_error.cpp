@@ -27,6 +27,8 @@ RuntimeError subscriptOutOfRange() {
 
 RuntimeError typeMismatch() { return {13, L"Incompatibilité de type : un nombre était attendu."}; }
 
+RuntimeError system(const std::wstring& what) { return about(51, L"Windows a refusé", what); }
+
 RuntimeError fileNotFound(const std::wstring& path) {
     return about(53, L"Fichier introuvable", path);
 }

@@ -2,10 +2,10 @@
 
 #include <string>
 
-/// What a modal message box shows; the numbers behind are the platform's.
+/// What a modal message box shows. The numbers are those of Windows' own boxes (winuser.h).
 struct MessageBoxContent {
-    enum class Buttons { Ok, YesNo };
-    enum class Icon { None, Stop };
+    enum class Buttons { Ok = 0, YesNo = 4, RetryCancel = 5 };
+    enum class Icon { None = 0, Stop = 0x10, Warning = 0x30 };
 
     std::wstring text;
     std::wstring title;
@@ -18,10 +18,14 @@ struct MessageBoxContent {
 
 class MessageBoxes {
  public:
-    enum class Answer { Ok, Yes, No };
+    /// By the ids of the buttons. A box with one button answers Ok.
+    enum class Answer { Ok = 1, Cancel = 2, Retry = 4, Yes = 6, No = 7 };
 
     virtual ~MessageBoxes() = default;
 
     /// Shows the box, modal to the whole program, until the user answers.
     virtual Answer show(const MessageBoxContent& box) = 0;
 };
+
+/// A button's French caption, whatever the language of the system; nullptr: it keeps its own.
+const wchar_t* frenchCaption(MessageBoxes::Answer button);

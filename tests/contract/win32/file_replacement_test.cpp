@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "contract/machine.h"
-#include "platform/win32/process/unique_handle.h"
+#include "platform/win32/process/unique.h"
 #include "unit/raised.h"
 
 namespace {

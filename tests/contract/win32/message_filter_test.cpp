@@ -3,17 +3,41 @@
 #include "platform/win32/com/message_filter.h"
 
 #include <gtest/gtest.h>
+#include <objbase.h>
 
-#include "platform/win32/com/call_out.h"
+#include "fakes/fake_message_boxes.h"
+#include "platform/patience.h"
 
-TEST(MessageFilter, RepeatsARefusedCallByThePolicy) {
+namespace {
+
+struct FakeClock : BusyWaiting {
+    std::uint64_t time = 0;
+    std::uint64_t now() const override { return time; }
+    void wait(unsigned milliseconds) override { time += milliseconds; }
+};
+
+/// COM keeps a filter for each thread that it serves.
+struct MessageFilterTest : testing::Test {
+    MessageFilterTest() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
+    ~MessageFilterTest() override { CoUninitialize(); }
+};
+
+}  // namespace
+
+// COM counts from the call on, which hung for twelve seconds here; we from the first refusal on.
+TEST_F(MessageFilterTest, RepeatsARefusedCallFromTheFirstRefusalOn) {
     constexpr DWORD kGiveUp = static_cast<DWORD>(-1);
-    MessageFilter filter;
-    const CallOut out;
-    EXPECT_EQ(filter.RetryRejectedCall(nullptr, 0, SERVERCALL_RETRYLATER), 0U);
-    EXPECT_EQ(filter.RetryRejectedCall(nullptr, 30, SERVERCALL_RETRYLATER), 100U);
-    EXPECT_EQ(filter.RetryRejectedCall(nullptr, 5'000, SERVERCALL_REJECTED), 1'000U);
-    EXPECT_FALSE(CallOut::repeatedInVain());
-    EXPECT_EQ(filter.RetryRejectedCall(nullptr, 10'000, SERVERCALL_REJECTED), kGiveUp);
-    EXPECT_TRUE(CallOut::repeatedInVain());
+    constexpr DWORD kHung = 12'000;
+    FakeClock clock;
+    FakeMessageBoxes boxes;
+    Patience patience(clock, boxes);
+    MessageFilter filter(patience);
+    const std::pair<DWORD, DWORD> answers[] = {
+        {0, 0}, {30, 100}, {5'000, 1'000}, {9'999, 1'000}, {10'000, kGiveUp}};
+    for (const auto& [sinceRefusal, answer] : answers) {
+        clock.time = kHung + sinceRefusal;
+        EXPECT_EQ(filter.RetryRejectedCall(nullptr, kHung + sinceRefusal, SERVERCALL_RETRYLATER),
+                  answer)
+            << sinceRefusal;
+    }
 }

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "platform/win32/files/long_path.h"
+#include "platform/long_path.h"
 #include "platform/win32/files/win_files.h"
 
 namespace {

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "contract/machine.h"
-#include "platform/win32/files/long_path.h"
-#include "platform/win32/process/unique_handle.h"
+#include "platform/long_path.h"
+#include "platform/win32/process/unique.h"
 #include "unit/raised.h"
 
 namespace {

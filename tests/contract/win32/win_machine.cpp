@@ -5,11 +5,12 @@
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
 #include "contract/win32/scratch_directory.h"
-#include "platform/win32/files/long_path.h"
+#include "platform/long_path.h"
 #include "platform/win32/files/win_files.h"
 #include "platform/win32/process/registry_settings.h"
 #include "platform/win32/window/dialog_window.h"
-#include "platform/win32/window/event_gate.h"
+#include "platform/win32/window/win_gate_keeper.h"
+#include "platform/win32/window/win_message_boxes.h"
 
 namespace {
 
@@ -50,7 +51,9 @@ class WinMachine : public Machine, private EventSink {
     };
 
     TabClass tabClass_;
-    EventGate gate_;
+    WinGateKeeper keeper_;
+    WinMessageBoxes boxes_;
+    EventGate gate_{keeper_, boxes_};
     DialogFactory factory_{gate_};
     std::unique_ptr<Window> window_ =
         factory_.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);

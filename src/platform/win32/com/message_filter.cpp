@@ -2,11 +2,13 @@
 
 #include <algorithm>
 
-#include "platform/retry_policy.h"
-#include "platform/win32/com/call_out.h"
-#include "platform/win32/window/message_pump.h"
+#include "platform/patience.h"
+#include "platform/win32/process/message_pump.h"
+#include "platform/win32/process/require.h"
 
-MessageFilter::MessageFilter() { CoRegisterMessageFilter(this, nullptr); }
+MessageFilter::MessageFilter(Patience& patience) : patience_(patience) {
+    requireSuccess(CoRegisterMessageFilter(this, nullptr), L"le filtre des appels");
+}
 
 MessageFilter::~MessageFilter() { CoRegisterMessageFilter(nullptr, nullptr); }
 
@@ -20,14 +22,11 @@ DWORD MessageFilter::HandleInComingCall(DWORD, HTASK, DWORD, LPINTERFACEINFO) {
     return SERVERCALL_ISHANDLED;
 }
 
-DWORD MessageFilter::RetryRejectedCall(HTASK, DWORD elapsed, DWORD) {
+DWORD MessageFilter::RetryRejectedCall(HTASK, DWORD, DWORD) {
     constexpr DWORD kGiveUp = static_cast<DWORD>(-1);
     constexpr DWORD kShortestWait = 100;  // below, COM repeats the call at once
-    const auto wait = waitBeforeRetry(elapsed);
-    if (!wait) {
-        CallOut::noteRepeatedInVain();
-        return kGiveUp;
-    }
+    const auto wait = patience_.afterRefusal();
+    if (!wait) return kGiveUp;
     return *wait == 0 ? 0 : std::max<DWORD>(*wait, kShortestWait);
 }
 

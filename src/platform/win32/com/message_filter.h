@@ -4,11 +4,13 @@
 
 #include <objidl.h>
 
+class Patience;
+
 /// What COM asks us while a call to another program is out (the IMessageFilter interface).
 /// Registered for the thread as long as it lives.
 class MessageFilter final : public IMessageFilter {
  public:
-    MessageFilter();
+    explicit MessageFilter(Patience& patience);
     ~MessageFilter();
     MessageFilter(const MessageFilter&) = delete;
     MessageFilter& operator=(const MessageFilter&) = delete;
@@ -19,9 +21,13 @@ class MessageFilter final : public IMessageFilter {
 
     DWORD STDMETHODCALLTYPE HandleInComingCall(DWORD type, HTASK caller, DWORD elapsed,
                                                LPINTERFACEINFO information) override;
-    /// COM waits and repeats the call for us as long as the policy has it; then the refusal goes to
-    /// callPatiently, which asks the user. Systems that don't ask leave it to that one altogether.
+    /// COM waits and repeats the call for us as long as our patience lasts; then the refusal goes
+    /// to the caller, who asks the user. Systems that don't ask leave it to the caller altogether.
+    /// What has elapsed is since the call went out, not since it was refused, and means nothing.
     DWORD STDMETHODCALLTYPE RetryRejectedCall(HTASK callee, DWORD elapsed, DWORD reason) override;
     /// Sieves the input that came in: otherwise it would wait and be a command after the call.
     DWORD STDMETHODCALLTYPE MessagePending(HTASK callee, DWORD elapsed, DWORD type) override;
+
+ private:
+    Patience& patience_;
 };

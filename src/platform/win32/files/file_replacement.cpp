@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "common/numbers.h"
-#include "platform/win32/files/file_error.h"
-#include "platform/win32/files/long_path.h"
-#include "platform/win32/process/unique_handle.h"
+#include "platform/file_error.h"
+#include "platform/long_path.h"
+#include "platform/win32/process/unique.h"
 
 namespace {
 

@@ -6,11 +6,11 @@
 #include <memory>
 #include <string>
 
+#include "platform/file_error.h"
+#include "platform/long_path.h"
 #include "platform/win32/files/directory_identity.h"
-#include "platform/win32/files/file_error.h"
 #include "platform/win32/files/file_replacement.h"
-#include "platform/win32/files/long_path.h"
-#include "platform/win32/process/unique_handle.h"
+#include "platform/win32/process/unique.h"
 
 namespace {
 
@@ -44,7 +44,7 @@ std::string WinFiles::readBytes(const std::wstring& path) {
                                         OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!isValid(file)) throw fileError(GetLastError(), path);
     LARGE_INTEGER size{};
-    GetFileSizeEx(file.get(), &size);
+    if (!GetFileSizeEx(file.get(), &size)) throw fileError(GetLastError(), path);
     std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
     std::size_t have = 0;
     for (DWORD got = 1; got != 0 && have < bytes.size(); have += got) {

@@ -2,17 +2,17 @@
 
 #include <oleacc.h>
 
+#include "platform/win32/com/com_ptr.h"
+
 void nameControls(HWND window, std::span<const AccessibleName> names) {
-    IAccPropServices* services = nullptr;
+    ComPtr<IAccPropServices> services;
     if (names.empty()) return;
-    if (FAILED(CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER,
-                                IID_IAccPropServices, reinterpret_cast<void**>(&services)))) {
-        return;
-    }
+    CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                     services.putVoid());
+    if (!services) return;
     for (const AccessibleName& name : names) {
         services->SetHwndPropStr(GetDlgItem(window, name.controlId),
                                  static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_NAME,
                                  name.text);
     }
-    services->Release();
 }

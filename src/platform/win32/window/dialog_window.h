@@ -8,17 +8,17 @@
 #include <typeindex>
 #include <utility>
 
+#include "platform/event_gate.h"
+#include "platform/win32/window/shortcuts.h"
 #include "platform/win32/window/taskbar_progress.h"
 #include "platform/win32/window/window_fonts.h"
 #include "platform/win32/window/window_icons.h"
 #include "platform/win32/window/window_layout.h"
 #include "platform/window.h"
 
-class EventGate;
-
 /// A window of the program, made from a dialog resource. One procedure serves all of them: it
 /// turns notifications into events and sends those through the gate.
-class DialogWindow : public Window {
+class DialogWindow : public Window, private EventSource {
  public:
     DialogWindow(const WindowTemplate& windowTemplate, EventSink& events, EventGate& gate);
     ~DialogWindow() override;
@@ -41,32 +41,40 @@ class DialogWindow : public Window {
     void unload() override;
 
  private:
+    bool isShown() const override;
+    bool isEnabled(int controlId) const override;
+
     static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam);
     void onCommand(int id, WORD code, HWND control);
-    void raise(int id, Event event);
+    INT_PTR onNotify(const NMHDR& header);
+    INT_PTR onSetCursor(HWND control, WORD mouseMessage);
     void onKey(int id);
     void onShortcut(HWND control);
+    void raise(int id, Event event);
     void changeResolution(const RECT& suggested);
     void chooseFonts();
     void takeTemplateSize();
-    POINT restoredCorner() const;
+    HWND item(int id) const { return GetDlgItem(window_.get(), id); }
+    Point restoredCorner() const;
     void placeCorner(int top, int left) const;
+    void placeInPixels(Point corner) const;
     template <class Kind>
     Kind& find(int id);
 
-    HWND window_ = nullptr;
-    HWND tips_ = nullptr;
     EventSink& events_;
     EventGate& gate_;
-    /// By id and kind: any control may also be asked for as a plain one.
-    std::map<std::pair<int, std::type_index>, std::unique_ptr<Control>> controls_;
     const int headingId_;
     const int focusId_;
     const int fixedPitchId_;
+    UniqueWindow window_;
+    WindowLayout layout_;
+    std::optional<WindowShortcuts> shortcuts_;
     std::optional<WindowFonts> fonts_;
     std::optional<WindowIcons> icons_;
-    std::optional<WindowLayout> layout_;
+    HWND tips_;
+    /// By id and kind: any control may also be asked for as a plain one.
+    std::map<std::pair<int, std::type_index>, std::unique_ptr<Control>> controls_;
     TaskbarProgress progress_;
 };
 

@@ -1,56 +1,70 @@
 // Where a window stands, in twips.
 
+#include "platform/win32/window/areas.h"
 #include "platform/win32/window/dialog_window.h"
-#include "platform/win32/window/within_reach.h"
+#include "platform/within_reach.h"
 
 namespace {
 
-constexpr int kTwipsPerInch = 1440;
-
-int toTwips(HWND window, int pixels) {
-    return MulDiv(pixels, kTwipsPerInch, static_cast<int>(GetDpiForWindow(window)));
+Monitor nearestMonitor(const RECT& area) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromRect(&area, MONITOR_DEFAULTTONEAREST), &monitor);
+    return {areaOfRect(monitor.rcMonitor), areaOfRect(monitor.rcWork)};
 }
 
-int toPixels(HWND window, int twips) {
-    return MulDiv(twips, static_cast<int>(GetDpiForWindow(window)), kTwipsPerInch);
+RECT titleBar(HWND window) {
+    RECT area{};
+    GetWindowRect(window, &area);
+    const UINT dpi = GetDpiForWindow(window);
+    area.bottom = area.top + GetSystemMetricsForDpi(SM_CYCAPTION, dpi) +
+                  GetSystemMetricsForDpi(SM_CYSIZEFRAME, dpi);
+    return area;
+}
+
+Point reachableCorner(HWND window) {
+    const RECT title = titleBar(window);
+    const bool onAMonitor = MonitorFromPoint({title.left, title.top}, MONITOR_DEFAULTTONULL);
+    return cornerWithinReach(areaOfRect(title), onAMonitor, nearestMonitor(title));
 }
 
 }  // namespace
 
-POINT DialogWindow::restoredCorner() const {
-    RECT rectangle{};
-    GetWindowRect(window_, &rectangle);
-    if (!IsIconic(window_) && !IsZoomed(window_)) return {rectangle.left, rectangle.top};
+Point DialogWindow::restoredCorner() const {
+    RECT area{};
+    GetWindowRect(window_.get(), &area);
+    if (!IsIconic(window_.get()) && !IsZoomed(window_.get())) return {area.left, area.top};
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
-    GetWindowPlacement(window_, &placement);
-    // A placement is relative to the work area.
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromRect(&placement.rcNormalPosition, MONITOR_DEFAULTTONEAREST),
-                    &monitor);
-    return {placement.rcNormalPosition.left + monitor.rcWork.left - monitor.rcMonitor.left,
-            placement.rcNormalPosition.top + monitor.rcWork.top - monitor.rcMonitor.top};
+    GetWindowPlacement(window_.get(), &placement);
+    const RECT& normal = placement.rcNormalPosition;
+    return cornerOnScreen(areaOfRect(normal), nearestMonitor(normal));
 }
 
-int DialogWindow::top() const { return toTwips(window_, restoredCorner().y); }
+int DialogWindow::top() const { return twipsOf(restoredCorner().y, dpiOf(window_.get())); }
 
-int DialogWindow::left() const { return toTwips(window_, restoredCorner().x); }
+int DialogWindow::left() const { return twipsOf(restoredCorner().x, dpiOf(window_.get())); }
 
-void DialogWindow::placeCorner(int top, int left) const {
-    SetWindowPos(window_, nullptr, toPixels(window_, left), toPixels(window_, top), 0, 0,
+void DialogWindow::placeInPixels(Point corner) const {
+    SetWindowPos(window_.get(), nullptr, corner.x, corner.y, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void DialogWindow::placeCorner(int top, int left) const {
+    const int dpi = dpiOf(window_.get());
+    placeInPixels({pixelsOf(left, dpi), pixelsOf(top, dpi)});
+}
+
 void DialogWindow::moveTo(int top, int left) {
-    const UINT before = GetDpiForWindow(window_);
+    const int before = dpiOf(window_.get());
     placeCorner(top, left);
     // On a monitor of another resolution a twip is another length.
-    if (GetDpiForWindow(window_) != before) placeCorner(top, left);
-    bringWithinReach(window_);
+    if (dpiOf(window_.get()) != before) placeCorner(top, left);
+    placeInPixels(reachableCorner(window_.get()));
 }
 
 void DialogWindow::resize(int width, int height) {
-    SetWindowPos(window_, nullptr, 0, 0, toPixels(window_, width), toPixels(window_, height),
+    const int dpi = dpiOf(window_.get());
+    SetWindowPos(window_.get(), nullptr, 0, 0, pixelsOf(width, dpi), pixelsOf(height, dpi),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -2,20 +2,21 @@
 
 #include <windows.h>
 
-/// The wait cursor, for as long as it lives.
+/// The wait cursor over all windows of the program.
 class Hourglass {
  public:
-    Hourglass() : previous_(SetCursor(LoadCursorW(nullptr, IDC_WAIT))) { ++depth_; }
-    ~Hourglass() {
-        --depth_;
-        SetCursor(previous_);
+    void set(bool shown) {
+        if (shown) {
+            previous_ = SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+        } else {
+            SetCursor(previous_);
+        }
+        shown_ = shown;
     }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
 
-    static bool shown() { return depth_ > 0; }
+    static bool shown() { return shown_; }
 
  private:
-    HCURSOR previous_;
-    inline static int depth_ = 0;
+    HCURSOR previous_ = nullptr;
+    inline static bool shown_ = false;
 };

@@ -1,7 +1,8 @@
 #include "platform/win32/window/input_sieve.h"
 
-#include "platform/win32/com/call_out.h"
-#include "platform/win32/window/notifications.h"
+#include "platform/call_out.h"
+#include "platform/win32/process/require.h"
+#include "platform/win32/window/control_class.h"
 
 namespace {
 
@@ -22,6 +23,5 @@ LRESULT CALLBACK onGetMessage(int code, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 InputSieve::InputSieve()
-    : hook_(SetWindowsHookExW(WH_GETMESSAGE, onGetMessage, nullptr, GetCurrentThreadId())) {}
-
-InputSieve::~InputSieve() { UnhookWindowsHookEx(hook_); }
+    : hook_(require(SetWindowsHookExW(WH_GETMESSAGE, onGetMessage, nullptr, GetCurrentThreadId()),
+                    L"la surveillance des messages")) {}

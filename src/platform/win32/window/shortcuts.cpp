@@ -1,6 +1,6 @@
 #include "platform/win32/window/shortcuts.h"
 
-#include "platform/win32/window/notifications.h"
+#include "platform/win32/window/control_class.h"
 
 namespace {
 
@@ -29,10 +29,13 @@ bool selectAllLines(HWND list) {
 
 }  // namespace
 
-void setShortcuts(HWND window, int dialogId) {
-    SetPropW(window, kProperty,
-             LoadAcceleratorsW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(dialogId)));
+WindowShortcuts::WindowShortcuts(HWND window, int dialogId)
+    : window_(window),
+      table_(LoadAcceleratorsW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(dialogId))) {
+    SetPropW(window, kProperty, table_.get());
 }
+
+WindowShortcuts::~WindowShortcuts() { RemovePropW(window_, kProperty); }
 
 bool translateShortcut(HWND window, MSG& message) {
     if (!isFreshKey(message)) return false;

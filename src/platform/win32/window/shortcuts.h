@@ -1,9 +1,20 @@
 #pragma once
 
-#include <windows.h>
+#include "platform/win32/window/handles.h"
 
-/// Gives a window the shortcuts of its dialog: the accelerator resource of the same id, if any.
-void setShortcuts(HWND window, int dialogId);
+/// The shortcuts of a window, as long as it lives: the accelerator resource of its dialog's id,
+/// if there is one.
+class WindowShortcuts {
+ public:
+    WindowShortcuts(HWND window, int dialogId);
+    ~WindowShortcuts();
+    WindowShortcuts(const WindowShortcuts&) = delete;
+    WindowShortcuts& operator=(const WindowShortcuts&) = delete;
+
+ private:
+    HWND window_;
+    UniqueShortcuts table_;
+};
 
 /// Carries out a key message that is a shortcut in this window; false when it is none. Besides
 /// the window's own, Ctrl+A selects all lines of a list.

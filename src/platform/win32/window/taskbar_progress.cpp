@@ -1,7 +1,5 @@
 #include "platform/win32/window/taskbar_progress.h"
 
-#include <shobjidl.h>
-
 namespace {
 
 UINT buttonCreated() {
@@ -9,20 +7,14 @@ UINT buttonCreated() {
     return message;
 }
 
-ITaskbarList3* makeTaskbar() {
-    ITaskbarList3* taskbar = nullptr;
-    CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&taskbar));
-    if (!taskbar || SUCCEEDED(taskbar->HrInit())) return taskbar;
-    taskbar->Release();
-    return nullptr;
+ComPtr<ITaskbarList3> makeTaskbar() {
+    ComPtr<ITaskbarList3> taskbar;
+    CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskbarList3,
+                     taskbar.putVoid());
+    return taskbar && SUCCEEDED(taskbar->HrInit()) ? taskbar : ComPtr<ITaskbarList3>();
 }
 
 }  // namespace
-
-TaskbarProgress::TaskbarProgress() = default;
-TaskbarProgress::~TaskbarProgress() = default;
-
-void TaskbarProgress::Releaser::operator()(ITaskbarList3* taskbar) const { taskbar->Release(); }
 
 void TaskbarProgress::show(HWND window, int done, int total) {
     if (done == done_ && total == total_) return;
@@ -36,7 +28,7 @@ void TaskbarProgress::onMessage(HWND window, UINT message) {
 }
 
 void TaskbarProgress::tellShell(HWND window) {
-    if (!taskbar_) taskbar_.reset(makeTaskbar());
+    if (!taskbar_) taskbar_ = makeTaskbar();
     if (!taskbar_) return;
     taskbar_->SetProgressState(window, total_ > 0 ? TBPF_NORMAL : TBPF_NOPROGRESS);
     if (total_ > 0) {

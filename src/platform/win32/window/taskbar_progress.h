@@ -2,17 +2,14 @@
 
 #include <windows.h>
 
-#include <memory>
+#include <shobjidl.h>
 
-struct ITaskbarList3;
+#include "platform/win32/com/com_ptr.h"
 
 /// How far the work has come, on the taskbar button of a window. A shell that has no such thing
 /// shows nothing.
 class TaskbarProgress {
  public:
-    TaskbarProgress();
-    ~TaskbarProgress();
-
     /// Steps done of all; 0 of 0 removes it.
     void show(HWND window, int done, int total);
 
@@ -20,13 +17,9 @@ class TaskbarProgress {
     void onMessage(HWND window, UINT message);
 
  private:
-    struct Releaser {
-        void operator()(ITaskbarList3* taskbar) const;
-    };
-
     void tellShell(HWND window);
 
-    std::unique_ptr<ITaskbarList3, Releaser> taskbar_;
+    ComPtr<ITaskbarList3> taskbar_;
     int done_ = 0;
     int total_ = 0;
 };

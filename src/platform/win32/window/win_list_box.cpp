@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "platform/win32/window/handles.h"
 #include "platform/win32/window/win_controls.h"
 
 namespace {
@@ -9,13 +10,9 @@ WPARAM position(int index) { return static_cast<WPARAM>(index); }
 LPARAM asLparam(const std::wstring& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
 
 int characterWidth(HWND list) {
-    const HDC context = GetDC(list);
-    const HGDIOBJ previous =
-        SelectObject(context, reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0)));
+    const FontContext context(list, reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0)));
     TEXTMETRICW metrics{};
-    GetTextMetricsW(context, &metrics);
-    SelectObject(context, previous);
-    ReleaseDC(list, context);
+    GetTextMetricsW(context.get(), &metrics);
     return metrics.tmAveCharWidth;
 }
 

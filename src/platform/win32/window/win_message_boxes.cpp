@@ -1,29 +1,99 @@
 #include "platform/win32/window/win_message_boxes.h"
 
-#include "platform/win32/window/modal_box.h"
+#include <windows.h>
+
+#include <vector>
+
+#include "platform/win32/process/unique.h"
 
 namespace {
 
-UINT styleOf(const MessageBoxContent& box) {
-    UINT style = box.buttons == MessageBoxContent::Buttons::YesNo ? MB_YESNO : MB_OK;
-    if (box.icon == MessageBoxContent::Icon::Stop) style |= MB_ICONSTOP;
-    if (box.defaultButton == 2) style |= MB_DEFBUTTON2;
-    return style;
+/// Gives a message box French buttons, whatever the language of the system, when it opens.
+class FrenchButtons {
+ public:
+    FrenchButtons() : hook_(SetWindowsHookExW(WH_CBT, onCbt, nullptr, GetCurrentThreadId())) {}
+
+ private:
+    static LRESULT CALLBACK onCbt(int code, WPARAM wParam, LPARAM lParam) {
+        if (code == HCBT_ACTIVATE) translate(reinterpret_cast<HWND>(wParam));
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    static void translate(HWND box) {
+        wchar_t className[16] = {};
+        GetClassNameW(box, className, ARRAYSIZE(className));
+        if (lstrcmpW(className, L"#32770") != 0) return;
+        for (int id = IDOK; id <= IDNO; ++id) {
+            const wchar_t* caption = frenchCaption(static_cast<MessageBoxes::Answer>(id));
+            if (caption && GetDlgItem(box, id)) SetDlgItemTextW(box, id, caption);
+        }
+    }
+
+    // Without it the buttons speak the language of the system, which is better than no box.
+    UniqueHook hook_;
+};
+
+/// Disables every window of the program but the box's owner, which the box disables itself.
+class OthersDisabled {
+ public:
+    explicit OthersDisabled(HWND owner) : owner_(owner) {
+        EnumThreadWindows(GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
+    }
+    ~OthersDisabled() {
+        for (HWND window : disabled_) EnableWindow(window, TRUE);
+    }
+    OthersDisabled(const OthersDisabled&) = delete;
+    OthersDisabled& operator=(const OthersDisabled&) = delete;
+
+ private:
+    static BOOL CALLBACK disable(HWND window, LPARAM self) {
+        auto* others = reinterpret_cast<OthersDisabled*>(self);
+        if (window != others->owner_ && IsWindowVisible(window) && IsWindowEnabled(window)) {
+            EnableWindow(window, FALSE);
+            others->disabled_.push_back(window);
+        }
+        return TRUE;
+    }
+
+    HWND owner_;
+    std::vector<HWND> disabled_;
+};
+
+const MessageBoxContent* shownBox = nullptr;
+
+void CALLBACK onHelp(LPHELPINFO) {
+    WinHelpW(nullptr, shownBox->helpFile.c_str(), HELP_CONTEXT,
+             static_cast<ULONG_PTR>(shownBox->helpContext));
+}
+
+HWND ownerOfBoxes() {
+    HWND owner = GetActiveWindow();
+    return owner && IsWindowVisible(owner) ? owner : nullptr;
+}
+
+DWORD styleOf(const MessageBoxContent& box) {
+    const int defaultButton = (box.defaultButton - 1) * MB_DEFBUTTON2;
+    return static_cast<DWORD>(static_cast<int>(box.buttons) | static_cast<int>(box.icon) |
+                              defaultButton) |
+           MB_SETFOREGROUND;
 }
 
 }  // namespace
 
 MessageBoxes::Answer WinMessageBoxes::show(const MessageBoxContent& box) {
-    switch (showModalBox({.text = box.text,
-                          .title = box.title,
-                          .style = styleOf(box),
-                          .helpContext = static_cast<DWORD>(box.helpContext),
-                          .helpFile = box.helpFile})) {
-        case IDYES:
-            return Answer::Yes;
-        case IDNO:
-            return Answer::No;
-        default:
-            return Answer::Ok;
+    MSGBOXPARAMSW parameters{};
+    parameters.cbSize = sizeof parameters;
+    parameters.hwndOwner = ownerOfBoxes();
+    parameters.lpszText = box.text.c_str();
+    parameters.lpszCaption = box.title.c_str();
+    parameters.dwStyle = styleOf(box);
+    if (box.helpContext != 0) {
+        parameters.dwContextHelpId = static_cast<DWORD>(box.helpContext);
+        parameters.lpfnMsgBoxCallback = onHelp;
     }
+    shownBox = &box;
+    const OthersDisabled others(parameters.hwndOwner);
+    const FrenchButtons french;
+    const int button = MessageBoxIndirectW(&parameters);
+    return box.buttons == MessageBoxContent::Buttons::Ok ? Answer::Ok : static_cast<Answer>(button);
 }

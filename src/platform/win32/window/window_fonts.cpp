@@ -1,17 +1,24 @@
 #include "platform/win32/window/window_fonts.h"
 
+#include "platform/win32/process/require.h"
+
 namespace {
 
 LOGFONTW messageFont(UINT dpi) {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
-    SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi);
+    require(SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi),
+            L"la police des messages");
     return metrics.lfMessageFont;
+}
+
+UniqueFont made(const LOGFONTW& font) {
+    return UniqueFont(require(CreateFontIndirectW(&font), L"une police"));
 }
 
 UniqueFont named(LOGFONTW font, const wchar_t* face) {
     lstrcpynW(font.lfFaceName, face, LF_FACESIZE);
-    return UniqueFont(CreateFontIndirectW(&font));
+    return made(font);
 }
 
 UniqueFont headingFont(LOGFONTW font) {
@@ -29,19 +36,16 @@ UniqueFont fixedPitchFont(LOGFONTW font) {
 
 WindowFonts::WindowFonts(UINT dpi) {
     const LOGFONTW font = messageFont(dpi);
-    text_.reset(CreateFontIndirectW(&font));
+    text_ = made(font);
     heading_ = headingFont(font);
     fixedPitch_ = fixedPitchFont(font);
 }
 
-SIZE averageCharacter(HFONT font) {
+Size averageCharacter(HFONT font) {
     constexpr wchar_t kLetters[] = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
     constexpr int kCount = ARRAYSIZE(kLetters) - 1;
-    const HDC context = GetDC(nullptr);
-    const HGDIOBJ previous = SelectObject(context, font);
+    const FontContext context(nullptr, font);
     SIZE size{};
-    GetTextExtentPoint32W(context, kLetters, kCount, &size);
-    SelectObject(context, previous);
-    ReleaseDC(nullptr, context);
+    GetTextExtentPoint32W(context.get(), kLetters, kCount, &size);
     return {(size.cx / (kCount / 2) + 1) / 2, size.cy};
 }

@@ -1,14 +1,7 @@
 #pragma once
 
-#include <windows.h>
-
-#include <memory>
-
-struct FontDeleter {
-    using pointer = HFONT;
-    void operator()(HFONT font) const { DeleteObject(font); }
-};
-using UniqueFont = std::unique_ptr<HFONT, FontDeleter>;
+#include "platform/area.h"
+#include "platform/win32/window/handles.h"
 
 /// The fonts of a window at one resolution, made from the one the system uses in its own boxes.
 class WindowFonts {
@@ -27,4 +20,4 @@ class WindowFonts {
 
 /// The size of a font's average character, by which dialog templates measure: 4 units across and
 /// 8 down.
-SIZE averageCharacter(HFONT font);
+Size averageCharacter(HFONT font);

@@ -1,14 +1,6 @@
 #pragma once
 
-#include <windows.h>
-
-#include <memory>
-
-struct IconDeleter {
-    using pointer = HICON;
-    void operator()(HICON icon) const { DestroyIcon(icon); }
-};
-using UniqueIcon = std::unique_ptr<HICON, IconDeleter>;
+#include "platform/win32/window/handles.h"
 
 /// The program's icon on a window, in the sizes of one resolution.
 class WindowIcons {

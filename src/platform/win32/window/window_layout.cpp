@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/win32/window/notifications.h"
+#include "platform/win32/window/areas.h"
+#include "platform/win32/window/control_class.h"
 #include "platform/win32/window/window_fonts.h"
 
 namespace {
@@ -11,7 +12,7 @@ HFONT fontOf(HWND window) {
     return reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0));
 }
 
-RECT areaOf(HWND control) {
+Area areaOf(HWND control) {
     RECT area{};
     // A drop-down is sized together with its list.
     if (classOf(control) == ControlClass::ComboBox) {
@@ -20,45 +21,33 @@ RECT areaOf(HWND control) {
         GetWindowRect(control, &area);
     }
     MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&area), 2);
-    return area;
+    return areaOfRect(area);
 }
 
-RECT clientArea(HWND window) {
+Size clientSize(HWND window) {
     RECT area{};
     GetClientRect(window, &area);
-    return area;
-}
-
-void grow(LONG& start, LONG& end, Growth growth, LONG gained) {
-    if (growth == Growth::Move) start += gained;
-    if (growth != Growth::Stay) end += gained;
+    return {area.right, area.bottom};
 }
 
 }  // namespace
 
 WindowLayout::WindowLayout(HWND window, std::span<const Anchor> anchors)
-    : window_(window),
-      client_(clientArea(window)),
-      templateUnit_(averageCharacter(fontOf(window))),
-      unit_(templateUnit_) {
+    : window_(window), layout_(clientSize(window), averageCharacter(fontOf(window))) {
     for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         const auto anchor = std::ranges::find(anchors, GetDlgCtrlID(child), &Anchor::controlId);
         const bool anchored = anchor != anchors.end();
-        places_.push_back({child, areaOf(child), anchored ? anchor->across : Growth::Stay,
-                           anchored ? anchor->down : Growth::Stay});
+        controls_.push_back(child);
+        layout_.add(areaOf(child), anchored ? anchor->across : Growth::Stay,
+                    anchored ? anchor->down : Growth::Stay);
     }
 }
 
-void WindowLayout::measureBy(HFONT font) { unit_ = averageCharacter(font); }
+void WindowLayout::measureBy(HFONT font) { layout_.measureBy(averageCharacter(font)); }
 
-RECT WindowLayout::measured(const RECT& area) const {
-    const auto across = [&](LONG x) { return MulDiv(x, unit_.cx, templateUnit_.cx); };
-    const auto down = [&](LONG y) { return MulDiv(y, unit_.cy, templateUnit_.cy); };
-    return {across(area.left), down(area.top), across(area.right), down(area.bottom)};
-}
-
-SIZE WindowLayout::smallestWindow() const {
-    RECT area = measured(client_);
+Size WindowLayout::smallestWindow() const {
+    const Size client = layout_.smallestClient();
+    RECT area{0, 0, client.width, client.height};
     AdjustWindowRectExForDpi(&area, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)), FALSE,
                              static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)),
                              GetDpiForWindow(window_));
@@ -66,16 +55,11 @@ SIZE WindowLayout::smallestWindow() const {
 }
 
 void WindowLayout::arrange() const {
-    const RECT smallest = measured(client_);
-    const RECT client = clientArea(window_);
-    const LONG gainedAcross = std::max(client.right - smallest.right, 0L);
-    const LONG gainedDown = std::max(client.bottom - smallest.bottom, 0L);
-    for (const Place& place : places_) {
-        RECT area = measured(place.area);
-        grow(area.left, area.right, place.across, gainedAcross);
-        grow(area.top, area.bottom, place.down, gainedDown);
-        SetWindowPos(place.control, nullptr, area.left, area.top, area.right - area.left,
-                     area.bottom - area.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
+    const std::vector<Area> areas = layout_.arranged(clientSize(window_));
+    for (std::size_t i = 0; i < areas.size(); ++i) {
+        const Area& area = areas[i];
+        SetWindowPos(controls_[i], nullptr, area.left, area.top, area.width(), area.height(),
+                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
     }
     RedrawWindow(window_, nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);

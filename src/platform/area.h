@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+
+// Lengths on the screen, in pixels, before Windows' own types come into it.
+
+struct Size {
+    int width = 0;
+    int height = 0;
+    bool operator==(const Size&) const = default;
+};
+
+struct Point {
+    int x = 0;
+    int y = 0;
+    bool operator==(const Point&) const = default;
+};
+
+struct Area {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+    int width() const { return right - left; }
+    int height() const { return bottom - top; }
+    bool operator==(const Area&) const = default;
+};
+
+/// value * numerator / denominator (positive) in full precision, halves away from zero.
+constexpr int scaled(int value, int numerator, int denominator) {
+    const std::int64_t product = std::int64_t{value} * numerator;
+    const std::int64_t half = product < 0 ? -denominator / 2 : denominator / 2;
+    return static_cast<int>((product + half) / denominator);
+}
+
+/// Places are kept in twips: 1440 to an inch at the window's own resolution.
+inline constexpr int kTwipsPerInch = 1440;
+
+constexpr int twipsOf(int pixels, int dpi) { return scaled(pixels, kTwipsPerInch, dpi); }
+constexpr int pixelsOf(int twips, int dpi) { return scaled(twips, dpi, kTwipsPerInch); }

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/area.h"
+#include "platform/window.h"
+
+/// Where the controls of a window stand: as its dialog template says, measured by the font that
+/// the window uses now, and following the edges of the window when it is larger.
+class ControlLayout {
+ public:
+    /// `client` is the template's area, `unit` the size of an average character of the font that
+    /// it was measured by.
+    ControlLayout(Size client, Size unit) : client_(client), templateUnit_(unit), unit_(unit) {}
+
+    /// A control's area in the template.
+    void add(const Area& area, Growth across, Growth down);
+
+    /// From now on measures by a font whose average character is of this size.
+    void measureBy(Size unit) { unit_ = unit; }
+
+    /// The area that is as large as the template.
+    Size smallestClient() const;
+
+    /// Where the controls stand in an area of this size, in the order in which they were added.
+    std::vector<Area> arranged(Size client) const;
+
+ private:
+    struct Place {
+        Area area;
+        Growth across;
+        Growth down;
+    };
+
+    int across(int x) const { return scaled(x, unit_.width, templateUnit_.width); }
+    int down(int y) const { return scaled(y, unit_.height, templateUnit_.height); }
+
+    Size client_;  ///< this and all areas are those of the template
+    Size templateUnit_;
+    Size unit_;
+    std::vector<Place> places_;
+};

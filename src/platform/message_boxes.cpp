@@ -1,0 +1,16 @@
+#include "platform/message_boxes.h"
+
+const wchar_t* frenchCaption(MessageBoxes::Answer button) {
+    switch (button) {
+        case MessageBoxes::Answer::Yes:
+            return L"&Oui";
+        case MessageBoxes::Answer::No:
+            return L"&Non";
+        case MessageBoxes::Answer::Retry:
+            return L"&Réessayer";
+        case MessageBoxes::Answer::Cancel:
+            return L"Annuler";
+        default:
+            return nullptr;
+    }
+}

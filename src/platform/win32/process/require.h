@@ -1,0 +1,20 @@
+#pragma once
+
+#include <windows.h>
+
+#include "common/numbers.h"
+#include "common/runtime_error.h"
+
+/// What Windows gave when it was asked for something that the program can't do without. Raises 51
+/// with its own error number when it gave nothing; `what` says what it was asked for, in French.
+template <class Given>
+Given require(Given given, const wchar_t* what) {
+    if (given) return given;
+    throw errors::system(what + (L" (erreur " + decimal(static_cast<long>(GetLastError())) + L")"));
+}
+
+/// The same for a function of COM.
+inline void requireSuccess(HRESULT result, const wchar_t* what) {
+    SetLastError(static_cast<DWORD>(result));
+    require(SUCCEEDED(result), what);
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <windows.h>
+
+#include "platform/notifications.h"
+
+ControlClass classOf(HWND control);

@@ -1,0 +1,116 @@
+#include "platform/event_gate.h"
+
+#include <gtest/gtest.h>
+#include <map>
+#include <new>
+#include <string>
+#include <vector>
+
+#include "common/runtime_error.h"
+#include "fakes/fake_message_boxes.h"
+
+namespace {
+
+struct FakeKeeper : GateKeeper {
+    bool hourglass = false;
+    std::vector<int> quits;
+    void setHourglass(bool shown) override { hourglass = shown; }
+    void quit(int exitCode) override { quits.push_back(exitCode); }
+};
+
+struct BoxesThatWait : FakeMessageBoxes {
+    std::function<void()> whileShown = [] {};
+    Answer show(const MessageBoxContent& box) override {
+        whileShown();
+        return FakeMessageBoxes::show(box);
+    }
+};
+
+struct FakeSource : EventSource {
+    bool shown = true;
+    bool enabled = true;
+    bool isShown() const override { return shown; }
+    bool isEnabled(int) const override { return enabled; }
+};
+
+/// Does what the test says for each control.
+struct FakeSink : EventSink {
+    std::map<int, std::function<void()>> handlers;
+    std::vector<int> raised;
+    void raise(int controlId, Event) override {
+        raised.push_back(controlId);
+        if (handlers.contains(controlId)) handlers[controlId]();
+    }
+};
+
+struct EventGateTest : testing::Test {
+    FakeKeeper keeper;
+    BoxesThatWait boxes;
+    EventGate gate{keeper, boxes};
+    FakeSource source;
+    FakeSink sink;
+
+    void click(int id) { gate.deliver(sink, id, Event::Click, source); }
+    void expectEnd(int code) {
+        EXPECT_TRUE(gate.ended());
+        EXPECT_EQ(gate.exitCode(), code);
+        EXPECT_EQ(keeper.quits, std::vector{code});
+    }
+};
+
+}  // namespace
+
+TEST_F(EventGateTest, RunsOneHandlerAtATimeUnderTheHourglass) {
+    bool busy = false;
+    sink.handlers[1] = [&] {
+        busy = keeper.hourglass;
+        click(2);
+        click(3);
+        EXPECT_EQ(sink.raised, std::vector{1});
+    };
+    click(1);
+    EXPECT_TRUE(busy);
+    EXPECT_EQ(sink.raised, (std::vector{1, 2, 3}));
+    EXPECT_FALSE(keeper.hourglass);
+}
+
+TEST_F(EventGateTest, DropsWaitingEventsThatTheUserCouldNotCauseAnyMore) {
+    sink.handlers[1] = [&] {
+        click(2);
+        source.enabled = false;
+    };
+    sink.handlers[3] = [&] {
+        click(4);
+        source.enabled = true;
+        source.shown = false;
+    };
+    sink.handlers[5] = [&] {
+        source.shown = true;
+        click(6);
+        gate.forget(source);
+    };
+    for (const int id : {1, 3, 5}) click(id);
+    EXPECT_EQ(sink.raised, (std::vector{1, 3, 5}));
+}
+
+TEST_F(EventGateTest, TurnsARunTimeErrorIntoABoxAndTheEnd) {
+    boxes.whileShown = [&] { click(2); };
+    sink.handlers[1] = [] { throw errors::fileNotFound(L"c:\\a"); };
+    click(1);
+    EXPECT_EQ(boxes.shown.at(0).text, L"Erreur d'exécution '53' :\r\nFichier introuvable : c:\\a");
+    expectEnd(53);
+    click(3);
+    EXPECT_EQ(sink.raised, std::vector{1});
+}
+
+TEST_F(EventGateTest, EndsWithoutABoxWhenTheProgramWantsTo) {
+    gate.run([] { throw ProgramEnd{}; });
+    EXPECT_TRUE(boxes.shown.empty());
+    expectEnd(0);
+}
+
+TEST_F(EventGateTest, NamesAShortageOfMemory) {
+    gate.run([] { throw std::bad_alloc(); });
+    EXPECT_EQ(boxes.shown.size(), 1U);
+    expectEnd(7);
+}
