@@ -21,10 +21,9 @@ void Program::showSelection() {
     selection_->window().show();
 }
 
-void Program::showTracking() {
-    using FirstDisplay = TrackingWindow::FirstDisplay;
+void Program::showTracking(TrackingWindow::Origin origin) {
     tracking_ = std::make_unique<TrackingWindow>(platform_, places_, cad_, files_);
-    tracking_->Form_Load(listDeclined_ ? FirstDisplay::AllToDo : FirstDisplay::States);
+    tracking_->Form_Load(origin);
     tracking_->window().show();
 }
 
@@ -46,11 +45,14 @@ void Program::closeSplash() {
     if (about_ && about_->isOpen()) about_->close();
 }
 
-void Program::resumePass() { showTracking(); }
+void Program::resumePass() { showTracking(TrackingWindow::Origin::Resumed); }
 
 void Program::declineList() {
     listDeclined_ = true;
     showSelection();
 }
 
-void Program::launchPass() { showTracking(); }
+void Program::launchPass() {
+    using Origin = TrackingWindow::Origin;
+    showTracking(listDeclined_ ? Origin::LaunchedAfterDeclining : Origin::Launched);
+}

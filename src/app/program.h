@@ -27,7 +27,7 @@ class Program : public ExistingListExits, public SelectionExits {
     void attachToCad();
     void showExistingList();
     void showSelection();
-    void showTracking();
+    void showTracking(TrackingWindow::Origin origin);
 
     void resumePass() override;
     void declineList() override;

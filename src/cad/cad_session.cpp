@@ -19,6 +19,14 @@ std::wstring documentClass(const std::wstring& path) {
     return type ? L"document " + decimal(*type) : std::wstring();
 }
 
+/// An error number, 0 when there was none, or a truth.
+std::optional<bool> isSaved(const Value& answer) {
+    if (const auto* number = std::get_if<std::int32_t>(&answer)) return *number == 0;
+    if (const auto* number = std::get_if<std::int16_t>(&answer)) return *number == 0;
+    if (const auto* truth = std::get_if<bool>(&answer)) return *truth;
+    return std::nullopt;
+}
+
 /// Does something with a document. A failure names it.
 template <class Action>
 void with(const std::wstring& path, const Action& action) {
@@ -77,8 +85,10 @@ void CadSession::rebuild(LoadingOptions::Rebuild wanted) {
     callMethod(document_, L"ForceRebuild3", {wanted == Rebuild::TopLevel});
 }
 
-void CadSession::save() {
-    with(openPath_, [&] { callMethod(document_, L"save2", {true}); });
+std::optional<bool> CadSession::save() {
+    Value answer;
+    with(openPath_, [&] { answer = callMethod(document_, L"save2", {true}); });
+    return isSaved(answer);
 }
 
 void CadSession::closeDocument() {

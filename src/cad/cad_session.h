@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "platform/automation.h"
@@ -33,7 +34,8 @@ class CadSession {
     /// Closes the document that counts as open, if any, opens another, makes it the active one,
     /// shows the application and rebuilds the document as wanted.
     void open(const std::wstring& path, const LoadingOptions& options);
-    void save();
+    /// Whether the application says that it saved the document; nothing when it does not say.
+    std::optional<bool> save();
     /// Closes the open document without saving it, even when none is open. It still counts as
     /// open: see forgetDocument.
     void closeDocument();

@@ -4,9 +4,11 @@
 
 class Automation;
 class Settings;
+class Clock;
 class Files;
 class MessageBoxes;
 class Desktop;
+class RecordFiles;
 class WindowFactory;
 
 /// All that the program needs from the machine it runs on.
@@ -14,6 +16,8 @@ struct Platform {
     Automation& automation;
     Settings& settings;
     Files& files;
+    RecordFiles& records;
+    const Clock& clock;
     MessageBoxes& messageBoxes;
     Desktop& desktop;
     WindowFactory& windows;

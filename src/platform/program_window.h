@@ -3,6 +3,7 @@
 #include <memory>
 #include <span>
 
+#include "common/runtime_error.h"
 #include "platform/window.h"
 
 /// What every window of the program does alike: it is made from its template, and its events go to
@@ -11,7 +12,7 @@ template <class Self>
 class ProgramWindow : public EventSink {
  public:
     void raise(int controlId, Event event) final {
-        dispatch<Self>(static_cast<Self&>(*this), bindings_, controlId, event);
+        explained([&] { dispatch<Self>(static_cast<Self&>(*this), bindings_, controlId, event); });
     }
 
     Window& window() { return *window_; }
@@ -21,8 +22,21 @@ class ProgramWindow : public EventSink {
                   std::span<const Binding<Self>> bindings)
         : window_(windows.create(windowTemplate, *this)), bindings_(bindings) {}
 
+    /// Does something; a failure is given the lines that the window has to add to it.
+    template <class Action>
+    void explained(const Action& action) {
+        try {
+            action();
+        } catch (RuntimeError& error) {
+            explain(error);
+            throw;
+        }
+    }
+
     std::unique_ptr<Window> window_;
 
  private:
+    virtual void explain(RuntimeError&) const {}
+
     std::span<const Binding<Self>> bindings_;
 };

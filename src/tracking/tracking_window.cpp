@@ -11,6 +11,15 @@
 #include "tracking/tracking_tables.h"
 #include "worklist/progress.h"
 
+namespace {
+
+Saved savedOf(std::optional<bool> answer) {
+    if (!answer) return Saved::Unknown;
+    return *answer ? Saved::Yes : Saved::No;
+}
+
+}  // namespace
+
 TrackingWindow::TrackingWindow(Platform& platform, WindowPlaces& places, CadSession& cad,
                                const ProgramFiles& files)
     : ProgramWindow(platform.windows, kTrackingWindow, kTrackingBindings),
@@ -18,6 +27,8 @@ TrackingWindow::TrackingWindow(Platform& platform, WindowPlaces& places, CadSess
       places_(places),
       cad_(cad),
       files_(files),
+      pass_(platform.clock),
+      marks_(platform.records, files.list, platform.clock),
       TxtEtat(window_->control(IDC_FORM3_TXTETAT)),
       nbfich1(window_->control(IDC_FORM3_NBFICH1)),
       cptfichier1(window_->control(IDC_FORM3_CPTFICHIER1)),
@@ -30,26 +41,34 @@ TrackingWindow::TrackingWindow(Platform& platform, WindowPlaces& places, CadSess
       CkRecons2(window_->checkBox(IDC_FORM3_CKRECONS2)),
       lines_(List1) {}
 
-void TrackingWindow::Form_Load(FirstDisplay display) {
+void TrackingWindow::Form_Load(Origin origin) {
+    explained([&] { load(origin); });
+}
+
+void TrackingWindow::load(Origin origin) {
     places_.restore(PlacedWindow::Tracking, *window_);
     tickOptions();
     CkMinimise.setVisible(false);
     NNiveau1.reset();
     readList();
-    const bool opens = pass_.start();
     window_->control(IDC_FORM3_CMDMEMO).setVisible(false);
     NumFichCour.setVisible(false);
-    if (opens) {
-        showAndOpen(display == FirstDisplay::AllToDo ? Redraw::AllToDo : Redraw::Anew);
+    if (origin == Origin::Resumed ? resume() : pass_.start()) {
+        const bool allToDo = origin == Origin::LaunchedAfterDeclining;
+        showAndOpen(allToDo ? Redraw::AllToDo : Redraw::Anew);
         cad_.bringForward();
     } else {
         showNumbers();
         showEnd(Redraw::Anew);
     }
+    settle();
 }
 
 void TrackingWindow::readList() {
-    if (!pass_.read(platform_.files.read(files_.list))) throw ProgramEnd{};
+    std::string text = platform_.files.read(files_.list);
+    const ListIdentity identity(text);
+    if (!pass_.read(std::move(text))) throw ProgramEnd{};
+    marks_.begin(identity, pass_.list());
 }
 
 void TrackingWindow::tickOptions() {
@@ -88,7 +107,16 @@ void TrackingWindow::Form_Close() { throw ProgramEnd{}; }
 void TrackingWindow::CmdFichierListe_Click() {
     // As many lines as the window says there are.
     const std::int32_t count = numericValue(cptfichier1.text());
-    platform_.files.replace(files_.list, [&](const ByteSink& file) { pass_.write(count, file); });
+    ListIdentity identity;
+    platform_.files.replace(files_.list, [&](const ByteSink& file) {
+        pass_.write(count, [&](std::string_view piece) {
+            identity.add(piece);
+            file(piece);
+        });
+    });
+    marks_.forget();
+    pass_.takeAsSaved();
+    marks_.begin(identity, pass_.list());
 }
 
 void TrackingWindow::CmdSuiv_Click() { advance(state::kDone); }
@@ -98,10 +126,11 @@ void TrackingWindow::CmdSuivSauter_Click() { advance(state::kToDo); }
 void TrackingWindow::advance(std::string_view mark) {
     takePointer();
     if (pass_.pastEnd()) return;
-    if (mark == state::kDone) cad_.save();
+    const Saved saved = mark == state::kDone ? savedOf(cad_.save()) : Saved::Unknown;
     cad_.closeDocument();
     cad_.forgetDocument();
-    if (!pass_.advance(mark)) {
+    if (!pass_.advance(mark, saved)) {
+        keepMarks();
         showNumbers();
         showEnd(Redraw::InPlace);
         return;
@@ -109,6 +138,7 @@ void TrackingWindow::advance(std::string_view mark) {
     showAndOpen(Redraw::InPlace);
     enableStepBack(true);
     cad_.bringForward();
+    settle();
 }
 
 void TrackingWindow::CmdPrecedent_Click() {
@@ -117,6 +147,7 @@ void TrackingWindow::CmdPrecedent_Click() {
     // It still counts as open: a document of the same path further up is taken for it.
     cad_.closeDocument();
     if (!pass_.stepBack()) {
+        keepMarks();
         showNumbers();
         drawList(Redraw::InPlace);
         enableStepBack(false);
@@ -125,6 +156,7 @@ void TrackingWindow::CmdPrecedent_Click() {
     showAndOpen(Redraw::InPlace);
     enableAdvance(true);
     cad_.bringForward();
+    settle();
 }
 
 void TrackingWindow::takePointer() { pass_.moveTo(wholeNumber(NumFichCour.text())); }
@@ -142,9 +174,14 @@ void TrackingWindow::showAndOpen(Redraw redraw) {
 
 void TrackingWindow::openCurrent() {
     const std::wstring path = pass_.currentPath();
-    if (cad_.hasOpen(path)) return;
+    if (cad_.hasOpen(path)) {
+        keepMarks();
+        return;
+    }
     // Shown now: the opening may take long.
     List1.repaint();
+    pass_.openCurrent();
+    keepMarks(pass_.list().lines[pass_.current()].fileLine);
     cad_.open(path, loadingOptions());
 }
 

@@ -7,6 +7,7 @@
 #include "platform/program_window.h"
 #include "tracking/work_list_view.h"
 #include "worklist/display_depth.h"
+#include "worklist/mark_keeper.h"
 #include "worklist/pass.h"
 
 class CadSession;
@@ -20,15 +21,16 @@ struct Question;
 /// pass from one document to the next. It mirrors a pass and makes the calls between its steps.
 class TrackingWindow : public ProgramWindow<TrackingWindow> {
  public:
-    /// How the lines show at first: by their states or, after an old list was declined, all but
-    /// the first as to do.
-    enum class FirstDisplay { States, AllToDo };
+    /// Where the list comes from: resumed from an earlier run, whose marks may have been kept;
+    /// launched now; or launched after an old list was declined: then all lines but the first show
+    /// as to do at first.
+    enum class Origin { Resumed, Launched, LaunchedAfterDeclining };
 
     TrackingWindow(Platform& platform, WindowPlaces& places, CadSession& cad,
                    const ProgramFiles& files);
 
     /// Reads the list file and opens the first document to do. Ends the program when it is empty.
-    void Form_Load(FirstDisplay display);
+    void Form_Load(Origin origin);
     /// Closed by its frame: the program ends, nothing is saved.
     void Form_Close();
     void CmdSortie_Click();
@@ -61,7 +63,13 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
  private:
     enum class Redraw { InPlace, Anew, AllToDo };
 
+    void load(Origin origin);
     void readList();
+    /// Offers the marks that an earlier run kept and, when it stopped while a document was being
+    /// opened, to go past that one. True when there is a document to open.
+    bool resume();
+    bool offerMarks(KeptState& kept);
+    bool startBeside(std::int32_t fileLine);
     void tickOptions();
     std::wstring tickedOptions() const;
     LoadingOptions loadingOptions() const;
@@ -73,6 +81,11 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
     /// The current line is shown, selected, and its document opened unless it is open already.
     void showAndOpen(Redraw redraw);
     void openCurrent();
+    /// What the command did is on disk; a failure to put it there is told once.
+    void keepMarks(std::optional<std::int32_t> opening = std::nullopt);
+    /// The command has made its last call.
+    void settle();
+    void explain(RuntimeError& error) const override;
     void showEnd(Redraw redraw);
     void showNumbers();
     void drawList(Redraw redraw);
@@ -93,6 +106,7 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
     CadSession& cad_;
     const ProgramFiles& files_;
     Pass pass_;
+    MarkKeeper marks_;
 
     Control &TxtEtat, &nbfich1, &cptfichier1, &NumFichCour;
     DisplayDepth NNiveau1;

@@ -33,6 +33,7 @@ void TrackingWindow::CmdChaV_Click() { changeSelection(kQuestionChaV, state::kSe
 void TrackingWindow::changeSelection(const Question& question, std::string_view code) {
     if (!requireSelection(kNothingSelected) || !confirm(question)) return;
     followEdit(pass_.change(selected(), code));
+    settle();
 }
 
 void TrackingWindow::CmdChaRaz_Click() {
@@ -40,6 +41,7 @@ void TrackingWindow::CmdChaRaz_Click() {
     pass_.reset(selected());
     followEdit(true);
     cad_.bringForward();
+    settle();
 }
 
 void TrackingWindow::CmdEliF_Click() { eliminateSelection(kQuestionEliF, Eliminate::DoneAndSeen); }
@@ -51,11 +53,13 @@ void TrackingWindow::CmdEliV_Click() { eliminateSelection(kQuestionEliV, Elimina
 void TrackingWindow::eliminateSelection(const Question& question, Eliminate states) {
     if (!requireSelection(kNothingSelected) || !confirm(question)) return;
     followEdit(pass_.eliminate(selected(), states));
+    settle();
 }
 
 void TrackingWindow::CmdPurge_Click() {
     if (!confirm(kQuestionPurge)) return;
     followEdit(pass_.eliminate([](int) { return true; }, Eliminate::DoneAndSeen));
+    settle();
 }
 
 void TrackingWindow::CmdRepA_Click() {
@@ -65,6 +69,7 @@ void TrackingWindow::CmdRepA_Click() {
     if (pass_.resumeAt(first)) enableAdvance(true);
     // With nothing left to do below, the last line is opened again, whatever its state.
     showAndOpen(Redraw::Anew);
+    settle();
 }
 
 void TrackingWindow::CmdDeSelect_Click() { List1.clearSelection(); }
@@ -74,6 +79,7 @@ void TrackingWindow::followEdit(bool inProgress) {
         enableAdvance(true);
         showAndOpen(Redraw::Anew);
     } else {
+        keepMarks();
         showEnd(Redraw::Anew);
     }
 }

@@ -37,21 +37,10 @@ void takeBackInProgress(WorkList& list) {
     }
 }
 
-void changeSelected(WorkList& list, const LineSelected& selected, std::string_view code) {
-    for (int i = 0; i <= list.last; ++i) {
-        WorkLine& line = list.lines[i];
-        if (line.code != state::kInProgress && selected(i)) line.code = code;
-    }
-}
-
-int resetSelected(WorkList& list, const LineSelected& selected) {
-    for (int i = 0; i <= list.last; ++i) {
-        if (selected(i)) list.lines[i].code = state::kToDo;
-    }
-    takeBackInProgress(list);
-    const int first = nextToDo(list, -1);
-    list.lines[first].code = state::kInProgress;
-    return first;
+void moveLine(WorkList& list, int from, int to) {
+    const bool reload = list.lines[to].reload;
+    list.lines[to] = list.lines[from];
+    list.lines[to].reload = reload;
 }
 
 void eliminateLines(WorkList& list, const LineSelected& chosen, Eliminate states) {
@@ -59,11 +48,7 @@ void eliminateLines(WorkList& list, const LineSelected& chosen, Eliminate states
     for (int i = 0; i <= list.last; ++i) {
         const WorkLine& line = list.lines[i];
         if (isOf(line, states) && chosen(i)) continue;
-        if (kept != i) {
-            list.lines[kept].code = line.code;
-            list.lines[kept].path = line.path;
-        }
-        ++kept;
+        moveLine(list, i, kept++);
     }
     list.last = kept - 1;
 }
@@ -73,12 +58,4 @@ std::optional<int> reestablishCurrent(WorkList& list) {
     const auto toDo = firstWithCode(list, state::kToDo);
     if (toDo) list.lines[*toDo].code = state::kInProgress;
     return toDo;
-}
-
-std::optional<int> resumeFrom(WorkList& list, int from) {
-    takeBackInProgress(list);
-    const int line = nextToDo(list, from - 1);
-    if (line > list.last) return std::nullopt;
-    list.lines[line].code = state::kInProgress;
-    return line;
 }

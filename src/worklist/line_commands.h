@@ -20,12 +20,8 @@ int previousToDo(const WorkList& list, int from);
 /// Puts lines in progress back to do.
 void takeBackInProgress(WorkList& list);
 
-/// Gives the selected lines a state of the namespace `state`; a line in progress keeps its own.
-void changeSelected(WorkList& list, const LineSelected& selected, std::string_view code);
-
-/// Puts the selected lines, and the one in progress, back to do. Gives the first line to do,
-/// now in progress; at least one line must be selected.
-int resetSelected(WorkList& list, const LineSelected& selected);
+/// Copies a line over another one, but for the reload flag, which stays where it is.
+void moveLine(WorkList& list, int from, int to);
 
 enum class Eliminate { Seen, DoneAndSeen };
 
@@ -37,7 +33,3 @@ void eliminateLines(WorkList& list, const LineSelected& chosen, Eliminate states
 /// when there is neither. Reads the row just past the last one: raises 9 when the table is full
 /// and holds neither.
 std::optional<int> reestablishCurrent(WorkList& list);
-
-/// Takes the line in progress back to do and puts in progress the first line to do from `from`
-/// on. Nothing, and no line in progress, when there is none.
-std::optional<int> resumeFrom(WorkList& list, int from);

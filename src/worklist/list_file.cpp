@@ -33,7 +33,9 @@ int leadingNumber(std::string_view text) {
 
 WorkLine parseLine(std::string_view text, WorkList& list) {
     const std::size_t end = codeEnd(text);
-    WorkLine line{.code = trimmed(text.substr(0, end)), .path = trimmed(text.substr(end))};
+    WorkLine line;
+    line.code = trimmed(text.substr(0, end));
+    line.path = trimmed(text.substr(end));
     const int number = leadingNumber(line.code);
     line.reload = number >= kReloadOffset;
     if (line.reload) line.code = list.keep(std::to_string(number - kReloadOffset));
@@ -46,7 +48,11 @@ bool parseListFile(std::string text, WorkList& list) {
     if (text.empty()) return false;
     std::string_view rest = list.keep(std::move(text));
     int count = 0;
-    while (!rest.empty()) list.lines[count++] = parseLine(takeLine(rest), list);
+    while (!rest.empty()) {
+        WorkLine& line = list.lines[count];
+        line = parseLine(takeLine(rest), list);
+        line.fileLine = count++;
+    }
     list.last = count - 1;
     return true;
 }

@@ -1,49 +1,86 @@
 #include "worklist/pass.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "common/utf8.h"
+#include "platform/clock.h"
+#include "worklist/kept_state.h"
 #include "worklist/list_file.h"
 
-std::wstring Pass::currentPath() const { return wideText(list_.lines[current_].path); }
+std::wstring Pass::pathOf(int line) const { return wideText(list_.lines[line].path); }
+
+std::optional<int> Pass::lineOfFile(std::int32_t fileLine) const {
+    for (int i = 0; i <= list_.last; ++i) {
+        if (list_.lines[i].fileLine == fileLine) return i;
+    }
+    return std::nullopt;
+}
 
 bool Pass::read(std::string listFile) { return parseListFile(std::move(listFile), list_); }
+
+void Pass::restore(const KeptState& kept) { restoreLines(list_, kept); }
 
 bool Pass::start() {
     takeBackInProgress(list_);
     int line = 0;
     while (line < list_.last && !list_.isToDo(line)) ++line;
-    if (list_.isToDo(line)) list_.lines[line].code = state::kInProgress;
-    // Strict on purpose.
-    if (line < list_.last) {
-        show(line);
-        return true;
-    }
+    // Strict on purpose: the last line is put in progress, but not opened.
+    if (line < list_.last) return startHere(line);
+    if (line <= list_.last && list_.isToDo(line)) list_.lines[line].code = state::kInProgress;
     current_ = list_.lineCount();
     return false;
 }
 
-bool Pass::advance(std::string_view mark) {
-    if (current_ >= 0) list_.lines[current_].code = mark;
-    current_ = nextToDo(list_, current_);
+bool Pass::startAt(int line) {
+    takeBackInProgress(list_);
+    return startHere(line);
+}
+
+bool Pass::startAfter(int line) {
+    takeBackInProgress(list_);
+    return startHere(nextToDo(list_, line));
+}
+
+bool Pass::startHere(int line) {
+    current_ = line;
     if (pastEnd()) return false;
-    putInProgress(current_);
+    if (list_.isToDo(line)) list_.lines[line].code = state::kInProgress;
+    show(line);
     return true;
+}
+
+bool Pass::advance(std::string_view code, Saved saved) {
+    closeOpen();
+    if (current_ >= 0) mark(current_, code, saved);
+    return startHere(nextToDo(list_, current_));
 }
 
 bool Pass::stepBack() {
+    closeOpen();
     if (pastEnd()) {
         current_ = list_.last;
     } else {
-        list_.lines[current_].code = state::kToDo;
+        mark(current_, state::kToDo, Saved::Unknown);
         --current_;
     }
     current_ = previousToDo(list_, current_);
-    if (current_ == kNoLine) return false;
-    putInProgress(current_);
-    return true;
+    return current_ != kNoLine && startHere(current_);
+}
+
+void Pass::mark(int line, std::string_view code, Saved saved) {
+    WorkLine& marked = list_.lines[line];
+    marked.code = code;
+    marked.history.markedAt = code == state::kToDo ? 0 : clock_.now();
+    marked.history.saved = saved;
 }
 
 bool Pass::change(const LineSelected& selected, std::string_view code) {
-    changeSelected(list_, selected, code);
+    for (int i = 0; i <= list_.last; ++i) {
+        if (list_.lines[i].code != state::kInProgress && selected(i)) {
+            mark(i, code, Saved::Unknown);
+        }
+    }
     return reestablish();
 }
 
@@ -52,21 +89,45 @@ bool Pass::eliminate(const LineSelected& chosen, Eliminate states) {
     return reestablish();
 }
 
-void Pass::reset(const LineSelected& selected) { show(resetSelected(list_, selected)); }
+void Pass::reset(const LineSelected& selected) {
+    for (int i = 0; i <= list_.last; ++i) {
+        if (selected(i)) mark(i, state::kToDo, Saved::Unknown);
+    }
+    takeBackInProgress(list_);
+    startHere(nextToDo(list_, -1));
+}
 
 bool Pass::resumeAt(int line) {
-    const auto found = resumeFrom(list_, line);
-    show(found.value_or(list_.last));
-    return found.has_value();
+    takeBackInProgress(list_);
+    if (startHere(nextToDo(list_, line - 1))) return true;
+    show(list_.last);
+    return false;
+}
+
+void Pass::openCurrent() {
+    closeOpen();
+    open_ = {list_.lines[current_].fileLine, clock_.now()};
+}
+
+void Pass::closeOpen() {
+    if (!open_) return;
+    if (const auto line = lineOfFile(open_->fileLine)) {
+        constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
+        std::int32_t& seconds = list_.lines[*line].history.secondsOpen;
+        const std::int64_t open = std::max<std::int64_t>(clock_.now() - open_->since, 0);
+        seconds = static_cast<std::int32_t>(std::min(std::max(seconds, 0) + open, kMost));
+    }
+    open_.reset();
 }
 
 void Pass::write(std::int32_t lineCount, const std::function<void(std::string_view)>& file) {
     formatListFile(list_, lineCount, file);
 }
 
-void Pass::putInProgress(int line) {
-    list_.lines[line].code = state::kInProgress;
-    show(line);
+void Pass::takeAsSaved() {
+    const auto open = open_ ? lineOfFile(open_->fileLine) : std::nullopt;
+    for (int i = 0; i <= list_.last; ++i) list_.lines[i].fileLine = i;
+    if (open) open_->fileLine = *open;
 }
 
 void Pass::show(int line) {

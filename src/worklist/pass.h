@@ -1,17 +1,24 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "worklist/line_commands.h"
 #include "worklist/work_list.h"
 
+class Clock;
+struct KeptState;
+
 /// A pass over the documents of a work list: the lines with their states, which of them is the
-/// current one, and the numbers that are shown of both. The calls to the CAD application stand
-/// between its functions, not in them.
+/// current one, and the number that is shown of it. The calls to the CAD application stand between
+/// its functions, not in them.
 class Pass {
  public:
     static constexpr int kNoLine = -1;
+
+    explicit Pass(const Clock& clock) : clock_(clock) {}
 
     const WorkList& list() const { return list_; }
     /// The current line, zero-based; kNoLine before the first one, lineCount() past the last.
@@ -20,14 +27,25 @@ class Pass {
     /// The one-based number shown; at the end of the list it stays at the last document's.
     int shownNumber() const { return shownNumber_; }
     /// The path of the current line.
-    std::wstring currentPath() const;
+    std::wstring currentPath() const { return pathOf(current_); }
+    std::wstring pathOf(int line) const;
+    /// Where a line of the list file stands now; nothing when it was eliminated.
+    std::optional<int> lineOfFile(std::int32_t fileLine) const;
 
     /// Reads the text of a list file. False when it has no line. Raises 5, and 9 past 8001 lines.
     bool read(std::string listFile);
-    /// Takes lines left in progress back to do and puts in progress the first line to do. True
-    /// when that line's document is to be opened: a list whose last line is the only one to do
-    /// starts at its end.
+    /// Gives the lines just read the states that were kept of them.
+    void restore(const KeptState& kept);
+
+    // Where a pass begins. Each takes lines left in progress back to do, and is true when the
+    // document of the current line is to be opened.
+
+    /// At the first line to do; but a list whose last line is the only one to do starts at its end.
     bool start();
+    /// At this line.
+    bool startAt(int line);
+    /// At the first line to do below this one, or at the end.
+    bool startAfter(int line);
 
     /// Makes another line the current one, states unchanged: the user may have moved the pointer.
     void moveTo(int line) { current_ = line; }
@@ -35,7 +53,7 @@ class Pass {
     // Each of these gives whether there is a line in progress now, whose document is to be opened.
 
     /// Marks the current line with a state and goes to the next line to do, or to the end.
-    bool advance(std::string_view mark);
+    bool advance(std::string_view mark, Saved saved = Saved::Unknown);
     /// Takes the current line back to do and goes to the nearest line to do above; past the end
     /// the search begins at the last line. Without one there is no current line.
     bool stepBack();
@@ -48,16 +66,31 @@ class Pass {
     /// is the current one, whatever its state.
     bool resumeAt(int line);
 
+    /// The document of the current line is about to be opened; the one before is left.
+    void openCurrent();
+    /// The document that is open is closed: how long it was open is noted.
+    void closeOpen();
+
     /// The text of the list file for the first `lineCount` lines, piece by piece; flagged lines
     /// get a leading 1, once more at each call. Raises 9 past the table.
     void write(std::int32_t lineCount, const std::function<void(std::string_view)>& file);
+    /// From now on the list file holds the lines as they are.
+    void takeAsSaved();
 
  private:
-    void putInProgress(int line);
+    void mark(int line, std::string_view code, Saved saved);
+    bool startHere(int line);
     void show(int line);
     bool reestablish();
 
+    struct OpenDocument {
+        std::int32_t fileLine;
+        std::int64_t since;
+    };
+
+    const Clock& clock_;
     WorkList list_;
     int current_ = kNoLine;
     int shownNumber_ = 0;
+    std::optional<OpenDocument> open_;
 };

@@ -16,11 +16,25 @@ inline constexpr std::string_view kSeen = "2";
 inline constexpr std::string_view kInProgress = "3";
 }  // namespace state
 
+/// What the CAD application answered when a document was to be saved.
+enum class Saved : std::uint8_t { Unknown, Yes, No };
+
+/// What happened to a document in this pass.
+struct LineHistory {
+    std::int64_t markedAt = 0;      ///< as Clock has it; 0: not marked
+    std::int32_t secondsOpen = -1;  ///< -1: it was not open
+    Saved saved = Saved::Unknown;
+
+    bool operator==(const LineHistory&) const = default;
+};
+
 /// One document of the pass. Its texts, in UTF-8 as the list file has them, are kept by the list.
 struct WorkLine {
-    std::string_view code;  ///< mostly one of the above
-    std::string_view path;  ///< full path
-    bool reload = false;    ///< whether the list file carried the code plus 10
+    std::string_view code;      ///< mostly one of the above
+    std::string_view path;      ///< full path
+    bool reload = false;        ///< whether the list file carried the code plus 10
+    std::int32_t fileLine = 0;  ///< the line of the list file, zero-based, where it stands
+    LineHistory history;
 };
 
 /// The ordered list of documents of a pass, each with its state.

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "fakes/fake_automation.h"
+#include "fakes/fake_clock.h"
 #include "fakes/fake_desktop.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_message_boxes.h"
+#include "fakes/fake_record_files.h"
 #include "fakes/fake_settings.h"
 #include "fakes/fake_window.h"
 #include "platform/file_system_object.h"
@@ -18,8 +20,11 @@ struct FakePlatform {
     FakeFiles files;
     FakeMessageBoxes boxes;
     FakeDesktop desktop;
+    FakeRecordFiles records;
+    FakeClock clock;
     FakeWindowFactory windows;
-    Platform platform{automation, settings, files, boxes, desktop, windows, L"c:\\tarnwick"};
+    Platform platform{automation, settings, files,   records,        clock,
+                      boxes,      desktop,  windows, L"c:\\tarnwick"};
 
     FakePlatform() {
         automation.fileExists = [this](const std::wstring& path) {

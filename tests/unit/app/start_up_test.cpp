@@ -26,9 +26,9 @@ class StartUp : public testing::Test {
     StartUp() { machine.files.directories.insert(L"c:\\plans"); }
 
     void start() {
-        Platform platform{machine.automation,     settings,        machine.files,
-                          machine.boxes,          machine.desktop, machine.windows,
-                          L"d:\\outils\\tarnwick"};
+        Platform platform{machine.automation, settings,        machine.files,
+                          machine.records,    machine.clock,   machine.boxes,
+                          machine.desktop,    machine.windows, L"d:\\outils\\tarnwick"};
         program = std::make_unique<Program>(platform);
         program->start();
     }

@@ -5,7 +5,7 @@ using Lines = std::vector<std::wstring>;
 
 TEST_F(Display, OfANewListShowsAllLinesButTheFirstAsToDo) {
     load(L"1  c:\\a\r\n0  c:\\b\r\n2  c:\\c\r\n0  c:\\d\r\n",
-         TrackingWindow::FirstDisplay::AllToDo);
+         TrackingWindow::Origin::LaunchedAfterDeclining);
     EXPECT_EQ(list().texts(), (Lines{
                                   L"0001   Fait          c:\\a",
                                   L"0002                c:\\b",

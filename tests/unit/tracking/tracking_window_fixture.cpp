@@ -9,15 +9,20 @@ TrackingFixture::TrackingFixture() {
     machine.settings.write(L"tarnwick", L"startup", L"regcheck", L"1100");
 }
 
-void TrackingFixture::load(const std::wstring& text, TrackingWindow::FirstDisplay display) {
+void TrackingFixture::load(const std::wstring& text, TrackingWindow::Origin origin) {
     listFile() = text;
+    machine.records.contents.clear();
+    start(origin);
+}
+
+void TrackingFixture::start(TrackingWindow::Origin origin) {
     session.emplace(machine.desktop);
     session->attach(machine.automation);
     session->identify();
     takeCalls();
     form = std::make_unique<TrackingWindow>(machine.platform, machine.places, *session,
                                             machine.programFiles);
-    form->Form_Load(display);
+    form->Form_Load(origin);
 }
 
 void TrackingFixture::loadStates(const std::wstring& codes) {

@@ -18,7 +18,10 @@ class TrackingFixture : public testing::Test {
 
     /// Loads the window over a list file with this text. What that called stays in the journal.
     void load(const std::wstring& listFile,
-              TrackingWindow::FirstDisplay display = TrackingWindow::FirstDisplay::States);
+              TrackingWindow::Origin origin = TrackingWindow::Origin::Resumed);
+
+    /// Loads the window as a next run would: with the list file and the marks kept as they are.
+    void start(TrackingWindow::Origin origin = TrackingWindow::Origin::Resumed);
 
     /// Loads a list of the documents c:\a, c:\b … whose states are these one-character codes, and
     /// forgets the calls.

@@ -1,0 +1,196 @@
+#include "worklist/kept_marks.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "common/packed_numbers.h"
+
+namespace {
+
+constexpr std::string_view kMagic = "Tarnwick reprise 1\n";
+constexpr std::size_t kHeaderSize = kMagic.size() + 8 + 8 + 4 + 8 + 4;
+
+// An entry's first byte: the state, and what follows.
+constexpr unsigned kStateBits = 0x07;
+constexpr unsigned kManyLines = 0x08;  ///< the same for several lines
+constexpr unsigned kMarked = 0x10;     ///< when
+constexpr unsigned kOpened = 0x20;     ///< for how long
+constexpr unsigned kSavedShift = 6;
+
+std::string sealed(std::string bytes, std::uint32_t seed) {
+    appendFixed<std::uint32_t>(bytes, crc32(bytes, seed));
+    return bytes;
+}
+
+void appendEntry(std::string& bytes, const KeptLine& line, std::size_t many, std::int64_t base) {
+    const LineHistory& history = line.history;
+    const unsigned head = static_cast<unsigned>(line.state) | (many > 1 ? kManyLines : 0) |
+                          (history.markedAt != 0 ? kMarked : 0) |
+                          (history.secondsOpen >= 0 ? kOpened : 0) |
+                          static_cast<unsigned>(history.saved) << kSavedShift;
+    bytes += static_cast<char>(head);
+    if (many > 1) appendPacked(bytes, many);
+    if (history.markedAt != 0) appendPacked(bytes, zigzag(history.markedAt - base));
+    if (history.secondsOpen >= 0) {
+        appendPacked(bytes, static_cast<std::uint64_t>(history.secondsOpen));
+    }
+}
+
+std::size_t sameFrom(std::span<const KeptLine> before, std::span<const KeptLine> now,
+                     std::size_t first) {
+    std::size_t end = first + 1;
+    while (end < now.size() && now[end] == now[first] && now[end] != before[end]) ++end;
+    return end - first;
+}
+
+/// What one record tells. Reading gives false for bytes that make no sense.
+class RecordReader {
+ public:
+    RecordReader(std::string_view entries, std::int64_t base) : bytes_(entries), base_(base) {}
+
+    bool read(std::size_t lineCount) {
+        if (!takePacked(bytes_, opening_) || opening_ > lineCount) return false;
+        while (!bytes_.empty()) {
+            if (!readEntry(lineCount)) return false;
+        }
+        return true;
+    }
+
+    void applyTo(KeptState& state) const {
+        for (const Entry& entry : entries_) {
+            std::fill_n(state.lines.begin() + static_cast<std::ptrdiff_t>(entry.line), entry.many,
+                        entry.kept);
+        }
+        state.opening.reset();
+        if (opening_ > 0) state.opening = static_cast<std::int32_t>(opening_ - 1);
+    }
+
+ private:
+    struct Entry {
+        std::size_t line;
+        std::size_t many;
+        KeptLine kept;
+    };
+
+    bool readEntry(std::size_t lineCount) {
+        std::uint64_t skipped = 0;
+        std::uint64_t many = 1;
+        std::uint8_t head = 0;
+        KeptLine kept;
+        if (!takePacked(bytes_, skipped) || !takeFixed(bytes_, head)) return false;
+        if ((head & kManyLines) && !takePacked(bytes_, many)) return false;
+        if (!readKept(head, kept)) return false;
+        if (skipped > lineCount - next_ || many > lineCount - next_ - skipped) return false;
+        entries_.push_back({next_ + skipped, many, kept});
+        next_ += skipped + many;
+        return true;
+    }
+
+    bool readKept(std::uint8_t head, KeptLine& kept) {
+        const unsigned state = head & kStateBits;
+        const unsigned saved = head >> kSavedShift;
+        if (state > static_cast<unsigned>(KeptLine::State::AsInFile)) return false;
+        if (saved > static_cast<unsigned>(Saved::No)) return false;
+        kept.state = static_cast<KeptLine::State>(state);
+        kept.history.saved = static_cast<Saved>(saved);
+        return readTimes(head, kept.history);
+    }
+
+    bool readTimes(std::uint8_t head, LineHistory& history) {
+        std::uint64_t at = 0;
+        std::uint64_t seconds = 0;
+        if ((head & kMarked) && !takePacked(bytes_, at)) return false;
+        if ((head & kOpened) && !takePacked(bytes_, seconds)) return false;
+        if (seconds > 0x7FFFFFFF) return false;
+        if (head & kMarked) history.markedAt = sum(base_, unzigzag(at));
+        if (head & kOpened) history.secondsOpen = static_cast<std::int32_t>(seconds);
+        return true;
+    }
+
+    /// Wraps around rather than overflow, whatever the bytes say.
+    static std::int64_t sum(std::int64_t a, std::int64_t b) {
+        return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) +
+                                         static_cast<std::uint64_t>(b));
+    }
+
+    std::string_view bytes_;
+    std::int64_t base_;
+    std::uint64_t opening_ = 0;
+    std::size_t next_ = 0;
+    std::vector<Entry> entries_;
+};
+
+/// The entries of the next record; nothing when it is torn or not of this list.
+std::optional<std::string_view> takeRecord(std::string_view& bytes, std::uint32_t seed) {
+    std::string_view rest = bytes;
+    std::uint32_t length = 0;
+    std::uint32_t checksum = 0;
+    if (!takeFixed(rest, length) || length > rest.size()) return std::nullopt;
+    const std::string_view checked = bytes.substr(0, sizeof length + length);
+    rest.remove_prefix(length);
+    if (!takeFixed(rest, checksum) || checksum != crc32(checked, seed)) return std::nullopt;
+    bytes = rest;
+    return checked.substr(sizeof length);
+}
+
+std::string headerOf(const ListIdentity& list, std::size_t lineCount, std::int64_t baseTime) {
+    std::string header(kMagic);
+    appendFixed<std::uint64_t>(header, list.length());
+    appendFixed<std::uint64_t>(header, list.hash());
+    appendFixed<std::uint32_t>(header, static_cast<std::uint32_t>(lineCount));
+    appendFixed<std::uint64_t>(header, static_cast<std::uint64_t>(baseTime));
+    return sealed(std::move(header), 0);
+}
+
+}  // namespace
+
+void ListIdentity::add(std::string_view bytes) {
+    constexpr std::uint64_t kPrime = 0x100000001B3;
+    length_ += bytes.size();
+    for (const char byte : bytes) hash_ = (hash_ ^ static_cast<unsigned char>(byte)) * kPrime;
+}
+
+KeptMarksWriter::KeptMarksWriter(const ListIdentity& list, std::size_t lineCount,
+                                 std::int64_t baseTime)
+    : header_(headerOf(list, lineCount, baseTime)), seed_(crc32(header_, 0)), baseTime_(baseTime) {}
+
+std::string KeptMarksWriter::record(std::span<const KeptLine> before, std::span<const KeptLine> now,
+                                    std::optional<std::int32_t> opening) const {
+    std::string entries;
+    appendPacked(entries, opening ? static_cast<std::uint64_t>(*opening) + 1 : 0);
+    std::size_t told = 0;
+    for (std::size_t i = 0; i < now.size();) {
+        if (now[i] == before[i]) {
+            ++i;
+            continue;
+        }
+        const std::size_t many = sameFrom(before, now, i);
+        appendPacked(entries, i - told);
+        appendEntry(entries, now[i], many, baseTime_);
+        told = i += many;
+    }
+    std::string record;
+    appendFixed<std::uint32_t>(record, static_cast<std::uint32_t>(entries.size()));
+    return sealed(record + entries, seed_);
+}
+
+std::optional<KeptState> readKeptMarks(std::string_view record, const ListIdentity& list,
+                                       std::size_t lineCount) {
+    if (record.size() < kHeaderSize) return std::nullopt;
+    const std::string_view header = record.substr(0, kHeaderSize);
+    std::string_view base = header.substr(kHeaderSize - 12);
+    std::uint64_t baseTime = 0;
+    takeFixed(base, baseTime);
+    if (header != headerOf(list, lineCount, static_cast<std::int64_t>(baseTime))) {
+        return std::nullopt;
+    }
+    KeptState state{std::vector<KeptLine>(lineCount), std::nullopt};
+    record.remove_prefix(kHeaderSize);
+    const std::uint32_t seed = crc32(header, 0);
+    while (const auto entries = takeRecord(record, seed)) {
+        RecordReader reader(*entries, static_cast<std::int64_t>(baseTime));
+        if (!reader.read(lineCount)) break;
+        reader.applyTo(state);
+    }
+    return state;
+}

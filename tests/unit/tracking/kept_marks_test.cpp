@@ -1,0 +1,132 @@
+#include "unit/tracking/tracking_window_fixture.h"
+
+namespace {
+
+constexpr auto kYes = MessageBoxes::Answer::Yes;
+constexpr auto kNo = MessageBoxes::Answer::No;
+
+class Resuming : public TrackingFixture {
+ protected:
+    bool recordThere() { return !machine.records.contents.empty(); }
+
+    /// Starts again as after a kill, with these answers; gives the boxes that came.
+    std::vector<std::wstring> restart(std::deque<MessageBoxes::Answer> answers) {
+        machine.boxes.shown.clear();
+        machine.boxes.answers = std::move(answers);
+        start();
+        std::vector<std::wstring> texts;
+        for (const auto& box : machine.boxes.shown) {
+            EXPECT_EQ(box.title, L"Tarnwick");
+            EXPECT_EQ(box.defaultButton, 1);
+            EXPECT_EQ(box.buttons, MessageBoxContent::Buttons::YesNo);
+            texts.push_back(box.text);
+        }
+        return texts;
+    }
+
+    /// The application dies while it opens the document with this name.
+    void dieOpening(const std::wstring& name) {
+        machine.automation.overrides[L"OpenDoc6"] = [name](auto arguments) -> Value {
+            const std::wstring path = *std::get<std::wstring*>(arguments[0]);
+            if (path.ends_with(name)) throw errors::automation(L"");
+            return ObjectPtr();
+        };
+    }
+};
+
+using Texts = std::vector<std::wstring>;
+
+const std::wstring kMarked =
+    L"Le passage précédent s'est arrêté avant l'enregistrement de la liste.\r\n"
+    L"Documents marqués depuis : 2\r\nRetrouver ces marques ?";
+const std::wstring kOpening =
+    L"Tarnwick s'est arrêté pendant l'ouverture de :\r\nc:\\c\r\nPasser au document suivant ?";
+
+}  // namespace
+
+TEST_F(Resuming, OffersTheMarksThatWereKept) {
+    loadStates(L"00000");
+    click(IDC_FORM3_CMDSUIV);
+    click(IDC_FORM3_CMDSUIVQUITTER);
+    EXPECT_EQ(restart({kYes}), Texts{kMarked});
+    EXPECT_EQ(states(), L"1 2 3 0 0");
+    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\c");
+    EXPECT_EQ(restart({kNo}), Texts{kMarked});
+    EXPECT_EQ(states(), L"3 0 0 0 0");
+    EXPECT_FALSE(recordThere());
+    EXPECT_EQ(restart({}), Texts());
+}
+
+TEST_F(Resuming, SavingTheListLeavesNothingToOffer) {
+    loadStates(L"00000");
+    click(IDC_FORM3_CMDSUIV);
+    click(IDC_FORM3_CMDFICHIERLISTE);
+    EXPECT_FALSE(recordThere());
+    click(IDC_FORM3_CMDSUIVQUITTER);
+    click(IDC_FORM3_CMDSUIVQUITTER);
+    EXPECT_EQ(restart({kYes}), Texts{kMarked});
+    EXPECT_EQ(states(), L"1 2 2 3 0");
+}
+
+TEST_F(Resuming, LeavesTheRecordAtEveryEndAndSaysSoWhenOneIsAnError) {
+    loadStates(L"0000");
+    EXPECT_THROW(click(IDC_FORM3_CMDSORTIE), ProgramEnd);
+    EXPECT_FALSE(recordThere());
+    loadStates(L"0000");
+    click(IDC_FORM3_CMDSUIV);
+    EXPECT_THROW(click(IDC_FORM3_CMDSORTIE), ProgramEnd);
+    EXPECT_TRUE(recordThere());
+    machine.boxes.answers = {kYes};
+    dieOpening(L"c");
+    start();
+    try {
+        click(IDC_FORM3_CMDSUIV);
+        ADD_FAILURE();
+    } catch (const RuntimeError& error) {
+        EXPECT_NE(error.text.find(L"\r\nDocument : c:\\c\r\nLes marques"), std::wstring::npos);
+    }
+}
+
+TEST_F(Resuming, GoesPastADocumentThatStopsTheProgramOrOpensItAgain) {
+    loadStates(L"0000");
+    dieOpening(L"c");
+    const auto stopAtC = [&] {
+        start();
+        click(IDC_FORM3_CMDSUIV);
+        EXPECT_THROW(click(IDC_FORM3_CMDSUIV), RuntimeError);
+        machine.automation.overrides.clear();
+    };
+    stopAtC();
+    EXPECT_EQ(restart({kYes, kYes}), (Texts{kMarked, kOpening}));
+    EXPECT_EQ(states(), L"1 1 0 3");
+    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\d");
+
+    machine.records.contents.clear();
+    dieOpening(L"c");
+    stopAtC();
+    EXPECT_EQ(restart({kYes, kNo}), (Texts{kMarked, kOpening}));
+    EXPECT_EQ(states(), L"1 1 3 0");
+    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\c");
+
+    // The very first document; and one with nothing to do behind it.
+    machine.records.contents.clear();
+    dieOpening(L"c");
+    EXPECT_THROW(load(L"0  c:\\c\r\n0  c:\\d\r\n"), RuntimeError);
+    EXPECT_EQ(restart({kYes}), Texts{kOpening});
+    EXPECT_EQ(states(), L"0 3");
+    EXPECT_THROW(load(L"1  c:\\a\r\n0  c:\\c\r\n2  c:\\d\r\n"), RuntimeError);
+    EXPECT_EQ(restart({kYes}), Texts{kOpening});
+    EXPECT_EQ(states(), L"1 0 2");
+    EXPECT_FALSE(canAdvance());
+    EXPECT_EQ(text(IDC_FORM3_CPTFICHIER1), L"3");
+}
+
+TEST_F(Resuming, TellsOnceThatMarksCannotBeKept) {
+    machine.records.writesUntilFailure = 0;
+    loadStates(L"0000");
+    EXPECT_EQ(machine.boxes.shown.size(), 1U);
+    click(IDC_FORM3_CMDSUIV);
+    click(IDC_FORM3_CMDSUIV);
+    EXPECT_EQ(machine.boxes.shown.size(), 1U);
+    EXPECT_EQ(states(), L"1 1 3 0");
+}
