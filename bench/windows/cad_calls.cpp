@@ -9,9 +9,12 @@
 #include "driver/sandbox.h"
 #include "driver/text.h"
 #include "driver/trial_cad.h"
+#include "platform/late_bound_automation.h"
+#include "platform/patience.h"
 #include "platform/win32/com/message_filter.h"
-#include "platform/win32/com/win_automation.h"
+#include "platform/win32/com/win_objects.h"
 #include "platform/win32/window/input_sieve.h"
+#include "platform/win32/window/win_busy_waiting.h"
 #include "rows.h"
 #include "stage.h"
 
@@ -80,8 +83,12 @@ Row cadCalls(const Setting& setting) {
 
     BareDocument bare(path);
     const InputSieve sieve;
-    const MessageFilter filter;
-    WinAutomation automation;
+    WinMessageBoxes boxes;
+    WinBusyWaiting waiting;
+    Patience patience(waiting, boxes);
+    MessageFilter filter(patience);
+    WinObjectServers servers;
+    LateBoundAutomation automation(servers, patience);
     DesktopWithAll desktop;
     CadSession cad(desktop);
     require(cad.attach(automation), "a running session");

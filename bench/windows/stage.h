@@ -7,12 +7,15 @@
 #include "answering_cad.h"
 #include "cad/cad_session.h"
 #include "platform/desktop.h"
+#include "platform/event_gate.h"
 #include "platform/platform.h"
 #include "platform/win32/files/win_files.h"
+#include "platform/win32/files/win_record_files.h"
 #include "platform/win32/process/registry_settings.h"
+#include "platform/win32/process/win_clock.h"
 #include "platform/win32/window/dialog_window.h"
-#include "platform/win32/window/event_gate.h"
 #include "platform/win32/window/input_sieve.h"
+#include "platform/win32/window/win_gate_keeper.h"
 #include "platform/win32/window/win_message_boxes.h"
 #include "selection/selection_window.h"
 #include "session/program_files.h"
@@ -46,12 +49,15 @@ class Stage {
 
  private:
     InputSieve sieve_;
-    EventGate gate_;
+    WinGateKeeper keeper_;
+    WinMessageBoxes messageBoxes_;
+    EventGate gate_{keeper_, messageBoxes_};
     DialogFactory windows_;
     AnsweringAutomation automation_;
     RegistrySettings settings_;
     WinFiles files_;
-    WinMessageBoxes messageBoxes_;
+    WinRecordFiles records_;
+    WinClock clock_;
     DesktopWithAll desktop_;
 
  public:

@@ -12,8 +12,10 @@
 #include "platform/win32/com/message_filter.h"
 #include "platform/win32/com/win_objects.h"
 #include "platform/win32/files/win_files.h"
+#include "platform/win32/files/win_record_files.h"
 #include "platform/win32/process/registry_settings.h"
 #include "platform/win32/process/require.h"
+#include "platform/win32/process/win_clock.h"
 #include "platform/win32/window/dialog_window.h"
 #include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/message_loop.h"
@@ -58,12 +60,14 @@ struct RunningProgram {
     LateBoundAutomation automation{servers, patience};
     RegistrySettings settings;
     WinFiles files;
+    WinRecordFiles records;
+    WinClock clock;
     WinDesktop desktop;
     DialogFactory windows;
     InputSieve sieve;
     MessageFilter filter{patience};
-    Program program{
-        {automation, settings, files, messageBoxes, desktop, windows, programDirectory()}};
+    Program program{{automation, settings, files, records, clock, messageBoxes, desktop, windows,
+                     programDirectory()}};
 };
 
 }  // namespace

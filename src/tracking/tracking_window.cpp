@@ -3,6 +3,7 @@
 #include "cad/cad_session.h"
 #include "common/numbers.h"
 #include "common/runtime_error.h"
+#include "common/text_decoding.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "session/program_files.h"
@@ -65,9 +66,9 @@ void TrackingWindow::load(Origin origin) {
 }
 
 void TrackingWindow::readList() {
-    std::string text = platform_.files.read(files_.list);
-    const ListIdentity identity(text);
-    if (!pass_.read(std::move(text))) throw ProgramEnd{};
+    std::string bytes = platform_.files.readBytes(files_.list);
+    const ListIdentity identity(bytes);
+    if (!pass_.read(textInUtf8(std::move(bytes)), files_.list)) throw ProgramEnd{};
     marks_.begin(identity, pass_.list());
 }
 

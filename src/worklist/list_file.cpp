@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
 #include "common/utf8.h"
@@ -44,14 +45,19 @@ WorkLine parseLine(std::string_view text, WorkList& list) {
 
 }  // namespace
 
-bool parseListFile(std::string text, WorkList& list) {
+bool parseListFile(std::string text, WorkList& list, const std::wstring& file) {
     if (text.empty()) return false;
     std::string_view rest = list.keep(std::move(text));
     int count = 0;
-    while (!rest.empty()) {
-        WorkLine& line = list.lines[count];
-        line = parseLine(takeLine(rest), list);
-        line.fileLine = count++;
+    try {
+        while (!rest.empty()) {
+            WorkLine& line = list.lines[count];
+            line = parseLine(takeLine(rest), list);
+            line.fileLine = count++;
+        }
+    } catch (RuntimeError& error) {
+        error.addLine(L"Ligne " + decimal(count + 1) + L" de " + file);
+        throw;
     }
     list.last = count - 1;
     return true;

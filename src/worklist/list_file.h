@@ -10,8 +10,8 @@
 
 /// Reads the text of a list file into a list. A code over 9 is stored less 10 with the reload flag
 /// set. False, the list untouched, when the text has no line. Raises 5 for a line shorter than
-/// three characters, 9 past 8001 lines.
-bool parseListFile(std::string text, WorkList& list);
+/// three characters, 9 past 8001 lines; the error names the line of the file.
+bool parseListFile(std::string text, WorkList& list, const std::wstring& file = {});
 
 /// Hands on the text for the first `lineCount` lines. As a side effect the code of every flagged
 /// line is given a leading 1 in the list, once more at each call. Raises 9 past the table.

@@ -17,7 +17,9 @@ std::optional<int> Pass::lineOfFile(std::int32_t fileLine) const {
     return std::nullopt;
 }
 
-bool Pass::read(std::string listFile) { return parseListFile(std::move(listFile), list_); }
+bool Pass::read(std::string text, const std::wstring& listFile) {
+    return parseListFile(std::move(text), list_, listFile);
+}
 
 void Pass::restore(const KeptState& kept) { restoreLines(list_, kept); }
 

@@ -32,8 +32,9 @@ class Pass {
     /// Where a line of the list file stands now; nothing when it was eliminated.
     std::optional<int> lineOfFile(std::int32_t fileLine) const;
 
-    /// Reads the text of a list file. False when it has no line. Raises 5, and 9 past 8001 lines.
-    bool read(std::string listFile);
+    /// Reads the text of a list file. False when it has no line. Raises 5, and 9 past 8001 lines;
+    /// the error names the file and the line.
+    bool read(std::string text, const std::wstring& listFile = {});
     /// Gives the lines just read the states that were kept of them.
     void restore(const KeptState& kept);
 

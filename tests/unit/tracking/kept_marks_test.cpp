@@ -2,11 +2,11 @@
 
 namespace {
 
-constexpr auto kYes = MessageBoxes::Answer::Yes;
-constexpr auto kNo = MessageBoxes::Answer::No;
-
 class Resuming : public TrackingFixture {
  protected:
+    static constexpr auto kYes = MessageBoxes::Answer::Yes;
+    static constexpr auto kNo = MessageBoxes::Answer::No;
+
     bool recordThere() { return !machine.records.contents.empty(); }
 
     /// Starts again as after a kill, with these answers; gives the boxes that came.

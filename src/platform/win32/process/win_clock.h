@@ -1,0 +1,8 @@
+#pragma once
+
+#include "platform/clock.h"
+
+class WinClock : public Clock {
+ public:
+    std::int64_t now() const override;
+};
