@@ -23,7 +23,7 @@ RuntimeError overflow();                                   ///< 6
 RuntimeError outOfMemory();                                ///< 7
 RuntimeError subscriptOutOfRange();                        ///< 9
 RuntimeError typeMismatch();                               ///< 13
-RuntimeError system(const std::wstring& what);             ///< 51, Windows refused what it must give
+RuntimeError system(const std::wstring& what);             ///< 51, Windows gave nothing
 RuntimeError fileNotFound(const std::wstring& path);       ///< 53
 RuntimeError permissionDenied(const std::wstring& path);   ///< 70
 RuntimeError fileAccess(const std::wstring& path);         ///< 75

@@ -6,15 +6,10 @@
 #include <objbase.h>
 
 #include "fakes/fake_message_boxes.h"
+#include "fakes/fake_waiting.h"
 #include "platform/patience.h"
 
 namespace {
-
-struct FakeClock : BusyWaiting {
-    std::uint64_t time = 0;
-    std::uint64_t now() const override { return time; }
-    void wait(unsigned milliseconds) override { time += milliseconds; }
-};
 
 /// COM keeps a filter for each thread that it serves.
 struct MessageFilterTest : testing::Test {
@@ -28,7 +23,7 @@ struct MessageFilterTest : testing::Test {
 TEST_F(MessageFilterTest, RepeatsARefusedCallFromTheFirstRefusalOn) {
     constexpr DWORD kGiveUp = static_cast<DWORD>(-1);
     constexpr DWORD kHung = 12'000;
-    FakeClock clock;
+    FakeWaiting clock;
     FakeMessageBoxes boxes;
     Patience patience(clock, boxes);
     MessageFilter filter(patience);

@@ -1,17 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fake_message_boxes.h"
+#include "fakes/fake_waiting.h"
 #include "platform/late_bound_automation.h"
 #include "unit/raised.h"
 
 namespace {
-
-/// A clock that waiting moves on.
-struct FakeWaiting : BusyWaiting {
-    std::uint64_t time = 0;
-    std::uint64_t now() const override { return time; }
-    void wait(unsigned milliseconds) override { time += milliseconds; }
-};
 
 /// A kind of documents: each knows its members by numbers of its own.
 struct Kind {

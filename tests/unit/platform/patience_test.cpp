@@ -4,22 +4,11 @@
 #include <vector>
 
 #include "fakes/fake_message_boxes.h"
+#include "fakes/fake_waiting.h"
 
 namespace {
 
 using Answer = MessageBoxes::Answer;
-
-/// A machine whose time passes by waiting, and by the calls of the test.
-struct FakeWaiting : BusyWaiting {
-    std::uint64_t time = 1'000'000;
-    std::vector<unsigned> waits;
-
-    std::uint64_t now() const override { return time; }
-    void wait(unsigned milliseconds) override {
-        waits.push_back(milliseconds);
-        time += milliseconds;
-    }
-};
 
 struct PatienceTest : testing::Test {
     FakeWaiting machine;

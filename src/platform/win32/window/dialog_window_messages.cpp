@@ -1,5 +1,7 @@
 // What a window makes of its messages.
 
+#include <windows.h>
+
 #include <commctrl.h>
 
 #include "platform/win32/window/control_class.h"
