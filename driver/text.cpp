@@ -1,23 +1,14 @@
 #include "driver/text.h"
 
-#include <windows.h>
+#include "common/utf8.h"
 
 namespace driver {
 
-std::wstring Wide(std::string_view utf8) {
-    const int size = static_cast<int>(utf8.size());
-    const int length = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0);
-    std::wstring wide(static_cast<size_t>(length), L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, wide.data(), length);
-    return wide;
-}
+std::wstring Wide(std::string_view utf8) { return wideText(utf8); }
 
 std::string Utf8(std::wstring_view wide) {
-    const int size = static_cast<int>(wide.size());
-    const int length =
-        WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, nullptr, 0, nullptr, nullptr);
-    std::string utf8(static_cast<size_t>(length), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, utf8.data(), length, nullptr, nullptr);
+    std::string utf8;
+    appendUtf8(utf8, wide);
     return utf8;
 }
 

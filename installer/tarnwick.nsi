@@ -2,9 +2,17 @@
 ; user may write. Called with -DVERSION, -DFILES (the directory of what is installed), -DICON and -DOUTPUT.
 Unicode true
 Target amd64-unicode
+!include LogicLib.nsh
 !include MUI2.nsh
+!include WinCore.nsh
+!include WinVer.nsh
 
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarnwick"
+; Windows 10, version 1903: since then a program's manifest may choose UTF-8.
+!define WINDOWS_BUILD 18362
+; The class that the trial session registers when no other has SolidWorks' name.
+!define TRIAL_NAME_KEY "Software\Classes\SldWorks.Application"
+!define TRIAL_CLASS "{6E1B5B0A-3C0F-4C58-9C57-2A7D8F1E40B3}"
 
 Name "Tarnwick"
 OutFile "${OUTPUT}"
@@ -13,11 +21,12 @@ InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
 RequestExecutionLevel user
 SetCompressor /SOLID lzma
 SetDateSave off
+AllowSkipFiles off
 ManifestDPIAware true
+BrandingText "Tarnwick ${VERSION}"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
-!define MUI_ABORTWARNING
 !define MUI_FINISHPAGE_RUN "$INSTDIR\tarnwick.exe"
 !define MUI_FINISHPAGE_RUN_NOTCHECKED
 !insertmacro MUI_PAGE_WELCOME
@@ -35,26 +44,54 @@ VIAddVersionKey /LANG=${LANG_FRENCH} "FileDescription" "Installation de Tarnwick
 VIAddVersionKey /LANG=${LANG_FRENCH} "FileVersion" "${VERSION}"
 VIAddVersionKey /LANG=${LANG_FRENCH} "LegalCopyright" "Mervale"
 
-; A program that runs can't be replaced or removed: its file can't be opened for writing.
-!macro WaitUntilClosed PROGRAM
-  again_${PROGRAM}:
-  IfFileExists "$INSTDIR\${PROGRAM}.exe" 0 closed_${PROGRAM}
-  ClearErrors
-  FileOpen $0 "$INSTDIR\${PROGRAM}.exe" a
-  IfErrors 0 free_${PROGRAM}
-  MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION \
-    "${PROGRAM}.exe est en cours d'exécution. Fermez-le, puis choisissez Recommencer." \
-    /SD IDCANCEL IDRETRY again_${PROGRAM}
-  SetErrorLevel 2
-  Abort
-  free_${PROGRAM}:
-  FileClose $0
-  closed_${PROGRAM}:
+; Exit codes of a silent run, beside NSIS's own.
+!define PROGRAM_IN_USE 2
+!define WINDOWS_TOO_OLD 3
+!define FILE_NOT_WRITABLE 4
+
+!define /ifndef OPEN_EXISTING 3
+
+Function .onInit
+  ${IfNot} ${AtLeastBuild} ${WINDOWS_BUILD}
+    MessageBox MB_OK|MB_ICONSTOP \
+      "Tarnwick demande Windows 10, version 1903, ou plus récent. Rien n'a été installé." /SD IDOK
+    SetErrorLevel ${WINDOWS_TOO_OLD}
+    Quit
+  ${EndIf}
+FunctionEnd
+
+; A program that runs can't be replaced or removed: its file can't be opened for writing, because it is shared, while a
+; file that may not be written at all says so.
+!macro RequireWritable PROGRAM
+  ${Do}
+    ${IfNot} ${FileExists} "$INSTDIR\${PROGRAM}.exe"
+      ${ExitDo}
+    ${EndIf}
+    System::Call 'kernel32::CreateFileW(w "$INSTDIR\${PROGRAM}.exe", i ${GENERIC_WRITE}, i ${FILE_SHARE_READ}, \
+      p 0, i ${OPEN_EXISTING}, i 0, p 0) p .r0 ?e'
+    Pop $1
+    ${If} $0 P<> ${INVALID_HANDLE_VALUE}
+      System::Call 'kernel32::CloseHandle(p r0)'
+      ${ExitDo}
+    ${EndIf}
+    ${If} $1 = ${ERROR_SHARING_VIOLATION}
+      StrCpy $2 "${PROGRAM}.exe est en cours d'exécution, ou un autre programme le tient. Fermez-le, puis recommencez."
+      SetErrorLevel ${PROGRAM_IN_USE}
+    ${Else}
+      StrCpy $2 "$INSTDIR\${PROGRAM}.exe ne peut pas être écrit. Vérifiez son attribut « lecture seule » et vos \
+        droits sur ce dossier, puis recommencez."
+      SetErrorLevel ${FILE_NOT_WRITABLE}
+    ${EndIf}
+    ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$2" /SD IDCANCEL IDCANCEL`
+      Abort
+    ${EndIf}
+    SetErrorLevel 0
+  ${Loop}
 !macroend
 
-Section
-  !insertmacro WaitUntilClosed tarnwick
-  !insertmacro WaitUntilClosed tarnwick-trialcad
+Section "Tarnwick" SECTION_TARNWICK
+  !insertmacro RequireWritable tarnwick
+  !insertmacro RequireWritable tarnwick-trialcad
   SetOutPath "$INSTDIR"
   File "${FILES}\tarnwick.exe"
   File "${FILES}\tarnwick-trialcad.exe"
@@ -70,14 +107,16 @@ Section
   WriteRegStr HKCU "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
   WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
+  SectionGetSize ${SECTION_TARNWICK} $0
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" $0
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
 
 ; The user's own files, tarnwick.lst and tarnwick.cfg, stay: a directory is only removed when it is empty.
 Section Uninstall
-  !insertmacro WaitUntilClosed tarnwick
-  !insertmacro WaitUntilClosed tarnwick-trialcad
+  !insertmacro RequireWritable tarnwick
+  !insertmacro RequireWritable tarnwick-trialcad
   Delete "$INSTDIR\tarnwick.exe"
   Delete "$INSTDIR\tarnwick-trialcad.exe"
   Delete "$INSTDIR\LISEZMOI.txt"
@@ -87,4 +126,10 @@ Section Uninstall
   Delete "$SMPROGRAMS\Tarnwick\Session d'essai.lnk"
   RMDir "$SMPROGRAMS\Tarnwick"
   DeleteRegKey HKCU "${UNINSTALL_KEY}"
+  ; What a trial session that was killed left behind; a real installation's class stays.
+  ReadRegStr $0 HKCU "${TRIAL_NAME_KEY}\CLSID" ""
+  ${If} $0 == "${TRIAL_CLASS}"
+    DeleteRegKey HKCU "${TRIAL_NAME_KEY}"
+    DeleteRegKey HKCU "Software\Classes\CLSID\${TRIAL_CLASS}"
+  ${EndIf}
 SectionEnd

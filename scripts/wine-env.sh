@@ -43,17 +43,19 @@ screen_start() {
 # "desktop" shows all of them in a desktop of Wine's, which draws frames and manages the focus.
 prefix_start() {
     unlocked wineserver -k 2>/dev/null || true # left by a run that was cut short
-    [[ -e "$WINEPREFIX/.ready" ]] && return
+    [[ -e "$WINEPREFIX/.ready-windows10" ]] && return
     rm -rf "$WINEPREFIX"
     unlocked wineboot --init >/dev/null 2>&1
-    # Debian's Wine does not look where Debian's package puts Wine's fonts.
+    # Debian's Wine passes for Windows 7.
+    unlocked wine reg add 'HKCU\Software\Wine' /v Version /d win10 /f >/dev/null
+    # It does not look where Debian's package puts Wine's fonts.
     cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
     if [[ "$1" == desktop ]]; then
         unlocked wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
         unlocked wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$screen_size" /f >/dev/null
     fi
     unlocked wineserver -k -w || true
-    touch "$WINEPREFIX/.ready"
+    touch "$WINEPREFIX/.ready-windows10"
 }
 
 wine_end() {

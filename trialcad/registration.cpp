@@ -1,6 +1,7 @@
 #include "registration.h"
 
 #include <oleauto.h>
+#include <utility>
 #include <wrl/client.h>
 
 #include "class_keys.h"
@@ -33,7 +34,10 @@ Registration::Registration(IUnknown& application) : application_(application) {
         L"Windows refuse d'inscrire la session d'essai parmi les objets actifs."};
 }
 
-Registration::~Registration() {
+Registration::~Registration() { withdraw(); }
+
+void Registration::withdraw() {
+    if (std::exchange(withdrawn_, true)) return;
     RevokeActiveObject(cookie_, nullptr);
     // Clients get an error at their next call instead of waiting for a process that is leaving.
     CoDisconnectObject(&application_, 0);

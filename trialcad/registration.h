@@ -19,7 +19,11 @@ class Registration {
     Registration(const Registration&) = delete;
     Registration& operator=(const Registration&) = delete;
 
+    /// Ends the presence now, once.
+    void withdraw();
+
  private:
     IUnknown& application_;
     DWORD cookie_ = 0;
+    bool withdrawn_ = false;
 };

@@ -108,6 +108,9 @@ LRESULT SessionWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_PAINT:
             paint();
             return 0;
+        case WM_ENDSESSION:
+            if (wParam && last_) last_();
+            return 0;
         case WM_DESTROY:
             window_ = nullptr;
             SetWindowLongPtrW(window, GWLP_USERDATA, 0);

@@ -2,8 +2,10 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "options.h"
 #include "session.h"
@@ -19,6 +21,9 @@ class SessionWindow {
     SessionWindow& operator=(const SessionWindow&) = delete;
 
     HWND handle() const { return window_; }
+
+    /// Has the end of the user's Windows session told: the process may be ended right after.
+    void atEndOfWindowsSession(std::function<void()> last) { last_ = std::move(last); }
 
     /// Brings title and lists up to date with the session.
     void refresh();
@@ -42,6 +47,7 @@ class SessionWindow {
     const std::wstring release_;
     const std::wstring facts_;
     const bool hidden_;
+    std::function<void()> last_;
     std::unique_ptr<WindowFonts> fonts_;
     HWND window_ = nullptr;
     HWND documentsLabel_ = nullptr;

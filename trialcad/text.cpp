@@ -2,6 +2,11 @@
 
 #include <windows.h>
 
+#include <algorithm>
+
+#include "common/runtime_error.h"
+#include "common/utf8.h"
+
 bool sameText(std::wstring_view left, std::wstring_view right) {
     return CompareStringOrdinal(left.data(), static_cast<int>(left.size()), right.data(),
                                 static_cast<int>(right.size()), TRUE) == CSTR_EQUAL;
@@ -17,11 +22,14 @@ long parseNumber(std::wstring_view text) {
     return number;
 }
 
-std::string toUtf8(std::wstring_view text) {
-    const int length = static_cast<int>(text.size());
-    const int size =
-        WideCharToMultiByte(CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
-    std::string bytes(static_cast<size_t>(size), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text.data(), length, bytes.data(), size, nullptr, nullptr);
-    return bytes;
+std::string toUtf8(std::wstring text) {
+    std::string utf8;
+    try {
+        appendUtf8(utf8, text);
+    } catch (const RuntimeError&) {
+        std::ranges::replace_if(
+            text, [](wchar_t unit) { return (unit & 0xF800) == 0xD800; }, L'\xFFFD');
+        appendUtf8(utf8, text);
+    }
+    return utf8;
 }

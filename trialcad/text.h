@@ -9,4 +9,5 @@ bool sameText(std::wstring_view left, std::wstring_view right);
 /// A non-negative decimal number of at most nine digits; -1 for anything else.
 long parseNumber(std::wstring_view text);
 
-std::string toUtf8(std::wstring_view text);
+/// UTF-8 for the journal, with U+FFFD for what is no valid UTF-16, as file names may be.
+std::string toUtf8(std::wstring text);

@@ -92,7 +92,8 @@ void runSession(HINSTANCE instance, const Options& options) {
     SessionWindow window(instance, options, session);
     session.watch([&window] { window.refresh(); });
     desk.watch([&window](const std::wstring& line) { window.showCall(line); });
-    const Registration registration(*application.Get());
+    Registration registration(*application.Get());
+    window.atEndOfWindowsSession([&registration] { registration.withdraw(); });
     session.setVisible(!options.hidden);
     runMessageLoop(window.handle());
     disconnect(session);
