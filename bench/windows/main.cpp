@@ -23,6 +23,7 @@ struct NamedRow {
 constexpr NamedRow kRows[] = {
     {"tree", rebuildOfTree},
     {"directory", rebuildOfDirectory},
+    {"slow", searchOfSlowServer},
     {"fill", listFill},
     {"next", nextDocument},
     {"framed", nextDocumentWithScrollBars},

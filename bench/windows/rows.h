@@ -8,6 +8,8 @@
 Row rebuildOfTree(const Setting& setting);
 /// The same of one directory, where bare names are told apart.
 Row rebuildOfDirectory(const Setting& setting);
+/// A tree whose directories answer late, read ahead, against one after the other.
+Row searchOfSlowServer(const Setting& setting);
 /// The work list's lines put into its list box, against LB_ADDSTRING with drawing off.
 Row listFill(const Setting& setting);
 /// From one document to the next but for the CAD calls, against one repaint of the list.

@@ -44,15 +44,24 @@ void sortByName(std::vector<Subdirectory>& subdirectories) {
               [](const Subdirectory& one) -> const std::wstring& { return one.name; });
 }
 
-std::vector<Subdirectory> listSubdirectories(Files& files, const std::wstring& directory) {
-    std::vector<Subdirectory> found;
+DirectoryContents listContents(Files& files, const std::wstring& directory,
+                               const FileFilter& wanted) {
+    DirectoryContents contents;
     files.visit(directory, [&](const DirectoryEntry& entry) {
-        if (entry.isDirectory && !entry.isLeftOut) {
-            found.push_back({std::wstring(entry.name), entry.isLink});
+        if (entry.isLeftOut) return;
+        if (entry.isDirectory) {
+            contents.subdirectories.push_back({std::wstring(entry.name), entry.isLink});
+        } else if (wanted(entry.name)) {
+            contents.files.emplace_back(entry.name);
         }
     });
-    sortByName(found);
-    return found;
+    sortByName(contents.files);
+    sortByName(contents.subdirectories);
+    return contents;
+}
+
+std::vector<Subdirectory> listSubdirectories(Files& files, const std::wstring& directory) {
+    return listContents(files, directory, [](std::wstring_view) { return false; }).subdirectories;
 }
 
 bool isDriveRoot(std::wstring_view directory) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,19 @@ struct Subdirectory {
 // Names sort ascending without regard to case; names alike but for case, by their own order.
 void sortByName(std::vector<std::wstring>& names);
 void sortByName(std::vector<Subdirectory>& subdirectories);
+
+/// What a directory holds, in order, but for what is left out.
+struct DirectoryContents {
+    std::vector<std::wstring> files;
+    std::vector<Subdirectory> subdirectories;
+};
+
+/// Which files of a directory are wanted, by their names.
+using FileFilter = std::function<bool(std::wstring_view name)>;
+
+/// Reads a directory. Raises 70 or 76.
+DirectoryContents listContents(Files& files, const std::wstring& directory,
+                               const FileFilter& wanted);
 
 /// A directory's sub-directories in order, but those that the Explorer keeps from its users.
 /// Raises 70 or 76.

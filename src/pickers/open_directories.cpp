@@ -3,9 +3,9 @@
 #include <algorithm>
 
 bool OpenDirectories::leadsBack(const std::wstring& link) {
-    const DirectoryId target = files_.identify(link);
+    const DirectoryId target = identify_(link);
     return std::ranges::any_of(way_, [&](Open& open) {
-        if (!open.id) open.id = files_.identify(open.path);
+        if (!open.id) open.id = identify_(open.path);
         return *open.id == target;
     });
 }

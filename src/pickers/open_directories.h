@@ -1,7 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/files.h"
@@ -10,7 +12,11 @@
 /// symbolic links has an end.
 class OpenDirectories {
  public:
-    explicit OpenDirectories(Files& files) : files_(files) {}
+    using Identify = std::function<DirectoryId(const std::wstring& directory)>;
+
+    explicit OpenDirectories(Identify identify) : identify_(std::move(identify)) {}
+    explicit OpenDirectories(Files& files)
+        : identify_([&](const std::wstring& directory) { return files.identify(directory); }) {}
 
     void enter(const std::wstring& directory) { way_.push_back({directory, std::nullopt}); }
     void leave() { way_.pop_back(); }
@@ -25,6 +31,6 @@ class OpenDirectories {
         std::optional<DirectoryId> id;  ///< asked for only when a link is met
     };
 
-    Files& files_;
+    Identify identify_;
     std::vector<Open> way_;
 };

@@ -38,6 +38,9 @@ class Files {
     /// The same with a text, written in UTF-8. Raises 5 for text that can't be encoded.
     void replaceText(const std::wstring& path, std::wstring_view text);
 
+    // The next two may be called by several threads at once, and by threads that outlive their
+    // caller: the object stands until the program ends.
+
     /// Visits every entry of a directory but "." and "..", in no order. Raises 70 or 76.
     virtual void visit(const std::wstring& directory,
                        const std::function<void(const DirectoryEntry&)>& visitor) = 0;

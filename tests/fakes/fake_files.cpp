@@ -74,7 +74,10 @@ DirectoryEntry FakeFiles::entry(const std::wstring& path, const std::wstring& na
 void FakeFiles::visit(const std::wstring& directory,
                       const std::function<void(const DirectoryEntry&)>& visitor) {
     const std::wstring where = resolved(directory);
-    ++visits[withoutTrailingBackslash(directory)];
+    {
+        const std::scoped_lock lock(counting);
+        ++visits[withoutTrailingBackslash(directory)];
+    }
     if (unreadable.contains(where)) throw errors::permissionDenied(directory);
     if (!exists(where)) throw errors::pathNotFound(directory);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <mutex>
 #include <set>
 
 #include "platform/files.h"
@@ -15,6 +16,7 @@ struct FakeFiles : Files {
     std::vector<wchar_t> presentDrives = {L'c'};
     std::map<wchar_t, std::wstring> currentDirectories;
     std::map<std::wstring, int> visits;  ///< how often each directory was read
+    std::mutex counting;                 ///< of the visits, by several threads
 
     /// An empty document, and its directories.
     void add(const std::wstring& path) { texts[path]; }

@@ -1,0 +1,69 @@
+// The search of a file server that takes its time, read ahead and one directory after the other.
+
+#include <windows.h>
+
+#include <algorithm>
+
+#include "platform/win32/files/pool_workers.h"
+#include "platform/win32/files/win_files.h"
+#include "rows.h"
+#include "sample_tree.h"
+#include "selection/document_search.h"
+#include "selection/found_documents.h"
+
+namespace {
+
+/// Each directory answers after three milliseconds.
+struct SlowFiles : WinFiles {
+    void visit(const std::wstring& directory,
+               const std::function<void(const DirectoryEntry&)>& visitor) override {
+        Sleep(3);
+        WinFiles::visit(directory, visitor);
+    }
+};
+
+/// Waits without a window.
+class WaitingPatience : public SearchPatience {
+ public:
+    WaitingPatience() = default;
+    ~WaitingPatience() override { CloseHandle(woken_); }
+    WaitingPatience(const WaitingPatience&) = delete;
+    WaitingPatience& operator=(const WaitingPatience&) = delete;
+
+    bool serve() override { return true; }
+    bool wait() override { return WaitForSingleObject(woken_, INFINITE) == WAIT_OBJECT_0; }
+    void wake() override { SetEvent(woken_); }
+
+ private:
+    HANDLE woken_ = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+};
+
+}  // namespace
+
+Row searchOfSlowServer(const Setting& setting) {
+    const int documents = std::min(800, setting.sizes.back());
+    const std::wstring tree = documentTree(setting.directory, documents).wstring();
+    SlowFiles files;
+    WaitingPatience patience;
+    const auto search = [&](Workers& workers) {
+        FoundDocuments found;
+        found.restart(true);
+        DocumentSearch({files, workers, patience}, found,
+                       DocumentKinds(L"*.SLDPRT ; *.SLDASM ; *.SLDDRW"), [](int) {})
+            .run(tree, true);
+        require(found.count() == documents, "all documents found");
+    };
+    NoWorkers alone;
+    PoolWorkers pool;
+    const Rounds few{
+        .least = std::min(3, setting.rounds.least), .most = 3, .enoughMilliseconds = 0};
+    const Comparison compared = compare(few, {[&] { search(alone); }}, {[&] { search(pool); }});
+    return {.work = std::to_string(documents * 5 / 2) +
+                    " directories that answer after 3 ms, read ahead",
+            .floor = "one after the other",
+            .ratios = {{0, compared.ratio}},
+            .goal = "<= 0.20",
+            .judged = compared.ratio,
+            .limit = 0.20,
+            .note = "floor " + milliseconds(compared.floorMilliseconds)};
+}

@@ -1,0 +1,167 @@
+#include "pickers/read_ahead.h"
+
+#include <mutex>
+#include <optional>
+#include <utility>
+
+#include "pickers/reading_plan.h"
+#include "platform/search_patience.h"
+#include "platform/workers.h"
+
+namespace {
+
+/// As many as keep a server busy that answers each after some milliseconds.
+constexpr int kMostReaders = 8;
+
+using Lock = std::unique_lock<std::mutex>;
+
+/// Does something that may raise; gives what it raised.
+template <class Action>
+std::optional<RuntimeError> errorOf(const Action& action) noexcept {
+    try {
+        action();
+        return std::nullopt;
+    } catch (const RuntimeError& error) {
+        return error;
+    } catch (...) {
+        return errors::outOfMemory();
+    }
+}
+
+}  // namespace
+
+/// What the main thread and the workers share. All but its beginning is used under the lock alone.
+struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
+    Files& files;
+    FileFilter wanted;
+
+    std::mutex mutex;
+    ReadingPlan plan;
+    // These two are gone once the walk has ended.
+    Workers* workers;
+    SearchPatience* patience;
+    TreeDirectory* awaited = nullptr;          ///< by the main thread
+    int readers = 0;                           ///< workers that read, or will
+    std::optional<RuntimeError> failure = {};  ///< of the reading as a whole
+    bool ended = false;
+
+    Desk(Files& theFiles, FileFilter theWanted, ReadingPlan thePlan, Workers* theWorkers,
+         SearchPatience* thePatience)
+        : files(theFiles),
+          wanted(std::move(theWanted)),
+          plan(std::move(thePlan)),
+          workers(theWorkers),
+          patience(thePatience) {}
+
+    /// Lets one more worker read if there is something to be read. Each calls the next one.
+    void callReader() {
+        if (ended || readers == kMostReaders || !plan.hasNext(awaited)) return;
+        if (workers->start([desk = shared_from_this()] { desk->work(); })) ++readers;
+    }
+
+    /// A worker's job, without the lock: reads until there is nothing more to be read.
+    void work() noexcept {
+        Lock lock(mutex);
+        const auto error = errorOf([&] {
+            while (readNext(lock)) {
+            }
+        });
+        --readers;
+        if (ended || !error) return;
+        failure = error;
+        patience->wake();
+    }
+
+    /// Reads one directory, unlocked meanwhile. False when there was none to be read.
+    bool readNext(Lock& lock) {
+        TreeDirectory* directory = ended ? nullptr : plan.next(awaited);
+        if (!directory) return false;
+        callReader();
+        lock.unlock();
+        directory->error =
+            errorOf([&] { directory->contents = listContents(files, directory->path, wanted); });
+        lock.lock();
+        if (ended) return false;
+        plan.finish(*directory);
+        if (directory == awaited) patience->wake();
+        return true;
+    }
+};
+
+ReadAhead::ReadAhead(Files& files, FileFilter wanted, Workers& workers, SearchPatience& patience,
+                     const std::wstring& root, bool withSubdirectories)
+    : desk_(std::make_shared<Desk>(files, std::move(wanted), ReadingPlan(root, withSubdirectories),
+                                   &workers, &patience)),
+      patience_(patience) {}
+
+ReadAhead::~ReadAhead() {
+    const Lock lock(desk_->mutex);
+    desk_->ended = true;
+}
+
+TreeDirectory& ReadAhead::root() { return desk_->plan.root(); }
+
+TreeDirectory& ReadAhead::subdirectory(TreeDirectory& directory, std::size_t index) {
+    const Lock lock(desk_->mutex);
+    return desk_->plan.subdirectory(directory, index);
+}
+
+void ReadAhead::leave(TreeDirectory& directory) {
+    const Lock lock(desk_->mutex);
+    desk_->plan.leave(directory);
+}
+
+void ReadAhead::meet(TreeDirectory& directory) {
+    serveNowAndThen();
+    Lock lock(desk_->mutex);
+    desk_->awaited = &directory;
+    while (directory.state != TreeDirectory::State::Read) {
+        desk_->callReader();
+        if (desk_->failure) throw *desk_->failure;
+        if (desk_->readers == 0) {
+            desk_->readNext(lock);
+        } else {
+            wait(lock);
+        }
+    }
+    desk_->awaited = nullptr;
+    desk_->plan.meet(directory);
+    desk_->callReader();
+    if (directory.error) throw *directory.error;
+}
+
+DirectoryId ReadAhead::identify(const std::wstring& directory) {
+    struct Answer {
+        bool given = false;
+        DirectoryId id = {};
+        std::optional<RuntimeError> error = {};
+    };
+    const auto answer = std::make_shared<Answer>();
+    const auto ask = [desk = desk_, answer, directory] {
+        Answer found{.given = true};
+        found.error = errorOf([&] { found.id = desk->files.identify(directory); });
+        const Lock lock(desk->mutex);
+        *answer = std::move(found);
+        if (!desk->ended) desk->patience->wake();
+    };
+    Lock lock(desk_->mutex);
+    if (!desk_->workers->start(ask)) return desk_->files.identify(directory);
+    while (!answer->given) wait(lock);
+    if (answer->error) throw *answer->error;
+    return answer->id;
+}
+
+void ReadAhead::wait(Lock& lock) {
+    lock.unlock();
+    const bool goesOn = patience_.wait();
+    served_ = Clock::now();
+    lock.lock();
+    if (!goesOn) throw Interrupted{};
+}
+
+void ReadAhead::serveNowAndThen() {
+    constexpr std::chrono::milliseconds kInterval(20);
+    if (Clock::now() - served_ < kInterval) return;
+    if (!patience_.serve()) throw Interrupted{};
+    served_ = Clock::now();
+}

@@ -1,0 +1,77 @@
+#include "pickers/tree_walk.h"
+
+#include <vector>
+
+#include "pickers/open_directories.h"
+#include "pickers/read_ahead.h"
+#include "pickers/reading_plan.h"
+
+namespace {
+
+class Walk {
+ public:
+    Walk(ReadAhead& ahead, const DirectoryVisitor& visit) : ahead_(ahead), visit_(visit) {}
+
+    void visit(TreeDirectory& directory) {
+        ahead_.meet(directory);
+        visit_(directory.path, directory.contents.files);
+        directory.contents.files = {};
+    }
+
+    void run() {
+        enter(ahead_.root());
+        while (!way_.empty()) {
+            Step& step = way_.back();
+            if (step.next == step.directory.contents.subdirectories.size()) {
+                leave();
+            } else {
+                goDown(step.directory, step.next++);
+            }
+        }
+    }
+
+ private:
+    /// A directory on the way down, and which of its sub-directories comes next.
+    struct Step {
+        TreeDirectory& directory;
+        std::size_t next;
+    };
+
+    void enter(TreeDirectory& directory) {
+        visit(directory);
+        open_.enter(directory.path);
+        way_.push_back({directory, 0});
+    }
+
+    void goDown(TreeDirectory& directory, std::size_t index) {
+        const Subdirectory& below = directory.contents.subdirectories[index];
+        if (below.isLink && open_.leadsBack(childPath(directory.path, below.name))) return;
+        enter(ahead_.subdirectory(directory, index));
+    }
+
+    void leave() {
+        open_.leave();
+        ahead_.leave(way_.back().directory);
+        way_.pop_back();
+    }
+
+    ReadAhead& ahead_;
+    const DirectoryVisitor& visit_;
+    OpenDirectories open_{[this](const std::wstring& path) { return ahead_.identify(path); }};
+    std::vector<Step> way_;
+};
+
+}  // namespace
+
+WalkEnd walkTree(const SearchServices& services, const std::wstring& directory,
+                 bool withSubdirectories, const FileFilter& wanted, const DirectoryVisitor& visit) {
+    try {
+        ReadAhead ahead(services.files, wanted, services.workers, services.patience, directory,
+                        withSubdirectories);
+        Walk walk(ahead, visit);
+        withSubdirectories ? walk.run() : walk.visit(ahead.root());
+        return WalkEnd::Complete;
+    } catch (const ReadAhead::Interrupted&) {
+        return WalkEnd::Interrupted;
+    }
+}

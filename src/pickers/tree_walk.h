@@ -1,0 +1,32 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "pickers/directory_listing.h"
+
+class Files;
+class SearchPatience;
+class Workers;
+
+/// By whom a search reads, and who may end it.
+struct SearchServices {
+    Files& files;
+    Workers& workers;
+    SearchPatience& patience;
+};
+
+enum class WalkEnd { Complete, Interrupted };
+
+/// Walks a directory or the tree below it: each directory before its sub-directories, these in
+/// ascending name order. A link to a directory that is already open on the way down is passed over.
+///
+/// `visit` is given each directory's path and the names in it that `wanted` accepts, in order.
+/// `wanted` is called by other threads, even past the end of the walk: it owns all that it looks
+/// at. Raises 70 or 76 where a directory can't be read, and what `visit` and the patience raise.
+/// Interrupted: the patience ended.
+using DirectoryVisitor =
+    std::function<void(const std::wstring& directory, const std::vector<std::wstring>& names)>;
+[[nodiscard]] WalkEnd walkTree(const SearchServices& services, const std::wstring& directory,
+                               bool withSubdirectories, const FileFilter& wanted,
+                               const DirectoryVisitor& visit);
