@@ -37,7 +37,6 @@ class SelectionFixture : public testing::Test {
     void tick(bool ticked);
     /// Highlights these lines of the list and no others.
     void highlight(const std::vector<int>& lines);
-    void filter(const std::wstring& text) { control(IDC_FORM1_N_FILTRE).content = text; }
 
     // What a user sees.
     FakeWindow& window() { return machine.window(IDD_FORM1); }
