@@ -12,6 +12,7 @@
 #include "demo/steps.h"
 #include "driver/settings.h"
 #include "driver/text.h"
+#include "driver/winapi.h"
 
 namespace driver::demo {
 namespace {
@@ -35,11 +36,9 @@ void PlayScript(const std::filesystem::path& directory) {
 }
 
 void PutAtRightEdge(HWND window) {
-    RECT place;
-    GetWindowRect(window, &place);
+    const RECT place = PlaceOf(window);
     const int left = GetSystemMetrics(SM_CXSCREEN) - (place.right - place.left);
-    SetWindowPos(window, nullptr, std::max(left, 0), 0, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    MoveTo(window, std::max(left, 0), 0);
 }
 
 void OpenForAPerson(const std::filesystem::path& directory) {

@@ -13,8 +13,7 @@ namespace {
 
 /// What `import -crop` takes for the place of a window on the screen.
 std::string Area(HWND window) {
-    RECT place;
-    GetWindowRect(window, &place);
+    const RECT place = PlaceOf(window);
     return std::to_string(place.right - place.left) + "x" +
            std::to_string(place.bottom - place.top) + "+" + std::to_string(place.left) + "+" +
            std::to_string(place.top);

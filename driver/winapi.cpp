@@ -78,6 +78,16 @@ void Post(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
         throw std::runtime_error("message " + std::to_string(message) + " could not be posted");
 }
 
+RECT PlaceOf(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    return place;
+}
+
+void MoveTo(HWND window, int left, int top) {
+    SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 std::vector<std::string> ListLines(HWND list) {
     std::vector<std::string> lines;
     const LRESULT count = Send(list, LB_GETCOUNT);

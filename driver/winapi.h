@@ -28,6 +28,12 @@ LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 /// Posts a message and does not wait: what it starts may open a modal box.
 void Post(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
+/// Where a window stands on the screen.
+RECT PlaceOf(HWND window);
+
+/// Moves a window's top left corner.
+void MoveTo(HWND window, int left, int top);
+
 /// The lines of a list box of another process.
 std::vector<std::string> ListLines(HWND list);
 

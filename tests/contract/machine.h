@@ -25,8 +25,6 @@ class Machine {
     /// Gives a file or directory the hidden attribute and, if wanted, the system one.
     virtual void hide(const std::wstring& path, bool asSystem = false) = 0;
 
-    virtual bool isVisible(int controlId) = 0;
-    virtual bool isEnabled(int controlId) = 0;
     /// How many events the window has raised.
     virtual int eventsRaised() = 0;
 };

@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "driver/wait.h"
+#include "driver/text.h"
 #include "resume/existing_list_ids.h"
 
 namespace driver {
@@ -18,9 +18,28 @@ void Scenario::TearDown() {
     for (const std::string& call : cad.Calls()) std::cout << call << "\n";
 }
 
+void Scenario::WriteListOf(const std::vector<std::string>& names) {
+    for (const std::string& name : names) paths.push_back(sandbox.AddDocument(name));
+    sandbox.WriteList(ListOf(std::vector<std::string>(paths.size(), "0")));
+}
+
+std::string Scenario::ListOf(const std::vector<std::string>& codes) const {
+    std::string bytes;
+    for (size_t i = 0; i < codes.size(); ++i) bytes += ListLine(codes[i], paths[i]);
+    return bytes;
+}
+
 void Scenario::StartAndResume() {
     app.Start();
     app.Click(IDC_FORM2_CMDOK);
+}
+
+void Scenario::StartInDocuments(std::vector<std::string> cadOptions) {
+    cadOptions.insert(cadOptions.end(),
+                      {"--working-directory", Utf8(sandbox.Documents().wstring())});
+    cad.Start(cadOptions);
+    app.Start();
+    app.Window(kSelection);
 }
 
 calls::Calls Scenario::NewCalls() const {
@@ -37,6 +56,14 @@ void Scenario::ExpectCalls(const calls::Calls& expected) {
 void Scenario::ExpectList(const std::string& bytes) const {
     EXPECT_EQ(Eventually<std::string>(bytes, [this] { return sandbox.ReadList().value_or(""); }),
               bytes);
+}
+
+void Scenario::ExpectLines(int list, const Lines& lines) const {
+    EXPECT_EQ(Eventually<Lines>(lines, [&] { return app.Lines(list); }), lines);
+}
+
+void Scenario::ExpectAlone(const char* caption) const {
+    EXPECT_EQ(Eventually<Lines>({caption}, [this] { return app.ShownWindows(); }), Lines{caption});
 }
 
 std::string Scenario::ExpectFatalError(int number) {

@@ -9,8 +9,21 @@
 #include "driver/sandbox.h"
 #include "driver/settings.h"
 #include "driver/trial_cad.h"
+#include "driver/wait.h"
 
 namespace driver {
+
+using Lines = std::vector<std::string>;
+
+constexpr const char* kSelection = "Mervale 2002 - Tarnwick";
+constexpr const char* kTracking = "Tarnwick - suivi du travail -";
+
+// What stands before the path of a line in the lists.
+const std::string kToDo = "              ";
+const std::string kChosen = " X   ";
+const std::string kDone = " Fait          ";
+const std::string kSeen = " Vu            ";
+const std::string kInProgress = " EnCours  ";
 
 /// What every scenario has at hand: a directory, fresh settings, the program and a trial CAD
 /// session (neither is started yet). A scenario that fails reports all that can be seen of them.
@@ -19,15 +32,24 @@ class Scenario : public testing::Test {
     Scenario();
     void TearDown() override;
 
+    /// Adds documents to the sandbox and writes a list file of them, all to do.
+    void WriteListOf(const std::vector<std::string>& names);
+    /// The list file of the documents in `paths`, with a code for each.
+    std::string ListOf(const std::vector<std::string>& codes) const;
+
     /// Starts the program on the list file there is and accepts it.
     void StartAndResume();
+    /// Starts the program where there is no list file, with the CAD session at work here.
+    void StartInDocuments(std::vector<std::string> cadOptions = {});
 
     /// Waits for the calls that the CAD session receives next, and compares them.
     void ExpectCalls(const calls::Calls& expected);
-
     /// Waits until the list file holds these bytes.
     void ExpectList(const std::string& bytes) const;
-
+    /// Waits until a list box shows these lines.
+    void ExpectLines(int list, const Lines& lines) const;
+    /// Waits until this is the only window shown.
+    void ExpectAlone(const char* caption) const;
     /// Expects the box of a fatal error and the end of the program; gives the box's text.
     std::string ExpectFatalError(int number);
 
@@ -35,6 +57,7 @@ class Scenario : public testing::Test {
     Settings settings;
     TrialCad cad;
     AppDriver app;
+    std::vector<std::string> paths;  ///< of the documents that WriteListOf added
 
  private:
     calls::Calls NewCalls() const;

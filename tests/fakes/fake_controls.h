@@ -11,13 +11,12 @@ struct FakeControlOf : Interface {
     std::wstring content;
     bool enabled = true;
     bool visible = true;
-    int repaints = 0;
 
     std::wstring text() const override { return content; }
     void setText(const std::wstring& text) override { content = text; }
     void setEnabled(bool value) override { enabled = value; }
     void setVisible(bool value) override { visible = value; }
-    void repaint() override { ++repaints; }
+    void repaint() override {}
 };
 
 using FakeControl = FakeControlOf<Control>;
@@ -39,16 +38,16 @@ struct FakeListBox : FakeControlOf<ListBox> {
     bool severalSelectable = true;
     int drawingStops = 0;
 
-    int count() const override;
-    std::wstring line(int index) const override;
-    bool selected(int index) const override;
+    int count() const override { return static_cast<int>(lines.size()); }
+    std::wstring line(int index) const override { return at(index).text; }
+    bool selected(int index) const override { return at(index).selected; }
     void select(int index, bool selected) override;
     void clearSelection() override;
-    int mark(int index) const override;
-    void setMark(int index, int mark) override;
+    int mark(int index) const override { return at(index).mark; }
+    void setMark(int index, int mark) override { change(index).mark = mark; }
     void setLines(int count, const std::function<std::wstring(int)>& line) override;
-    void replaceLine(int index, const std::wstring& line) override;
-    void changeText(int index, const std::wstring& line) override;
+    void replaceLine(int index, const std::wstring& line) override { change(index) = {line}; }
+    void changeText(int index, const std::wstring& line) override { change(index).text = line; }
     void stopDrawing() override { ++drawingStops; }
     void resumeDrawing() override { --drawingStops; }
 
@@ -59,22 +58,32 @@ struct FakeListBox : FakeControlOf<ListBox> {
 
  private:
     bool has(int index) const { return index >= 0 && index < count(); }
+    /// A line; for one that is not there, what a list answers then.
+    Line at(int index) const;
+    Line& change(int index);
+
+    Line nowhere_;
 };
 
 struct FakeComboBox : FakeControlOf<ComboBox> {
     std::vector<std::wstring> lines;
     int chosen = -1;
 
-    void setLines(std::span<const std::wstring> texts) override;
+    void setLines(std::span<const std::wstring> texts) override {
+        lines.assign(texts.begin(), texts.end());
+        selectLine(-1);
+    }
     int selectedLine() const override { return chosen; }
-    void selectLine(int index) override;
+    void selectLine(int index) override {
+        chosen = index;
+        content = index < 0 ? std::wstring() : lines.at(static_cast<std::size_t>(index));
+    }
 };
 
 struct FakeTabStrip : FakeControlOf<TabStrip> {
-    std::vector<std::wstring> tabs;
     int tab = 0;
 
-    void addTab(const std::wstring& text) override { tabs.push_back(text); }
+    void addTab(const std::wstring&) override {}
     int selectedTab() const override { return tab; }
     void selectTab(int index) override { tab = index; }
 };

@@ -22,11 +22,11 @@ struct FakeWindow : Window {
     int progressDone = 0;
     int progressTotal = 0;
 
-    FakeControl& control(int id) override { return find<FakeControl>(id, controls); }
-    FakeCheckBox& checkBox(int id) override { return find<FakeCheckBox>(id, checkBoxes); }
-    FakeListBox& listBox(int id) override { return find<FakeListBox>(id, listBoxes); }
-    FakeComboBox& comboBox(int id) override { return find<FakeComboBox>(id, comboBoxes); }
-    FakeTabStrip& tabStrip(int id) override { return find<FakeTabStrip>(id, tabStrips); }
+    FakeControl& control(int id) override { return controls_[id]; }
+    FakeCheckBox& checkBox(int id) override { return checkBoxes_[id]; }
+    FakeListBox& listBox(int id) override { return listBoxes_[id]; }
+    FakeComboBox& comboBox(int id) override { return comboBoxes_[id]; }
+    FakeTabStrip& tabStrip(int id) override { return tabStrips_[id]; }
 
     int top() const override { return topTwips; }
     int left() const override { return leftTwips; }
@@ -51,20 +51,11 @@ struct FakeWindow : Window {
     void close() { sink.raise(kTheWindow, Event::Close); }
 
  private:
-    template <class Kind>
-    using Table = std::map<int, std::unique_ptr<Kind>>;
-    template <class Kind>
-    static Kind& find(int id, Table<Kind>& table) {
-        auto& entry = table[id];
-        if (!entry) entry = std::make_unique<Kind>();
-        return *entry;
-    }
-
-    Table<FakeControl> controls;
-    Table<FakeCheckBox> checkBoxes;
-    Table<FakeListBox> listBoxes;
-    Table<FakeComboBox> comboBoxes;
-    Table<FakeTabStrip> tabStrips;
+    std::map<int, FakeControl> controls_;
+    std::map<int, FakeCheckBox> checkBoxes_;
+    std::map<int, FakeListBox> listBoxes_;
+    std::map<int, FakeComboBox> comboBoxes_;
+    std::map<int, FakeTabStrip> tabStrips_;
 };
 
 /// Remembers the windows it made, the last one of each dialog. They stay valid while their form

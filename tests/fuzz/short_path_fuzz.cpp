@@ -32,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const long backslashes = path.empty() ? 0 : std::count(path.begin(), path.end() - 1, L'\\');
 
     std::wstring shown;
-    const int error = errorOf([&] { shown = shortPath(depth, path); });
+    const int error = raised([&] { shown = shortPath(depth, path); });
     require(error == (backslashes > 16 ? 9 : 0));
     if (error != 0) return 0;
     require(shown.empty() == (depth == 0 || backslashes < 2));

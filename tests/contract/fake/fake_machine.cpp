@@ -8,7 +8,7 @@ class FakeMachine : public Machine, private EventSink {
  public:
     FakeMachine() {
         window_->show();
-        fakeWindow().listBox(IDC_CONTRACT_ONE).severalSelectable = false;
+        fakes_.window(IDD_CONTRACT).listBox(IDC_CONTRACT_ONE).severalSelectable = false;
         fakes_.files.directories.insert(directory());
     }
 
@@ -20,32 +20,10 @@ class FakeMachine : public Machine, private EventSink {
     void hide(const std::wstring& path, bool asSystem) override {
         fakes_.files.attributes[path] = attribute::kHidden | (asSystem ? attribute::kSystem : 0);
     }
-    bool isVisible(int controlId) override {
-        return look(controlId, [](const auto& control) { return control.visible; });
-    }
-    bool isEnabled(int controlId) override {
-        return look(controlId, [](const auto& control) { return control.enabled; });
-    }
     int eventsRaised() override { return events_; }
 
  private:
     void raise(int, Event) override { ++events_; }
-    FakeWindow& fakeWindow() { return fakes_.window(IDD_CONTRACT); }
-
-    template <class Look>
-    bool look(int controlId, const Look& at) {
-        switch (controlId) {
-            case IDC_CONTRACT_CHECK:
-                return at(fakeWindow().checkBox(controlId));
-            case IDC_CONTRACT_SEVERAL:
-            case IDC_CONTRACT_ONE:
-                return at(fakeWindow().listBox(controlId));
-            case IDC_CONTRACT_TYPED:
-                return at(fakeWindow().comboBox(controlId));
-            default:
-                return at(fakeWindow().control(controlId));
-        }
-    }
 
     FakePlatform fakes_;
     std::unique_ptr<Window> window_ =

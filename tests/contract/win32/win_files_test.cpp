@@ -37,8 +37,8 @@ class WinFilesTest : public testing::Test {
     }
 
     /// Replacing the list file fails so, and nothing changes.
-    void expectRefused(int number, std::wstring_view text = L"nouveau") {
-        EXPECT_EQ(raised([&] { files.replaceText(path(L"tarnwick.lst"), text); }), number);
+    void expectRefused(int number, const WriteContent& write) {
+        EXPECT_EQ(raised([&] { files.replace(path(L"tarnwick.lst"), write); }), number);
         EXPECT_EQ(readBytes(path(L"tarnwick.lst")), "ancien");
         EXPECT_EQ(namesIn(files, directory), Names{L"tarnwick.lst"});
     }
@@ -55,27 +55,19 @@ TEST_F(WinFilesTest, ReadsOlderFilesInTheCodePageOfTheSystem) {
     EXPECT_EQ(files.readText(path(L"tarnwick.lst")), L"é\r\né €");
 }
 
-TEST_F(WinFilesTest, RefusesTextThatCannotBeEncoded) {
-    writeBytes(path(L"tarnwick.lst"), "ancien");
-    const wchar_t half[] = {L'a', 0xD800, L'b', 0};
-    expectRefused(5, half);
-}
-
-TEST_F(WinFilesTest, LeavesAReadOnlyFileAsItIs) {
-    writeBytes(path(L"tarnwick.lst"), "ancien");
-    SetFileAttributesW(path(L"tarnwick.lst").c_str(), FILE_ATTRIBUTE_READONLY);
-    expectRefused(75);
-}
-
-TEST_F(WinFilesTest, LeavesAFileHeldByAnotherProgramAsItIs) {
-    writeBytes(path(L"tarnwick.lst"), "ancien");
-    {
-        const UniqueHandle held(
-            open(path(L"tarnwick.lst"), GENERIC_READ, OPEN_EXISTING, FILE_SHARE_READ));
-        EXPECT_EQ(raised([&] { files.replaceText(path(L"tarnwick.lst"), L"nouveau"); }), 70);
-    }
-    EXPECT_EQ(readBytes(path(L"tarnwick.lst")), "ancien");
-    EXPECT_EQ(namesIn(files, directory), Names{L"tarnwick.lst"});
+TEST_F(WinFilesTest, LeavesAListThatCannotBeReplacedAsItIs) {
+    const std::wstring list = path(L"tarnwick.lst");
+    const auto write = [](const ByteSink& file) { file("nouveau"); };
+    writeBytes(list, "ancien");
+    expectRefused(5, [](const ByteSink& file) {
+        file("nouv");
+        throw errors::unwritableText();
+    });
+    SetFileAttributesW(list.c_str(), FILE_ATTRIBUTE_READONLY);
+    expectRefused(75, write);
+    SetFileAttributesW(list.c_str(), FILE_ATTRIBUTE_NORMAL);
+    const UniqueHandle held(open(list, GENERIC_READ, OPEN_EXISTING, FILE_SHARE_READ));
+    expectRefused(70, write);
 }
 
 TEST_F(WinFilesTest, TellsWhatIsWrongWithAPath) {

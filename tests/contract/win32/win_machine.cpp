@@ -32,15 +32,10 @@ class WinMachine : public Machine, private EventSink {
         SetFileAttributesW(longPath(path).c_str(),
                            FILE_ATTRIBUTE_HIDDEN | (asSystem ? FILE_ATTRIBUTE_SYSTEM : 0));
     }
-    bool isVisible(int controlId) override { return IsWindowVisible(handle(controlId)); }
-    bool isEnabled(int controlId) override { return IsWindowEnabled(handle(controlId)); }
     int eventsRaised() override { return events_; }
 
  private:
     void raise(int, Event) override { ++events_; }
-    static HWND handle(int controlId) {
-        return GetDlgItem(FindWindowW(L"#32770", L"Contract"), controlId);
-    }
 
     /// The class of tab strips is registered before a window has one.
     struct TabClass {

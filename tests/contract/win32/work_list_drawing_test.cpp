@@ -18,8 +18,6 @@ namespace {
 
 constexpr int kLines = 200;
 
-HWND listHandle() { return GetDlgItem(FindWindowW(L"#32770", L"Contract"), IDC_CONTRACT_SEVERAL); }
-
 /// What a user sees of a list box, and can tell by the keyboard.
 struct Look {
     std::vector<std::wstring> lines;
@@ -27,16 +25,6 @@ struct Look {
     LRESULT top;
     bool operator==(const Look&) const = default;
 };
-
-Look lookOf(const ListBox& list) {
-    Look look{
-        .lines = {}, .selection = {}, .top = SendMessageW(listHandle(), LB_GETTOPINDEX, 0, 0)};
-    for (int i = 0; i < list.count(); ++i) {
-        look.lines.push_back(list.line(i));
-        if (list.selected(i)) look.selection.push_back(i);
-    }
-    return look;
-}
 
 class WorkListDrawing : public testing::Test {
  protected:
@@ -49,28 +37,31 @@ class WorkListDrawing : public testing::Test {
         work.last = kLines - 1;
         view.rebuild(work, 0, false);
         for (const int line : {10, 100, 190}) list.select(line, true);
-        SendMessageW(listHandle(), LB_SETTOPINDEX, static_cast<WPARAM>(topLine), 0);
+        SendMessageW(handle, LB_SETTOPINDEX, static_cast<WPARAM>(topLine), 0);
         work.lines[100].code = state::kInProgress;
         work.lines[101].code = state::kDone;
     }
 
     /// Every line removed and inserted again, as the rule for a redraw in place has it.
-    Look replacingEachLine(int depth) {
+    void replaceEachLine(int depth) {
         const DrawingPause pause(list);
         for (int i = 0; i < kLines; ++i) {
             const WorkLine& line = work.lines[i];
-            const auto label = labelOf(line.code);
-            list.replaceLine(i, displayLine(i, *label, wideText(line.path), depth));
+            list.replaceLine(i, displayLine(i, *labelOf(line.code), wideText(line.path), depth));
         }
-        return lookOf(list);
     }
 
-    Look updating(int depth) {
-        view.update(work, depth);
-        return lookOf(list);
+    Look look() const {
+        Look look{{}, {}, SendMessageW(handle, LB_GETTOPINDEX, 0, 0)};
+        for (int i = 0; i < list.count(); ++i) {
+            look.lines.push_back(list.line(i));
+            if (list.selected(i)) look.selection.push_back(i);
+        }
+        return look;
     }
 
     std::unique_ptr<Machine> machine = makeMachine();
+    HWND handle = GetDlgItem(FindWindowW(L"#32770", L"Contract"), IDC_CONTRACT_SEVERAL);
     ListBox& list = machine->window().listBox(IDC_CONTRACT_SEVERAL);
     WorkListView view{list};
     WorkList work;
@@ -82,12 +73,17 @@ TEST_F(WorkListDrawing, LooksAsIfEachLineHadBeenReplaced) {
     for (const int depth : {0, 2}) {
         for (const int top : {0, 1, 50, 95, 101, kLines - 30, kLines - 1}) {
             prepare(top);
-            const Look wanted = replacingEachLine(depth);
+            replaceEachLine(depth);
+            const Look wanted = look();
             prepare(top);
-            const Look seen = updating(depth);
-            EXPECT_EQ(seen.top, wanted.top) << "from line " << top;
-            EXPECT_EQ(seen.selection, wanted.selection) << "from line " << top;
-            EXPECT_TRUE(seen.lines == wanted.lines) << "from line " << top;
+            view.update(work, depth);
+            EXPECT_TRUE(look() == wanted) << "from line " << top << " at depth " << depth;
         }
     }
+}
+
+TEST_F(WorkListDrawing, PausedLeavesAHiddenListHidden) {
+    list.setVisible(false);
+    { const DrawingPause pause(list); }
+    EXPECT_FALSE(IsWindowVisible(handle));
 }

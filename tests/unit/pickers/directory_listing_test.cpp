@@ -4,10 +4,7 @@
 
 TEST(DirectoryListing, KnowsThePathsOfDirectories) {
     const struct {
-        const wchar_t* given;
-        const wchar_t* reported;
-        const wchar_t* parent;
-        const wchar_t* child;
+        const wchar_t *given, *reported, *parent, *child;
         bool isRoot;
     } cases[] = {
         {L"c:\\", L"c:\\", L"c:\\", L"c:\\x", true},

@@ -3,32 +3,26 @@
 #include <gtest/gtest.h>
 
 TEST(DirectoryEntry, LeavesOutHiddenFilesAndWhatTheExplorerKeepsToItself) {
-    const struct {
-        std::uint32_t attributes;
-        bool isLeftOut;
-    } cases[] = {
-        {0, false},
-        {attribute::kSystem, false},
-        {attribute::kHidden, true},
-        {attribute::kHidden | attribute::kSystem, true},
-        {attribute::kDirectory, false},
-        {attribute::kDirectory | attribute::kSystem, false},
-        {attribute::kDirectory | attribute::kHidden, false},
-        {attribute::kDirectory | attribute::kHidden | attribute::kSystem, true},
-    };
-    for (const auto& c : cases) {
-        const DirectoryEntry entry = directoryEntry(L"nom", c.attributes, 0);
-        EXPECT_EQ(entry.isLeftOut, c.isLeftOut) << c.attributes;
-        EXPECT_EQ(entry.isDirectory, (c.attributes & attribute::kDirectory) != 0) << c.attributes;
+    using namespace attribute;
+    const std::pair<std::uint32_t, bool> cases[] = {{0, false},
+                                                    {kSystem, false},
+                                                    {kHidden, true},
+                                                    {kHidden | kSystem, true},
+                                                    {kDirectory, false},
+                                                    {kDirectory | kSystem, false},
+                                                    {kDirectory | kHidden, false},
+                                                    {kDirectory | kHidden | kSystem, true}};
+    for (const auto& [attributes, leftOut] : cases) {
+        const DirectoryEntry entry = directoryEntry(L"nom", attributes, 0);
+        EXPECT_EQ(entry.isLeftOut, leftOut) << attributes;
+        EXPECT_EQ(entry.isDirectory, (attributes & kDirectory) != 0) << attributes;
     }
 }
 
 // Tags as Windows gives them to directories.
 TEST(DirectoryEntry, IsALinkWhenItsTagStandsForAnotherName) {
-    const struct {
-        std::uint32_t tag;
-        bool isLink;
-    } cases[] = {
+    using namespace attribute;
+    const std::pair<std::uint32_t, bool> cases[] = {
         {kMountPointTag, true},  // junction, mounted folder
         {0xA000000C, true},      // symbolic link
         {0x9000001A, false},     // in a cloud
@@ -37,10 +31,9 @@ TEST(DirectoryEntry, IsALinkWhenItsTagStandsForAnotherName) {
         {0x8000000A, false},     // of a distributed file system
         {0x80000017, false},     // compressed
     };
-    for (const auto& c : cases) {
-        constexpr auto kReparse = attribute::kDirectory | attribute::kReparsePoint;
-        EXPECT_EQ(directoryEntry(L"nom", kReparse, c.tag).isLink, c.isLink) << c.tag;
-        // Without the attribute the tag says nothing.
-        EXPECT_FALSE(directoryEntry(L"nom", attribute::kDirectory, c.tag).isLink) << c.tag;
+    for (const auto& [tag, link] : cases) {
+        EXPECT_EQ(directoryEntry(L"nom", kDirectory | kReparsePoint, tag).isLink, link) << tag;
+        EXPECT_FALSE(directoryEntry(L"nom", kDirectory, tag).isLink)
+            << tag << ": no such attribute";
     }
 }

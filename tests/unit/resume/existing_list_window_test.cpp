@@ -9,60 +9,39 @@
 
 namespace {
 
-constexpr wchar_t kListFile[] = L"c:\\tarnwick\\tarnwick.lst";
-using State = FakeWindow::State;
+using Texts = std::vector<std::wstring>;
 
 class ExistingListPrompt : public testing::Test {
  protected:
-    ExistingListPrompt() {
-        machine.leaveWindowAt(L"toppos2", L"leftpos2", 300, -600);
-        machine.files.texts[kListFile] = L"0  c:\\a\r\n";
-    }
-
-    void open() {
-        form = std::make_unique<ExistingListWindow>(machine.windows, machine.places, fileSystem,
-                                                    machine.programFiles, exits);
-        form->Form_Load();
-        window().show();
-    }
-
-    FakeWindow& window() { return machine.window(IDD_FORM2); }
+    ExistingListPrompt() { machine.files.texts[machine.programFiles.list] = L"0  c:\\a\r\n"; }
 
     FakePlatform machine;
     FakeExits exits;
     FileSystemObject fileSystem{machine.automation};
-    std::unique_ptr<ExistingListWindow> form;
+    ExistingListWindow form{machine.windows, machine.places, fileSystem, machine.programFiles,
+                            exits};
+    FakeWindow& window = machine.window(IDD_FORM2);
 };
 
 }  // namespace
 
 TEST_F(ExistingListPrompt, EveryAnswerSavesThePlaceClosesThePromptAndGoesOn) {
-    const struct {
-        int button;
-        const wchar_t* next;
-    } cases[] = {
-        {IDC_FORM2_CMDOK, L"resumePass"},
-        {IDC_FORM2_CMDANNULE, L"declineList"},
-        {IDC_FORM2_CMDEFFACER, L"declineList"},
+    exits.whenTaken = [&] {
+        EXPECT_EQ(machine.settings.entries.size(), 2U);
+        EXPECT_EQ(window.state, FakeWindow::State::Unloaded);
     };
-    for (const auto& c : cases) {
+    for (const int button : {IDC_FORM2_CMDOK, IDC_FORM2_CMDANNULE, IDC_FORM2_CMDEFFACER}) {
         machine.settings.entries.clear();
-        exits.taken.clear();
-        open();
-        exits.whenTaken = [&] {
-            EXPECT_EQ(machine.settings.entries.size(), 2U);
-            EXPECT_EQ(window().state, State::Unloaded);
-        };
-        window().click(c.button);
-        EXPECT_EQ(exits.taken, std::vector<std::wstring>{c.next});
+        window.show();
+        window.click(button);
     }
-    EXPECT_EQ(machine.automation.deletedFiles, std::vector<std::wstring>{kListFile});
+    EXPECT_EQ(exits.taken, (Texts{L"resumePass", L"declineList", L"declineList"}));
+    EXPECT_EQ(machine.automation.deletedFiles, Texts{machine.programFiles.list});
 }
 
 TEST_F(ExistingListPrompt, ClosingItEndsTheProgramAndSavesNothing) {
-    open();
-    EXPECT_THROW(window().close(), ProgramEnd);
-    EXPECT_THROW(window().click(kEscapeKey), ProgramEnd);
+    EXPECT_THROW(window.close(), ProgramEnd);
+    EXPECT_THROW(window.click(kEscapeKey), ProgramEnd);
     EXPECT_TRUE(machine.settings.entries.empty());
     EXPECT_TRUE(exits.taken.empty());
 }

@@ -3,19 +3,19 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "common/runtime_error.h"
+#include "unit/raised.h"
 
 namespace {
 
 using Texts = std::vector<std::wstring>;
 
-void fill(Configuration& configuration, const Texts& entries, int first) {
+void fill(Configuration& configuration, const Texts& entries, int first = 0) {
     for (const std::wstring& entry : entries) configuration[first++] = entry;
 }
 
-Texts entriesOf(const Configuration& configuration) {
+Texts entriesOf(const Configuration& configuration, int first = 0) {
     Texts entries;
-    for (int j = 0; j < firstEmpty(configuration, 0); ++j) entries.push_back(configuration[j]);
+    while (first < firstEmpty(configuration, first)) entries.push_back(configuration[first++]);
     return entries;
 }
 
@@ -23,9 +23,11 @@ Texts entriesOf(const Configuration& configuration) {
 Configurations withRows(const std::vector<Texts>& rows) {
     Configurations configs;
     configs.rows[0][0] = L"En Cours";
-    for (const Texts& row : rows) fill(configs.rows[++configs.last], row, 0);
+    for (const Texts& row : rows) fill(configs.rows[++configs.last], row);
     return configs;
 }
+
+}  // namespace
 
 TEST(ConfigurationEditing, AddsADirectoryOnceInEachSpelling) {
     Configuration edited;
@@ -33,66 +35,59 @@ TEST(ConfigurationEditing, AddsADirectoryOnceInEachSpelling) {
     EXPECT_FALSE(addDirectory(edited, 1, L"c:\\a"));
     EXPECT_TRUE(addDirectory(edited, 1, L"C:\\A"));
     EXPECT_EQ(edited[2], L"C:\\A");
-    EXPECT_THROW(addDirectory(edited, kMostDirectories, L"c:\\b"), RuntimeError);
+    EXPECT_EQ(raised([&] { addDirectory(edited, kMostDirectories, L"c:\\b"); }), 9);
 }
 
 TEST(ConfigurationEditing, RemovesTheSelectedAndWhatFollowsThem) {
-    const Texts all{L"c:\\P", L"C:\\p\\1", L"c:\\P2", L"d:\\", L"c:\\P\\3"};
-    struct Case {
+    const struct {
         std::set<int> selected;
         Removal removal;
         Texts left;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {{0, 3}, Removal::Selected, {L"C:\\p\\1", L"c:\\P2", L"c:\\P\\3"}},
         {{0}, Removal::WithFollowers, {L"d:\\", L"c:\\P\\3"}},
         {{1, 4}, Removal::WithFollowers, {L"c:\\P", L"c:\\P2", L"d:\\"}},
     };
-    for (const Case& one : cases) {
+    for (const auto& c : cases) {
         Configuration edited;
-        fill(edited, all, 1);
-        const int left = removeDirectories(
-            edited, 5, [&](int line) { return one.selected.contains(line); }, one.removal);
-        EXPECT_EQ(left, static_cast<int>(one.left.size()));
-        edited[0] = L"*";
-        Texts expected = one.left;
-        expected.insert(expected.begin(), L"*");
-        EXPECT_EQ(entriesOf(edited), expected);
+        fill(edited, {L"c:\\P", L"C:\\p\\1", L"c:\\P2", L"d:\\", L"c:\\P\\3"}, 1);
+        const auto selected = [&](int line) { return c.selected.contains(line); };
+        EXPECT_EQ(removeDirectories(edited, 5, selected, c.removal), std::ssize(c.left));
+        EXPECT_EQ(entriesOf(edited, 1), c.left);
     }
 }
 
 TEST(ConfigurationEditing, StoresUnderTheRightName) {
-    struct Case {
+    const struct {
         const wchar_t* before;  // the name when renaming began
         const wchar_t* typed;
         int row;
         const wchar_t* stored;
         int count;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {L"", L"Neuf ", 3, L"Neuf ", 3}, {L"", L"a", 1, L"a", 2},
         {L"", L"  ", 3, L"Defaut_3", 3}, {L"B", L"C", 2, L"C", 2},
         {L"B", L"", 2, L"Defaut_2", 2},  {L"", L"en cours", 0, L"en cours", 2},
         {L"En Cours", L"D", 0, L"D", 2},
     };
-    for (const Case& one : cases) {
+    for (const auto& c : cases) {
         Configurations configs = withRows({{L"A", L"c:\\1", L"c:\\2"}, {L"B", L"c:\\3", L"c:\\4"}});
-        configs.renamed = one.before;
-        fill(configs.edited, {L"d:\\"}, 1);
-        std::wstring name = one.typed;
+        configs.renamed = c.before;
+        configs.edited[1] = L"d:\\";
+        std::wstring name = c.typed;
         storeEdited(configs, name);
-        EXPECT_EQ(name, one.stored);
-        EXPECT_EQ(entriesOf(configs.rows[one.row]), (Texts{one.stored, L"d:\\"})) << one.typed;
-        EXPECT_EQ(configs.last, one.count) << one.typed;
+        EXPECT_EQ(name, c.stored);
+        EXPECT_EQ(entriesOf(configs.rows[c.row]), (Texts{c.stored, L"d:\\"})) << c.typed;
+        EXPECT_EQ(configs.last, c.count) << c.typed;
     }
 }
 
 TEST(ConfigurationEditing, HasNoRoomForA51st) {
     Configurations configs = withRows(std::vector<Texts>(50, {L"A"}));
     std::wstring name = L"B";
-    EXPECT_THROW(storeEdited(configs, name), RuntimeError);
+    EXPECT_EQ(raised([&] { storeEdited(configs, name); }), 9);
     configs.selected = 50;
-    EXPECT_THROW(destroySelected(configs), RuntimeError);
+    EXPECT_EQ(raised([&] { destroySelected(configs); }), 9);
 }
 
 TEST(ConfigurationEditing, DestroyingKeepsTheTailOfALongerRow) {
@@ -108,5 +103,3 @@ TEST(ConfigurationEditing, DestroyingKeepsTheTailOfALongerRow) {
     EXPECT_EQ(entriesOf(configs.rows[2]), (Texts{L"C", L"z", L"y"}));
     EXPECT_EQ(configs.rows[3][0], L"");
 }
-
-}  // namespace

@@ -4,45 +4,38 @@
 
 #include "unit/raised.h"
 
-namespace {
-
 TEST(ConfigurationFile, StoresEveryLineByTheRules) {
-    struct Case {
+    const struct {
         const wchar_t* text;
         int count;                   // configurations
         int row;                     // the row to look at
         const wchar_t* expected[4];  // its first entries
-    };
-    const Case cases[] = {
+    } cases[] = {
         {L"  c:\\avant\r\nConfiguration: A\r\n", 1, 0, {L"", L"c:\\avant", L"", L""}},
         {L"configuration: b\nc:\\c\n", 1, 1, {L"b", L"c:\\c", L"", L""}},
         {L"ABC CONFIGURATION: d\r\n", 1, 1, {L"ION: d", L"", L"", L""}},
         {L"Configuration:A\r\n' note\r\n\r\n c:\\d\r\n", 1, 1, {L"A", L"' note", L"", L"c:\\d"}},
         {L"Configuration:\r\nc:\\e\r\nConfiguration:f\r\n", 2, 1, {L"", L"c:\\e", L"", L""}},
     };
-    for (const Case& one : cases) {
+    for (const auto& c : cases) {
         Configurations configs;
-        parseConfigurationFile(one.text, configs);
-        EXPECT_EQ(configs.last, one.count) << one.text;
-        for (int j = 0; j < 4; ++j) {
-            EXPECT_EQ(configs.rows[one.row][j], one.expected[j]) << one.text << j;
-        }
+        parseConfigurationFile(c.text, configs);
+        EXPECT_EQ(configs.last, c.count) << c.text;
+        for (int j = 0; j < 4; ++j) EXPECT_EQ(configs.rows[c.row][j], c.expected[j]) << c.text << j;
     }
 }
 
 TEST(ConfigurationFile, HoldsAsMuchAsTheTable) {
-    const auto read = [](int configurations, int directories) {
+    const auto errorFor = [](int configurations, int directories) {
         std::wstring text;
         for (int i = 0; i < configurations; ++i) text += L"Configuration:  c\r\n";
         for (int i = 0; i < directories; ++i) text += L"   c:\\d\r\n";
         Configurations configs;
-        parseConfigurationFile(text, configs);
-        EXPECT_EQ(configs.last, configurations);
-        EXPECT_EQ(configs.rows[configurations][directories], L"c:\\d");
+        return raised([&] { parseConfigurationFile(text, configs); });
     };
-    EXPECT_EQ(raised([&] { read(50, 200); }), 0);
-    EXPECT_EQ(raised([&] { read(51, 1); }), 9);
-    EXPECT_EQ(raised([&] { read(1, 201); }), 9);
+    EXPECT_EQ(errorFor(50, 200), 0);
+    EXPECT_EQ(errorFor(51, 1), 9);
+    EXPECT_EQ(errorFor(1, 201), 9);
 }
 
 TEST(ConfigurationFile, IsWrittenBackWithItsHolesClosed) {
@@ -60,5 +53,3 @@ TEST(ConfigurationFile, IsWrittenBackWithItsHolesClosed) {
         EXPECT_EQ(formatConfigurationFile(configs), written);
     }
 }
-
-}  // namespace

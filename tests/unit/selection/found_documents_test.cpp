@@ -2,18 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include "unit/raised.h"
-
 namespace {
 
-constexpr int kCapacity = FoundDocuments::kCapacity;
+using Entries = std::vector<std::wstring>;
 
-void storeMany(FoundDocuments& found, const std::wstring& prefix, int count) {
-    for (int i = 0; i < count; ++i) found.store(L"c:\\a", prefix + std::to_wstring(i));
+void store(FoundDocuments& found, std::initializer_list<const wchar_t*> names) {
+    for (const wchar_t* name : names) found.store(L"c:\\x", name);
 }
 
-std::vector<std::wstring> entries(const FoundDocuments& found) {
-    std::vector<std::wstring> result;
+Entries entries(const FoundDocuments& found) {
+    Entries result;
     for (int i = 0; i < found.count(); ++i) result.push_back(found.entry(i));
     return result;
 }
@@ -23,12 +21,10 @@ std::vector<std::wstring> entries(const FoundDocuments& found) {
 TEST(FoundDocuments, KeepsBareNamesOncePerPass) {
     FoundDocuments found;
     found.beginPass(false);
-    for (const wchar_t* name : {L"b", L"a", L"b", L"B", L"a"}) found.store(L"c:\\x", name);
-    EXPECT_EQ(entries(found), (std::vector<std::wstring>{L"b", L"a", L"B"}));
+    store(found, {L"b", L"a", L"b", L"B", L"a"});
     found.beginPass(true);
-    found.store(L"c:\\y", L"a");
-    found.store(L"c:\\y", L"a");
-    EXPECT_EQ(entries(found), (std::vector<std::wstring>{L"b", L"a", L"B", L"a"}));
+    store(found, {L"a", L"a"});
+    EXPECT_EQ(entries(found), (Entries{L"b", L"a", L"B", L"a"}));
     found.beginPass(false);
     EXPECT_EQ(found.count(), 0);
 }
@@ -37,10 +33,9 @@ TEST(FoundDocuments, KeepsEveryFullPath) {
     FoundDocuments found;
     found.restart(true);
     found.beginPass(false);
-    found.store(L"c:\\x", L"a");
-    found.store(L"c:\\x", L"a");
+    store(found, {L"a", L"a"});
     found.store(L"c:\\", L"a");
-    EXPECT_EQ(entries(found), (std::vector<std::wstring>{L"c:\\x\\a", L"c:\\x\\a", L"c:\\\\a"}));
+    EXPECT_EQ(entries(found), (Entries{L"c:\\x\\a", L"c:\\x\\a", L"c:\\\\a"}));
     found.restart(false);
     EXPECT_EQ(found.count(), 0);
     EXPECT_FALSE(found.fullPaths());
@@ -48,18 +43,20 @@ TEST(FoundDocuments, KeepsEveryFullPath) {
 
 TEST(FoundDocuments, TheVeryLastEntryOutlivesANewPass) {
     FoundDocuments found;
-    storeMany(found, L"n", kCapacity);
+    const auto fill = [&](const std::wstring& prefix, int upTo) {
+        for (int i = found.count(); i < upTo; ++i) found.store(L"", prefix + std::to_wstring(i));
+    };
+    fill(L"n", FoundDocuments::kCapacity);
     found.beginPass(false);
     EXPECT_EQ(found.count(), 0);
 
     // Only the place that comes next is compared, so the name itself can be stored further up.
-    found.store(L"c:\\a", L"n8000");
-    storeMany(found, L"autre", kCapacity - 2);
-    EXPECT_EQ(found.count(), 8000);
+    store(found, {L"n8000"});
+    fill(L"autre", 8000);
     found.beginPass(true);
-    found.store(L"c:\\a", L"n8000");
+    store(found, {L"n8000"});
     EXPECT_EQ(found.count(), 8000);
-    found.store(L"c:\\a", L"nouveau");
+    store(found, {L"nouveau"});
     EXPECT_EQ(found.count(), 8001);
     EXPECT_EQ(found.entry(8000), L"nouveau");
 }

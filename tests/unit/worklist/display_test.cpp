@@ -8,15 +8,9 @@
 #include "worklist/state_labels.h"
 
 TEST(DisplayLine, IsNumberLabelAndPath) {
-    EXPECT_EQ(displayLine(0, L" Fait          ", L"c:\\a.SLDPRT", 0),
-              L"0001   Fait          c:\\a.SLDPRT");
-    EXPECT_EQ(displayLine(122, L"", L"c:\\a\\b\\f", 1), L"0123  c:\\..\\b\\f");
-    EXPECT_EQ(displayLine(8000, L"", L"x", 0), L"8001  x");
-    EXPECT_EQ(displayLine(9999, L"", L"x", 0), L"10000  x");
+    EXPECT_EQ(displayLine(122, L" Vu ", L"c:\\a\\b\\f", 1), L"0123   Vu c:\\..\\b\\f");
     EXPECT_EQ(displayLine(0, L" X   ", L"c:\\f", 1), L"0001   X   ");
-}
-
-TEST(DisplayLine, ShowsAPathOfAnyDepthWhole) {
+    EXPECT_EQ(displayLine(9999, L"", L"x", 0), L"10000  x");
     const std::wstring deep = L"c:" + std::wstring(40, L'\\') + L"f";
     EXPECT_EQ(shownPath(deep, 0), deep);
     EXPECT_EQ(raised([&] { shownPath(deep, 1); }), 9);

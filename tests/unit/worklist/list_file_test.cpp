@@ -21,30 +21,29 @@ std::string saved(WorkList& list, int lineCount) {
 }  // namespace
 
 TEST(ListFile, EachLineIsACodeAndAPath) {
+    using std::string_literals::operator""s;
     const struct {
-        const char* line;
-        const char* code;
-        const char* path;
-        bool reload;
+        std::string line, code, path;
+        bool reload = false;
     } cases[] = {
-        {"0  c:\\a b.SLDPRT", "0", "c:\\a b.SLDPRT", false},
-        {"9  c:\\f", "9", "c:\\f", false},
+        {"0  c:\\a b.SLDPRT", "0", "c:\\a b.SLDPRT"},
+        {"9  c:\\f", "9", "c:\\f"},
         {"12  c:\\f", "2", "c:\\f", true},
         {"110  c:\\f", "100", "c:\\f", true},  // three characters are taken, and not four
         {"1100  c:\\f", "100", "0  c:\\f", true},
-        {"010  c:\\f", "0", "c:\\f", true},     // a number over nine, however it is spelled
-        {"003  c:\\f", "003", "c:\\f", false},  // up to nine the code stays as it is spelled
-        {" 1 c:\\f", "1", "c:\\f", false},
-        {"1 0c:\\f", "1 0", "c:\\f", false},
+        {"010  c:\\f", "0", "c:\\f", true},  // a number over nine, however it is spelled
+        {"003  c:\\f", "003", "c:\\f"},      // up to nine the code stays as it is spelled
+        {" 1 c:\\f", "1", "c:\\f"},
+        {"1 0c:\\f", "1 0", "c:\\f"},
         {"12xc:\\f", "2", "c:\\f", true},  // the leading digits count
-        {"a  c:\\f", "a", "c:\\f", false},
-        {"-5 c:\\f", "-5", "c:\\f", false},
-        {"0c:\\f.SLDPRT", "0c:", "\\f.SLDPRT", false},
-        {"0       c:\\f   ", "0", "c:\\f", false},
-        {"0  \tc:\\f", "0", "\tc:\\f", false},  // blanks are trimmed, tabs aren't
-        {"   c:\\f", "", "c:\\f", false},
-        {"é€  c:\\été", "é€", "c:\\été", false},  // characters count, not bytes
-        {"0  ", "0", "", false},
+        {"-5 c:\\f", "-5", "c:\\f"},
+        {"0c:\\f.SLDPRT", "0c:", "\\f.SLDPRT"},
+        {"0       c:\\f   ", "0", "c:\\f"},
+        {"0  \tc:\\f", "0", "\tc:\\f"},  // blanks are trimmed, tabs aren't
+        {"   c:\\f", "", "c:\\f"},
+        {"é€  c:\\été", "é€", "c:\\été"},  // characters count, not bytes
+        {"0  ", "0", ""},
+        {"0  a\0b"s, "0", "a\0b"s},
     };
     for (const auto& c : cases) {
         WorkList list;
@@ -65,8 +64,7 @@ TEST(ListFile, AnEmptyTextLeavesTheListAlone) {
 }
 
 TEST(ListFile, ALineShorterThanItsCodeIsAnInvalidArgument) {
-    for (const char* text : {"\r\n", "0", "0 ", "0  a\r\n\r\n", "0  a\r\n\r\n1  b\r\n",
-                             "0  a\n\r1  b", "0  a\r\n\x1a"}) {
+    for (const char* text : {"\r\n", "0 ", "0  a\r\n\r\n", "0  a\n\r1  b", "0  a\r\n\x1a"}) {
         WorkList list;
         EXPECT_EQ(raised([&] { parseListFile(text, list); }), 5) << text;
     }
@@ -76,12 +74,9 @@ TEST(ListFile, HoldsAsManyLinesAsTheTable) {
     WorkList list;
     ASSERT_TRUE(parseListFile(linesToDo(8001), list));
     EXPECT_EQ(list.last, 8000);
-    EXPECT_EQ(list.lines[8000].path, "c:\\f8000");
     EXPECT_EQ(saved(list, 8001), linesToDo(8001));
     EXPECT_EQ(raised([&] { saved(list, 8002); }), 9);
-
-    WorkList another;
-    EXPECT_EQ(raised([&] { parseListFile(linesToDo(8002), another); }), 9);
+    EXPECT_EQ(raised([&] { parseListFile(linesToDo(8002), list); }), 9);
 }
 
 TEST(ListFile, AFlaggedCodeGrowsAtEachSave) {
@@ -89,7 +84,5 @@ TEST(ListFile, AFlaggedCodeGrowsAtEachSave) {
     ASSERT_TRUE(parseListFile("10  c:\\a\r\n0  c:\\b\r\n", list));
     EXPECT_EQ(saved(list, 2), "10  c:\\a\r\n0  c:\\b\r\n");
     EXPECT_EQ(list.lines[0].code, "10");
-    EXPECT_EQ(list.lines[1].code, "0");
     EXPECT_EQ(saved(list, 2), "110  c:\\a\r\n0  c:\\b\r\n");
-    EXPECT_EQ(list.lines[0].code, "110");
 }
