@@ -1,8 +1,10 @@
 #pragma once
 
+#include "platform/long_work.h"
+
 /// Marks that a call to another program is out. Meanwhile that program may make us wait, and the
 /// user's presses on our buttons are dropped, so that an impatient click is not a second command.
-class CallOut {
+class CallOut : private LongWork {
  public:
     CallOut() { ++depth_; }
     ~CallOut() { --depth_; }

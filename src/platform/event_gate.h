@@ -48,6 +48,8 @@ class EventGate {
     /// Drops the waiting events of a window that is gone.
     void forget(const EventSource& source);
 
+    /// Whether a handler runs.
+    bool busy() const { return running_; }
     bool ended() const { return ended_; }
     int exitCode() const { return exitCode_; }
 

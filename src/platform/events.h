@@ -18,7 +18,13 @@ class EventSink {
  public:
     virtual ~EventSink() = default;
     virtual void raise(int controlId, Event event) = 0;
+    /// Whether the second press of a double click counts like the first one.
+    virtual bool takesSecondPress(int /*controlId*/, Event /*event*/) const { return true; }
 };
+
+/// Which presses start a command. Single: the second press of a double click does not, for what it
+/// does can't be taken back.
+enum class Presses { All, Single };
 
 /// One line of a form's table of handlers.
 template <class Form>
@@ -26,15 +32,15 @@ struct Binding {
     int controlId;
     Event event;
     void (Form::*handler)();
+    Presses presses = Presses::All;
 };
 
-/// Calls the form's handler for an event, if its table has one.
+/// A form's line for an event, null when its table has none.
 template <class Form>
-void dispatch(Form& form, std::span<const Binding<Form>> bindings, int controlId, Event event) {
+const Binding<Form>* findBinding(std::span<const Binding<Form>> bindings, int controlId,
+                                 Event event) {
     for (const auto& binding : bindings) {
-        if (binding.controlId == controlId && binding.event == event) {
-            (form.*binding.handler)();
-            return;
-        }
+        if (binding.controlId == controlId && binding.event == event) return &binding;
     }
+    return nullptr;
 }

@@ -11,6 +11,12 @@ bool notAfter(PressJudge::Time a, PressJudge::Time b) {
 
 }  // namespace
 
+bool startsCommand(const PressVerdict& press, bool takesSecondPress, bool busy) {
+    if (press.late || press.repeated || press.onNewWindow) return false;
+    if (press.second && !takesSecondPress) return false;
+    return !(press.pressed && busy);
+}
+
 bool PressJudge::isSecond(const Press& press) const {
     return mouse_ && press.time - mouse_->time <= limits_.time &&
            std::abs(press.x - mouse_->x) <= limits_.width &&
@@ -48,7 +54,8 @@ void PressJudge::keyUp(Time time, int key) {
 
 PressVerdict PressJudge::verdict() const {
     if (!current_) return {};
-    return {.late = worked_ && notAfter(current_->time, *worked_),
+    return {.pressed = true,
+            .late = worked_ && notAfter(current_->time, *worked_),
             .repeated = current_->repeated,
             .second = current_->second,
             .onNewWindow = current_->onNewWindow};

@@ -5,13 +5,17 @@
 
 /// What an event goes back to, when it is a command.
 struct PressVerdict {
-    bool late = false;         ///< pressed before the last command was at its end
+    bool pressed = false;      ///< a person pressed something
+    bool late = false;         ///< before the last command was at its end
     bool repeated = false;     ///< a key that is held
     bool second = false;       ///< the second press of a double click
     bool onNewWindow = false;  ///< that, and a window came up since the first one
 
     bool operator==(const PressVerdict&) const = default;
 };
+
+/// Whether a press starts a command. `busy`: another one is at work.
+bool startsCommand(const PressVerdict& press, bool takesSecondPress, bool busy);
 
 /// Tells which presses are commands and which are not meant: those made while the program was at
 /// work, held keys, and the second press of a double click. It judges by the time at which a
@@ -48,8 +52,8 @@ class PressJudge {
 
     /// It was at work until now.
     void workEnded(Time now) { worked_ = now; }
-    /// A window has come up.
-    void windowShown(Time now) { shown_ = now; }
+    /// A window has come up. What was pressed before was not meant for it.
+    void windowShown(Time now) { worked_ = shown_ = now; }
 
     /// Of the input that is being handled.
     PressVerdict verdict() const;

@@ -12,7 +12,13 @@ template <class Self>
 class ProgramWindow : public EventSink {
  public:
     void raise(int controlId, Event event) final {
-        explained([&] { dispatch<Self>(static_cast<Self&>(*this), bindings_, controlId, event); });
+        const auto* binding = findBinding(bindings_, controlId, event);
+        if (binding) explained([&] { (static_cast<Self&>(*this).*binding->handler)(); });
+    }
+
+    bool takesSecondPress(int controlId, Event event) const final {
+        const auto* binding = findBinding(bindings_, controlId, event);
+        return !binding || binding->presses == Presses::All;
     }
 
     Window& window() { return *window_; }

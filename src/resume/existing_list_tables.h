@@ -7,9 +7,9 @@
 inline constexpr Binding<ExistingListWindow> kExistingListBindings[] = {
     {kTheWindow, Event::Close, &ExistingListWindow::Form_Close},
     {kEscapeKey, Event::Click, &ExistingListWindow::Form_Close},
-    {IDC_FORM2_CMDOK, Event::Click, &ExistingListWindow::CmdOK_Click},
-    {IDC_FORM2_CMDANNULE, Event::Click, &ExistingListWindow::CmdAnnule_Click},
-    {IDC_FORM2_CMDEFFACER, Event::Click, &ExistingListWindow::CmdEffacer_Click},
+    {IDC_FORM2_CMDOK, Event::Click, &ExistingListWindow::CmdOK_Click, Presses::Single},
+    {IDC_FORM2_CMDANNULE, Event::Click, &ExistingListWindow::CmdAnnule_Click, Presses::Single},
+    {IDC_FORM2_CMDEFFACER, Event::Click, &ExistingListWindow::CmdEffacer_Click, Presses::Single},
 };
 
 inline constexpr Tooltip kExistingListTooltips[] = {

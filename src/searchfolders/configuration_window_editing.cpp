@@ -5,6 +5,7 @@
 #include "common/text.h"
 #include "pickers/open_directories.h"
 #include "platform/files.h"
+#include "platform/long_work.h"
 #include "platform/message_boxes.h"
 #include "platform/platform.h"
 #include "searchfolders/configuration_window.h"
@@ -99,6 +100,7 @@ void ConfigurationWindow::addDirectoryOf(const std::wstring& path) {
 void ConfigurationWindow::CmdAjo1_Click() { addDirectoryOf(Dir1.path()); }
 
 void ConfigurationWindow::CmdAjo2_Click() {
+    const LongWork searching;
     addDirectoryOf(Dir1.path());
     OpenDirectories way(platform_.files);
     addSubdirectories(way);

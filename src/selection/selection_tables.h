@@ -20,11 +20,11 @@ inline constexpr Binding<SelectionWindow> kSelectionBindings[] = {
     {IDC_FORM1_CMD_ENL, Event::Click, &SelectionWindow::cmd_enl_Click},
     {IDC_FORM1_CMDPLUS, Event::Click, &SelectionWindow::CmdPlus_Click},
     {IDC_FORM1_CMDMOINS, Event::Click, &SelectionWindow::CmdMoins_Click},
-    {IDC_FORM1_CMDAP, Event::Click, &SelectionWindow::CmdAP_Click},
-    {IDC_FORM1_CMDREPDEF, Event::Click, &SelectionWindow::CmdRepDef_Click},
-    {IDC_FORM1_CMD_TRACER, Event::Click, &SelectionWindow::cmd_tracer_Click},
-    {IDC_FORM1_CMD_SORTIE, Event::Click, &SelectionWindow::cmd_sortie_Click},
-    {IDC_FORM1_CMD_ANNULER, Event::Click, &SelectionWindow::cmd_annuler_Click},
+    {IDC_FORM1_CMDAP, Event::Click, &SelectionWindow::CmdAP_Click, Presses::Single},
+    {IDC_FORM1_CMDREPDEF, Event::Click, &SelectionWindow::CmdRepDef_Click, Presses::Single},
+    {IDC_FORM1_CMD_TRACER, Event::Click, &SelectionWindow::cmd_tracer_Click, Presses::Single},
+    {IDC_FORM1_CMD_SORTIE, Event::Click, &SelectionWindow::cmd_sortie_Click, Presses::Single},
+    {IDC_FORM1_CMD_ANNULER, Event::Click, &SelectionWindow::cmd_annuler_Click, Presses::Single},
 };
 
 inline constexpr Tooltip kSelectionTooltips[] = {

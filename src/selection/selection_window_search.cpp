@@ -5,6 +5,7 @@
 #include "common/numbers.h"
 #include "pickers/directory_listing.h"
 #include "platform/files.h"
+#include "platform/long_work.h"
 #include "platform/message_boxes.h"
 #include "platform/platform.h"
 #include "selection/document_search.h"
@@ -82,6 +83,7 @@ void SelectionWindow::repert_Change() {
 }
 
 void SelectionWindow::search() {
+    const LongWork searching;
     Pulse pulse;
     const auto showProgress = [&](int filesListed) {
         if (!pulse.due()) return;

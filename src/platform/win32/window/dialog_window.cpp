@@ -5,6 +5,7 @@
 #include "platform/win32/process/require.h"
 #include "platform/win32/window/accessible_names.h"
 #include "platform/win32/window/hourglass.h"
+#include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/tooltips.h"
 #include "platform/win32/window/win_controls.h"
 
@@ -105,6 +106,7 @@ void DialogWindow::showProgress(int done, int total) { progress_.show(window_.ge
 void DialogWindow::show() {
     HWND window = window_.get();
     const bool wasVisible = IsWindowVisible(window);
+    if (!wasVisible) InputSieve::windowShown();
     ShowWindow(window, IsIconic(window) ? SW_RESTORE : SW_SHOW);
     SetForegroundWindow(window);
     if (!wasVisible && focusId_ != 0) SetFocus(item(focusId_));

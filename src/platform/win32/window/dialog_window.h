@@ -52,6 +52,7 @@ class DialogWindow : public Window, private EventSource {
     void onKey(int id);
     void onShortcut(HWND control);
     void raise(int id, Event event);
+    bool isUnmeantCommand(int id, Event event) const;
     void changeResolution(const RECT& suggested);
     void chooseFonts();
     void takeTemplateSize();

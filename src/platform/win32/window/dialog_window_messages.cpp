@@ -7,6 +7,7 @@
 #include "platform/win32/window/control_class.h"
 #include "platform/win32/window/dialog_window.h"
 #include "platform/win32/window/hourglass.h"
+#include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/tooltips.h"
 
 namespace {
@@ -33,6 +34,8 @@ void keepKeyboard(HWND window, int focusId) {
     HWND home = GetDlgItem(window, focusId);
     SetFocus(canBeUsed(home) ? home : GetNextDlgTabItem(window, nullptr, FALSE));
 }
+
+bool isButton(HWND control) { return classOf(control) == ControlClass::Button; }
 
 void showNextTab(HWND tabStrip) {
     const LRESULT next = SendMessageW(tabStrip, TCM_GETCURSEL, 0, 0) + 1;
@@ -111,7 +114,16 @@ void DialogWindow::onCommand(int id, WORD code, HWND control) {
     raise(id, *event);
 }
 
+/// What a person types or chooses meanwhile is kept; what a press would start is not.
+bool DialogWindow::isUnmeantCommand(int id, Event event) const {
+    const bool isClick = event == Event::Click && (!item(id) || isButton(item(id)));
+    if (!isClick && event != Event::DoubleClick && event != Event::Enter) return false;
+    return !startsCommand(InputSieve::currentPress(), events_.takesSecondPress(id, event),
+                          gate_.busy());
+}
+
 void DialogWindow::raise(int id, Event event) {
+    if (isUnmeantCommand(id, event)) return;
     // The handler may end this object.
     HWND window = window_.get();
     const int focusId = focusId_;

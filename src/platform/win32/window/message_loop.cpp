@@ -2,16 +2,26 @@
 
 #include <windows.h>
 
+#include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/shortcuts.h"
+
+namespace {
+
+void handle(MSG& message) {
+    HWND window = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
+    if (window && translateShortcut(window, message)) return;
+    if (window && IsDialogMessageW(window, &message)) return;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+}
+
+}  // namespace
 
 int runMessageLoop() {
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        HWND window = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
-        if (window && translateShortcut(window, message)) continue;
-        if (window && IsDialogMessageW(window, &message)) continue;
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
+        handle(message);
+        InputSieve::messageHandled();
     }
     return static_cast<int>(message.wParam);
 }

@@ -1,11 +1,17 @@
 #pragma once
 
 #include "platform/event_gate.h"
+#include "platform/long_work.h"
 #include "platform/win32/window/hourglass.h"
+#include "platform/win32/window/input_sieve.h"
 
 class WinGateKeeper : public GateKeeper {
  public:
-    void setHourglass(bool shown) override { hourglass_.set(shown); }
+    /// Shown from the beginning of a handler to its end.
+    void setHourglass(bool shown) override {
+        hourglass_.set(shown);
+        if (!shown && LongWork::takeDone()) InputSieve::workEnded();
+    }
     void quit(int exitCode) override { PostQuitMessage(exitCode); }
 
  private:

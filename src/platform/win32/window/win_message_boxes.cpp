@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/win32/process/unique.h"
+#include "platform/win32/window/input_sieve.h"
 
 namespace {
 
@@ -94,6 +95,7 @@ MessageBoxes::Answer WinMessageBoxes::show(const MessageBoxContent& box) {
     shownBox = &box;
     const OthersDisabled others(parameters.hwndOwner);
     const FrenchButtons french;
+    InputSieve::windowShown();
     const int button = MessageBoxIndirectW(&parameters);
     return box.buttons == MessageBoxContent::Buttons::Ok ? Answer::Ok : static_cast<Answer>(button);
 }
