@@ -1,14 +1,16 @@
 #include "driver/app_driver.h"
 
 #include "driver/input.h"
+#include "driver/text.h"
 #include "driver/wait.h"
 #include "driver/winapi.h"
 
 namespace driver {
 
-void AppDriver::Start() {
-    process_ = std::make_unique<Process>(sandbox_.Program(), std::vector<std::wstring>{},
-                                         sandbox_.Directory());
+void AppDriver::Start(const std::vector<std::string>& arguments) {
+    std::vector<std::wstring> wide;
+    for (const std::string& argument : arguments) wide.push_back(Wide(argument));
+    process_ = std::make_unique<Process>(sandbox_.Program(), wide, sandbox_.Directory());
 }
 
 HWND AppDriver::Window(const std::string& caption) const {

@@ -16,7 +16,8 @@ class AppDriver {
  public:
     explicit AppDriver(const Sandbox& sandbox) : sandbox_(sandbox) {}
 
-    void Start();
+    /// Starts it in the sandbox's directory, with these arguments.
+    void Start(const std::vector<std::string>& arguments = {});
     bool Running() const { return process_ && process_->Running(); }
     /// Waits for the program to end by itself.
     int WaitForExit() const { return static_cast<int>(process_->WaitForExit()); }

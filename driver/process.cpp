@@ -24,7 +24,8 @@ Process::Process(const std::wstring& program, const std::vector<std::wstring>& a
     PROCESS_INFORMATION information{};
     if (!CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
                         directory.c_str(), &startup, &information))
-        throw std::runtime_error("could not start " + Utf8(commandLine));
+        throw std::runtime_error("could not start " + Utf8(commandLine) + ": error " +
+                                 std::to_string(GetLastError()));
     CloseHandle(information.hThread);
     handle_ = information.hProcess;
     id_ = information.dwProcessId;

@@ -13,6 +13,7 @@
 #include "platform/win32/files/win_record_files.h"
 #include "platform/win32/process/registry_settings.h"
 #include "platform/win32/process/win_clock.h"
+#include "platform/win32/process/win_list_holds.h"
 #include "platform/win32/window/dialog_window.h"
 #include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/win_gate_keeper.h"
@@ -57,6 +58,7 @@ class Stage {
     RegistrySettings settings_;
     WinFiles files_;
     WinRecordFiles records_;
+    WinListHolds listHolds_{files_};
     WinClock clock_;
     DesktopWithAll desktop_;
 

@@ -2,14 +2,12 @@
 
 Program::Program(const Platform& platform)
     : platform_(platform),
-      files_{platform.programDirectory, platform.programDirectory + L"\\tarnwick.lst",
-             platform.programDirectory + L"\\tarnwick.cfg"},
+      files_{platform.programDirectory, L"", platform.programDirectory + L"\\tarnwick.cfg"},
       places_(platform.settings),
       cad_(platform.desktop) {}
 
 void Program::showExistingList() {
-    existingList_ = std::make_unique<ExistingListWindow>(platform_.windows, places_, *fileSystem_,
-                                                         files_, *this);
+    existingList_ = std::make_unique<ExistingListWindow>(platform_, places_, files_, *this);
     existingList_->Form_Load();
     existingList_->window().show();
     closeSplash();

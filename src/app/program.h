@@ -20,10 +20,12 @@ class Program : public ExistingListExits, public SelectionExits {
     explicit Program(const Platform& platform);
 
     /// Start-up, before any window of its own: ends with the first window shown, or with the
-    /// program's end when no CAD session runs.
+    /// program's end when no CAD session runs or this user's program has the list open already.
+    /// Raises 70 when someone else has it open.
     void start();
 
  private:
+    void takeList();
     void attachToCad();
     void showExistingList();
     void showSelection();

@@ -13,9 +13,11 @@
 #include "platform/win32/com/win_objects.h"
 #include "platform/win32/files/win_files.h"
 #include "platform/win32/files/win_record_files.h"
+#include "platform/win32/process/named_files.h"
 #include "platform/win32/process/registry_settings.h"
 #include "platform/win32/process/require.h"
 #include "platform/win32/process/win_clock.h"
+#include "platform/win32/process/win_list_holds.h"
 #include "platform/win32/window/dialog_window.h"
 #include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/message_loop.h"
@@ -61,13 +63,14 @@ struct RunningProgram {
     RegistrySettings settings;
     WinFiles files;
     WinRecordFiles records;
+    WinListHolds listHolds{files};
     WinClock clock;
     WinDesktop desktop;
     DialogFactory windows;
     InputSieve sieve;
     MessageFilter filter{patience};
-    Program program{{automation, settings, files, records, clock, messageBoxes, desktop, windows,
-                     programDirectory()}};
+    Program program{{automation, settings, files, records, listHolds, clock, messageBoxes, desktop,
+                     windows, programDirectory(), namedFiles()}};
 };
 
 }  // namespace

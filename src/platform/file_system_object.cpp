@@ -6,8 +6,3 @@ FileSystemObject::FileSystemObject(Automation& automation)
 bool FileSystemObject::fileExists(const std::wstring& path) {
     return isTrue(callMethod(object_, L"fileExists", {path}));
 }
-
-void FileSystemObject::deleteFile(const std::wstring& path) {
-    // Not GetFile and its Delete: Wine lacks the latter.
-    callMethod(object_, L"DeleteFile", {path, true});
-}

@@ -11,8 +11,6 @@ class FileSystemObject {
     explicit FileSystemObject(Automation& automation);
 
     bool fileExists(const std::wstring& path);
-    /// Deletes a file, even a read-only one. Raises 53 or 70.
-    void deleteFile(const std::wstring& path);
 
  private:
     ObjectPtr object_;

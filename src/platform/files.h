@@ -17,6 +17,9 @@ struct DirectoryId {
     bool operator==(const DirectoryId&) const = default;
 };
 
+/// What a path leads to.
+enum class PathKind { Nothing, File, Directory };
+
 /// Takes the bytes of a file piece by piece.
 using ByteSink = std::function<void(std::string_view piece)>;
 using WriteContent = std::function<void(const ByteSink& file)>;
@@ -37,6 +40,16 @@ class Files {
     virtual void replace(const std::wstring& path, const WriteContent& write) = 0;
     /// The same with a text, written in UTF-8. Raises 5 for text that can't be encoded.
     void replaceText(const std::wstring& path, std::wstring_view text);
+
+    /// Raises 70, 75 or 76 when it can't be told.
+    virtual PathKind kindOf(const std::wstring& path) = 0;
+
+    /// Keeps a copy of a file, byte for byte. What stood in its place, even a read-only file, is
+    /// replaced as by `replace`. Raises 53, 70, 75 or 76.
+    virtual void keepCopy(const std::wstring& file, const std::wstring& copy) = 0;
+
+    /// Deletes a file, even a read-only one. Raises 53, 70, 75 or 76.
+    virtual void remove(const std::wstring& file) = 0;
 
     // The next two may be called by several threads at once, and by threads that outlive their
     // caller: the object stands until the program ends.

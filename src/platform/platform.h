@@ -1,11 +1,13 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 class Automation;
 class Settings;
 class Clock;
 class Files;
+class ListHolds;
 class MessageBoxes;
 class Desktop;
 class RecordFiles;
@@ -17,9 +19,11 @@ struct Platform {
     Settings& settings;
     Files& files;
     RecordFiles& records;
+    ListHolds& listHolds;
     const Clock& clock;
     MessageBoxes& messageBoxes;
     Desktop& desktop;
     WindowFactory& windows;
-    std::wstring programDirectory;  ///< without a trailing backslash
+    std::wstring programDirectory;              ///< without a trailing backslash
+    std::vector<std::wstring> namedFiles = {};  ///< on the command line, by their full paths
 };

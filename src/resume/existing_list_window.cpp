@@ -1,17 +1,19 @@
 #include "resume/existing_list_window.h"
 
 #include "common/runtime_error.h"
-#include "platform/file_system_object.h"
+#include "platform/files.h"
+#include "platform/platform.h"
 #include "resume/existing_list_tables.h"
+#include "session/previous_list.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
+#include "worklist/mark_keeper.h"
 
-ExistingListWindow::ExistingListWindow(WindowFactory& windows, WindowPlaces& places,
-                                       FileSystemObject& fileSystem, const ProgramFiles& files,
-                                       ExistingListExits& exits)
-    : ProgramWindow(windows, kExistingListWindow, kExistingListBindings),
+ExistingListWindow::ExistingListWindow(Platform& platform, WindowPlaces& places,
+                                       const ProgramFiles& files, ExistingListExits& exits)
+    : ProgramWindow(platform.windows, kExistingListWindow, kExistingListBindings),
+      platform_(platform),
       places_(places),
-      fileSystem_(fileSystem),
       files_(files),
       exits_(exits) {}
 
@@ -30,7 +32,9 @@ void ExistingListWindow::CmdAnnule_Click() {
 }
 
 void ExistingListWindow::CmdEffacer_Click() {
-    fileSystem_.deleteFile(files_.list);
+    keepPreviousList(platform_.files, files_);
+    platform_.files.remove(files_.list);
+    removeKeptMarks(platform_.records, files_.list);
     CmdAnnule_Click();
 }
 

@@ -2,8 +2,8 @@
 
 #include "platform/program_window.h"
 
-class FileSystemObject;
 class WindowPlaces;
+struct Platform;
 struct ProgramFiles;
 
 /// Where the prompt leads.
@@ -18,22 +18,23 @@ class ExistingListExits {
 /// or erase it first.
 class ExistingListWindow : public ProgramWindow<ExistingListWindow> {
  public:
-    ExistingListWindow(WindowFactory& windows, WindowPlaces& places, FileSystemObject& fileSystem,
-                       const ProgramFiles& files, ExistingListExits& exits);
+    ExistingListWindow(Platform& platform, WindowPlaces& places, const ProgramFiles& files,
+                       ExistingListExits& exits);
 
     void Form_Load();
     /// Closed by its frame: the program ends, nothing is saved.
     void Form_Close();
     void CmdOK_Click();
     void CmdAnnule_Click();
-    /// Deletes the list file, even a read-only one, without asking. Raises 53 or 70 when it can't.
+    /// Takes the list file away, even a read-only one, without asking; its lines stay in the
+    /// previous list, and marks kept of it go. Raises 53, 70 or 75 when it can't.
     void CmdEffacer_Click();
 
  private:
     void leave();
 
+    Platform& platform_;
     WindowPlaces& places_;
-    FileSystemObject& fileSystem_;
     const ProgramFiles& files_;
     ExistingListExits& exits_;
 };

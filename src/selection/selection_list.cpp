@@ -6,9 +6,22 @@
 #include "worklist/short_path.h"
 #include "worklist/state_labels.h"
 
-void SelectionList::fill(int depth) {
+void SelectionList::fill(int depth, const Entries& chosen) {
     depth_ = depth;
-    list_.setLines(found_.count(), [&](int i) { return lineText(i, false); });
+    const auto isChosen = [&](int i) { return chosen.contains(found_.entry(i)); };
+    list_.setLines(found_.count(), [&](int i) { return lineText(i, isChosen(i)); });
+    if (chosen.empty()) return;
+    for (int i = 0; i < found_.count(); ++i) {
+        if (isChosen(i)) list_.setMark(i, 1);
+    }
+}
+
+SelectionList::Entries SelectionList::chosenEntries() const {
+    Entries entries;
+    for (int i = 0; i < found_.count(); ++i) {
+        if (chosen(i)) entries.insert(found_.entry(i));
+    }
+    return entries;
 }
 
 void SelectionList::redraw(int depth) {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 class FoundDocuments;
@@ -11,14 +12,17 @@ class ListBox;
 /// front. The list's own selection (the highlight) is another thing.
 class SelectionList {
  public:
+    using Entries = std::unordered_set<std::wstring>;
+
     SelectionList(ListBox& list, const FoundDocuments& found) : list_(list), found_(found) {}
 
-    /// Draws all lines from the table; none is chosen.
-    void fill(int depth);
+    /// Draws all lines from the table; those of these entries are chosen.
+    void fill(int depth, const Entries& chosen);
     /// Draws all lines at another depth; choices are kept.
     void redraw(int depth);
 
     int chosenCount() const;
+    Entries chosenEntries() const;
     /// Whether the pass takes a line.
     bool chosen(int line) const;
 

@@ -10,7 +10,7 @@ inline constexpr Binding<SelectionWindow> kSelectionBindings[] = {
     {IDC_FORM1_REPERT, Event::DoubleClick, &SelectionWindow::repert_DblClick},
     {IDC_FORM1_TYPEF, Event::Change, &SelectionWindow::repert_Change},
     {IDC_FORM1_TYPEF, Event::Click, &SelectionWindow::repert_Change},
-    {IDC_FORM1_TYPEF, Event::Validate, &SelectionWindow::repert_Change},
+    {IDC_FORM1_TYPEF, Event::Validate, &SelectionWindow::typef_Validate},
     {IDC_FORM1_SOUSREP, Event::Click, &SelectionWindow::sousrep_Click},
     {IDC_FORM1_LIST1, Event::Click, &SelectionWindow::List1_Click},
     {IDC_FORM1_CMDCOCHE, Event::Click, &SelectionWindow::CmdCoche_Click},

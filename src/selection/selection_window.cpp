@@ -6,6 +6,7 @@
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "selection/selection_tables.h"
+#include "session/previous_list.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
 #include "worklist/list_file.h"
@@ -119,7 +120,11 @@ void SelectionWindow::writeList() {
     for (std::int32_t i = 0; i < count; ++i) {
         if (List1.chosen(i)) appendFreshLine(text, fullPath(i));
     }
-    platform_.files.replace(files_.list, [&](const ByteSink& file) { file(text); });
+    platform_.files.replace(files_.list, [&](const ByteSink& file) {
+        // Now that the list may be replaced, and before it is.
+        keepPreviousList(platform_.files, files_);
+        file(text);
+    });
 }
 
 std::wstring SelectionWindow::fullPath(int index) const {

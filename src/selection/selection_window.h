@@ -35,10 +35,13 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     /// Closed by its frame: the program ends, nothing is saved.
     void Form_Close();
 
-    // Where and what to search: every change rebuilds the list.
+    // Where and what to search: every change rebuilds the list, and nothing is chosen any more.
     void unite_Change();
     void repert_DblClick();
     void repert_Change();
+    /// Leaving the kinds rebuilds the list, too. As they were searched last, nothing has changed:
+    /// the documents found again stay chosen.
+    void typef_Validate();
     void sousrep_Click();
 
     // Choosing among the documents found.
@@ -65,6 +68,7 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     /// Asks whether a whole drive is to be searched. True for Yes.
     bool confirmWholeDrive();
     void leaveOutSubdirectories();
+    void rebuild(const SelectionList::Entries& chosen);
     void search();
     void writeList();
     std::wstring fullPath(int index) const;
@@ -83,5 +87,6 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     DirectoryPicker repert;
     FoundDocuments found_;
     SelectionList List1;
-    std::wstring searched_;  ///< the directory searched last
+    std::wstring searched_;       ///< the directory searched last
+    std::wstring searchedKinds_;  ///< the text of the kinds searched last
 };

@@ -73,12 +73,20 @@ void SelectionWindow::sousrep_Click() {
     }
 }
 
-void SelectionWindow::repert_Change() {
+void SelectionWindow::repert_Change() { rebuild({}); }
+
+void SelectionWindow::typef_Validate() {
+    const bool asSearched = typef.text() == searchedKinds_;
+    rebuild(asSearched ? List1.chosenEntries() : SelectionList::Entries());
+}
+
+void SelectionWindow::rebuild(const SelectionList::Entries& chosen) {
     if (searchesWholeDrive() && !confirmWholeDrive()) leaveOutSubdirectories();
     searched_ = repert.path();
+    searchedKinds_ = typef.text();
     search();
     cptfichier.setText(decimal(found_.count()));
-    List1.fill(NNiveau.levels());
+    List1.fill(NNiveau.levels(), chosen);
     List1_Click();
 }
 
@@ -92,6 +100,6 @@ void SelectionWindow::search() {
         nbfich.repaint();
         cptfichier.repaint();
     };
-    DocumentSearch search(platform_.files, found_, DocumentKinds(typef.text()), showProgress);
-    search.run(repert.path(), sousrep.checked());
+    DocumentSearch search(platform_.files, found_, DocumentKinds(searchedKinds_), showProgress);
+    search.run(searched_, sousrep.checked());
 }

@@ -33,6 +33,25 @@ TEST_F(FilesContract, MissingFileIsNotFound) {
     EXPECT_EQ(raised([&] { files.readText(path(L"absent.lst")); }), 53);
 }
 
+TEST_F(FilesContract, CopyIsKeptInPlaceOfAnOlderOne) {
+    files.replaceText(path(L"tarnwick.lst"), L"0  c:\\été\r\n");
+    files.replaceText(path(L"copie.lst"), L"d'avant");
+    files.keepCopy(path(L"tarnwick.lst"), path(L"copie.lst"));
+    EXPECT_EQ(files.readText(path(L"copie.lst")), L"0  c:\\été\r\n");
+    EXPECT_EQ(raised([&] { files.keepCopy(path(L"absent.lst"), path(L"copie.lst")); }), 53);
+    EXPECT_EQ(namesIn(files, directory), (Names{L"copie.lst", L"tarnwick.lst"}));
+}
+
+TEST_F(FilesContract, RemovedFileIsGone) {
+    files.replaceText(path(L"tarnwick.lst"), L"");
+    EXPECT_EQ(files.kindOf(path(L"tarnwick.lst")), PathKind::File);
+    files.remove(path(L"tarnwick.lst"));
+    EXPECT_EQ(files.kindOf(path(L"tarnwick.lst")), PathKind::Nothing);
+    EXPECT_EQ(files.kindOf(path(L"absent\\tarnwick.lst")), PathKind::Nothing);
+    EXPECT_EQ(files.kindOf(directory), PathKind::Directory);
+    EXPECT_EQ(raised([&] { files.remove(path(L"tarnwick.lst")); }), 53);
+}
+
 TEST_F(FilesContract, DirectoryIsVisitedEntryByEntry) {
     files.replaceText(path(L"é.SLDPRT"), L"");
     files.replaceText(path(L"caché.SLDASM"), L"");

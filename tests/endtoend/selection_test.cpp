@@ -37,6 +37,9 @@ TEST_F(Selection, FindsMarksFiltersAndLaunches) {
     ExpectFound({kChosen + press, kToDo + frame, kChosen + nut, kChosen + flange});
 
     MoveTo(app.Window(kSelection), 90, 60);
+    // A click in the type field, and on to the button.
+    Post(app.Window(kSelection), WM_NEXTDLGCTL,
+         reinterpret_cast<WPARAM>(app.Control(IDC_FORM1_TYPEF)), TRUE);
     app.Click(IDC_FORM1_CMD_TRACER);
     app.WaitForText(IDC_FORM3_TXTETAT, press);
     ExpectList(ListLine("0", press) + ListLine("0", nut) + ListLine("0", flange));

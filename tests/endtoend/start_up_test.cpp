@@ -46,6 +46,7 @@ TEST_F(StartUp, KeepsAnOldListOnNoAndErasesItOnRequest) {
     app.Click(IDC_FORM2_CMDEFFACER);
     ExpectAlone(kSelection);
     EXPECT_EQ(sandbox.ReadList(), std::nullopt);
+    EXPECT_EQ(ReadFileBytes(sandbox.Directory() / "tarnwick-precedente.lst"), ListOf({"0"}));
 }
 
 TEST_F(StartUp, AListThatVanishedMeanwhileIsAnError) {

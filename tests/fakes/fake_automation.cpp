@@ -89,13 +89,6 @@ ObjectPtr FakeAutomation::makeFileSystem() {
     auto fileSystem = std::make_shared<FakeObject>(journal, L"Fso.");
     fileSystem->answers = {
         {L"fileExists", [this](auto arguments) { return fileExists(textArgument(arguments[0])); }},
-        {L"DeleteFile",
-         [this](auto arguments) {
-             const std::wstring path = textArgument(arguments[0]);
-             if (!fileExists(path)) throw errors::fileNotFound(path);
-             deletedFiles.push_back(path);
-             return Value();
-         }},
     };
     return fileSystem;
 }

@@ -38,7 +38,6 @@ struct FakeAutomation : Automation {
     std::wstring searchFolders;
     Value setSearchFoldersResult = true;
     std::function<bool(const std::wstring&)> fileExists = [](const std::wstring&) { return false; };
-    std::vector<std::wstring> deletedFiles;
 
     /// What a method does instead of what it usually does, by its name.
     std::map<std::wstring, FakeObject::Answer, std::less<>> overrides;

@@ -37,6 +37,20 @@ void FakeFiles::replace(const std::wstring& path, const WriteContent& write) {
     texts[path] = wideText(text);
 }
 
+PathKind FakeFiles::kindOf(const std::wstring& path) {
+    if (texts.contains(path)) return PathKind::File;
+    return exists(withoutTrailingBackslash(path)) ? PathKind::Directory : PathKind::Nothing;
+}
+
+void FakeFiles::keepCopy(const std::wstring& file, const std::wstring& copy) {
+    const std::string bytes = read(file);
+    replace(copy, [&](const ByteSink& sink) { sink(bytes); });
+}
+
+void FakeFiles::remove(const std::wstring& file) {
+    if (texts.erase(file) == 0) throw errors::fileNotFound(file);
+}
+
 std::wstring FakeFiles::resolved(std::wstring path) const {
     path = withoutTrailingBackslash(std::move(path));
     for (bool changed = true; changed;) {

@@ -23,6 +23,9 @@ struct FakeFiles : Files {
 
     std::string readBytes(const std::wstring& path) override;
     void replace(const std::wstring& path, const WriteContent& write) override;
+    PathKind kindOf(const std::wstring& path) override;
+    void keepCopy(const std::wstring& file, const std::wstring& copy) override;
+    void remove(const std::wstring& file) override;
     void visit(const std::wstring& directory,
                const std::function<void(const DirectoryEntry&)>& visitor) override;
     DirectoryId identify(const std::wstring& directory) override;

@@ -4,6 +4,7 @@
 #include "fakes/fake_clock.h"
 #include "fakes/fake_desktop.h"
 #include "fakes/fake_files.h"
+#include "fakes/fake_list_holds.h"
 #include "fakes/fake_message_boxes.h"
 #include "fakes/fake_record_files.h"
 #include "fakes/fake_settings.h"
@@ -21,10 +22,11 @@ struct FakePlatform {
     FakeMessageBoxes boxes;
     FakeDesktop desktop;
     FakeRecordFiles records;
+    FakeListHolds listHolds;
     FakeClock clock;
     FakeWindowFactory windows;
-    Platform platform{automation, settings, files,   records,        clock,
-                      boxes,      desktop,  windows, L"c:\\tarnwick"};
+    Platform platform{automation, settings, files,   records, listHolds,
+                      clock,      boxes,    desktop, windows, L"c:\\tarnwick"};
 
     FakePlatform() {
         automation.fileExists = [this](const std::wstring& path) {

@@ -70,6 +70,24 @@ TEST_F(WinFilesTest, LeavesAListThatCannotBeReplacedAsItIs) {
     expectRefused(70, write);
 }
 
+TEST_F(WinFilesTest, KeepsACopyOfAnyBytesOverAReadOnlyFileAndRemovesOne) {
+    const std::wstring list = path(L"tarnwick.lst");
+    const std::wstring copy = path(L"tarnwick-precedente.lst");
+    const std::string_view odd("0  \xE9t\xE9\0\xFF", 8);
+    writeBytes(list, odd);
+    writeBytes(copy, "d'avant");
+    for (const auto& file : {list, copy}) {
+        SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
+    }
+    files.keepCopy(list, copy);
+    EXPECT_EQ(readBytes(copy), odd);
+    files.remove(list);
+    EXPECT_EQ(namesIn(files, directory), Names{L"tarnwick-precedente.lst"});
+
+    const UniqueHandle held(open(copy, GENERIC_READ, OPEN_EXISTING, FILE_SHARE_READ));
+    EXPECT_EQ(raised([&] { files.remove(copy); }), 70);
+}
+
 TEST_F(WinFilesTest, TellsWhatIsWrongWithAPath) {
     EXPECT_EQ(raised([&] { files.readText(path(L"absent\\tarnwick.lst")); }), 76);
     EXPECT_EQ(raised([&] { files.replaceText(path(L"absent\\tarnwick.lst"), L""); }), 76);

@@ -18,6 +18,17 @@ class StartUp : public testing::Test {
     FakeWindow& about() { return machine.window(IDD_ABOUT); }
     void askAbout() { machine.window(IDD_FORM1).click(IDC_FORM1_CMDAP); }
 
+    /// The error of a start with these files named on the command line.
+    RuntimeError failure(const std::vector<std::wstring>& namedFiles = {}) {
+        machine.platform.namedFiles = namedFiles;
+        try {
+            Program(machine.platform).start();
+        } catch (const RuntimeError& error) {
+            return error;
+        }
+        return {0, L""};
+    }
+
     FakePlatform machine;
     Program program{machine.platform};
 };
@@ -28,8 +39,8 @@ TEST_F(StartUp, GoesThroughItsStepsInOrder) {
     program.start();
     EXPECT_EQ(machine.automation.journal,
               (CallJournal{L"attach SldWorks.Application", L"RevisionNumber()",
-                           L"GetCurrentWorkingDirectory()", L"create Scripting.FileSystemObject",
-                           L"Fso.fileExists(\"c:\\tarnwick\\tarnwick.lst\")"}));
+                           L"GetCurrentWorkingDirectory()", L"create Scripting.FileSystemObject"}));
+    EXPECT_EQ(machine.listHolds.asked, std::vector<std::wstring>{L"c:\\tarnwick\\tarnwick.verrou"});
     EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
     EXPECT_EQ(about().state, State::Unloaded);
 }
@@ -63,4 +74,36 @@ TEST_F(StartUp, IsFollowedByTheAboutWindowAsOftenAsTheUserAsks) {
         about().sink.raise(id, event);
         EXPECT_EQ(about().state, State::Unloaded) << id;
     }
+}
+
+TEST_F(StartUp, WorksOnTheListThatTheCommandLineNames) {
+    const std::wstring list = L"c:\\été 2026.lst\\Liste 1.LST";
+    machine.files.texts[list] = L"";
+    EXPECT_EQ(failure({list}).text, L"");
+    EXPECT_EQ(machine.listHolds.asked,
+              std::vector<std::wstring>{L"c:\\été 2026.lst\\Liste 1.verrou"});
+    EXPECT_TRUE(machine.windows.made.contains(IDD_FORM2));
+    for (const wchar_t* other : {L"c:\\été 2026.lst", L"c:\\a.lst\\b.txt", L"c:\\alst", L"c:\\",
+                                 L"c:\\a.txt:b.lst", L"", L"c:\\*.lst", L"\\\\.\\NUL", L"absent"}) {
+        const RuntimeError error = failure({other});
+        EXPECT_EQ(error.number, 5) << other;
+        EXPECT_TRUE(error.text.ends_with(other)) << error.text;
+    }
+    const RuntimeError two = failure({L"c:\\a.lst", L"c:\\b.lst"});
+    EXPECT_EQ(two.number, 5);
+    EXPECT_TRUE(two.text.ends_with(L"\r\nc:\\a.lst\r\nc:\\b.lst")) << two.text;
+}
+
+TEST_F(StartUp, EndsBeforeAllElseWhenTheListIsOpenAlready) {
+    using Kind = HoldAnswer::Kind;
+    machine.listHolds.answer = {Kind::RaisedOther};
+    EXPECT_THROW(program.start(), ProgramEnd);
+    machine.listHolds.answer = {Kind::HeldElsewhere, {L"Zoé", L"PC-12"}};
+    EXPECT_EQ(failure().number, 70);
+    EXPECT_EQ(failure().text,
+              L"La liste c:\\tarnwick\\tarnwick.lst est déjà ouverte par Zoé sur PC-12.");
+    machine.listHolds.answer.holder = {};
+    EXPECT_EQ(failure().number, 70);
+    EXPECT_TRUE(machine.windows.made.empty());
+    EXPECT_TRUE(machine.automation.journal.empty());
 }

@@ -68,6 +68,11 @@ struct PassedOn : Files {
     void replace(const std::wstring& path, const WriteContent& write) override {
         files.replace(path, write);
     }
+    PathKind kindOf(const std::wstring& path) override { return files.kindOf(path); }
+    void keepCopy(const std::wstring& file, const std::wstring& copy) override {
+        files.keepCopy(file, copy);
+    }
+    void remove(const std::wstring& file) override { files.remove(file); }
     void visit(const std::wstring& directory,
                const std::function<void(const DirectoryEntry&)>& visitor) override {
         before(directory);

@@ -6,6 +6,7 @@
 #include "fakes/fake_exits.h"
 #include "fakes/fake_platform.h"
 #include "resume/existing_list_ids.h"
+#include "unit/raised.h"
 
 namespace {
 
@@ -17,9 +18,7 @@ class ExistingListPrompt : public testing::Test {
 
     FakePlatform machine;
     FakeExits exits;
-    FileSystemObject fileSystem{machine.automation};
-    ExistingListWindow form{machine.windows, machine.places, fileSystem, machine.programFiles,
-                            exits};
+    ExistingListWindow form{machine.platform, machine.places, machine.programFiles, exits};
     FakeWindow& window = machine.window(IDD_FORM2);
 };
 
@@ -36,7 +35,21 @@ TEST_F(ExistingListPrompt, EveryAnswerSavesThePlaceClosesThePromptAndGoesOn) {
         window.click(button);
     }
     EXPECT_EQ(exits.taken, (Texts{L"resumePass", L"declineList", L"declineList"}));
-    EXPECT_EQ(machine.automation.deletedFiles, Texts{machine.programFiles.list});
+}
+
+TEST_F(ExistingListPrompt, AnErasedListStaysAsThePreviousOneUnlessItHadNoLine) {
+    const std::wstring& list = machine.programFiles.list;
+    const std::wstring previous = machine.programFiles.previousList();
+    const std::map<std::wstring, std::wstring> left = {{previous, machine.files.texts[list]}};
+    machine.files.texts[previous] = L"0  c:\\d'avant\r\n";
+    machine.records.contents[L"c:\\tarnwick\\tarnwick.reprise"] = "Fait";
+    window.click(IDC_FORM2_CMDEFFACER);
+    EXPECT_EQ(machine.files.texts, left);
+    EXPECT_TRUE(machine.records.contents.empty());
+    machine.files.texts[list] = L"";
+    window.click(IDC_FORM2_CMDEFFACER);
+    EXPECT_EQ(machine.files.texts, left);
+    EXPECT_EQ(raised([&] { window.click(IDC_FORM2_CMDEFFACER); }), 53);
 }
 
 TEST_F(ExistingListPrompt, ClosingItEndsTheProgramAndSavesNothing) {

@@ -1,4 +1,5 @@
 #include "common/runtime_error.h"
+#include "unit/raised.h"
 #include "unit/selection/selection_window_fixture.h"
 
 namespace {
@@ -6,6 +7,7 @@ namespace {
 class SelectionLeaving : public SelectionFixture {
  protected:
     std::wstring& listFile() { return machine.files.texts[machine.programFiles.list]; }
+    std::wstring previousList() { return machine.files.texts[machine.programFiles.previousList()]; }
     /// What is saved of the window's place, which is 450, -75.
     std::wstring savedPlace() {
         const auto saved = [&](const wchar_t* key) {
@@ -23,14 +25,34 @@ TEST_F(SelectionLeaving, LaunchingWritesTheChosenDocumentsThenHandsOver) {
     highlight({1});
     click(IDC_FORM1_CMDCOCHE);
     listFile() = L"12  c:\\d'avant\r\n";
+    leaveTypes();  // a click in the field, and then on the button
     exits.whenTaken = [&] {
         EXPECT_EQ(savedPlace(), L"450 -75");
         EXPECT_EQ(listFile(), L"0  c:\\plans\\Zoe.SLDDRW\r\n");
+        EXPECT_EQ(previousList(), L"12  c:\\d'avant\r\n");
         EXPECT_EQ(window().state, FakeWindow::State::Shown);
     };
     click(IDC_FORM1_CMD_TRACER);
     EXPECT_EQ(exits.taken.back(), L"launchPass");
     EXPECT_EQ(window().state, FakeWindow::State::Hidden);
+}
+
+TEST_F(SelectionLeaving, LaunchingTouchesNoListBeforeTheOldOneIsSafe) {
+    load();
+    listFile() = L"12  c:\\d'avant\r\n";
+    machine.files.unreadable = {machine.programFiles.previousList()};
+    EXPECT_EQ(raised([&] { click(IDC_FORM1_CMD_TRACER); }), 75);
+    EXPECT_EQ(listFile(), L"12  c:\\d'avant\r\n");
+    machine.files.unreadable = {machine.programFiles.list};
+    EXPECT_EQ(raised([&] { click(IDC_FORM1_CMD_TRACER); }), 75);
+    EXPECT_EQ(previousList(), L"") << "a list that can't be replaced does not go";
+
+    machine.files.unreadable.clear();
+    for (int nothingChosen = 0; nothingChosen < 2; ++nothingChosen) {
+        click(IDC_FORM1_CMD_TRACER);
+        EXPECT_EQ(listFile(), L"");
+        EXPECT_EQ(previousList(), L"12  c:\\d'avant\r\n");
+    }
 }
 
 TEST_F(SelectionLeaving, TheListFileHoldsFullPaths) {

@@ -19,7 +19,7 @@ TEST_F(SelectionSearch, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
     } cases[] = {
         {"typing", [&] { type(L"xsldprt"); }, {L"Bras.SLDPRT"}},
         {"choosing a kind", [&] { chooseType(3); }, {L"Bras.SLDPRT", L"corps.SLDASM"}},
-        {"leaving the kinds", [&] { leaveTypes(); }, {L"axe.slddrw", L"Zoe.SLDDRW"}},
+        {"the same kind again", [&] { chooseType(0); }, {L"axe.slddrw", L"Zoe.SLDDRW"}},
         {"opening below", [&] { openDirectory(L"moteur"); }, {L"bielle.SLDDRW"}},
         {"opening above", [&] { openDirectory(L"c:\\"); }, {L"a.SLDDRW"}},
         {"another drive", [&] { chooseDrive(1); }, {L"d.SLDDRW"}},
@@ -37,6 +37,25 @@ TEST_F(SelectionSearch, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
         EXPECT_EQ(text(IDC_FORM1_NBFICH), L"0") << c.what;
         EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), std::to_wstring(c.found.size())) << c.what;
     }
+}
+
+TEST_F(SelectionSearch, LeavingTheKindsAsTheyAreKeepsWhatIsChosen) {
+    load();
+    tick(true);
+    highlight({0, 2});
+    click(IDC_FORM1_CMDCOCHE);
+    machine.files.texts.erase(L"c:\\plans\\axe.slddrw");
+    machine.files.add(L"c:\\plans\\bague.SLDDRW");
+    leaveTypes();
+    EXPECT_EQ(list().texts(), (Lines{L"              c:\\plans\\bague.SLDDRW",
+                                     L"              c:\\plans\\Zoe.SLDDRW",
+                                     L" X   c:\\plans\\moteur\\bielle.SLDDRW"}));
+    EXPECT_EQ(marks(), L"001");
+    EXPECT_EQ(text(IDC_FORM1_NBFICH), L"1");
+    // Another program put in other kinds without a word of it.
+    types().content = L"*.SLDDRW ; *.SLDPRT";
+    leaveTypes();
+    EXPECT_EQ(marks(), L"00000");
 }
 
 TEST_F(SelectionSearch, FailsWhenThereAreTooManyDocuments) {

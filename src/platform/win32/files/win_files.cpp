@@ -28,6 +28,14 @@ static_assert(attribute::kHidden == FILE_ATTRIBUTE_HIDDEN &&
               attribute::kReparsePoint == FILE_ATTRIBUTE_REPARSE_POINT &&
               kMountPointTag == IO_REPARSE_TAG_MOUNT_POINT);
 
+/// A read-only file can be neither replaced nor deleted (the DeleteFile function). What can't be
+/// changed here is told by the call that follows.
+void makeWritable(const std::wstring& file) {
+    const DWORD attributes = GetFileAttributesW(longPath(file).c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_READONLY)) return;
+    SetFileAttributesW(longPath(file).c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
+}
+
 bool isDotEntry(const wchar_t* name) {
     return name[0] == L'.' && (name[1] == 0 || (name[1] == L'.' && name[2] == 0));
 }
@@ -59,6 +67,27 @@ std::string WinFiles::readBytes(const std::wstring& path) {
 
 void WinFiles::replace(const std::wstring& path, const WriteContent& write) {
     replaceFile(path, write);
+}
+
+PathKind WinFiles::kindOf(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(longPath(path).c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES) {
+        return attributes & FILE_ATTRIBUTE_DIRECTORY ? PathKind::Directory : PathKind::File;
+    }
+    const DWORD error = GetLastError();
+    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) return PathKind::Nothing;
+    throw fileError(error, path);
+}
+
+void WinFiles::keepCopy(const std::wstring& file, const std::wstring& copy) {
+    const std::string bytes = readBytes(file);
+    makeWritable(copy);
+    replaceFile(copy, [&](const ByteSink& sink) { sink(bytes); });
+}
+
+void WinFiles::remove(const std::wstring& file) {
+    makeWritable(file);
+    if (!DeleteFileW(longPath(file).c_str())) throw fileError(GetLastError(), file);
 }
 
 void WinFiles::visit(const std::wstring& directory,

@@ -1,0 +1,125 @@
+// One list, one program: what a start meets on a list that is open already, and lists of their own.
+
+#include "driver/text.h"
+#include "driver/winapi.h"
+#include "resume/existing_list_ids.h"
+#include "scenario.h"
+#include "tracking/tracking_ids.h"
+
+namespace driver {
+namespace {
+
+constexpr const char* kPrompt = "Tarnwick  :  Message";
+
+class Hold : public Scenario {
+ protected:
+    Hold() {
+        WriteListOf({"a.SLDPRT", "b.SLDPRT"});
+        cad.Start();
+    }
+
+    std::string InDirectory(const char* name) const {
+        return Utf8((sandbox.Directory() / Wide(name)).wstring());
+    }
+    bool Held(const char* name) const {
+        return ReadFileBytes(sandbox.Directory() / Wide(name)).has_value();
+    }
+
+    void WaitForFront(HWND window) const {
+        WaitFor("the window in front", [&] { return GetForegroundWindow() == window; });
+    }
+    /// Another program has the keyboard now.
+    void WorkElsewhere() const {
+        SetForegroundWindow(cad.Window());
+        WaitForFront(cad.Window());
+    }
+    /// A second start that finds the list open ends at once.
+    void ExpectSecondStartEnds() {
+        other.Start({".\\Documents\\..\\TARNWICK.LST"});
+        EXPECT_EQ(other.WaitForExit(), 0);
+    }
+
+    AppDriver other{sandbox};
+};
+
+TEST_F(Hold, SecondStartBringsTheFirstForward) {
+    app.Start();
+    HWND prompt = app.Window(kPrompt);
+    ShowWindow(prompt, SW_MINIMIZE);
+    WorkElsewhere();
+    ExpectSecondStartEnds();
+    WaitForFront(prompt);
+    EXPECT_FALSE(IsIconic(prompt));
+    ExpectCalls(calls::AtStartUp());
+
+    std::filesystem::remove(sandbox.ListFile());
+    app.Click(IDC_FORM2_CMDOK);
+    app.Box();
+    WorkElsewhere();
+    ExpectSecondStartEnds();
+    WaitFor("the box in front", [] { return ClassOf(GetForegroundWindow()) == "#32770"; });
+    ExpectFatalError(53);
+    EXPECT_EQ(cad.Calls(), calls::AtStartUp());
+}
+
+TEST_F(Hold, OneOfTwoStartsAtTheSameMomentGetsTheList) {
+    const auto ends = [&](const AppDriver& one) { return !one.Running(); };
+    for (int i = 0; i < 5; ++i) {
+        app.Start();
+        other.Start();
+        WaitFor("one of two to end", [&] { return ends(app) || ends(other); });
+        AppDriver& ended = ends(app) ? app : other;
+        AppDriver& stays = ends(app) ? other : app;
+        EXPECT_EQ(ended.WaitForExit(), 0);
+        stays.Window(kPrompt);
+        EXPECT_TRUE(Held("tarnwick.verrou"));
+        // Whatever ends a program, its hold goes with it.
+        stays.Kill();
+        EXPECT_FALSE(Held("tarnwick.verrou"));
+    }
+}
+
+TEST_F(Hold, ListsOfTheirOwnAreOpenSideBySide) {
+    const std::string summer = InDirectory("Été 2026.lst");
+    WriteFileBytes(Wide(summer), ListOf({"0", "0"}));
+    app.Start();
+    app.Click(IDC_FORM2_CMDANNULE);
+    app.Window(kSelection);
+    other.Start({"Été 2026.lst"});
+    other.Click(IDC_FORM2_CMDOK);
+    other.WaitForText(IDC_FORM3_TXTETAT, paths[0]);
+    EXPECT_TRUE(app.Running() && Held("tarnwick.verrou") && Held("Été 2026.verrou"));
+    other.Click(IDC_FORM3_CMDFICHIERLISTE);
+    WaitFor("the other list to be saved",
+            [&] { return ReadFileBytes(Wide(summer))->starts_with("3"); });
+    ExpectList(ListOf({"0", "0"}));
+    app.CloseByFrame(kSelection);
+    EXPECT_EQ(app.WaitForExit(), 0);
+    EXPECT_TRUE(!Held("tarnwick.verrou") && Held("Été 2026.verrou"));
+
+    app.Start({"documents\\a.SLDPRT"});
+    EXPECT_NE(ExpectFatalError(5).find(InDirectory("documents\\a.SLDPRT")), std::string::npos);
+}
+
+TEST_F(Hold, ListOpenOnAnotherMachineIsLeftAlone) {
+    const std::wstring file = Wide(InDirectory("tarnwick.verrou"));
+    HANDLE held = CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                              CREATE_ALWAYS, FILE_ATTRIBUTE_HIDDEN, nullptr);
+    ASSERT_NE(held, INVALID_HANDLE_VALUE);
+    const std::string names = "zoé\r\nPC-12\r\n";
+    DWORD written = 0;
+    WriteFile(held, names.data(), static_cast<DWORD>(names.size()), &written, nullptr);
+    app.Start();
+    const std::string text = ExpectFatalError(70);
+    EXPECT_TRUE(text.ends_with("La liste " + InDirectory("tarnwick.lst") +
+                               " est déjà ouverte par zoé sur PC-12."))
+        << text;
+    EXPECT_EQ(cad.Calls(), calls::Calls{});
+    // The file stays, as after a power cut; nobody has it any more.
+    CloseHandle(held);
+    app.Start();
+    app.Window(kPrompt);
+}
+
+}  // namespace
+}  // namespace driver
