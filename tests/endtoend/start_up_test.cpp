@@ -48,17 +48,5 @@ TEST_F(StartUp, KeepsAnOldListOnNoAndErasesItOnRequest) {
     EXPECT_EQ(sandbox.ReadList(), std::nullopt);
 }
 
-TEST_F(StartUp, AListThatVanishedMeanwhileIsAnError) {
-    cad.Start();
-    for (const int answer : {IDC_FORM2_CMDOK, IDC_FORM2_CMDEFFACER}) {
-        sandbox.WriteList(ListOf({"0"}));
-        app.Start();
-        app.Window(kPrompt);
-        std::filesystem::remove(sandbox.ListFile());
-        app.Click(answer);
-        ExpectFatalError(53);
-    }
-}
-
 }  // namespace
 }  // namespace driver
