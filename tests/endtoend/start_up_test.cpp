@@ -49,17 +49,5 @@ TEST_F(StartUp, KeepsAnOldListOnNoAndErasesItOnRequest) {
     EXPECT_EQ(ReadFileBytes(sandbox.Directory() / "tarnwick-precedente.lst"), ListOf({"0"}));
 }
 
-TEST_F(StartUp, AListThatVanishedMeanwhileIsAnError) {
-    cad.Start();
-    for (const int answer : {IDC_FORM2_CMDOK, IDC_FORM2_CMDEFFACER}) {
-        sandbox.WriteList(ListOf({"0"}));
-        app.Start();
-        app.Window(kPrompt);
-        std::filesystem::remove(sandbox.ListFile());
-        app.Click(answer);
-        ExpectFatalError(53);
-    }
-}
-
 }  // namespace
 }  // namespace driver

@@ -31,44 +31,40 @@ struct Answers : IdentityCalls {
     }
 };
 
-Answers wideOnes(ULONGLONG volume, BYTE first, BYTE last) {
+DirectoryId wideId(ULONGLONG volume, BYTE last) {
     Answers answers;
     answers.wideAnswer = FILE_ID_INFO{};
     answers.wideAnswer->VolumeSerialNumber = volume;
-    answers.wideAnswer->FileId.Identifier[0] = first;
+    answers.wideAnswer->FileId.Identifier[0] = 1;
     answers.wideAnswer->FileId.Identifier[15] = last;
-    answers.narrowAnswer.nFileIndexLow = first;
-    return answers;
+    return answers.id();
 }
 
-Answers narrowOnes(DWORD volume, DWORD high, DWORD low) {
+DirectoryId narrowId(DWORD volume, DWORD high, DWORD low, std::optional<FILE_ID_INFO> wide = {}) {
     Answers answers;
+    answers.wideAnswer = wide;
     answers.narrowAnswer.dwVolumeSerialNumber = volume;
     answers.narrowAnswer.nFileIndexHigh = high;
     answers.narrowAnswer.nFileIndexLow = low;
-    return answers;
+    return answers.id();
 }
 
 }  // namespace
 
 TEST(DirectoryIdentity, TellsApartByAllBitsThatTheFileSystemHas) {
-    EXPECT_EQ(wideOnes(7, 1, 2).id(), wideOnes(7, 1, 2).id());
-    EXPECT_FALSE(wideOnes(7, 1, 2).id() == wideOnes(7, 1, 3).id());
-    EXPECT_FALSE(wideOnes(7, 1, 2).id() == wideOnes(1ULL << 40, 1, 2).id());
-    EXPECT_EQ(narrowOnes(7, 1, 2).id(), narrowOnes(7, 1, 2).id());
-    EXPECT_FALSE(narrowOnes(7, 1, 2).id() == narrowOnes(7, 2, 2).id());
-    EXPECT_FALSE(narrowOnes(7, 1, 2).id() == narrowOnes(8, 1, 2).id());
+    EXPECT_EQ(wideId(7, 2), wideId(7, 2));
+    EXPECT_FALSE(wideId(7, 2) == wideId(7, 3));
+    EXPECT_FALSE(wideId(7, 2) == wideId(1ULL << 40, 2));
+    EXPECT_EQ(narrowId(7, 1, 2), narrowId(7, 1, 2));
+    EXPECT_FALSE(narrowId(7, 1, 2) == narrowId(7, 2, 2));
+    EXPECT_FALSE(narrowId(7, 1, 2) == narrowId(8, 1, 2));
 }
 
 TEST(DirectoryIdentity, AsksTheOldWayWhereTheNewIdentityIsNoneOrAllBits) {
     for (const BYTE filler : {BYTE{0}, BYTE{0xFF}}) {
-        Answers one = narrowOnes(7, 1, 2);
-        Answers other = narrowOnes(7, 1, 3);
-        for (Answers* answers : {&one, &other}) {
-            answers->wideAnswer = FILE_ID_INFO{};
-            std::ranges::fill(answers->wideAnswer->FileId.Identifier, filler);
-        }
-        EXPECT_FALSE(one.id() == other.id());
+        FILE_ID_INFO none{};
+        std::ranges::fill(none.FileId.Identifier, filler);
+        EXPECT_FALSE(narrowId(7, 1, 2, none) == narrowId(7, 1, 3, none));
     }
 }
 
