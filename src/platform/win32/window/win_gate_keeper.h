@@ -5,9 +5,6 @@
 
 class WinGateKeeper : public GateKeeper {
  public:
-    void setHourglass(bool shown) override { hourglass_.set(shown); }
+    void setHourglass(bool shown) override { Hourglass::set(shown); }
     void quit(int exitCode) override { PostQuitMessage(exitCode); }
-
- private:
-    Hourglass hourglass_;
 };
