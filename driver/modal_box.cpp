@@ -45,26 +45,33 @@ std::string ModalBox::Title() const { return TextOf(window_); }
 
 std::string ModalBox::Text() const { return TextOf(Label(window_)); }
 
+std::vector<HWND> ModalBox::ButtonWindows() const {
+    std::vector<HWND> buttons = Descendants(window_);
+    std::erase_if(buttons, [](HWND child) { return !IsButton(child); });
+    return buttons;
+}
+
 std::vector<int> ModalBox::Buttons() const {
     std::vector<int> ids;
-    for (HWND child : Descendants(window_))
-        if (IsButton(child)) ids.push_back(GetDlgCtrlID(child));
+    for (HWND button : ButtonWindows()) ids.push_back(GetDlgCtrlID(button));
     std::sort(ids.begin(), ids.end());
+    if (ids.size() == 1) ids.front() = IDOK;
     return ids;
 }
 
 // Asks the buttons: Wine's boxes do not tell DM_GETDEFID which one the caller made the default.
 int ModalBox::DefaultButton() const {
-    for (HWND child : Descendants(window_))
-        if (IsButton(child) && (Send(child, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON) != 0)
-            return GetDlgCtrlID(child);
+    for (HWND button : ButtonWindows())
+        if ((Send(button, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON) != 0) return GetDlgCtrlID(button);
     return LOWORD(Send(window_, DM_GETDEFID));
 }
 
 bool ModalBox::HasIcon() const { return AnyChild(window_, IsIcon); }
 
 void ModalBox::Answer(int button) const {
-    Post(GetDlgItem(window_, button), BM_CLICK);
+    const std::vector<HWND> buttons = ButtonWindows();
+    const bool lone = buttons.size() == 1 && button == IDOK;
+    Post(lone ? buttons.front() : GetDlgItem(window_, button), BM_CLICK);
     WaitFor("a message box to close", [this] { return !IsWindow(window_); });
 }
 

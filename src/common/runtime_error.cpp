@@ -27,6 +27,8 @@ RuntimeError subscriptOutOfRange() {
 
 RuntimeError typeMismatch() { return {13, L"Incompatibilité de type : un nombre était attendu."}; }
 
+RuntimeError unexpected() { return {51, L"Erreur interne de Tarnwick."}; }
+
 RuntimeError system(const std::wstring& what) { return about(51, L"Windows a refusé", what); }
 
 RuntimeError fileNotFound(const std::wstring& path) {

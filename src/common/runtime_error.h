@@ -23,6 +23,7 @@ RuntimeError overflow();                                   ///< 6
 RuntimeError outOfMemory();                                ///< 7
 RuntimeError subscriptOutOfRange();                        ///< 9
 RuntimeError typeMismatch();                               ///< 13
+RuntimeError unexpected();                                 ///< 51, for what nobody thought of
 RuntimeError system(const std::wstring& what);             ///< 51, Windows gave nothing
 RuntimeError fileNotFound(const std::wstring& path);       ///< 53
 RuntimeError permissionDenied(const std::wstring& path);   ///< 70

@@ -27,7 +27,8 @@ class AutomationObject {
 
     /// Calls the method `name`, spelled as the server is to receive it, arguments in order.
     /// `resultClass` names the class of an object it returns: objects of one class must answer a
-    /// name alike, for each name is looked up only once per class.
+    /// name alike, for each name is looked up only once per class. An object without a class
+    /// shares none: its names are looked up afresh.
     /// Raises 13, 438 or 440 as the server refuses or fails.
     virtual Value call(std::wstring_view name, std::span<const Argument> arguments,
                        std::wstring_view resultClass) = 0;
@@ -41,6 +42,7 @@ class Automation {
     virtual ~Automation() = default;
 
     /// The running object registered for `progId`; never starts one. Null when there is none.
+    /// Raises 440 when it is busy and the user gives up waiting.
     virtual ObjectPtr attach(const std::wstring& progId) = 0;
 
     /// A new object of the class `progId`. Raises 440 when the class can't be created.

@@ -12,56 +12,73 @@ MessageBoxContent fatalErrorBox(const RuntimeError& error) {
             .icon = MessageBoxContent::Icon::Stop};
 }
 
-void EventGate::deliver(EventSink& sink, int controlId, Event event, const EventSource& source) {
-    if (ended_) return;
-    if (running_) {
-        waiting_.push_back({&sink, controlId, event, &source});
-        return;
-    }
-    run([&] { sink.raise(controlId, event); });
+void EventGate::deliver(EventSink& sink, int controlId, Event event,
+                        const EventSource& source) noexcept {
+    guard([&] {
+        if (ended_) return;
+        deliveries_.push_back({&sink, controlId, event, &source, running_});
+        if (!running_) serve();
+    });
 }
 
-void EventGate::run(const std::function<void()>& action) {
+void EventGate::run(const std::function<void()>& action) noexcept {
     runOne(action);
-    while (!waiting_.empty() && !ended_) {
-        const Waiting next = waiting_.front();
-        waiting_.pop_front();
-        if (stillPossible(next)) runOne([&] { next.sink->raise(next.controlId, next.event); });
+    guard([&] { serve(); });
+}
+
+// The one place where an event that came can be refused.
+bool EventGate::isRefused(const Delivery& delivery) {
+    if (!delivery.waited) return false;
+    return !delivery.source->isShown() || !delivery.source->canUse(delivery.controlId);
+}
+
+void EventGate::serve() {
+    while (!deliveries_.empty() && !ended_) {
+        const Delivery next = deliveries_.front();
+        deliveries_.erase(deliveries_.begin());
+        if (!isRefused(next)) runOne([&] { next.sink->raise(next.controlId, next.event); });
     }
 }
 
-bool EventGate::stillPossible(const Waiting& waiting) {
-    return waiting.source->isShown() && waiting.source->isEnabled(waiting.controlId);
+template <class Action>
+void EventGate::runOne(const Action& action) {
+    running_ = true;
+    keeper_.setHourglass(true);
+    guard(action);
+    keeper_.setHourglass(false);
+    running_ = false;
+    endIfFailed();
 }
 
 void EventGate::forget(const EventSource& source) {
-    std::erase_if(waiting_, [&](const Waiting& event) { return event.source == &source; });
+    std::erase_if(deliveries_, [&](const Delivery& event) { return event.source == &source; });
 }
 
-void EventGate::runOne(const std::function<void()>& action) {
-    running_ = true;
-    keeper_.setHourglass(true);
-    try {
-        action();
-    } catch (const ProgramEnd&) {
-        end(0);
-    } catch (const RuntimeError& error) {
-        fail(error);
-    } catch (const std::bad_alloc&) {
-        fail(errors::outOfMemory());
-    }
-    keeper_.setHourglass(false);
-    running_ = false;
-}
-
-void EventGate::fail(const RuntimeError& error) {
-    boxes_.show(fatalErrorBox(error));
-    end(error.number);
-}
-
-void EventGate::end(int exitCode) {
+void EventGate::endIfFailed() noexcept {
+    if (!failure_ || ended_) return;
     ended_ = true;
-    exitCode_ = exitCode;
-    waiting_.clear();
-    keeper_.quit(exitCode);
+    deliveries_.clear();
+    try {
+        tellWhy();
+    } catch (...) {
+        // There is not even memory for the box: the exit code is known all the same.
+    }
+    keeper_.quit(exitCode_);
+}
+
+void EventGate::tellWhy() {
+    try {
+        std::rethrow_exception(failure_);
+    } catch (const ProgramEnd&) {
+        exitCode_ = 0;
+    } catch (const RuntimeError& error) {
+        exitCode_ = error.number;
+        boxes_.show(fatalErrorBox(error));
+    } catch (const std::bad_alloc&) {
+        exitCode_ = 7;
+        boxes_.show(fatalErrorBox(errors::outOfMemory()));
+    } catch (...) {
+        exitCode_ = 51;
+        boxes_.show(fatalErrorBox(errors::unexpected()));
+    }
 }

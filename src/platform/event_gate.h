@@ -1,7 +1,8 @@
 #pragma once
 
-#include <deque>
+#include <exception>
 #include <functional>
+#include <vector>
 
 #include "platform/events.h"
 
@@ -18,8 +19,9 @@ class EventSource {
     virtual ~EventSource() = default;
 
     virtual bool isShown() const = 0;
-    /// Whether the user may use the control; true when the window has none of this id.
-    virtual bool isEnabled(int controlId) const = 0;
+    /// Whether the user may use the control, which is to be seen and enabled; true when the window
+    /// has none of this id.
+    virtual bool canUse(int controlId) const = 0;
 };
 
 /// What the gate has the machine do.
@@ -33,17 +35,30 @@ class GateKeeper {
 };
 
 /// The one door through which events reach the windows' handlers, and where errors end the
-/// program. One handler runs at a time: an event that arrives meanwhile waits until it has ended.
+/// program: whatever is thrown behind it becomes a box. One handler runs at a time: an event that
+/// arrives meanwhile waits until it has ended.
 class EventGate {
  public:
     EventGate(GateKeeper& keeper, MessageBoxes& boxes) : keeper_(keeper), boxes_(boxes) {}
 
     /// Runs the handler of an event now, or after the one that runs; then only if the user could
     /// still do what it stands for.
-    void deliver(EventSink& sink, int controlId, Event event, const EventSource& source);
+    void deliver(EventSink& sink, int controlId, Event event, const EventSource& source) noexcept;
 
-    /// Runs anything that may raise a run-time error or end the program.
-    void run(const std::function<void()>& action);
+    /// Runs what is no event's handler but may take as long, and then the events that waited.
+    void run(const std::function<void()>& action) noexcept;
+
+    /// Runs the rest of what a window does with its messages. An error there ends the program, too,
+    /// after the handler that runs, if one does.
+    template <class Action>
+    void guard(const Action& action) noexcept {
+        try {
+            action();
+        } catch (...) {
+            if (!failure_) failure_ = std::current_exception();
+        }
+        if (!running_) endIfFailed();
+    }
 
     /// Drops the waiting events of a window that is gone.
     void forget(const EventSource& source);
@@ -54,22 +69,26 @@ class EventGate {
     int exitCode() const { return exitCode_; }
 
  private:
-    struct Waiting {
+    struct Delivery {
         EventSink* sink;
         int controlId;
         Event event;
         const EventSource* source;
+        bool waited;  ///< while another handler ran
     };
 
-    static bool stillPossible(const Waiting& waiting);
+    static bool isRefused(const Delivery& delivery);
 
-    void runOne(const std::function<void()>& action);
-    void fail(const RuntimeError& error);
-    void end(int exitCode);
+    void serve();
+    template <class Action>
+    void runOne(const Action& action);
+    void endIfFailed() noexcept;
+    void tellWhy();
 
     GateKeeper& keeper_;
     MessageBoxes& boxes_;
-    std::deque<Waiting> waiting_;
+    std::vector<Delivery> deliveries_;
+    std::exception_ptr failure_;
     bool running_ = false;
     bool ended_ = false;
     int exitCode_ = 0;

@@ -4,7 +4,9 @@
 
 ObjectPtr LateBoundAutomation::attach(const std::wstring& progId) {
     std::shared_ptr<ServedObject> object;
-    binding_.patience.call([&] { return servers_.running(progId, object); });
+    const CallResult result =
+        binding_.patience.call([&] { return servers_.running(progId, object); });
+    if (isBusy(result)) throw callError({.result = result, .name = progId});
     if (!object) return nullptr;
     return std::make_shared<LateBoundObject>(std::move(object), binding_, progId);
 }

@@ -10,7 +10,8 @@ class ObjectServers {
  public:
     virtual ~ObjectServers() = default;
 
-    /// The running object registered for a class; leaves `object` empty when there is none.
+    /// The running object registered for a class; leaves `object` empty when there is none, or when
+    /// it is too busy to be had now.
     virtual CallResult running(const std::wstring& progId,
                                std::shared_ptr<ServedObject>& object) = 0;
     /// A new object, null when none can be made.

@@ -4,7 +4,7 @@ LateBoundObject::LateBoundObject(std::shared_ptr<ServedObject> object, LateBindi
                                  std::wstring_view objectClass)
     : object_(std::move(object)),
       binding_(binding),
-      numbers_(binding.tables[std::wstring(objectClass)]) {}
+      numbers_(objectClass.empty() ? ownNumbers_ : binding.tables[std::wstring(objectClass)]) {}
 
 Value LateBoundObject::call(std::wstring_view name, std::span<const Argument> arguments,
                             std::wstring_view resultClass) {

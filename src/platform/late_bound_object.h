@@ -39,8 +39,11 @@ struct LateBinding {
 /// An object of another program, driven by name. Refused calls are repeated with patience.
 class LateBoundObject : public AutomationObject {
  public:
+    /// Of an object without a class the names are looked up afresh.
     LateBoundObject(std::shared_ptr<ServedObject> object, LateBinding& binding,
                     std::wstring_view objectClass);
+    LateBoundObject(const LateBoundObject&) = delete;
+    LateBoundObject& operator=(const LateBoundObject&) = delete;
 
     Value call(std::wstring_view name, std::span<const Argument> arguments,
                std::wstring_view resultClass) override;
@@ -56,5 +59,6 @@ class LateBoundObject : public AutomationObject {
 
     std::shared_ptr<ServedObject> object_;
     LateBinding& binding_;
+    MemberNumbers ownNumbers_;
     MemberNumbers& numbers_;
 };

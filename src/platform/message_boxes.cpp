@@ -1,6 +1,6 @@
 #include "platform/message_boxes.h"
 
-const wchar_t* frenchCaption(MessageBoxes::Answer button) {
+const wchar_t* frenchCaption(MessageBoxes::Answer button, bool besideRetry) {
     switch (button) {
         case MessageBoxes::Answer::Yes:
             return L"&Oui";
@@ -9,7 +9,7 @@ const wchar_t* frenchCaption(MessageBoxes::Answer button) {
         case MessageBoxes::Answer::Retry:
             return L"&Réessayer";
         case MessageBoxes::Answer::Cancel:
-            return L"Annuler";
+            return besideRetry ? L"Annuler" : nullptr;
         default:
             return nullptr;
     }

@@ -12,7 +12,7 @@ struct MessageBoxContent {
     Buttons buttons = Buttons::Ok;
     Icon icon = Icon::None;
     int defaultButton = 1;       ///< one-based
-    std::wstring helpFile = {};  ///< opened by F1, at the given context
+    std::wstring helpFile = {};  ///< what F1 stands for; Windows no longer opens such files
     int helpContext = 0;
 };
 
@@ -27,5 +27,6 @@ class MessageBoxes {
     virtual Answer show(const MessageBoxContent& box) = 0;
 };
 
-/// A button's French caption, whatever the language of the system; nullptr: it keeps its own.
-const wchar_t* frenchCaption(MessageBoxes::Answer button);
+/// A button's French caption, whatever the language of the system; nullptr: it keeps its own. A
+/// lone button has the id of Cancel, but is an OK button.
+const wchar_t* frenchCaption(MessageBoxes::Answer button, bool besideRetry);

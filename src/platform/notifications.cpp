@@ -1,11 +1,11 @@
 #include "platform/notifications.h"
 
-#include "common/text.h"
+#include <algorithm>
 
 namespace {
 
 constexpr struct {
-    const wchar_t* name;
+    std::wstring_view name;
     ControlClass kind;
 } kClasses[] = {{L"Button", ControlClass::Button},
                 {L"ListBox", ControlClass::ListBox},
@@ -26,11 +26,17 @@ constexpr struct {
     {ControlClass::ComboBox, notification::kComboFocusLost, Event::Validate},
 };
 
+/// Windows' own classes have plain letters only.
+bool isNamed(std::wstring_view className, std::wstring_view name) {
+    const auto lower = [](wchar_t c) { return c >= L'A' && c <= L'Z' ? c - L'A' + L'a' : c; };
+    return std::ranges::equal(className, name, {}, lower, lower);
+}
+
 }  // namespace
 
 ControlClass controlClass(std::wstring_view className) {
     for (const auto& known : kClasses) {
-        if (equalIgnoringCase(className, known.name)) return known.kind;
+        if (isNamed(className, known.name)) return known.kind;
     }
     return ControlClass::Other;
 }

@@ -7,6 +7,12 @@
 
 namespace {
 
+constexpr wchar_t kBusy[] =
+    L"SolidWorks est occupé.\r\n\r\n"
+    L"Réessayer : Tarnwick attend encore.\r\n"
+    L"Annuler : Tarnwick s'arrête. Les marques du travail en cours sont gardées et seront "
+    L"proposées au prochain démarrage.";
+
 CallResult tryOnce(const std::function<CallResult()>& attempt) {
     const CallOut out;
     return attempt();
@@ -30,7 +36,7 @@ std::optional<unsigned> Patience::afterRefusal() {
 }
 
 bool Patience::userGoesOn() {
-    return boxes_.show({.text = L"SolidWorks est occupé.",
+    return boxes_.show({.text = kBusy,
                         .title = L"Tarnwick",
                         .buttons = MessageBoxContent::Buttons::RetryCancel,
                         .icon = MessageBoxContent::Icon::Warning}) == MessageBoxes::Answer::Retry;

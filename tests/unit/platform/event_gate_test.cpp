@@ -28,9 +28,9 @@ struct BoxesThatWait : FakeMessageBoxes {
 
 struct FakeSource : EventSource {
     bool shown = true;
-    bool enabled = true;
+    bool usable = true;
     bool isShown() const override { return shown; }
-    bool isEnabled(int) const override { return enabled; }
+    bool canUse(int) const override { return usable; }
 };
 
 /// Does what the test says for each control.
@@ -77,11 +77,11 @@ TEST_F(EventGateTest, RunsOneHandlerAtATimeUnderTheHourglass) {
 TEST_F(EventGateTest, DropsWaitingEventsThatTheUserCouldNotCauseAnyMore) {
     sink.handlers[1] = [&] {
         click(2);
-        source.enabled = false;
+        source.usable = false;
     };
     sink.handlers[3] = [&] {
         click(4);
-        source.enabled = true;
+        source.usable = true;
         source.shown = false;
     };
     sink.handlers[5] = [&] {
@@ -109,8 +109,39 @@ TEST_F(EventGateTest, EndsWithoutABoxWhenTheProgramWantsTo) {
     expectEnd(0);
 }
 
-TEST_F(EventGateTest, NamesAShortageOfMemory) {
+TEST_F(EventGateTest, TurnsWhateverIsThrownIntoABox) {
     gate.run([] { throw std::bad_alloc(); });
     EXPECT_EQ(boxes.shown.size(), 1U);
     expectEnd(7);
+}
+
+TEST_F(EventGateTest, TurnsEvenAStrayExceptionIntoABox) {
+    sink.handlers[1] = [] { throw 1; };
+    click(1);
+    EXPECT_EQ(boxes.shown.at(0).text.find(L"Erreur d'exécution '51' :"), 0U);
+    expectEnd(51);
+}
+
+TEST_F(EventGateTest, EndsWithTheErrorsNumberEvenWhenNoBoxCanBeShown) {
+    boxes.whileShown = [] { throw std::bad_alloc(); };
+    gate.run([] { throw errors::overflow(); });
+    expectEnd(6);
+}
+
+// A window procedure may fail outside any handler, or while one runs, which is then not cut off.
+TEST_F(EventGateTest, EndsTheProgramWhenAWindowFails) {
+    gate.guard([] { throw errors::system(L"une police"); });
+    EXPECT_EQ(boxes.shown.size(), 1U);
+    expectEnd(51);
+}
+
+TEST_F(EventGateTest, LetsTheHandlerThatRunsEndWhenAWindowFails) {
+    sink.handlers[1] = [&] {
+        gate.guard([] { throw errors::system(L"une police"); });
+        EXPECT_FALSE(gate.ended());
+        sink.raised.push_back(2);
+    };
+    click(1);
+    EXPECT_EQ(sink.raised, (std::vector{1, 2}));
+    expectEnd(51);
 }

@@ -49,8 +49,10 @@ struct FakeApplication : ServedObject {
 struct FakeServers : ObjectServers {
     std::shared_ptr<FakeApplication> application = std::make_shared<FakeApplication>();
     CallResult answer = 0;
+    std::function<void()> whenAsked = [] {};
 
     CallResult running(const std::wstring&, std::shared_ptr<ServedObject>& object) override {
+        whenAsked();
         if (answer == 0) object = application;
         return answer;
     }
@@ -109,4 +111,30 @@ TEST_F(LateBindingTest, FindsNoObjectWhereNoneIsRegistered) {
     servers.answer = call_result::failure(0x800401E3);  // MK_E_UNAVAILABLE
     EXPECT_EQ(automation.attach(L"SldWorks.Application"), nullptr);
     EXPECT_TRUE(boxes.shown.empty());
+}
+
+// An ending in lower case keeps the previous type's code: no class is certain then.
+TEST_F(LateBindingTest, LooksTheNamesOfAnObjectWithoutClassUpAfresh) {
+    const ObjectPtr application = automation.attach(L"SldWorks.Application");
+    EXPECT_TRUE(save(application, parts, {}));
+    EXPECT_TRUE(save(application, parts, {}));
+    EXPECT_EQ(parts.lookUps, 2);
+    EXPECT_TRUE(save(application, drawings, {}));
+    EXPECT_EQ(drawings.lookUps, 1);
+}
+
+TEST_F(LateBindingTest, WaitsForARunningObjectThatIsBusy) {
+    servers.answer = call_result::kRejected;
+    servers.whenAsked = [&] {
+        if (clock.time > 1'005'000) servers.answer = 0;
+    };
+    EXPECT_NE(automation.attach(L"SldWorks.Application"), nullptr);
+    EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST_F(LateBindingTest, TellsABusyObjectFromNoneWhenTheUserGivesUp) {
+    servers.answer = call_result::kRetryLater;
+    boxes.answers = {MessageBoxes::Answer::Cancel};
+    EXPECT_EQ(raised([&] { automation.attach(L"SldWorks.Application"); }), 440);
+    EXPECT_EQ(boxes.shown.size(), 1U);
 }

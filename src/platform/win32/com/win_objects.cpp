@@ -54,6 +54,8 @@ CallResult WinObject::invoke(std::int32_t member, Access access,
     DISPPARAMS parameters{variants.data(), put ? &named : nullptr, variants.count(), put ? 1U : 0U};
     OwnedVariant result;
     ServersWords words;
+    // A dialog that the server opens during the call may come forward, if that is ours to give.
+    CoAllowSetForegroundWindow(dispatch_.get(), nullptr);
     const HRESULT outcome =
         dispatch_->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
                           put ? nullptr : &result, &words, nullptr);

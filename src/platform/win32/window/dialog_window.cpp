@@ -4,8 +4,10 @@
 
 #include "platform/win32/process/require.h"
 #include "platform/win32/window/accessible_names.h"
+#include "platform/win32/window/foreground.h"
 #include "platform/win32/window/hourglass.h"
 #include "platform/win32/window/input_sieve.h"
+#include "platform/win32/window/own_windows.h"
 #include "platform/win32/window/tooltips.h"
 #include "platform/win32/window/win_controls.h"
 
@@ -24,6 +26,8 @@ void registerWindowClass() {
     RegisterClassExW(&windowClass);
 }
 
+HWND firstControl(HWND window) { return GetNextDlgTabItem(window, nullptr, FALSE); }
+
 HWND makeDialog(int dialogId, DLGPROC procedure) {
     return require(
         CreateDialogW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(dialogId), nullptr, procedure),
@@ -40,7 +44,10 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
       fixedPitchId_(windowTemplate.fixedPitchId),
       window_(makeDialog(windowTemplate.dialogId, procedure)),
       layout_(window_.get(), windowTemplate.anchors),
-      tips_(addTooltips(window_.get(), windowTemplate.tooltips)) {
+      tips_(addTooltips(window_.get(), windowTemplate.tooltips)),
+      taskbarButton_(window_.get()),
+      progress_(taskbarButton_) {
+    noteUsed(window_.get());
     SetWindowLongPtrW(window_.get(), DWLP_USER, reinterpret_cast<LONG_PTR>(this));
     chooseFonts();
     takeTemplateSize();
@@ -48,7 +55,7 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
     shortcuts_.emplace(window_.get(), windowTemplate.dialogId);
 }
 
-DialogWindow::~DialogWindow() { unload(); }
+DialogWindow::~DialogWindow() { destroy(); }
 
 void DialogWindow::chooseFonts() {
     const UINT dpi = GetDpiForWindow(window_.get());
@@ -83,9 +90,9 @@ void DialogWindow::changeResolution(const RECT& suggested) {
 
 bool DialogWindow::isShown() const { return IsWindowVisible(window_.get()); }
 
-bool DialogWindow::isEnabled(int controlId) const {
+bool DialogWindow::canUse(int controlId) const {
     HWND control = item(controlId);
-    return !control || IsWindowEnabled(control);
+    return !control || (IsWindowVisible(control) && IsWindowEnabled(control));
 }
 
 template <class Kind>
@@ -101,25 +108,35 @@ ListBox& DialogWindow::listBox(int id) { return find<WinListBox>(id); }
 ComboBox& DialogWindow::comboBox(int id) { return find<WinComboBox>(id); }
 TabStrip& DialogWindow::tabStrip(int id) { return find<WinTabStrip>(id); }
 
-void DialogWindow::showProgress(int done, int total) { progress_.show(window_.get(), done, total); }
+void DialogWindow::showProgress(int done, int total) { progress_.set(done, total); }
 
 void DialogWindow::show() {
     HWND window = window_.get();
     const bool wasVisible = IsWindowVisible(window);
     if (!wasVisible) InputSieve::windowShown();
+    noteUsed(window);
     ShowWindow(window, IsIconic(window) ? SW_RESTORE : SW_SHOW);
-    SetForegroundWindow(window);
-    if (!wasVisible && focusId_ != 0) SetFocus(item(focusId_));
+    takeForeground(window);
+    if (!wasVisible) SetFocus(focusId_ != 0 ? item(focusId_) : firstControl(window));
     // The splash is shown before the program serves any messages.
     UpdateWindow(window);
 }
 
-void DialogWindow::hide() { ShowWindow(window_.get(), SW_HIDE); }
+void DialogWindow::hide() {
+    keepForeground(window_.get());
+    ShowWindow(window_.get(), SW_HIDE);
+}
 
 void DialogWindow::unload() {
+    keepForeground(window_.get());
+    destroy();
+}
+
+void DialogWindow::destroy() {
     if (!window_) return;
     SetWindowLongPtrW(window_.get(), DWLP_USER, 0);
     gate_.forget(*this);
+    noteGone(window_.get());
     shortcuts_.reset();
     window_.reset();
 }

@@ -10,7 +10,7 @@
 
 #include "platform/event_gate.h"
 #include "platform/win32/window/shortcuts.h"
-#include "platform/win32/window/taskbar_progress.h"
+#include "platform/win32/window/win_taskbar_button.h"
 #include "platform/win32/window/window_fonts.h"
 #include "platform/win32/window/window_icons.h"
 #include "platform/win32/window/window_layout.h"
@@ -42,13 +42,14 @@ class DialogWindow : public Window, private EventSource {
 
  private:
     bool isShown() const override;
-    bool isEnabled(int controlId) const override;
+    bool canUse(int controlId) const override;
 
-    static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam,
+                                      LPARAM lParam) noexcept;
     INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam);
     void onCommand(int id, WORD code, HWND control);
     INT_PTR onNotify(const NMHDR& header);
-    INT_PTR onSetCursor(HWND control, WORD mouseMessage);
+    INT_PTR onSetCursor(HWND control, int place, WORD mouseMessage);
     void onKey(int id);
     void onShortcut(HWND control);
     void raise(int id, Event event);
@@ -56,6 +57,7 @@ class DialogWindow : public Window, private EventSource {
     void changeResolution(const RECT& suggested);
     void chooseFonts();
     void takeTemplateSize();
+    void destroy();
     HWND item(int id) const { return GetDlgItem(window_.get(), id); }
     Point restoredCorner() const;
     void placeCorner(int top, int left) const;
@@ -76,6 +78,7 @@ class DialogWindow : public Window, private EventSource {
     HWND tips_;
     /// By id and kind: any control may also be asked for as a plain one.
     std::map<std::pair<int, std::type_index>, std::unique_ptr<Control>> controls_;
+    WinTaskbarButton taskbarButton_;
     TaskbarProgress progress_;
 };
 

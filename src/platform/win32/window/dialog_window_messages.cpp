@@ -8,6 +8,7 @@
 #include "platform/win32/window/dialog_window.h"
 #include "platform/win32/window/hourglass.h"
 #include "platform/win32/window/input_sieve.h"
+#include "platform/win32/window/own_windows.h"
 #include "platform/win32/window/tooltips.h"
 
 namespace {
@@ -36,6 +37,19 @@ void keepKeyboard(HWND window, int focusId) {
 }
 
 bool isButton(HWND control) { return classOf(control) == ControlClass::Button; }
+bool isPress(WORD mouseMessage) {
+    return mouseMessage == WM_LBUTTONDOWN || mouseMessage == WM_RBUTTONDOWN ||
+           mouseMessage == WM_MBUTTONDOWN || mouseMessage == WM_XBUTTONDOWN;
+}
+
+/// A press on a window that is disabled is meant for the box that waits. Windows itself knows only
+/// the box's owner, and beeps.
+void bringBoxForward() {
+    for (HWND window : ownWindows()) {
+        HWND box = GetLastActivePopup(window);
+        if (box != window) SetForegroundWindow(box);
+    }
+}
 
 void showNextTab(HWND tabStrip) {
     const LRESULT next = SendMessageW(tabStrip, TCM_GETCURSEL, 0, 0) + 1;
@@ -45,14 +59,19 @@ void showNextTab(HWND tabStrip) {
 
 }  // namespace
 
-INT_PTR CALLBACK DialogWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_INITDIALOG) return TRUE;
+// Nothing that is thrown gets out: Windows would swallow it, or end the program without a word.
+INT_PTR CALLBACK DialogWindow::procedure(HWND window, UINT message, WPARAM wParam,
+                                         LPARAM lParam) noexcept {
+    // WM_INITDIALOG, too: the focus on a window that is not shown yet would activate it.
     auto* self = reinterpret_cast<DialogWindow*>(GetWindowLongPtrW(window, DWLP_USER));
-    return self ? self->handle(message, wParam, lParam) : FALSE;
+    if (!self) return FALSE;
+    INT_PTR answer = FALSE;
+    self->gate_.guard([&] { answer = self->handle(message, wParam, lParam); });
+    return answer;
 }
 
 INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
-    progress_.onMessage(window_.get(), message);
+    if (message == WinTaskbarButton::madeMessage()) progress_.onButtonMade();
     switch (message) {
         case WM_COMMAND:
             onCommand(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
@@ -77,7 +96,11 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (wParam) raise(kTheWindow, Event::Close);
             return TRUE;
         case WM_SETCURSOR:
-            return onSetCursor(reinterpret_cast<HWND>(wParam), HIWORD(lParam));
+            return onSetCursor(reinterpret_cast<HWND>(wParam), static_cast<short>(LOWORD(lParam)),
+                               HIWORD(lParam));
+        case WM_ACTIVATE:
+            if (LOWORD(wParam) != WA_INACTIVE) noteUsed(window_.get());
+            return FALSE;
         default:
             return FALSE;
     }
@@ -90,7 +113,11 @@ INT_PTR DialogWindow::onNotify(const NMHDR& header) {
 }
 
 // Sent before each mouse message of a control.
-INT_PTR DialogWindow::onSetCursor(HWND control, WORD mouseMessage) {
+INT_PTR DialogWindow::onSetCursor(HWND control, int place, WORD mouseMessage) {
+    if (place == HTERROR) {
+        if (isPress(mouseMessage)) bringBoxForward();
+        return FALSE;
+    }
     relayToTooltips(tips_, control, mouseMessage);
     if (!Hourglass::shown()) return FALSE;
     SetCursor(LoadCursorW(nullptr, IDC_WAIT));

@@ -69,6 +69,7 @@ class WinListBox : public ControlOf<ListBox> {
 
     std::size_t widest_ = 0;  ///< characters of the longest line, for the horizontal scroll bar
     int pauses_ = 0;
+    bool paused_ = false;  ///< whether the control knows of it
 };
 
 class WinComboBox : public ControlOf<ComboBox> {

@@ -9,11 +9,8 @@ class WinGateKeeper : public GateKeeper {
  public:
     /// Shown from the beginning of a handler to its end.
     void setHourglass(bool shown) override {
-        hourglass_.set(shown);
+        Hourglass::set(shown);
         if (!shown && LongWork::takeDone()) InputSieve::workEnded();
     }
     void quit(int exitCode) override { PostQuitMessage(exitCode); }
-
- private:
-    Hourglass hourglass_;
 };

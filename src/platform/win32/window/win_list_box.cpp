@@ -94,12 +94,16 @@ void WinListBox::widenFor(std::size_t characters) {
     send(LB_SETHORIZONTALEXTENT, (characters + 1) * static_cast<WPARAM>(characterWidth(handle())));
 }
 
+// Windows shows a hidden window whose drawing is switched on: it is left alone.
 void WinListBox::stopDrawing() {
-    if (pauses_++ == 0) send(WM_SETREDRAW, FALSE);
+    if (pauses_++ != 0) return;
+    paused_ = (GetWindowLongW(handle(), GWL_STYLE) & WS_VISIBLE) != 0;
+    if (paused_) send(WM_SETREDRAW, FALSE);
 }
 
 void WinListBox::resumeDrawing() {
-    if (--pauses_ != 0) return;
+    if (--pauses_ != 0 || !paused_) return;
     send(WM_SETREDRAW, TRUE);
-    InvalidateRect(handle(), nullptr, TRUE);
+    RedrawWindow(handle(), nullptr, nullptr,
+                 RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
 }

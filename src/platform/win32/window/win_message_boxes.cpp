@@ -5,7 +5,9 @@
 #include <vector>
 
 #include "platform/win32/process/unique.h"
+#include "platform/win32/window/hourglass.h"
 #include "platform/win32/window/input_sieve.h"
+#include "platform/win32/window/own_windows.h"
 
 namespace {
 
@@ -24,8 +26,9 @@ class FrenchButtons {
         wchar_t className[16] = {};
         GetClassNameW(box, className, ARRAYSIZE(className));
         if (lstrcmpW(className, L"#32770") != 0) return;
+        const bool retry = GetDlgItem(box, IDRETRY);
         for (int id = IDOK; id <= IDNO; ++id) {
-            const wchar_t* caption = frenchCaption(static_cast<MessageBoxes::Answer>(id));
+            const wchar_t* caption = frenchCaption(static_cast<MessageBoxes::Answer>(id), retry);
             if (caption && GetDlgItem(box, id)) SetDlgItemTextW(box, id, caption);
         }
     }
@@ -37,8 +40,12 @@ class FrenchButtons {
 /// Disables every window of the program but the box's owner, which the box disables itself.
 class OthersDisabled {
  public:
-    explicit OthersDisabled(HWND owner) : owner_(owner) {
-        EnumThreadWindows(GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
+    explicit OthersDisabled(HWND owner) {
+        for (HWND window : ownWindows()) {
+            if (window == owner || !IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
+            disabled_.push_back(window);
+            EnableWindow(window, FALSE);
+        }
     }
     ~OthersDisabled() {
         for (HWND window : disabled_) EnableWindow(window, TRUE);
@@ -47,29 +54,12 @@ class OthersDisabled {
     OthersDisabled& operator=(const OthersDisabled&) = delete;
 
  private:
-    static BOOL CALLBACK disable(HWND window, LPARAM self) {
-        auto* others = reinterpret_cast<OthersDisabled*>(self);
-        if (window != others->owner_ && IsWindowVisible(window) && IsWindowEnabled(window)) {
-            EnableWindow(window, FALSE);
-            others->disabled_.push_back(window);
-        }
-        return TRUE;
-    }
-
-    HWND owner_;
     std::vector<HWND> disabled_;
 };
 
-const MessageBoxContent* shownBox = nullptr;
-
-void CALLBACK onHelp(LPHELPINFO) {
-    WinHelpW(nullptr, shownBox->helpFile.c_str(), HELP_CONTEXT,
-             static_cast<ULONG_PTR>(shownBox->helpContext));
-}
-
 HWND ownerOfBoxes() {
-    HWND owner = GetActiveWindow();
-    return owner && IsWindowVisible(owner) ? owner : nullptr;
+    HWND active = GetActiveWindow();
+    return active && IsWindowVisible(active) ? active : lastVisibleWindow();
 }
 
 DWORD styleOf(const MessageBoxContent& box) {
@@ -88,11 +78,8 @@ MessageBoxes::Answer WinMessageBoxes::show(const MessageBoxContent& box) {
     parameters.lpszText = box.text.c_str();
     parameters.lpszCaption = box.title.c_str();
     parameters.dwStyle = styleOf(box);
-    if (box.helpContext != 0) {
-        parameters.dwContextHelpId = static_cast<DWORD>(box.helpContext);
-        parameters.lpfnMsgBoxCallback = onHelp;
-    }
-    shownBox = &box;
+    parameters.dwContextHelpId = static_cast<DWORD>(box.helpContext);
+    const HourglassAside question;
     const OthersDisabled others(parameters.hwndOwner);
     const FrenchButtons french;
     InputSieve::windowShown();

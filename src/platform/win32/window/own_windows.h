@@ -1,0 +1,15 @@
+#pragma once
+
+#include <windows.h>
+
+#include <vector>
+
+/// The windows of the program, hidden ones included, the one used last first.
+const std::vector<HWND>& ownWindows();
+
+/// A window was made, shown or activated.
+void noteUsed(HWND window);
+void noteGone(HWND window);
+
+/// The visible window used last, `other` excepted; null when there is none.
+HWND lastVisibleWindow(HWND other = nullptr);
