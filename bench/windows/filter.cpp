@@ -30,7 +30,7 @@ Comparison compareFilter(const Setting& setting, int documents) {
     FoundDocuments found;
     fill(found, documents);
     SelectionList selection(list, found);
-    selection.fill(0);
+    selection.fill(0, {});
 
     std::vector<std::wstring> folded;
     for (int i = 0; i < list.count(); ++i) folded.push_back(upperCase(list.line(i)));

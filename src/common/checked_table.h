@@ -1,21 +1,41 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
 #include "common/runtime_error.h"
 
-/// A table of fixed size. Reaching past it raises subscript out of range (9).
+/// A table of fixed size. Reaching past it raises subscript out of range (9). Room for its entries
+/// is made as they are written to, a page at a time; an entry stays where it is.
 template <class Entry, std::size_t Size>
 class CheckedTable {
  public:
-    CheckedTable() : entries_(Size) {}
+    Entry& operator[](std::int64_t index) {
+        const std::size_t place = checked(index);
+        if (place / kPage >= pages_.size()) pages_.resize(place / kPage + 1);
+        std::vector<Entry>& page = pages_[place / kPage];
+        if (page.empty()) page.resize(std::min(kPage, Size - place / kPage * kPage));
+        return page[place % kPage];
+    }
 
-    Entry& operator[](std::int64_t index) { return entries_[checked(index)]; }
-    const Entry& operator[](std::int64_t index) const { return entries_[checked(index)]; }
+    const Entry& operator[](std::int64_t index) const {
+        const std::size_t place = checked(index);
+        return isMade(place) ? pages_[place / kPage][place % kPage] : kNew;
+    }
+
+    /// Makes the entries from `first` to before `end` new.
+    void clear(std::size_t first = 0, std::size_t end = Size) {
+        for (std::size_t place = first; place < end; ++place) {
+            if (isMade(place)) pages_[place / kPage][place % kPage] = Entry();
+        }
+    }
 
  private:
+    static constexpr std::size_t kPage = 128;
+    inline static const Entry kNew{};
+
     static std::size_t checked(std::int64_t index) {
         if (index < 0 || static_cast<std::size_t>(index) >= Size) {
             throw errors::subscriptOutOfRange();
@@ -23,5 +43,9 @@ class CheckedTable {
         return static_cast<std::size_t>(index);
     }
 
-    std::vector<Entry> entries_;
+    bool isMade(std::size_t place) const {
+        return place / kPage < pages_.size() && !pages_[place / kPage].empty();
+    }
+
+    std::vector<std::vector<Entry>> pages_;
 };

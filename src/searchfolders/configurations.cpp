@@ -1,7 +1,7 @@
 #include "searchfolders/configurations.h"
 
 void clearFrom(Configuration& configuration, int first) {
-    for (int i = first; i <= kMostDirectories; ++i) configuration[i].clear();
+    configuration.clear(static_cast<std::size_t>(first));
 }
 
 int firstEmpty(const Configuration& configuration, int first) {

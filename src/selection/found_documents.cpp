@@ -1,7 +1,7 @@
 #include "selection/found_documents.h"
 
 void FoundDocuments::restart(bool fullPaths) {
-    for (int i = 0; i < kCapacity; ++i) entries_[i].clear();
+    entries_.clear();
     count_ = 0;
     fullPaths_ = fullPaths;
 }
@@ -9,7 +9,7 @@ void FoundDocuments::restart(bool fullPaths) {
 void FoundDocuments::beginPass(bool append) {
     pass_.clear();
     if (append) return;
-    for (int i = 0; i < kCapacity - 1; ++i) entries_[i].clear();
+    entries_.clear(0, kCapacity - 1);
     count_ = 0;
 }
 

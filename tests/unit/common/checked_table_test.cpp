@@ -1,0 +1,20 @@
+#include "common/checked_table.h"
+
+#include <gtest/gtest.h>
+
+#include "unit/raised.h"
+
+TEST(CheckedTable, HasAllItsEntriesFromTheBeginningAndNoMore) {
+    CheckedTable<std::string, 1000> table;
+    const auto& view = table;
+    EXPECT_EQ(view[999], "");
+    std::string& last = table[999];
+    last = "z";
+    for (int i = 0; i < 999; ++i) table[i] = std::to_string(i);
+    EXPECT_EQ(&last, &table[999]) << "an entry stays where it is";
+    table.clear(1, 999);
+    EXPECT_EQ(view[0] + view[1] + view[998] + view[999], "0z");
+    EXPECT_EQ(raised([&] { table[1000] = ""; }), 9);
+    EXPECT_EQ(raised([&] { (void)view[1000]; }), 9);
+    EXPECT_EQ(raised([&] { (void)view[-1]; }), 9);
+}
