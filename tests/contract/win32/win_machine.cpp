@@ -4,6 +4,7 @@
 
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
+#include "contract/win32/scratch_directory.h"
 #include "platform/long_path.h"
 #include "platform/win32/files/win_files.h"
 #include "platform/win32/process/registry_settings.h"
@@ -13,36 +14,11 @@
 
 namespace {
 
-/// A new directory among the temporary files.
-std::wstring newDirectory() {
-    static int number = 0;
-    wchar_t temporary[MAX_PATH + 1] = {};
-    GetTempPathW(MAX_PATH + 1, temporary);
-    const std::wstring path = temporary +
-                              (L"tarnwick-contract-" + std::to_wstring(GetCurrentProcessId())) +
-                              L'-' + std::to_wstring(++number);
-    CreateDirectoryW(path.c_str(), nullptr);
-    return path;
-}
-
-/// Removes a directory with all that is in it, whatever its names, lengths and attributes.
-void removeTree(const std::wstring& directory) {
-    WinFiles().visit(directory, [&](const DirectoryEntry& entry) {
-        const std::wstring path = directory + L'\\' + std::wstring(entry.name);
-        if (entry.isDirectory && !entry.isLink) return removeTree(path);
-        SetFileAttributesW(longPath(path).c_str(), FILE_ATTRIBUTE_NORMAL);
-        entry.isDirectory ? RemoveDirectoryW(longPath(path).c_str())
-                          : DeleteFileW(longPath(path).c_str());
-    });
-    RemoveDirectoryW(longPath(directory).c_str());
-}
-
 class WinMachine : public Machine, private EventSink {
  public:
     WinMachine() { window_->show(); }
     ~WinMachine() override {
         RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\tarnwick contract");
-        removeTree(directory_);
     }
     WinMachine(const WinMachine&) = delete;
     WinMachine& operator=(const WinMachine&) = delete;
@@ -50,7 +26,7 @@ class WinMachine : public Machine, private EventSink {
     Window& window() override { return *window_; }
     Settings& settings() override { return settings_; }
     Files& files() override { return files_; }
-    std::wstring directory() override { return directory_; }
+    std::wstring directory() override { return directory_.path(); }
     void addDirectory(const std::wstring& path) override {
         CreateDirectoryW(longPath(path).c_str(), nullptr);
     }
@@ -81,7 +57,7 @@ class WinMachine : public Machine, private EventSink {
     int events_ = 0;
     RegistrySettings settings_;
     WinFiles files_;
-    std::wstring directory_ = newDirectory();
+    ScratchDirectory directory_;
 };
 
 }  // namespace
