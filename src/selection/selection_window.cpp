@@ -10,6 +10,7 @@
 #include "session/program_files.h"
 #include "session/window_places.h"
 #include "worklist/list_file.h"
+#include "worklist/mark_keeper.h"
 
 namespace {
 
@@ -125,6 +126,7 @@ void SelectionWindow::writeList() {
         keepPreviousList(platform_.files, files_);
         file(text);
     });
+    removeKeptMarks(platform_.records, files_.list);
 }
 
 std::wstring SelectionWindow::fullPath(int index) const {
