@@ -81,9 +81,10 @@ TEST_F(BusyCad, TypingMeanwhileIsKept) {
     sandbox.AddDocument("b.SLDDRW");
     StartInDocuments({"--delay", "GetSearchFolders:2000"});
     app.WaitForText(IDC_FORM1_CPTFICHIER, "1");
+    HWND field = GetWindow(app.Control(IDC_FORM1_TYPEF), GW_CHILD);
+    Send(field, EM_SETSEL, 0, 0);
     app.Click(IDC_FORM1_CMDREPDEF);
     WaitForCall("GetSearchFolders");
-    HWND field = GetWindow(app.Control(IDC_FORM1_TYPEF), GW_CHILD);
     for (const char letter : {'S', 'L', 'D', 'P', 'R', 'T'})
         Post(field, WM_CHAR, static_cast<WPARAM>(letter), 1);
     app.WaitForText(IDC_FORM1_CPTFICHIER, "2");
