@@ -4,6 +4,7 @@
 #include <iostream>
 #include <random>
 
+#include "driver/winapi.h"
 #include "resume/existing_list_ids.h"
 #include "scenario.h"
 #include "selection/selection_ids.h"
@@ -33,6 +34,13 @@ class KeptMarks : public Scenario {
         box.Answer(answer);
     }
 
+    /// Waits until the document is open and the command that opened it has ended.
+    void WaitUntilOpen(const std::string& path) const {
+        app.WaitForText(IDC_FORM3_TXTETAT, path);
+        app.Click(IDC_FORM3_CMDDESELECT);
+        WaitFor("the next command", [this] { return app.Selected(IDC_FORM3_LIST1).empty(); });
+    }
+
     std::string Marked(int count) const {
         return kMarked + std::to_string(count) + "\r\nRetrouver ces marques ?";
     }
@@ -43,10 +51,7 @@ TEST_F(KeptMarks, AreOfferedAfterAKillAndAfterTheSessionDied) {
     cad.Start();
     StartAndResume();
     app.Click(IDC_FORM3_CMDSUIV);
-    app.WaitForText(IDC_FORM3_TXTETAT, paths[1]);
-    app.Window(kTracking);
-    WaitFor("the command's end",
-            [this] { return cad.Calls().back().find("Zoom") != std::string::npos; });
+    WaitUntilOpen(paths[1]);
     app.Kill();
     EXPECT_EQ(sandbox.ReadList(), ListOf({"0", "0", "0", "0"}));
 
@@ -55,7 +60,7 @@ TEST_F(KeptMarks, AreOfferedAfterAKillAndAfterTheSessionDied) {
     ExpectLines(IDC_FORM3_LIST1, {"0001  " + kDone + paths[0], "0002  " + kInProgress + paths[1],
                                   "0003  " + kToDo + paths[2], "0004  " + kToDo + paths[3]});
     app.Click(IDC_FORM3_CMDSUIVQUITTER);
-    app.WaitForText(IDC_FORM3_TXTETAT, paths[2]);
+    WaitUntilOpen(paths[2]);
     cad.Kill();
     app.Click(IDC_FORM3_CMDSUIV);
     const std::string text = ExpectFatalError(440);
