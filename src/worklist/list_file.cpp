@@ -1,11 +1,13 @@
 #include "worklist/list_file.h"
 
 #include <charconv>
+#include <functional>
 
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
 #include "common/utf8.h"
+#include "worklist/list_writer.h"
 
 namespace {
 
@@ -43,6 +45,26 @@ WorkLine parseLine(std::string_view text, WorkList& list) {
     return line;
 }
 
+/// The path with what is written around it, if it stands so in a text; else nothing.
+std::string_view asItStands(std::string_view path, std::string_view text) {
+    if (text.empty()) return {};
+    const std::less<> isBefore;
+    if (isBefore(path.data(), text.data() + kBetween.size())) return {};
+    if (isBefore(text.data() + text.size(), path.data() + path.size() + kLineEnd.size())) return {};
+    const std::string_view rest(path.data() - kBetween.size(),
+                                kBetween.size() + path.size() + kLineEnd.size());
+    return rest.starts_with(kBetween) && rest.ends_with(kLineEnd) ? rest : std::string_view();
+}
+
+/// Writes what follows the code of a line. Most lines are as they were read.
+void addRest(ListWriter& writer, std::string_view path, std::string_view fileText) {
+    const std::string_view rest = asItStands(path, fileText);
+    if (!rest.empty()) return writer.add(rest);
+    writer.add(kBetween);
+    writer.add(path);
+    writer.add(kLineEnd);
+}
+
 }  // namespace
 
 bool parseListFile(std::string text, WorkList& list, const std::wstring& file) {
@@ -64,19 +86,14 @@ bool parseListFile(std::string text, WorkList& list, const std::wstring& file) {
 }
 
 void formatListFile(WorkList& list, std::int32_t lineCount, const ByteSink& file) {
-    constexpr std::size_t kPiece = 1 << 16;
-    std::string piece;
-    piece.reserve(kPiece + 1000);
+    ListWriter writer(file);
     for (std::int32_t i = 0; i < lineCount; ++i) {
         WorkLine& line = list.lines[i];
         if (line.reload) line.code = list.keep(std::string("1").append(line.code));
-        (piece += line.code) += kBetween;
-        (piece += line.path) += kLineEnd;
-        if (piece.size() < kPiece) continue;
-        file(piece);
-        piece.clear();
+        writer.add(line.code);
+        addRest(writer, line.path, list.firstText());
     }
-    file(piece);
+    writer.finish();
 }
 
 void appendFreshLine(std::string& text, std::wstring_view path) {

@@ -54,6 +54,10 @@ struct WorkList {
 
     /// Keeps a text as long as the list, for lines to stand in: the whole list file is one.
     std::string_view keep(std::string text) { return texts_.emplace_back(std::move(text)); }
+    /// The text that was kept first: mostly the list file's.
+    std::string_view firstText() const {
+        return texts_.empty() ? std::string_view() : texts_.front();
+    }
 
  private:
     std::deque<std::string> texts_;  ///< a deque, whose elements stay where they are

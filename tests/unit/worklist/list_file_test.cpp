@@ -56,6 +56,17 @@ TEST(ListFile, EachLineIsACodeAndAPath) {
     }
 }
 
+TEST(ListFile, IsWrittenLineByLineWhateverOfItIsAsItWasRead) {
+    const std::string many = linesToDo(3000);
+    WorkList list;
+    ASSERT_TRUE(parseListFile(many + "0  c:\\a\r\n 1 c:\\b\n2  c:\\c\r\n2  c:\\d", list));
+    EXPECT_EQ(saved(list, 3004), many + "0  c:\\a\r\n1  c:\\b\r\n2  c:\\c\r\n2  c:\\d\r\n");
+    list.lines[3000].code = state::kDone;
+    list.lines[3002].path = list.lines[0].path;
+    EXPECT_EQ(saved(list, 3003), many + "1  c:\\a\r\n1  c:\\b\r\n2  c:\\f0\r\n");
+    EXPECT_EQ(saved(list, 0), "");
+}
+
 TEST(ListFile, AnEmptyTextLeavesTheListAlone) {
     WorkList list;
     list.last = 5;
