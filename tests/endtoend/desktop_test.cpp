@@ -15,33 +15,15 @@ SIZE SizeOf(HWND window) {
     return {place.right - place.left, place.bottom - place.top};
 }
 
-class Desktop : public Scenario {
- protected:
-    /// Resumes a list of two documents.
-    HWND StartTracking() {
-        WriteListOf({"a.SLDPRT", "b.SLDPRT"});
-        cad.Start({"--hidden"});
-        StartAndResume();
-        return app.Window(kTracking);
-    }
-
-    /// Presses a key with Ctrl held, for the window that the user works in.
-    void PressWithControl(HWND window, BYTE key) {
-        WaitFor("the window in front", [&] {
-            SetForegroundWindow(window);
-            return GetForegroundWindow() == window;
-        });
-        keybd_event(VK_CONTROL, 0, 0, 0);
-        keybd_event(key, 0, 0, 0);
-        keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
-        keybd_event(VK_CONTROL, 0, KEYEVENTF_KEYUP, 0);
-    }
-};
+using Desktop = Scenario;
 
 TEST_F(Desktop, ListsTakeTheSpaceOfALargerWindowWithinReach) {
     settings.Set("tarnwick", "startup", "toppos3", "-9000");
     settings.Set("tarnwick", "startup", "leftpos3", "30000");
-    HWND window = StartTracking();
+    WriteListOf({"a.SLDPRT", "b.SLDPRT"});
+    cad.Start({"--hidden"});
+    StartAndResume();
+    HWND window = app.Window(kTracking);
     EXPECT_GE(PlaceOf(window).top, 0);
     EXPECT_LE(PlaceOf(window).left, GetSystemMetrics(SM_CXSCREEN) - 100);
 
@@ -57,33 +39,21 @@ TEST_F(Desktop, ListsTakeTheSpaceOfALargerWindowWithinReach) {
     }
 }
 
-TEST_F(Desktop, ShortcutsPressButtonsThatAreEnabled) {
-    HWND window = StartTracking();
-    int depth = 0;
-    // A press while a command runs is none; a command that is posted waits for the end of it.
-    const auto waitForTheEnd = [&] {
-        app.Click(IDC_FORM3_CMDPLUS1);
-        app.WaitForText(IDC_FORM3_NNIVEAU1, std::to_string(++depth));
-    };
-    for (int i = 0; i < 2; ++i) {
-        waitForTheEnd();
-        PressWithControl(window, '3');
-        app.WaitForText(IDC_FORM3_NBFICH1, "2");
-    }
-    app.WaitForText(IDC_FORM3_TXTETAT, "Aucun");
-    waitForTheEnd();
-    const calls::Calls before = cad.Calls();
-    PressWithControl(window, '1');
-    PressWithControl(window, VK_ADD);
-    app.WaitForText(IDC_FORM3_NNIVEAU1, std::to_string(depth + 1));
-    EXPECT_EQ(cad.Calls(), before);
-}
-
-TEST_F(Desktop, SelectingAllLinesByKeyCountsAsAClick) {
+TEST_F(Desktop, ShortcutsReachTheListSelectItsLinesAndPressButtons) {
     sandbox.AddDocument("plan.SLDDRW");
     StartInDocuments({"--hidden"});
     app.WaitForText(IDC_FORM1_CPTFICHIER, "1");
-    for (const BYTE key : {'G', 'A', 'D'}) PressWithControl(app.Window(kSelection), key);
+    HWND window = app.Window(kSelection);
+    WaitFor("the window in front", [&] {
+        SetForegroundWindow(window);
+        return GetForegroundWindow() == window;
+    });
+    for (const BYTE key : {'G', 'A', 'D'}) {
+        keybd_event(VK_CONTROL, 0, 0, 0);
+        keybd_event(key, 0, 0, 0);
+        keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+        keybd_event(VK_CONTROL, 0, KEYEVENTF_KEYUP, 0);
+    }
     app.WaitForText(IDC_FORM1_NBFICH, "1");
 }
 
