@@ -1,10 +1,5 @@
 // Marks outlive whatever ends the program.
 
-#include <cstdlib>
-#include <iostream>
-#include <random>
-
-#include "driver/winapi.h"
 #include "resume/existing_list_ids.h"
 #include "scenario.h"
 #include "selection/selection_ids.h"
@@ -117,75 +112,6 @@ TEST_F(KeptMarks, ADocumentThatStopsTheProgramCanBePassed) {
     app.WaitForText(IDC_FORM3_TXTETAT, paths[1]);
     app.Click(IDC_FORM3_CMDFICHIERLISTE);
     ExpectList(ListOf({"0", "3", "0"}));
-}
-
-/// TARNWICK_KILLS in the environment: so many kills at random moments of a running pass.
-class Kills : public KeptMarks {
- protected:
-    /// How many documents the session has closed before another call came in: their marks were
-    /// made before a call that went out.
-    size_t CertainMarks() const {
-        const auto calls = cad.Calls();
-        size_t marks = 0;
-        for (size_t i = callsSeen; i + 1 < calls.size(); ++i) {
-            const bool closed = calls[i].find("Close") == 0 || calls[i].find("closedoc") == 0;
-            marks += closed && calls[i + 1].find("OpenDoc6") == 0;
-        }
-        callsSeen = calls.size();
-        return marks;
-    }
-
-    mutable size_t callsSeen = 0;
-};
-
-TEST_F(Kills, LoseNoMarkMadeBeforeTheLastFinishedCall) {
-    const char* wanted = std::getenv("TARNWICK_KILLS");
-    const int kills = wanted ? std::atoi(wanted) : 0;
-    std::vector<std::string> names;
-    for (int i = 0; i < 200; ++i) names.push_back(std::to_string(i) + ".SLDPRT");
-    std::mt19937 random(1);
-    size_t marks = 0;
-    size_t offered = 0;
-    int lost = 0;
-    int failedStarts = 0;
-    for (int kill = 0; kill < kills; ++kill) {
-        if (kill % 50 == 0) {
-            if (kill > 0) cad.Close();
-            WriteListOf(kill == 0 ? names : std::vector<std::string>());
-            sandbox.WriteList(ListOf(std::vector<std::string>(names.size(), "0")));
-            cad.Start({"--hidden"});
-            callsSeen = marks = offered = 0;
-        }
-        app.Start();
-        app.Click(IDC_FORM2_CMDOK);
-        offered = 0;
-        WaitFor("a box or the first document", [this] {
-            return app.ShowsBox() || cad.Calls().size() > callsSeen + 3 || !app.Running();
-        });
-        while (app.ShowsBox()) {
-            const std::string text = app.Box().Text();
-            if (text.find(kMarked) == 0) offered = std::stoul(text.substr(kMarked.size()));
-            app.Box().Answer(IDYES);
-            Sleep(30);
-        }
-        if (!app.Running()) ++failedStarts;
-        if (offered < marks) lost += static_cast<int>(marks - offered);
-        if (offered < marks)
-            std::cout << "kill " << kill << ": " << offered << " of " << marks << std::endl;
-        marks = offered;
-        HWND button = app.Control(IDC_FORM3_CMDSUIV);
-        const ULONGLONG end = GetTickCount64() + random() % 400;
-        while (GetTickCount64() < end) {
-            Post(button, BM_CLICK);
-            Sleep(static_cast<DWORD>(random() % 25));
-        }
-        app.Kill();
-        marks += CertainMarks();
-    }
-    std::cout << kills << " kills: " << lost << " marks lost, " << failedStarts
-              << " starts failed\n";
-    EXPECT_EQ(lost, 0);
-    EXPECT_EQ(failedStarts, 0);
 }
 
 }  // namespace

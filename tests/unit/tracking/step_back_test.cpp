@@ -30,14 +30,6 @@ TEST_F(StepBack, OpensTheNearestLineToDoAbove) {
     }
 }
 
-TEST_F(StepBack, PassesOverTheLastLineThatTheLoadMarkedButDidNotOpen) {
-    loadStates(L"10");
-    click(IDC_FORM3_CMDPRECEDENT);
-    EXPECT_EQ(states(), L"1 3");
-    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"aucun");
-    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"-1");
-}
-
 TEST_F(StepBack, FromTheFirstLineToDoLeavesNoCurrentLine) {
     loadStates(L"100");
     click(IDC_FORM3_CMDPRECEDENT);
@@ -49,21 +41,6 @@ TEST_F(StepBack, FromTheFirstLineToDoLeavesNoCurrentLine) {
     EXPECT_TRUE(list().selection().empty());
     EXPECT_FALSE(canStepBack());
     EXPECT_TRUE(canAdvance());
-}
-
-TEST_F(StepBack, WithNoCurrentLineIsFollowedByTheFirstLineToDo) {
-    loadStates(L"100");
-    click(IDC_FORM3_CMDPRECEDENT);
-    takeCalls();
-    click(IDC_FORM3_CMDSUIV);
-    const CallJournal calls = takeCalls();
-    // The document object and its name are still those of the document that was closed.
-    EXPECT_EQ(calls[0], L"b.save2(True)");
-    EXPECT_EQ(calls[1], L"closedoc(\"c:\\b\")");
-    EXPECT_TRUE(calls[2].starts_with(L"OpenDoc6(&\"c:\\b\"")) << calls[2];
-    EXPECT_EQ(states(), L"1 3 0");
-    EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"1");
-    EXPECT_TRUE(canStepBack());
 }
 
 TEST_F(StepBack, TakesADocumentOfTheSamePathAsOpen) {

@@ -1,0 +1,120 @@
+// tarnwick-kills.exe N: kills the program N times at random moments of a running pass and counts
+// the marks that are not offered at the next start although they were made before the last call
+// that went out. Ends with 1 when there are any, or when a start fails.
+
+#include <windows.h>
+
+#include <cstdlib>
+#include <iostream>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "driver/app_driver.h"
+#include "driver/sandbox.h"
+#include "driver/settings.h"
+#include "driver/trial_cad.h"
+#include "driver/wait.h"
+#include "driver/winapi.h"
+#include "resume/existing_list_ids.h"
+#include "tracking/tracking_ids.h"
+
+namespace driver {
+namespace {
+
+constexpr int kDocuments = 200;
+constexpr int kKillsAList = 50;
+const std::string kMarked = "Documents marqués depuis : ";
+
+class Kills {
+ public:
+    void Run(int kills) {
+        for (int kill = 0; kill < kills; ++kill) {
+            if (kill % kKillsAList == 0) BeginAnew();
+            Start();
+            WorkAndKill();
+        }
+    }
+
+    int lost = 0;
+    int failedStarts = 0;
+
+ private:
+    void BeginAnew() {
+        if (begun_) cad_.Close();
+        begun_ = true;
+        std::string list;
+        for (int i = 0; i < kDocuments; ++i) {
+            list += "0  " + sandbox_.AddDocument(std::to_string(i) + ".SLDPRT") + "\r\n";
+        }
+        sandbox_.WriteList(list);
+        cad_.Start({"--hidden"});
+        seen_ = marks_ = 0;
+    }
+
+    /// Starts the program on the list, takes over the marks that it offers, and counts them.
+    void Start() {
+        app_.Start();
+        app_.Click(IDC_FORM2_CMDOK);
+        size_t offered = 0;
+        constexpr size_t kCallsAtStart = 3;
+        WaitFor("a box or the first document", [&] {
+            return app_.ShowsBox() || cad_.Calls().size() > seen_ + kCallsAtStart ||
+                   !app_.Running();
+        });
+        while (app_.ShowsBox()) {
+            const std::string text = app_.Box().Text();
+            if (const auto at = text.find(kMarked); at != std::string::npos) {
+                offered = std::stoul(text.substr(at + kMarked.size()));
+            }
+            app_.Box().Answer(IDYES);
+            Sleep(30);
+        }
+        failedStarts += !app_.Running();
+        if (offered < marks_) lost += static_cast<int>(marks_ - offered);
+        marks_ = offered;
+    }
+
+    void WorkAndKill() {
+        HWND button = app_.Control(IDC_FORM3_CMDSUIV);
+        const ULONGLONG end = GetTickCount64() + random_() % 400;
+        while (GetTickCount64() < end) {
+            Post(button, BM_CLICK);
+            Sleep(static_cast<DWORD>(random_() % 25));
+        }
+        app_.Kill();
+        marks_ += NewMarks();
+    }
+
+    /// A document that was closed before the next one was asked for has been marked in between.
+    size_t NewMarks() {
+        const auto calls = cad_.Calls();
+        size_t marks = 0;
+        for (size_t i = seen_; i + 1 < calls.size(); ++i) {
+            marks += calls[i].find("closedoc") == 0 && calls[i + 1].find("OpenDoc6") == 0;
+        }
+        seen_ = calls.size();
+        return marks;
+    }
+
+    const Settings settings_;
+    Sandbox sandbox_;
+    TrialCad cad_{sandbox_};
+    AppDriver app_{sandbox_};
+    std::mt19937 random_{1};
+    bool begun_ = false;
+    size_t seen_ = 0;   ///< calls of the session
+    size_t marks_ = 0;  ///< that the next start must offer
+};
+
+}  // namespace
+}  // namespace driver
+
+int main(int count, char** arguments) {
+    const int kills = count > 1 ? std::atoi(arguments[1]) : 20;
+    driver::Kills run;
+    run.Run(kills);
+    std::cout << kills << " kills: " << run.lost << " marks lost, " << run.failedStarts
+              << " starts failed\n";
+    return run.lost + run.failedStarts > 0 ? 1 : 0;
+}
