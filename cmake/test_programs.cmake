@@ -19,7 +19,7 @@ function(compile_folders_as_one target)
   endforeach()
   set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
   # A fixture without linkage is no mistake in a file that nobody includes but this one.
-  target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-Wno-subobject-linkage>)
+  target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endfunction()
 
 # Has the programs of this directory, and of those below it, linked by LLVM's linker where it is installed: GNU's takes

@@ -5,12 +5,19 @@ add_compile_options(-ffunction-sections -fdata-sections -fstack-protector-strong
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
 add_link_options(-static -fstack-protector-strong -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat -Wl,--high-entropy-va
   $<$<NOT:$<OR:$<CONFIG:Debug>,$<BOOL:$<TARGET_PROPERTY:KEEPS_SYMBOLS>>>>:-s>)
-# They need Windows 10, and terminal servers need not adjust anything for them.
-add_link_options(-Wl,--major-os-version,10,--minor-os-version,0
-  -Wl,--major-subsystem-version,10,--minor-subsystem-version,0 -Wl,--tsaware)
-# Two builds of one commit give the same bytes: no time, and no name of the directory they were made in.
+
+# Not every linker for Windows knows these. They need Windows 10, and terminal servers need not adjust anything for them.
+include(CheckLinkerFlag)
+foreach(flag --major-os-version,10,--minor-os-version,0 --major-subsystem-version,10,--minor-subsystem-version,0
+    --tsaware --no-insert-timestamp)
+  string(MAKE_C_IDENTIFIER "LINKER_KNOWS${flag}" known)
+  check_linker_flag(CXX -Wl,${flag} ${known})
+  if(${known})
+    add_link_options(-Wl,${flag})
+  endif()
+endforeach()
+# As the linker tells no time, the compiler tells no directory: two builds of one commit give the same bytes.
 add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=>)
-add_link_options(-Wl,--no-insert-timestamp)
 # windres must read our .rc files as UTF-8.
 set(CMAKE_RC_FLAGS "${CMAKE_RC_FLAGS} -c 65001")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
