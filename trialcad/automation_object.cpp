@@ -4,6 +4,15 @@
 
 #include "call_desk.h"
 
+namespace {
+
+/// Whether the value of a property is named as such, which servers insist on (IDispatch::Invoke).
+bool bearsTheNameOfAValue(const DISPPARAMS& parameters) {
+    return parameters.cNamedArgs == 1 && parameters.rgdispidNamedArgs[0] == DISPID_PROPERTYPUT;
+}
+
+}  // namespace
+
 HRESULT AutomationObject::QueryInterface(REFIID iid, void** object) {
     if (!object) return E_POINTER;
     const bool known = iid == IID_IUnknown || iid == IID_IDispatch;
@@ -51,6 +60,7 @@ HRESULT AutomationObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS
     const Microsoft::WRL::ComPtr<IDispatch> alive(this);
     const Member* member = names_.find(id);
     const bool put = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
+    if (put && !bearsTheNameOfAValue(*parameters)) return DISP_E_PARAMNOTFOUND;
     const std::wstring name = member ? names_.spelling(id) : L"dispid " + std::to_wstring(id);
     Call call(*parameters);
     const Reply reply = desk_.receive({*this, member, journalPrefix() + name, put}, call);

@@ -65,15 +65,21 @@ std::wstring FakeFiles::resolved(std::wstring path) const {
     return path;
 }
 
+std::map<std::wstring, bool> FakeFiles::below(const std::wstring& directory) const {
+    std::map<std::wstring, bool> names;
+    const auto note = [&](const std::wstring& path, bool isDirectory) {
+        const std::wstring name = nameBelow(directory, path);
+        if (name.empty()) return;
+        names[name] |= isDirectory || path.size() > directory.size() + 1 + name.size();
+    };
+    for (const auto& [path, text] : texts) note(path, false);
+    for (const auto& path : directories) note(path, true);
+    for (const auto& [path, target] : links) note(path, true);
+    return names;
+}
+
 bool FakeFiles::exists(const std::wstring& directory) const {
-    if (directory.size() == 2 || directories.contains(directory)) return true;
-    for (const auto& [path, text] : texts) {
-        if (!nameBelow(directory, path).empty()) return true;
-    }
-    for (const auto& path : directories) {
-        if (!nameBelow(directory, path).empty()) return true;
-    }
-    return false;
+    return directory.size() == 2 || directories.contains(directory) || !below(directory).empty();
 }
 
 DirectoryEntry FakeFiles::entry(const std::wstring& path, const std::wstring& name,
@@ -87,6 +93,7 @@ DirectoryEntry FakeFiles::entry(const std::wstring& path, const std::wstring& na
 
 void FakeFiles::visit(const std::wstring& directory,
                       const std::function<void(const DirectoryEntry&)>& visitor) {
+    beforeEach(directory);
     const std::wstring where = resolved(directory);
     {
         const std::scoped_lock lock(counting);
@@ -95,23 +102,12 @@ void FakeFiles::visit(const std::wstring& directory,
     if (unreadable.contains(where)) throw errors::permissionDenied(directory);
     if (!exists(where)) throw errors::pathNotFound(directory);
 
-    std::map<std::wstring, bool> names;  // name -> is a directory
-    const auto note = [&](const std::wstring& path, bool pathIsDirectory) {
-        const std::wstring name = nameBelow(where, path);
-        if (name.empty()) return;
-        names[name] =
-            names[name] || pathIsDirectory || path.size() > where.size() + 1 + name.size();
-    };
-    for (const auto& [path, text] : texts) note(path, false);
-    for (const auto& path : directories) note(path, true);
-    for (const auto& [path, target] : links) note(path, true);
-    for (const auto& [name, isDirectory] : names) {
-        const std::wstring path = where + L'\\' + name;
-        visitor(entry(path, name, isDirectory));
-    }
+    for (const auto& [name, isDirectory] : below(where))
+        visitor(entry(where + L'\\' + name, name, isDirectory));
 }
 
 DirectoryId FakeFiles::identify(const std::wstring& directory) {
+    beforeEach(directory);
     const std::wstring where = resolved(directory);
     if (!exists(where)) throw errors::pathNotFound(directory);
     DirectoryId id{.volume = 1, .file = {}};

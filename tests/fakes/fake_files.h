@@ -17,6 +17,8 @@ struct FakeFiles : Files {
     std::map<wchar_t, std::wstring> currentDirectories;
     std::map<std::wstring, int> visits;  ///< how often each directory was read
     std::mutex counting;                 ///< of the visits, by several threads
+    /// Looks on, or is late, before a directory is visited or identified.
+    std::function<void(const std::wstring&)> beforeEach = [](const std::wstring&) {};
 
     /// An empty document, and its directories.
     void add(const std::wstring& path) { texts[path]; }
@@ -37,5 +39,7 @@ struct FakeFiles : Files {
     std::wstring resolved(std::wstring path) const;
     DirectoryEntry entry(const std::wstring& path, const std::wstring& name,
                          bool isDirectory) const;
+    /// The names right below a directory; true for those of directories.
+    std::map<std::wstring, bool> below(const std::wstring& directory) const;
     bool exists(const std::wstring& directory) const;
 };

@@ -57,35 +57,6 @@ class PlainWalk {
     OpenDirectories open_;
 };
 
-/// Passes everything on to other files, some of it late.
-struct PassedOn : Files {
-    explicit PassedOn(Files& theFiles) : files(theFiles) {}
-
-    Files& files;
-    std::function<void(const std::wstring& directory)> before = [](const std::wstring&) {};
-
-    std::string readBytes(const std::wstring& path) override { return files.readBytes(path); }
-    void replace(const std::wstring& path, const WriteContent& write) override {
-        files.replace(path, write);
-    }
-    PathKind kindOf(const std::wstring& path) override { return files.kindOf(path); }
-    void keepCopy(const std::wstring& file, const std::wstring& copy) override {
-        files.keepCopy(file, copy);
-    }
-    void remove(const std::wstring& file) override { files.remove(file); }
-    void visit(const std::wstring& directory,
-               const std::function<void(const DirectoryEntry&)>& visitor) override {
-        before(directory);
-        files.visit(directory, visitor);
-    }
-    DirectoryId identify(const std::wstring& directory) override {
-        before(directory);
-        return files.identify(directory);
-    }
-    std::vector<wchar_t> drives() override { return files.drives(); }
-    std::wstring currentDirectory(wchar_t drive) override { return files.currentDirectory(drive); }
-};
-
 class RandomTree {
  public:
     explicit RandomTree(unsigned seed) : random_(seed) {
@@ -125,10 +96,10 @@ class RandomTree {
 class TreeWalk : public testing::Test {
  protected:
     /// All workers are waited for.
-    WalkEnd walk(Files& walked, Log& log, bool deep = true) {
+    WalkEnd walk(Log& log) {
         JoiningWorkers workers;
         return walkTree(
-            {walked, workers, patience}, L"c:\\r", deep, isPart,
+            {files, workers, patience}, L"c:\\r", true, isPart,
             [&](const auto& directory, const auto& names) { note(log, directory, names); });
     }
 
@@ -152,28 +123,19 @@ TEST(TreeWalks, MeetWhatAPlainWalkMeetsAndFailWhereItFails) {
             const DirectoryVisitor visit = visitor(log);
             PlainWalk(tree.files, visit).run(L"c:\\r");
         });
-        PassedOn late(tree.files);
-        late.before = [&](const std::wstring& directory) {
+        tree.files.beforeEach = [&](const std::wstring& directory) {
             std::this_thread::sleep_for(std::chrono::microseconds(directory.size() * (seed % 7)));
         };
         const Log ahead = logOf([&](Log& log) {
             FakePatience patience;
             JoiningWorkers workers;
             workers.refusedEach = seed % 3 == 0 ? 1 + static_cast<int>(seed / 3) : 1 << 30;
-            EXPECT_EQ(walkTree({late, workers, patience}, L"c:\\r", true, isPart, visitor(log)),
-                      WalkEnd::Complete);
+            EXPECT_EQ(
+                walkTree({tree.files, workers, patience}, L"c:\\r", true, isPart, visitor(log)),
+                WalkEnd::Complete);
         });
         ASSERT_EQ(ahead, plain) << "seed " << seed;
     }
-}
-
-TEST_F(TreeWalk, ReadsOneDirectoryAlone) {
-    files.add(L"c:\\r\\a.SLDPRT");
-    files.add(L"c:\\r\\sous\\b.SLDPRT");
-    Log log;
-    EXPECT_EQ(walk(files, log, false), WalkEnd::Complete);
-    EXPECT_EQ(log, (Log{L"c:\\r", L"a.SLDPRT"}));
-    EXPECT_EQ(files.visits, (std::map<std::wstring, int>{{L"c:\\r", 1}}));
 }
 
 TEST_F(TreeWalk, EndsWhenItIsToldAlthoughAServerDoesNotAnswer) {
@@ -186,8 +148,7 @@ TEST_F(TreeWalk, EndsWhenItIsToldAlthoughAServerDoesNotAnswer) {
         if (asLink) files.links[L"c:\\r\\mort"] = L"c:\\r\\z";
         std::latch answer(1);
         std::atomic<bool> asked = false;
-        PassedOn server(files);
-        server.before = [&](const std::wstring& directory) {
+        files.beforeEach = [&](const std::wstring& directory) {
             if (directory != L"c:\\r\\mort") return;
             asked = true;
             answer.wait();
@@ -198,7 +159,7 @@ TEST_F(TreeWalk, EndsWhenItIsToldAlthoughAServerDoesNotAnswer) {
         const auto visitor = [&](const auto& directory, const auto& names) {
             note(log, directory, names);
         };
-        EXPECT_EQ(walkTree({server, hanging, patience}, L"c:\\r", true, isPart, visitor),
+        EXPECT_EQ(walkTree({files, hanging, patience}, L"c:\\r", true, isPart, visitor),
                   WalkEnd::Interrupted);
         answer.count_down();
         // As far as it came; the workers may have asked before the walk had come that far.
@@ -211,10 +172,9 @@ TEST_F(TreeWalk, EndsWhenItIsToldAlthoughAServerDoesNotAnswer) {
 TEST_F(TreeWalk, LetsThroughWhatThePatienceRaises) {
     files.add(L"c:\\r\\a.SLDPRT");
     patience.goesOn = []() -> bool { throw ProgramEnd{}; };
-    PassedOn late(files);
-    late.before = [](const std::wstring&) {
+    files.beforeEach = [](const std::wstring&) {
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     };
     Log log;
-    EXPECT_THROW(walk(late, log), ProgramEnd);
+    EXPECT_THROW(walk(log), ProgramEnd);
 }

@@ -103,38 +103,35 @@ TEST_F(EventGateTest, TurnsARunTimeErrorIntoABoxAndTheEnd) {
     EXPECT_EQ(sink.raised, std::vector{1});
 }
 
-TEST_F(EventGateTest, EndsWithoutABoxWhenTheProgramWantsTo) {
-    gate.run([] { throw ProgramEnd{}; });
-    EXPECT_TRUE(boxes.shown.empty());
-    expectEnd(0);
+TEST(EventGateEnds, WithTheNumberOfWhateverIsThrown) {
+    const struct {
+        std::function<void()> action;
+        std::size_t boxes;
+        int code;
+    } cases[] = {
+        {[] { throw ProgramEnd{}; }, 0, 0},
+        {[] { throw errors::overflow(); }, 1, 6},
+        {[] { throw std::bad_alloc(); }, 1, 7},
+        {[] { throw 1; }, 1, 51},
+    };
+    for (const auto& c : cases) {
+        // A window procedure may fail outside any handler; and at times no box can be shown.
+        for (const bool outsideHandlers : {false, true}) {
+            for (const bool noBox : {false, true}) {
+                FakeKeeper keeper;
+                BoxesThatWait boxes;
+                if (noBox) boxes.whileShown = [] { throw std::bad_alloc(); };
+                EventGate gate(keeper, boxes);
+                outsideHandlers ? gate.guard(c.action) : gate.run(c.action);
+                EXPECT_EQ(boxes.shown.size(), noBox ? 0 : c.boxes) << c.code;
+                EXPECT_EQ(gate.exitCode(), c.code);
+                EXPECT_EQ(keeper.quits, std::vector{c.code});
+            }
+        }
+    }
 }
 
-TEST_F(EventGateTest, TurnsWhateverIsThrownIntoABox) {
-    gate.run([] { throw std::bad_alloc(); });
-    EXPECT_EQ(boxes.shown.size(), 1U);
-    expectEnd(7);
-}
-
-TEST_F(EventGateTest, TurnsEvenAStrayExceptionIntoABox) {
-    sink.handlers[1] = [] { throw 1; };
-    click(1);
-    EXPECT_EQ(boxes.shown.at(0).text.find(L"Erreur d'exécution '51' :"), 0U);
-    expectEnd(51);
-}
-
-TEST_F(EventGateTest, EndsWithTheErrorsNumberEvenWhenNoBoxCanBeShown) {
-    boxes.whileShown = [] { throw std::bad_alloc(); };
-    gate.run([] { throw errors::overflow(); });
-    expectEnd(6);
-}
-
-// A window procedure may fail outside any handler, or while one runs, which is then not cut off.
-TEST_F(EventGateTest, EndsTheProgramWhenAWindowFails) {
-    gate.guard([] { throw errors::system(L"une police"); });
-    EXPECT_EQ(boxes.shown.size(), 1U);
-    expectEnd(51);
-}
-
+// What fails meanwhile does not cut off the handler that runs.
 TEST_F(EventGateTest, LetsTheHandlerThatRunsEndWhenAWindowFails) {
     sink.handlers[1] = [&] {
         gate.guard([] { throw errors::system(L"une police"); });
