@@ -32,6 +32,7 @@ constexpr NamedRow kRows[] = {
     {"start", start},
     {"save", listFileSave},
     {"load", listFileLoad},
+    {"mark", markKept},
     {"size", programSize},
     {"memory", memoryInUse},
 };

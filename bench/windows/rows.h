@@ -26,6 +26,8 @@ Row start(const Setting& setting);
 Row listFileSave(const Setting& setting);
 /// The list file loaded into the table, against reading its bytes.
 Row listFileLoad(const Setting& setting);
+/// A mark put on disk beside the list, against one append and flush.
+Row markKept(const Setting& setting);
 /// The size of tarnwick.exe, against a bare dialog.
 Row programSize(const Setting& setting);
 /// Private memory with a pass loaded, against a bare dialog with the same list.
