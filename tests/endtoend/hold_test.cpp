@@ -34,8 +34,8 @@ class Hold : public Scenario {
         WaitForFront(cad.Window());
     }
     /// A second start that finds the list open ends at once.
-    void ExpectSecondStartEnds() {
-        other.Start({".\\Documents\\..\\TARNWICK.LST"});
+    void ExpectSecondStartEnds(const std::string& list = ".\\Documents\\..\\TARNWICK.LST") {
+        other.Start({list});
         EXPECT_EQ(other.WaitForExit(), 0);
     }
 
@@ -119,6 +119,16 @@ TEST_F(Hold, ListOpenOnAnotherMachineIsLeftAlone) {
     CloseHandle(held);
     app.Start();
     app.Window(kPrompt);
+}
+
+TEST_F(Hold, ListWhereNothingCanBeWrittenIsOpenAllTheSame) {
+    const char* nobodyWrites = "Z:\\sys\\kernel";
+    if (!std::filesystem::exists(nobodyWrites)) GTEST_SKIP() << "no such directory is known here";
+    const std::string unwritable = std::string(nobodyWrites) + "\\liste.lst";
+    app.Start({unwritable});
+    app.Window(kSelection);
+    ExpectSecondStartEnds(unwritable);
+    EXPECT_TRUE(app.Running());
 }
 
 }  // namespace

@@ -2,10 +2,8 @@
 
 #include "platform/win32/process/hold_file.h"
 
-#include <atomic>
 #include <gtest/gtest.h>
 #include <optional>
-#include <thread>
 
 #include "contract/win32/scratch_directory.h"
 
@@ -59,21 +57,4 @@ TEST_F(HoldFileTest, NamesOfAnyBytesAreRead) {
     DWORD written = 0;
     WriteFile(held.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
     EXPECT_FALSE(HoldFile(path).holder().user.empty());
-}
-
-TEST_F(HoldFileTest, OneOfManyAtTheSameMomentGetsIt) {
-    for (int round = 0; round < 20; ++round) {
-        std::atomic<int> ready = 0, ours = 0, done = 0;
-        const auto take = [&] {
-            HoldFile file(path);
-            for (++ready; ready < 4;) {
-            }
-            ours += file.take(kJean) == HoldFileState::Ours;
-            for (++done; done < 4;) std::this_thread::yield();
-        };
-        std::vector<std::thread> threads;
-        for (int i = 0; i < 4; ++i) threads.emplace_back(take);
-        for (std::thread& thread : threads) thread.join();
-        EXPECT_EQ(ours, 1);
-    }
 }
