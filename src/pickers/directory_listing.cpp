@@ -1,7 +1,7 @@
 #include "pickers/directory_listing.h"
 
 #include <algorithm>
-#include <tuple>
+#include <numeric>
 #include <utility>
 
 #include "common/letter_case.h"
@@ -9,40 +9,39 @@
 
 namespace {
 
-struct SortKey {
-    std::wstring folded;
-    std::wstring_view name;
-    std::size_t place;
+/// Names in ascending order without regard to case; names alike but for case, by their own order.
+class NameOrder {
+ public:
+    void add(std::wstring_view name) { keys_.push_back({upperCase(name), name}); }
 
-    bool operator<(const SortKey& other) const {
-        return std::tie(folded, name) < std::tie(other.folded, other.name);
+    /// The names' numbers, in the order in which they were added.
+    std::vector<std::size_t> sorted() const {
+        std::vector<std::size_t> places(keys_.size());
+        std::iota(places.begin(), places.end(), std::size_t{0});
+        std::sort(places.begin(), places.end(),
+                  [this](std::size_t a, std::size_t b) { return keys_[a] < keys_[b]; });
+        return places;
     }
+
+ private:
+    /// In capitals, then as it is.
+    std::vector<std::pair<std::wstring, std::wstring_view>> keys_;
 };
 
-template <class Item, class NameOf>
-void sortItems(std::vector<Item>& items, NameOf nameOf) {
-    std::vector<SortKey> keys;
-    keys.reserve(items.size());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        keys.push_back({upperCase(nameOf(items[i])), nameOf(items[i]), i});
-    }
-    std::sort(keys.begin(), keys.end());
+const std::wstring& nameOf(const std::wstring& file) { return file; }
+const std::wstring& nameOf(const Subdirectory& subdirectory) { return subdirectory.name; }
+
+template <class Item>
+void sortByName(std::vector<Item>& items) {
+    NameOrder order;
+    for (const Item& item : items) order.add(nameOf(item));
     std::vector<Item> sorted;
     sorted.reserve(items.size());
-    for (const SortKey& key : keys) sorted.push_back(std::move(items[key.place]));
+    for (const std::size_t place : order.sorted()) sorted.push_back(std::move(items[place]));
     items = std::move(sorted);
 }
 
 }  // namespace
-
-void sortByName(std::vector<std::wstring>& names) {
-    sortItems(names, [](const std::wstring& name) -> const std::wstring& { return name; });
-}
-
-void sortByName(std::vector<Subdirectory>& subdirectories) {
-    sortItems(subdirectories,
-              [](const Subdirectory& one) -> const std::wstring& { return one.name; });
-}
 
 DirectoryContents listContents(Files& files, const std::wstring& directory,
                                const FileFilter& wanted) {

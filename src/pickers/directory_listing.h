@@ -12,11 +12,8 @@ struct Subdirectory {
     bool isLink;  ///< a junction or symbolic link: it may lead back up
 };
 
-// Names sort ascending without regard to case; names alike but for case, by their own order.
-void sortByName(std::vector<std::wstring>& names);
-void sortByName(std::vector<Subdirectory>& subdirectories);
-
-/// What a directory holds, in order, but for what is left out.
+/// What a directory holds, but for what is left out, each in ascending order without regard to
+/// case.
 struct DirectoryContents {
     std::vector<std::wstring> files;
     std::vector<Subdirectory> subdirectories;

@@ -22,7 +22,7 @@ class ReadAhead {
     /// Raised by members that wait when the search is to stop.
     struct Interrupted {};
 
-    /// `wanted` is called by any thread, and owns all that it looks at.
+    /// `wanted` is called by several threads at once, and owns all that it looks at.
     ReadAhead(Files& files, FileFilter wanted, Workers& workers, SearchPatience& patience,
               const std::wstring& root, bool withSubdirectories);
     ~ReadAhead();

@@ -24,7 +24,8 @@ bool isMetBefore(const TreeDirectory* a, const TreeDirectory* b) {
 }
 
 ReadingPlan::ReadingPlan(const std::wstring& root, bool withSubdirectories)
-    : root_(new TreeDirectory{.parent = nullptr, .index = 0, .depth = 0, .path = root}),
+    : root_(std::make_unique<TreeDirectory>(
+          TreeDirectory{.parent = nullptr, .index = 0, .depth = 0, .path = root})),
       withSubdirectories_(withSubdirectories) {
     planned_.insert(root_.get());
 }
@@ -73,10 +74,11 @@ TreeDirectory& ReadingPlan::subdirectory(TreeDirectory& directory, std::size_t i
     std::unique_ptr<TreeDirectory>& one = directory.below[index];
     if (!one) {
         const std::wstring& name = directory.contents.subdirectories[index].name;
-        one.reset(new TreeDirectory{.parent = &directory,
-                                    .index = index,
-                                    .depth = directory.depth + 1,
-                                    .path = childPath(directory.path, name)});
+        one =
+            std::make_unique<TreeDirectory>(TreeDirectory{.parent = &directory,
+                                                          .index = index,
+                                                          .depth = directory.depth + 1,
+                                                          .path = childPath(directory.path, name)});
     }
     return *one;
 }

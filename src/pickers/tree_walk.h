@@ -22,9 +22,9 @@ enum class WalkEnd { Complete, Interrupted };
 /// ascending name order. A link to a directory that is already open on the way down is passed over.
 ///
 /// `visit` is given each directory's path and the names in it that `wanted` accepts, in order.
-/// `wanted` is called by other threads, even past the end of the walk: it owns all that it looks
-/// at. Raises 70 or 76 where a directory can't be read, and what `visit` and the patience raise.
-/// Interrupted: the patience ended.
+/// `wanted` is called by several threads at once, even past the end of the walk: it owns all that
+/// it looks at. Raises 70 or 76 where a directory can't be read, and what `visit` and the patience
+/// raise. Interrupted: the patience ended.
 using DirectoryVisitor =
     std::function<void(const std::wstring& directory, const std::vector<std::wstring>& names)>;
 [[nodiscard]] WalkEnd walkTree(const SearchServices& services, const std::wstring& directory,

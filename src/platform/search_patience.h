@@ -13,7 +13,7 @@ class SearchPatience {
     /// came before counts.
     virtual bool wait() = 0;
 
-    /// Ends a wait, or the next one when there is none. Called by any thread.
+    /// Ends a wait, or the next one when there is none. Called by any thread, and waits for none.
     virtual void wake() = 0;
 };
 

@@ -72,7 +72,7 @@ void WinFiles::replace(const std::wstring& path, const WriteContent& write) {
 PathKind WinFiles::kindOf(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(longPath(path).c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES) {
-        return attributes & FILE_ATTRIBUTE_DIRECTORY ? PathKind::Directory : PathKind::File;
+        return (attributes & FILE_ATTRIBUTE_DIRECTORY) ? PathKind::Directory : PathKind::File;
     }
     const DWORD error = GetLastError();
     if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) return PathKind::Nothing;
