@@ -17,9 +17,7 @@ namespace {
 class WinMachine : public Machine, private EventSink {
  public:
     WinMachine() { window_->show(); }
-    ~WinMachine() override {
-        RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\tarnwick contract");
-    }
+    ~WinMachine() override { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\tarnwick contract"); }
     WinMachine(const WinMachine&) = delete;
     WinMachine& operator=(const WinMachine&) = delete;
 
