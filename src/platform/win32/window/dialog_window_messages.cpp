@@ -37,6 +37,7 @@ void keepKeyboard(HWND window, int focusId) {
 }
 
 bool isButton(HWND control) { return classOf(control) == ControlClass::Button; }
+
 bool isPress(WORD mouseMessage) {
     return mouseMessage == WM_LBUTTONDOWN || mouseMessage == WM_RBUTTONDOWN ||
            mouseMessage == WM_MBUTTONDOWN || mouseMessage == WM_XBUTTONDOWN;

@@ -26,3 +26,8 @@ HWND lastVisibleWindow(HWND other) {
         windows, [&](HWND window) { return window != other && IsWindowVisible(window); });
     return found == windows.end() ? nullptr : *found;
 }
+
+HWND ownerOfDialogs() {
+    HWND active = GetActiveWindow();
+    return active && IsWindowVisible(active) ? active : lastVisibleWindow();
+}

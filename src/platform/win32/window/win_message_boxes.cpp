@@ -57,11 +57,6 @@ class OthersDisabled {
     std::vector<HWND> disabled_;
 };
 
-HWND ownerOfBoxes() {
-    HWND active = GetActiveWindow();
-    return active && IsWindowVisible(active) ? active : lastVisibleWindow();
-}
-
 DWORD styleOf(const MessageBoxContent& box) {
     const int defaultButton = (box.defaultButton - 1) * MB_DEFBUTTON2;
     return static_cast<DWORD>(static_cast<int>(box.buttons) | static_cast<int>(box.icon) |
@@ -74,7 +69,7 @@ DWORD styleOf(const MessageBoxContent& box) {
 MessageBoxes::Answer WinMessageBoxes::show(const MessageBoxContent& box) {
     MSGBOXPARAMSW parameters{};
     parameters.cbSize = sizeof parameters;
-    parameters.hwndOwner = ownerOfBoxes();
+    parameters.hwndOwner = ownerOfDialogs();
     parameters.lpszText = box.text.c_str();
     parameters.lpszCaption = box.title.c_str();
     parameters.dwStyle = styleOf(box);
