@@ -53,8 +53,8 @@ class Pass {
 
     // Each of these gives whether there is a line in progress now, whose document is to be opened.
 
-    /// Marks the current line with a state and goes to the next line to do, or to the end.
-    bool advance(std::string_view mark, Saved saved = Saved::Unknown);
+    /// Gives the current line this state and goes to the next line to do, or to the end.
+    bool advance(std::string_view code, Saved saved = Saved::Unknown);
     /// Takes the current line back to do and goes to the nearest line to do above; past the end
     /// the search begins at the last line. Without one there is no current line.
     bool stepBack();
