@@ -28,7 +28,7 @@ Comparison compareNext(const Setting& setting, int count, UINT repaint) {
     stage.platform.files.replace(stage.files.list,
                                  [&](const ByteSink& file) { file(halfDone(count)); });
     TrackingWindow form(stage.platform, stage.places, stage.cad, stage.files);
-    form.Form_Load(TrackingWindow::Origin::Resumed);
+    form.Form_Load(TrackingWindow::Origin::Launched);
     form.window().show();
     HWND list = controlOf(IDC_FORM3_LIST1);
     HWND window = GetAncestor(list, GA_ROOT);
