@@ -9,7 +9,7 @@ function(compile_quickly target)
 endfunction()
 
 # Compiles the files of one folder as one: what each of them needs of templates is made once, which takes half the
-# time. So their helpers have names of their own.
+# time. So their helpers have names of their own, and no name of a header is taken again.
 function(compile_folders_as_one target)
   get_target_property(sources ${target} SOURCES)
   foreach(source IN LISTS sources)

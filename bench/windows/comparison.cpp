@@ -15,11 +15,11 @@ double medianOf(std::vector<double> values) {
 }  // namespace
 
 double timed(const Work& work) {
-    using Clock = std::chrono::steady_clock;
+    using SteadyClock = std::chrono::steady_clock;
     work.prepare();
-    const Clock::time_point start = Clock::now();
+    const SteadyClock::time_point start = SteadyClock::now();
     work.run();
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+    return std::chrono::duration<double, std::milli>(SteadyClock::now() - start).count();
 }
 
 Comparison compareTimes(const Rounds& rounds, const std::function<double()>& floor,

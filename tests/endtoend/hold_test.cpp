@@ -9,8 +9,6 @@
 namespace driver {
 namespace {
 
-constexpr const char* kPrompt = "Tarnwick  :  Message";
-
 class Hold : public Scenario {
  protected:
     Hold() {

@@ -16,6 +16,7 @@ namespace driver {
 using Lines = std::vector<std::string>;
 
 constexpr const char* kSelection = "Mervale 2002 - Tarnwick";
+constexpr const char* kPrompt = "Tarnwick  :  Message";
 constexpr const char* kTracking = "Tarnwick - suivi du travail -";
 
 // What stands before the path of a line in the lists.

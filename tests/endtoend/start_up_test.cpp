@@ -5,8 +5,6 @@
 namespace driver {
 namespace {
 
-constexpr const char* kPrompt = "Tarnwick  :  Message";
-
 class StartUp : public Scenario {
  protected:
     StartUp() { WriteListOf({"a.SLDPRT"}); }
