@@ -29,10 +29,6 @@ TEST_F(FilesContract, TextIsReadBackAsItWasWritten) {
     EXPECT_EQ(namesIn(files, directory), Names{L"tarnwick.lst"});
 }
 
-TEST_F(FilesContract, MissingFileIsNotFound) {
-    EXPECT_EQ(raised([&] { files.readText(path(L"absent.lst")); }), 53);
-}
-
 TEST_F(FilesContract, CopyIsKeptInPlaceOfAnOlderOne) {
     files.replaceText(path(L"tarnwick.lst"), L"0  c:\\été\r\n");
     files.replaceText(path(L"copie.lst"), L"d'avant");
@@ -69,7 +65,8 @@ TEST_F(FilesContract, DirectoryIsVisitedEntryByEntry) {
     EXPECT_EQ(namesIn(files, path(L"plein\\")), Names{L"b.SLDPRT"});
 }
 
-TEST_F(FilesContract, MissingDirectoryIsAPathNotFound) {
+TEST_F(FilesContract, MissingFilesAndDirectoriesAreNotFound) {
+    EXPECT_EQ(raised([&] { files.readText(path(L"absent.lst")); }), 53);
     EXPECT_EQ(raised([&] { namesIn(files, path(L"absent")); }), 76);
     EXPECT_EQ(raised([&] { files.identify(path(L"absent")); }), 76);
 }

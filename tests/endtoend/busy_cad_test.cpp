@@ -39,17 +39,8 @@ class BusyCad : public Scenario {
     }
 };
 
-TEST_F(BusyCad, RefusedCallsAndNameLookUpsAreRepeatedWithoutAWord) {
-    Resume({"--busy", "GetIDsOfNames:1500", "--busy", "OpenDoc6:1500"});
-    app.WaitForText(IDC_FORM3_NBFICH1, "1");
-    WaitForCall("ViewZoomtofit2");
-    EXPECT_GT(CallsWith("OpenDoc6(&\"" + paths[0]), 1);
-    EXPECT_GT(CallsWith("-> rejected"), 0);
-    EXPECT_FALSE(app.ShowsBox());
-}
-
-TEST_F(BusyCad, AsksAfterTenSecondsAndGoesOnOrGivesUp) {
-    Resume({"--busy", "OpenDoc6:12000", "--busy", "Save2:600000"});
+TEST_F(BusyCad, RepeatsRefusedCallsAndLookUpsAndAsksAfterTenSeconds) {
+    Resume({"--busy", "GetIDsOfNames:1500", "--busy", "OpenDoc6:12000", "--busy", "Save2:600000"});
     AnswerBusyBox(IDRETRY);
     WaitForCall("ViewZoomtofit2");
     app.Click(IDC_FORM3_CMDSUIV);

@@ -48,19 +48,6 @@ TEST_F(Selection, FindsMarksFiltersAndLaunches) {
     ExpectAlone(kTracking);
 }
 
-TEST_F(Selection, OpensADirectoryAndWritesItsBareNamesWithTheirPath) {
-    const std::string a = sandbox.AddDocument("Plans d'été\\a.SLDDRW");
-    StartInDocuments();
-    app.Open(IDC_FORM1_REPERT, "Plans d'été");
-    ExpectFound({kToDo + "a.SLDDRW"});
-    app.Type(IDC_FORM1_TYPEF, "slddrw, en minuscules");
-    // Posted after the typed characters, so handled after the search that each of them starts.
-    app.Click(IDC_FORM1_CMD_INV);
-    app.WaitForText(IDC_FORM1_NBFICH, "1");
-    app.Click(IDC_FORM1_CMD_TRACER);
-    ExpectList(ListLine("0", a));
-}
-
 TEST_F(Selection, EndsSilentlyWhenLaunchedWithoutDocuments) {
     StartInDocuments();
     app.Click(IDC_FORM1_CMD_TRACER);
