@@ -11,6 +11,7 @@
 #include "platform/platform.h"
 #include "platform/win32/com/message_filter.h"
 #include "platform/win32/com/win_objects.h"
+#include "platform/win32/files/pool_workers.h"
 #include "platform/win32/files/win_files.h"
 #include "platform/win32/files/win_record_files.h"
 #include "platform/win32/process/named_files.h"
@@ -25,6 +26,7 @@
 #include "platform/win32/window/win_desktop.h"
 #include "platform/win32/window/win_gate_keeper.h"
 #include "platform/win32/window/win_message_boxes.h"
+#include "platform/win32/window/window_patience.h"
 
 namespace {
 
@@ -61,16 +63,29 @@ struct RunningProgram {
     WinObjectServers servers;
     LateBoundAutomation automation{servers, patience};
     RegistrySettings settings;
-    WinFiles files;
+    // Readers that wait for a server which does not answer outlive all that is ours.
+    WinFiles& files = *new WinFiles;
+    PoolWorkers workers;
     WinRecordFiles records;
     WinListHolds listHolds{files};
     WinClock clock;
     WinDesktop desktop;
     DialogFactory windows;
     InputSieve sieve;
+    WindowPatience searchPatience;
     MessageFilter filter{patience};
-    Program program{{automation, settings, files, records, listHolds, clock, messageBoxes, desktop,
-                     windows, programDirectory(), namedFiles()}};
+    Program program{{automation,
+                     settings,
+                     files,
+                     records,
+                     listHolds,
+                     clock,
+                     messageBoxes,
+                     desktop,
+                     windows,
+                     {files, workers, searchPatience},
+                     programDirectory(),
+                     namedFiles()}};
 };
 
 }  // namespace

@@ -59,10 +59,6 @@ DirectoryContents listContents(Files& files, const std::wstring& directory,
     return contents;
 }
 
-std::vector<Subdirectory> listSubdirectories(Files& files, const std::wstring& directory) {
-    return listContents(files, directory, [](std::wstring_view) { return false; }).subdirectories;
-}
-
 bool isDriveRoot(std::wstring_view directory) {
     return directory.size() == 3 && directory[1] == L':' && directory[2] == L'\\';
 }

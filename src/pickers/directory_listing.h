@@ -26,10 +26,6 @@ using FileFilter = std::function<bool(std::wstring_view name)>;
 DirectoryContents listContents(Files& files, const std::wstring& directory,
                                const FileFilter& wanted);
 
-/// A directory's sub-directories in order, but those that the Explorer keeps from its users.
-/// Raises 70 or 76.
-std::vector<Subdirectory> listSubdirectories(Files& files, const std::wstring& directory);
-
 /// A directory's path as it is reported: a drive root with its trailing backslash (c:\), any
 /// other directory without one.
 std::wstring reportedPath(std::wstring_view directory);

@@ -1,7 +1,9 @@
 #include "pickers/directory_picker.h"
 
-#include "pickers/directory_listing.h"
+#include <utility>
+
 #include "platform/controls.h"
+#include "platform/searching.h"
 
 namespace {
 
@@ -28,7 +30,10 @@ std::wstring indented(std::size_t level, const std::wstring& name) {
 bool DirectoryPicker::setPath(const std::wstring& path) {
     std::wstring wanted = reportedPath(path);
     // Read first: a directory that can't be read leaves the picker as it was.
-    subdirectories_ = listSubdirectories(files_, wanted);
+    const Searching opening;
+    auto subdirectories = readSubdirectories(services_, wanted);
+    if (!subdirectories) return false;
+    subdirectories_ = std::move(*subdirectories);
     const bool changed = wanted != path_;
     path_ = std::move(wanted);
     ancestors_ = lineage(path_);
@@ -37,28 +42,22 @@ bool DirectoryPicker::setPath(const std::wstring& path) {
 }
 
 bool DirectoryPicker::openSelected() {
-    const int above = static_cast<int>(ancestors_.size());
     for (int i = 0; i < list_.count(); ++i) {
         if (!list_.selected(i)) continue;
-        return setPath(i < above ? ancestors_[static_cast<std::size_t>(i)]
-                                 : subdirectory(i - above));
+        return setPath(pathOf(static_cast<std::size_t>(i)));
     }
     return false;
 }
 
-std::wstring DirectoryPicker::subdirectory(int index) const {
-    return childPath(path_, subdirectories_.at(static_cast<std::size_t>(index)).name);
+std::wstring DirectoryPicker::pathOf(std::size_t line) const {
+    const std::size_t above = ancestors_.size();
+    return line < above ? ancestors_[line]
+                        : childPath(path_, subdirectories_.at(line - above).name);
 }
-
-bool DirectoryPicker::subdirectoryIsLink(int index) const {
-    return subdirectories_.at(static_cast<std::size_t>(index)).isLink;
-}
-
-std::wstring DirectoryPicker::parent() const { return parentPath(path_); }
 
 void DirectoryPicker::show() {
     const std::size_t above = ancestors_.size();
-    list_.setLines(static_cast<int>(above) + subdirectoryCount(), [&](int line) {
+    list_.setLines(static_cast<int>(above + subdirectories_.size()), [&](int line) {
         const auto i = static_cast<std::size_t>(line);
         return i < above ? indented(i, lastName(ancestors_[i]))
                          : indented(above, subdirectories_[i - above].name);

@@ -15,8 +15,6 @@ class OpenDirectories {
     using Identify = std::function<DirectoryId(const std::wstring& directory)>;
 
     explicit OpenDirectories(Identify identify) : identify_(std::move(identify)) {}
-    explicit OpenDirectories(Files& files)
-        : identify_([&](const std::wstring& directory) { return files.identify(directory); }) {}
 
     void enter(const std::wstring& directory) { way_.push_back({directory, std::nullopt}); }
     void leave() { way_.pop_back(); }

@@ -6,6 +6,7 @@
 
 #include "pickers/reading_plan.h"
 #include "platform/search_patience.h"
+#include "platform/search_services.h"
 #include "platform/workers.h"
 
 namespace {
@@ -88,11 +89,12 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
     }
 };
 
-ReadAhead::ReadAhead(Files& files, FileFilter wanted, Workers& workers, SearchPatience& patience,
-                     const std::wstring& root, bool withSubdirectories)
-    : desk_(std::make_shared<Desk>(files, std::move(wanted), ReadingPlan(root, withSubdirectories),
-                                   &workers, &patience)),
-      patience_(patience) {}
+ReadAhead::ReadAhead(const SearchServices& services, FileFilter wanted, const std::wstring& root,
+                     bool withSubdirectories)
+    : desk_(std::make_shared<Desk>(services.files, std::move(wanted),
+                                   ReadingPlan(root, withSubdirectories), &services.workers,
+                                   &services.patience)),
+      patience_(services.patience) {}
 
 ReadAhead::~ReadAhead() {
     const Lock lock(desk_->mutex);

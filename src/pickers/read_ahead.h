@@ -9,8 +9,8 @@
 #include "platform/files.h"
 
 class SearchPatience;
+struct SearchServices;
 struct TreeDirectory;
-class Workers;
 
 /// The directories of a tree, read by several workers ahead of the main thread that walks them.
 /// While it waits for one, its window is served. Without workers it reads each one itself.
@@ -23,8 +23,8 @@ class ReadAhead {
     struct Interrupted {};
 
     /// `wanted` is called by several threads at once, and owns all that it looks at.
-    ReadAhead(Files& files, FileFilter wanted, Workers& workers, SearchPatience& patience,
-              const std::wstring& root, bool withSubdirectories);
+    ReadAhead(const SearchServices& services, FileFilter wanted, const std::wstring& root,
+              bool withSubdirectories);
     ~ReadAhead();
     ReadAhead(const ReadAhead&) = delete;
     ReadAhead& operator=(const ReadAhead&) = delete;

@@ -1,6 +1,6 @@
 #include "pickers/tree_walk.h"
 
-#include <vector>
+#include <utility>
 
 #include "pickers/open_directories.h"
 #include "pickers/read_ahead.h"
@@ -66,12 +66,22 @@ class Walk {
 WalkEnd walkTree(const SearchServices& services, const std::wstring& directory,
                  bool withSubdirectories, const FileFilter& wanted, const DirectoryVisitor& visit) {
     try {
-        ReadAhead ahead(services.files, wanted, services.workers, services.patience, directory,
-                        withSubdirectories);
+        ReadAhead ahead(services, wanted, directory, withSubdirectories);
         Walk walk(ahead, visit);
         withSubdirectories ? walk.run() : walk.visit(ahead.root());
         return WalkEnd::Complete;
     } catch (const ReadAhead::Interrupted&) {
         return WalkEnd::Interrupted;
+    }
+}
+
+std::optional<std::vector<Subdirectory>> readSubdirectories(const SearchServices& services,
+                                                            const std::wstring& directory) {
+    try {
+        ReadAhead ahead(services, noFile, directory, false);
+        ahead.meet(ahead.root());
+        return std::move(ahead.root().contents.subdirectories);
+    } catch (const ReadAhead::Interrupted&) {
+        return std::nullopt;
     }
 }

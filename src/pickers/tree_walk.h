@@ -1,20 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "pickers/directory_listing.h"
-
-class Files;
-class SearchPatience;
-class Workers;
-
-/// By whom a search reads, and who may end it.
-struct SearchServices {
-    Files& files;
-    Workers& workers;
-    SearchPatience& patience;
-};
+#include "platform/search_services.h"
 
 enum class WalkEnd { Complete, Interrupted };
 
@@ -30,3 +22,11 @@ using DirectoryVisitor =
 [[nodiscard]] WalkEnd walkTree(const SearchServices& services, const std::wstring& directory,
                                bool withSubdirectories, const FileFilter& wanted,
                                const DirectoryVisitor& visit);
+
+/// For walks that look at directories alone.
+inline bool noFile(std::wstring_view) { return false; }
+
+/// A directory's sub-directories in order, but those that the Explorer keeps from its users; none
+/// when the patience ended. Raises 70 or 76, and what the patience raises.
+std::optional<std::vector<Subdirectory>> readSubdirectories(const SearchServices& services,
+                                                            const std::wstring& directory);

@@ -5,6 +5,7 @@
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "platform/message_boxes.h"
+#include "platform/searching.h"
 
 MessageBoxContent fatalErrorBox(const RuntimeError& error) {
     return {.text = L"Erreur d'exécution '" + decimal(error.number) + L"' :\r\n" + error.text,
@@ -16,6 +17,7 @@ void EventGate::deliver(EventSink& sink, int controlId, Event event,
                         const EventSource& source) noexcept {
     guard([&] {
         if (ended_) return;
+        if (Searching::any() && !Searching::keeps(sink, controlId, event)) return;
         deliveries_.push_back({&sink, controlId, event, &source, running_});
         if (!running_) serve();
     });

@@ -42,7 +42,7 @@ class EventGate {
     EventGate(GateKeeper& keeper, MessageBoxes& boxes) : keeper_(keeper), boxes_(boxes) {}
 
     /// Runs the handler of an event now, or after the one that runs; then only if the user could
-    /// still do what it stands for.
+    /// still do what it stands for. While that one searches, only what Searching keeps.
     void deliver(EventSink& sink, int controlId, Event event, const EventSource& source) noexcept;
 
     /// Runs what is no event's handler but may take as long, and then the events that waited.

@@ -20,11 +20,17 @@ class EventSink {
     virtual void raise(int controlId, Event event) = 0;
     /// Whether the second press of a double click counts like the first one.
     virtual bool takesSecondPress(int /*controlId*/, Event /*event*/) const { return true; }
+    /// Whether the search that runs is in vain after it, for another one follows.
+    virtual bool restartsSearch(int /*controlId*/, Event /*event*/) const { return false; }
 };
 
 /// Which presses start a command. Single: the second press of a double click does not, for what it
 /// does can't be taken back.
 enum class Presses { All, Single };
+
+/// What becomes of an event that comes while its window searches. Restart: it asks for another
+/// search, which begins at once.
+enum class DuringSearch { Drop, Restart };
 
 /// One line of a form's table of handlers.
 template <class Form>
@@ -33,6 +39,7 @@ struct Binding {
     Event event;
     void (Form::*handler)();
     Presses presses = Presses::All;
+    DuringSearch duringSearch = DuringSearch::Drop;
 };
 
 /// A form's line for an event, null when its table has none.

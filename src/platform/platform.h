@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/search_services.h"
+
 class Automation;
 class Settings;
 class Clock;
@@ -24,6 +26,7 @@ struct Platform {
     MessageBoxes& messageBoxes;
     Desktop& desktop;
     WindowFactory& windows;
+    SearchServices search;
     std::wstring programDirectory;              ///< without a trailing backslash
     std::vector<std::wstring> namedFiles = {};  ///< on the command line, by their full paths
 };

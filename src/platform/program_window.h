@@ -21,6 +21,11 @@ class ProgramWindow : public EventSink {
         return !binding || binding->presses == Presses::All;
     }
 
+    bool restartsSearch(int controlId, Event event) const final {
+        const auto* binding = findBinding(bindings_, controlId, event);
+        return binding && binding->duringSearch == DuringSearch::Restart;
+    }
+
     Window& window() { return *window_; }
 
  protected:

@@ -72,7 +72,7 @@ ConfigurationWindow::ConfigurationWindow(Platform& platform, WindowPlaces& place
       Cpt_Rep(window_->control(IDC_FORM4_CPT_REP)),
       NNiv(window_->control(IDC_FORM4_NNIV)),
       Drive1(window_->comboBox(IDC_FORM4_DRIVE1), platform.files),
-      Dir1(window_->listBox(IDC_FORM4_DIR1), platform.files) {}
+      Dir1(window_->listBox(IDC_FORM4_DIR1), platform.search) {}
 
 void ConfigurationWindow::Form_Load() {
     window_->resize(kWidth, kHeight);

@@ -11,8 +11,8 @@
 
 class CadSession;
 class FileSystemObject;
-class OpenDirectories;
 class WindowPlaces;
+enum class WalkEnd;
 struct Platform;
 struct ProgramFiles;
 
@@ -79,8 +79,8 @@ class ConfigurationWindow : public ProgramWindow<ConfigurationWindow> {
     /// the user is told: what is being edited is worth more than a drive that isn't ready.
     void openDirectory(const std::function<void()>& opening);
     void addDirectoryOf(const std::wstring& path);
-    /// Adds what Dir1 lists and all below; ends where it began.
-    void addSubdirectories(OpenDirectories& way);
+    /// Adds Dir1's directory and all below to a copy of what is edited, which its user may stop.
+    WalkEnd addTree(Configuration& edited, int& count);
     void remove(Removal removal);
     /// How many directories are being edited: what Cpt_Rep shows.
     int editedCount() const;

@@ -3,11 +3,12 @@
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
-#include "pickers/open_directories.h"
+#include "pickers/pulse.h"
+#include "pickers/tree_walk.h"
 #include "platform/files.h"
-#include "platform/long_work.h"
 #include "platform/message_boxes.h"
 #include "platform/platform.h"
+#include "platform/searching.h"
 #include "searchfolders/configuration_window.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
@@ -100,22 +101,26 @@ void ConfigurationWindow::addDirectoryOf(const std::wstring& path) {
 void ConfigurationWindow::CmdAjo1_Click() { addDirectoryOf(Dir1.path()); }
 
 void ConfigurationWindow::CmdAjo2_Click() {
-    const LongWork searching;
-    addDirectoryOf(Dir1.path());
-    OpenDirectories way(platform_.files);
-    addSubdirectories(way);
+    const int before = editedCount();
+    int count = before;
+    Configuration edited = configurations_.edited;
+    const WalkEnd end = addTree(edited, count);
+    if (end == WalkEnd::Complete) configurations_.edited = edited;
+    showEditedCount(end == WalkEnd::Complete ? count : before);
+    if (end == WalkEnd::Interrupted) platform_.messageBoxes.show(searchStoppedBox());
+    if (editedCount() != before) showEdited();
 }
 
-void ConfigurationWindow::addSubdirectories(OpenDirectories& way) {
-    way.enter(Dir1.path());
-    for (int i = 0; i < Dir1.subdirectoryCount(); ++i) {
-        if (Dir1.subdirectoryIsLink(i) && way.leadsBack(Dir1.subdirectory(i))) continue;
-        Dir1.setPath(Dir1.subdirectory(i));
-        addDirectoryOf(Dir1.path());
-        addSubdirectories(way);
-        Dir1.setPath(Dir1.parent());
-    }
-    way.leave();
+WalkEnd ConfigurationWindow::addTree(Configuration& edited, int& count) {
+    const Searching searching;
+    Pulse pulse;
+    return walkTree(platform_.search, Dir1.path(), true, noFile,
+                    [&](const std::wstring& directory, const std::vector<std::wstring>&) {
+                        if (addDirectory(edited, count, directory)) ++count;
+                        if (!pulse.due()) return;
+                        showEditedCount(count);
+                        Cpt_Rep.repaint();
+                    });
 }
 
 void ConfigurationWindow::CmdRetir1_Click() { remove(Removal::Selected); }

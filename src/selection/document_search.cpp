@@ -11,11 +11,6 @@ DocumentSearch::DocumentSearch(const SearchServices& services, FoundDocuments& f
       kinds_(std::move(kinds)),
       progress_(std::move(progress)) {}
 
-DocumentSearch::DocumentSearch(Files& files, FoundDocuments& found, DocumentKinds kinds,
-                               Progress progress)
-    : DocumentSearch(SearchServices{files, noWorkers_, unwatched_}, found, std::move(kinds),
-                     std::move(progress)) {}
-
 WalkEnd DocumentSearch::run(const std::wstring& directory, bool withSubdirectories) {
     append_ = false;
     // With no kind to look for there is nothing to find further down.

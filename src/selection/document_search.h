@@ -5,8 +5,6 @@
 #include <vector>
 
 #include "pickers/tree_walk.h"
-#include "platform/search_patience.h"
-#include "platform/workers.h"
 #include "selection/document_kinds.h"
 
 class FoundDocuments;
@@ -19,8 +17,6 @@ class DocumentSearch {
 
     DocumentSearch(const SearchServices& services, FoundDocuments& found, DocumentKinds kinds,
                    Progress progress);
-    /// Reads one directory after the other.
-    DocumentSearch(Files& files, FoundDocuments& found, DocumentKinds kinds, Progress progress);
 
     /// Puts the directory's documents into the table, in ascending name order; then, if wanted,
     /// those of its sub-directories as walkTree meets them. Interrupted leaves there what was found
@@ -30,8 +26,6 @@ class DocumentSearch {
  private:
     void collect(const std::wstring& directory, const std::vector<std::wstring>& documents);
 
-    NoWorkers noWorkers_;
-    Unwatched unwatched_;
     SearchServices services_;
     FoundDocuments& found_;
     DocumentKinds kinds_;

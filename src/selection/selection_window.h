@@ -69,7 +69,8 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     bool confirmWholeDrive();
     void leaveOutSubdirectories();
     void rebuild(const SelectionList::Entries& chosen);
-    void search();
+    /// True when the user stopped it.
+    bool search();
     void writeList();
     std::wstring fullPath(int index) const;
 

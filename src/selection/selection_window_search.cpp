@@ -1,34 +1,14 @@
 // The selection window's search: from drive, directory, kinds and sub-directories box to the list.
 
-#include <chrono>
-
 #include "common/numbers.h"
 #include "pickers/directory_listing.h"
+#include "pickers/pulse.h"
 #include "platform/files.h"
-#include "platform/long_work.h"
 #include "platform/message_boxes.h"
 #include "platform/platform.h"
+#include "platform/searching.h"
 #include "selection/document_search.h"
 #include "selection/selection_window.h"
-
-namespace {
-
-/// Lets something happen a few times per second at most.
-class Pulse {
- public:
-    bool due() {
-        constexpr std::chrono::milliseconds kInterval(250);
-        const auto now = std::chrono::steady_clock::now();
-        if (now - last_ < kInterval) return false;
-        last_ = now;
-        return true;
-    }
-
- private:
-    std::chrono::steady_clock::time_point last_ = std::chrono::steady_clock::now();
-};
-
-}  // namespace
 
 void SelectionWindow::repert_DblClick() {
     if (repert.openSelected()) repert_Change();
@@ -84,14 +64,15 @@ void SelectionWindow::rebuild(const SelectionList::Entries& chosen) {
     if (searchesWholeDrive() && !confirmWholeDrive()) leaveOutSubdirectories();
     searched_ = repert.path();
     searchedKinds_ = typef.text();
-    search();
+    const bool stopped = search();
     cptfichier.setText(decimal(found_.count()));
     List1.fill(NNiveau.levels(), chosen);
     List1_Click();
+    if (stopped) platform_.messageBoxes.show(searchStoppedBox());
 }
 
-void SelectionWindow::search() {
-    const LongWork searching;
+bool SelectionWindow::search() {
+    const Searching searching;
     Pulse pulse;
     const auto showProgress = [&](int filesListed) {
         if (!pulse.due()) return;
@@ -100,6 +81,6 @@ void SelectionWindow::search() {
         nbfich.repaint();
         cptfichier.repaint();
     };
-    DocumentSearch search(platform_.files, found_, DocumentKinds(searchedKinds_), showProgress);
-    search.run(searched_, sousrep.checked());
+    DocumentSearch search(platform_.search, found_, DocumentKinds(searchedKinds_), showProgress);
+    return search.run(searched_, sousrep.checked()) == WalkEnd::Interrupted && searching.stopped();
 }

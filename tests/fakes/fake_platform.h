@@ -1,16 +1,24 @@
 #pragma once
 
+#include <functional>
+#include <memory>
+#include <thread>
+#include <utility>
+
 #include "fakes/fake_automation.h"
 #include "fakes/fake_clock.h"
 #include "fakes/fake_desktop.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_list_holds.h"
 #include "fakes/fake_message_boxes.h"
+#include "fakes/fake_patience.h"
 #include "fakes/fake_record_files.h"
 #include "fakes/fake_settings.h"
 #include "fakes/fake_window.h"
 #include "platform/file_system_object.h"
 #include "platform/platform.h"
+#include "platform/searching.h"
+#include "platform/workers.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
 
@@ -25,8 +33,11 @@ struct FakePlatform {
     FakeListHolds listHolds;
     FakeClock clock;
     FakeWindowFactory windows;
-    Platform platform{automation, settings, files,   records, listHolds,
-                      clock,      boxes,    desktop, windows, L"c:\\tarnwick"};
+    NoWorkers workers;
+    FakePatience patience;
+    Platform platform{automation,     settings, files,   records, listHolds,
+                      clock,          boxes,    desktop, windows, {files, workers, patience},
+                      L"c:\\tarnwick"};
 
     FakePlatform() {
         automation.fileExists = [this](const std::wstring& path) {
@@ -44,6 +55,20 @@ struct FakePlatform {
         settings.write(L"tarnwick", L"startup", leftKey, std::to_wstring(left));
         places.readAll();
         settings.entries.clear();
+    }
+
+    /// Has a search that serves its window look up once it has read a directory.
+    void serveAfter(const std::wstring& directory, const std::function<void()>& deed) {
+        const auto here = std::make_shared<bool>(false);
+        files.beforeEach = [=](const std::wstring& path) {
+            if (path == directory) *here = true;
+            // Longer than a search takes no notice of its window.
+            if (*here) std::this_thread::sleep_for(std::chrono::milliseconds(25));
+        };
+        patience.goesOn = [=] {
+            if (std::exchange(*here, false)) deed();
+            return Searching::goesOn();
+        };
     }
 
     FakeWindow& window(int dialogId) { return *windows.made.at(dialogId); }

@@ -4,6 +4,8 @@
 
 #include "fakes/fake_controls.h"
 #include "fakes/fake_files.h"
+#include "fakes/fake_patience.h"
+#include "platform/workers.h"
 
 using Lines = std::vector<std::wstring>;
 
@@ -14,7 +16,9 @@ TEST(DirectoryPicker, ShowsAndOpensAncestorsAndSubdirectories) {
     files.add(L"c:\\plans\\moteur\\piece.SLDPRT");
     FakeListBox list;
     list.severalSelectable = false;
-    DirectoryPicker picker(list, files);
+    NoWorkers alone;
+    FakePatience patience;
+    DirectoryPicker picker(list, {files, alone, patience});
     const auto open = [&](int line) {
         list.select(line, true);
         return picker.openSelected();

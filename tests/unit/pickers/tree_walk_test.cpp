@@ -38,7 +38,9 @@ Log logOf(const Walk& walk) {
 class PlainWalk {
  public:
     PlainWalk(Files& files, const DirectoryVisitor& visit)
-        : files_(files), visit_(visit), open_(files) {}
+        : files_(files),
+          visit_(visit),
+          open_([&](const auto& path) { return files.identify(path); }) {}
 
     void run(const std::wstring& directory) {
         const DirectoryContents contents = listContents(files_, directory, isPart);

@@ -8,6 +8,7 @@
 
 #include "common/runtime_error.h"
 #include "fakes/fake_message_boxes.h"
+#include "platform/searching.h"
 
 namespace {
 
@@ -36,7 +37,9 @@ struct FakeSource : EventSource {
 /// Does what the test says for each control.
 struct FakeSink : EventSink {
     std::map<int, std::function<void()>> handlers;
+    int restarting = 0;  ///< the control that asks for another search
     std::vector<int> raised;
+    bool restartsSearch(int controlId, Event) const override { return controlId == restarting; }
     void raise(int controlId, Event) override {
         raised.push_back(controlId);
         if (handlers.contains(controlId)) handlers[controlId]();
@@ -72,6 +75,32 @@ TEST_F(EventGateTest, RunsOneHandlerAtATimeUnderTheHourglass) {
     EXPECT_TRUE(busy);
     EXPECT_EQ(sink.raised, (std::vector{1, 2, 3}));
     EXPECT_FALSE(keeper.hourglass);
+}
+
+TEST_F(EventGateTest, WhileAHandlerSearchesDropsAllButANewerSearchAndTheEnd) {
+    sink.restarting = 3;
+    sink.handlers[1] = [&] {
+        const Searching searching;
+        click(2);
+        EXPECT_TRUE(Searching::goesOn());
+        Searching::stop();
+        EXPECT_FALSE(Searching::goesOn());
+        EXPECT_TRUE(searching.stopped());
+        click(3);
+        EXPECT_FALSE(Searching::goesOn());
+        EXPECT_FALSE(searching.stopped());
+    };
+    click(1);
+    EXPECT_EQ(sink.raised, (std::vector{1, 3}));
+    sink.handlers[1] = [&] {
+        const Searching searching;
+        gate.deliver(sink, kTheWindow, Event::Close, source);
+        click(3);
+        Searching::goesOn();
+    };
+    click(1);
+    EXPECT_EQ(sink.raised, (std::vector{1, 3, 1}));
+    expectEnd(0);
 }
 
 TEST_F(EventGateTest, DropsWaitingEventsThatTheUserCouldNotCauseAnyMore) {

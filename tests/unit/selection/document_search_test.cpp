@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fake_files.h"
+#include "platform/search_patience.h"
+#include "platform/workers.h"
 #include "selection/found_documents.h"
 
 namespace {
@@ -19,7 +21,7 @@ class Search : public testing::Test {
               const wchar_t* types = L"*.SLDPRT ; *.SLDASM ; *.SLDDRW") {
         found.restart(withSubdirectories);
         listed.clear();
-        DocumentSearch search(files, found, DocumentKinds(types),
+        DocumentSearch search({files, alone, unwatched}, found, DocumentKinds(types),
                               [&](int filesListed) { listed.push_back(filesListed); });
         search.run(directory, withSubdirectories);
         Paths result;
@@ -28,6 +30,8 @@ class Search : public testing::Test {
     }
 
     FakeFiles files;
+    NoWorkers alone;
+    Unwatched unwatched;
     FoundDocuments found;
     std::vector<int> listed;
 };

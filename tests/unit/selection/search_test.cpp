@@ -114,6 +114,25 @@ TEST_F(SelectionSearch, AsksBeforeAWholeDriveIsSearched) {
     EXPECT_EQ(box.defaultButton, 1);
 }
 
+TEST_F(SelectionSearch, ListsWhatWasFoundWhenItIsStoppedOrBegunAgain) {
+    load();
+    machine.serveAfter(L"c:\\plans", [] { Searching::stop(); });
+    tick(true);
+    const Lines found = {L"c:\\plans\\axe.slddrw", L"c:\\plans\\Zoe.SLDDRW"};
+    EXPECT_EQ(unchosen(), found);
+    EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"2");
+    ASSERT_EQ(machine.boxes.shown.size(), 1U);
+    EXPECT_EQ(machine.boxes.shown[0].title, L"Tarnwick");
+    EXPECT_EQ(machine.boxes.shown[0].text, L"Recherche interrompue : la liste est incomplète.");
+    machine.serveAfter(L"c:\\plans", [&] {
+        EXPECT_FALSE(Searching::keeps(window().sink, IDC_FORM1_CMD_TRACER, Event::Click));
+        EXPECT_TRUE(Searching::keeps(window().sink, IDC_FORM1_TYPEF, Event::Change));
+    });
+    type(L"*.SLDDRW");
+    EXPECT_EQ(unchosen(), found);
+    EXPECT_EQ(machine.boxes.shown.size(), 1U);
+}
+
 TEST_F(SelectionSearch, AsksAgainAtEveryRebuildOfAWholeDrive) {
     load(L"d:\\");
     machine.boxes.answers = {kYes, kYes, kYes, kYes, kNo};

@@ -121,7 +121,7 @@ INT_PTR DialogWindow::onSetCursor(HWND control, int place, WORD mouseMessage) {
     }
     relayToTooltips(tips_, control, mouseMessage);
     if (!Hourglass::shown()) return FALSE;
-    SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+    Hourglass::show();
     SetWindowLongPtrW(window_.get(), DWLP_MSGRESULT, TRUE);
     return TRUE;
 }

@@ -1,0 +1,118 @@
+#include "platform/win32/window/window_patience.h"
+
+#include "platform/searching.h"
+#include "platform/win32/process/require.h"
+#include "platform/win32/window/control_class.h"
+#include "platform/win32/window/hourglass.h"
+#include "platform/win32/window/input_sieve.h"
+
+namespace {
+
+using Milliseconds = std::chrono::milliseconds;
+using Clock = std::chrono::steady_clock;
+
+/// A search that has taken no longer is not watched yet.
+constexpr Milliseconds kNoTime(50);
+/// How often windows are served at least.
+constexpr Milliseconds kServing(20);
+
+Milliseconds lasting() { return std::chrono::duration_cast<Milliseconds>(Searching::lasting()); }
+
+bool isPress(UINT message) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONDBLCLK:
+        case WM_MBUTTONDOWN:
+        case WM_MBUTTONDBLCLK:
+        case WM_XBUTTONDOWN:
+        case WM_XBUTTONDBLCLK:
+        case WM_MOUSEWHEEL:
+        case WM_MOUSEHWHEEL:
+        case WM_POINTERDOWN:
+        case WM_POINTERWHEEL:
+        case WM_TOUCH:
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool isFramePress(UINT message) {
+    return message == WM_NCLBUTTONDOWN || message == WM_NCLBUTTONDBLCLK ||
+           message == WM_NCRBUTTONDOWN || message == WM_NCPOINTERDOWN;
+}
+
+/// A key goes down, or is a character by now. What it is when it goes up again follows from that.
+bool isKey(UINT message) { return message == WM_KEYDOWN || message == WM_CHAR; }
+
+/// The field of a drop-down: what is typed there may be a newer search.
+bool isTypedIntoDropDown(const MSG& message) {
+    if (message.wParam == VK_TAB || message.wParam == VK_RETURN) return false;
+    HWND field = GetParent(message.hwnd);
+    return classOf(message.hwnd) == ControlClass::Edit && field &&
+           classOf(field) == ControlClass::ComboBox;
+}
+
+/// Windows are moved, sized and closed by their frames; the frames of controls are scroll bars.
+bool isOfProgramWindow(HWND window) { return GetAncestor(window, GA_ROOT) == window; }
+
+bool isDropped(const MSG& message) {
+    if (isPress(message.message)) return true;
+    if (isFramePress(message.message)) return !isOfProgramWindow(message.hwnd);
+    return isKey(message.message) && !isTypedIntoDropDown(message);
+}
+
+/// A press before the search began was not meant for it.
+bool stopsSearch(const MSG& message) {
+    if (message.message != WM_KEYDOWN || message.wParam != VK_ESCAPE) return false;
+    const auto began = GetTickCount() - static_cast<DWORD>(lasting().count());
+    return static_cast<LONG>(message.time - began) >= 0;
+}
+
+void handle(const MSG& message) {
+    if (stopsSearch(message)) Searching::stop();
+    if (isDropped(message)) return;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+}
+
+/// False at the program's end, which stays queued.
+bool handleWaiting() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return false;
+        }
+        handle(message);
+        InputSieve::messageHandled();
+    }
+    return true;
+}
+
+}  // namespace
+
+WindowPatience::WindowPatience()
+    : woken_(require(CreateEventW(nullptr, FALSE, FALSE, nullptr), L"un signal")) {}
+
+bool WindowPatience::serve() {
+    if (lasting() < kNoTime || Clock::now() - served_ < kServing) return true;
+    Hourglass::show();
+    const bool programGoesOn = handleWaiting();
+    served_ = Clock::now();
+    return Searching::goesOn() && programGoesOn;
+}
+
+bool WindowPatience::wait() {
+    HANDLE woken = woken_.get();
+    const Milliseconds unwatched = kNoTime - lasting();
+    if (unwatched.count() > 0) {
+        const auto time = static_cast<DWORD>(unwatched.count());
+        if (WaitForSingleObject(woken, time) == WAIT_OBJECT_0) return true;
+    }
+    MsgWaitForMultipleObjectsEx(1, &woken, static_cast<DWORD>(kServing.count()), QS_ALLINPUT,
+                                MWMO_INPUTAVAILABLE);
+    return serve();
+}

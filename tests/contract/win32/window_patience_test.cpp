@@ -1,0 +1,113 @@
+// How the program's windows live while the main thread searches.
+
+#include "platform/win32/window/window_patience.h"
+
+#include <gtest/gtest.h>
+#include <semaphore>
+#include <set>
+#include <thread>
+
+#include "contract/contract_ids.h"
+#include "pickers/tree_walk.h"
+#include "platform/searching.h"
+#include "platform/win32/files/pool_workers.h"
+#include "platform/win32/files/win_files.h"
+#include "platform/win32/window/dialog_window.h"
+#include "platform/win32/window/own_windows.h"
+#include "platform/win32/window/win_gate_keeper.h"
+#include "platform/win32/window/win_message_boxes.h"
+
+namespace {
+
+/// A server that does not answer until it is told to.
+struct SilentFiles : WinFiles {
+    std::binary_semaphore answers{0};
+    void visit(const std::wstring&, const std::function<void(const DirectoryEntry&)>&) override {
+        answers.acquire();
+    }
+};
+
+class SearchOnAWindow : public testing::Test, private EventSink {
+ protected:
+    SearchOnAWindow() { window_->show(); }
+    ~SearchOnAWindow() override { files_->answers.release(); }
+
+    /// A command searches until the other thread, which stands for the user, has the server answer
+    /// or ends the search.
+    void search(const std::function<void()>& user) {
+        gate_.run([&] {
+            const Searching searching;
+            const std::jthread other(user);
+            end_ = walkTree({*files_, workers_, patience_}, L"c:\\", true, noFile,
+                            [](const auto&, const auto&) {});
+        });
+    }
+    void answer() { files_->answers.release(); }
+    HWND dialog() const { return ownWindows().front(); }
+    HWND item(int id) const { return GetDlgItem(dialog(), id); }
+
+    WinGateKeeper keeper_;
+    WinMessageBoxes boxes_;
+    EventGate gate_{keeper_, boxes_};
+    std::optional<WalkEnd> end_;
+    std::set<int> raised_;
+
+ private:
+    bool restartsSearch(int controlId, Event) const override {
+        return controlId == IDC_CONTRACT_TYPED;
+    }
+    void raise(int controlId, Event) override { raised_.insert(controlId); }
+
+    SilentFiles* files_ = new SilentFiles;  // its readers may outlive the test
+    PoolWorkers workers_;
+    WindowPatience patience_;
+    DialogFactory factory_{gate_};
+    std::unique_ptr<Window> window_ =
+        factory_.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);
+};
+
+}  // namespace
+
+TEST_F(SearchOnAWindow, IsOneStepWhenItTakesNoTime) {
+    PostMessageW(item(IDC_CONTRACT_BUTTON), BM_CLICK, 0, 0);
+    search([&] { answer(); });
+    EXPECT_EQ(end_, WalkEnd::Complete);
+    EXPECT_TRUE(raised_.empty());
+}
+
+TEST_F(SearchOnAWindow, AnswersAndDropsAllButWhatIsTypedForANewerOne) {
+    // It was not meant for a search that begins later.
+    PostMessageW(item(IDC_CONTRACT_BUTTON), WM_KEYDOWN, VK_ESCAPE, 0);
+    Sleep(50);
+    search([&] {
+        DWORD_PTR answered = 0;
+        EXPECT_NE(SendMessageTimeoutW(dialog(), WM_NULL, 0, 0, 0, 60000, &answered), 0);
+        HWND check = item(IDC_CONTRACT_CHECK);
+        HWND typed = item(IDC_CONTRACT_TYPED);
+        PostMessageW(check, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+        PostMessageW(check, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+        PostMessageW(check, WM_KEYDOWN, VK_SPACE, 1);
+        PostMessageW(check, WM_KEYUP, VK_SPACE, 1);
+        PostMessageW(item(IDC_CONTRACT_BUTTON), BM_CLICK, 0, 0);
+        PostMessageW(item(IDC_CONTRACT_FIELD), WM_CHAR, 'a', 1);
+        PostMessageW(GetWindow(typed, GW_CHILD), WM_CHAR, 'b', 1);
+    });
+    EXPECT_EQ(end_, WalkEnd::Interrupted);
+    EXPECT_EQ(raised_, std::set{IDC_CONTRACT_TYPED});
+    EXPECT_EQ(IsDlgButtonChecked(dialog(), IDC_CONTRACT_CHECK), BST_UNCHECKED);
+    EXPECT_EQ(GetWindowTextLengthW(item(IDC_CONTRACT_FIELD)), 0);
+    EXPECT_EQ(GetWindowTextLengthW(item(IDC_CONTRACT_TYPED)), 1);
+}
+
+TEST_F(SearchOnAWindow, IsEndedByEscapeOrWithTheProgramByAFrame) {
+    search([&] { PostMessageW(item(IDC_CONTRACT_ONE), WM_KEYDOWN, VK_ESCAPE, 1); });
+    EXPECT_EQ(end_, WalkEnd::Interrupted);
+    EXPECT_FALSE(gate_.ended());
+    end_.reset();
+    search([&] { PostMessageW(dialog(), WM_CLOSE, 0, 0); });
+    EXPECT_FALSE(end_);
+    EXPECT_TRUE(gate_.ended());
+    EXPECT_EQ(gate_.exitCode(), 0);
+    MSG quit;
+    EXPECT_TRUE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
