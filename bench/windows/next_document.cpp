@@ -23,7 +23,7 @@ std::string halfDone(int count) {
     return text;
 }
 
-Comparison compareNext(const Setting& setting, int count, UINT repaint) {
+Comparison compareNext(const Setting& setting, int count) {
     Stage stage({}, (setting.directory / "next.lst").wstring());
     stage.platform.files.replace(stage.files.list,
                                  [&](const ByteSink& file) { file(halfDone(count)); });
@@ -35,7 +35,8 @@ Comparison compareNext(const Setting& setting, int count, UINT repaint) {
     drawNow(window);
 
     const auto floor = [&] {
-        RedrawWindow(list, nullptr, nullptr, repaint | RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        RedrawWindow(list, nullptr, nullptr,
+                     RDW_FRAME | RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
     };
     const auto subject = [&] {
         form.CmdSuivQuitter_Click();
@@ -46,26 +47,18 @@ Comparison compareNext(const Setting& setting, int count, UINT repaint) {
     return result;
 }
 
-Row measureNext(const Setting& setting, const char* floor, UINT repaint) {
+}  // namespace
+
+Row nextDocument(const Setting& setting) {
     Row row{.work = "next document, without the CAD calls",
-            .floor = floor,
+            .floor = "one repaint of the list with its scroll bars",
             .ratios = {},
             .goal = "<= 2.00",
             .limit = 2};
     for (const int size : setting.sizes) {
-        const Comparison compared = compareNext(setting, size, repaint);
+        const Comparison compared = compareNext(setting, size);
         row.ratios[size] = row.judged = compared.ratio;
         row.note = "floor " + milliseconds(compared.floorMilliseconds);
     }
     return row;
-}
-
-}  // namespace
-
-Row nextDocument(const Setting& setting) {
-    return measureNext(setting, "one repaint of the list", 0);
-}
-
-Row nextDocumentWithScrollBars(const Setting& setting) {
-    return measureNext(setting, "the same with its scroll bars", RDW_FRAME);
 }

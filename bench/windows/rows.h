@@ -12,10 +12,12 @@ Row rebuildOfDirectory(const Setting& setting);
 Row searchOfSlowServer(const Setting& setting);
 /// The work list's lines put into its list box, against LB_ADDSTRING with drawing off.
 Row listFill(const Setting& setting);
-/// From one document to the next but for the CAD calls, against one repaint of the list.
+/// The window's answer while it searches, and from the key that stops it to the box.
+Row answerWhileSearching(const Setting& setting);
+Row stopOfSearch(const Setting& setting);
+/// From one document to the next but for the CAD calls, against one repaint of the list and its
+/// scroll bars, which Wine draws slowly.
 Row nextDocument(const Setting& setting);
-/// The same against a repaint of the list and its scroll bars, which Wine draws slowly.
-Row nextDocumentWithScrollBars(const Setting& setting);
 /// A filter that matches nothing, against a search in texts folded before.
 Row filter(const Setting& setting);
 /// A document's eight CAD calls, against Invoke with member numbers known.

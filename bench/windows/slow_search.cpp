@@ -4,8 +4,10 @@
 
 #include <algorithm>
 
+#include "platform/searching.h"
 #include "platform/win32/files/pool_workers.h"
 #include "platform/win32/files/win_files.h"
+#include "platform/win32/window/window_patience.h"
 #include "rows.h"
 #include "sample_tree.h"
 #include "selection/document_search.h"
@@ -22,30 +24,15 @@ struct SlowFiles : WinFiles {
     }
 };
 
-/// Waits without a window.
-class WaitingPatience : public SearchPatience {
- public:
-    WaitingPatience() = default;
-    ~WaitingPatience() override { CloseHandle(woken_); }
-    WaitingPatience(const WaitingPatience&) = delete;
-    WaitingPatience& operator=(const WaitingPatience&) = delete;
-
-    bool serve() override { return true; }
-    bool wait() override { return WaitForSingleObject(woken_, INFINITE) == WAIT_OBJECT_0; }
-    void wake() override { SetEvent(woken_); }
-
- private:
-    HANDLE woken_ = CreateEventW(nullptr, FALSE, FALSE, nullptr);
-};
-
 }  // namespace
 
 Row searchOfSlowServer(const Setting& setting) {
     const int documents = std::min(800, setting.sizes.back());
     const std::wstring tree = documentTree(setting.directory, documents).wstring();
     SlowFiles files;
-    WaitingPatience patience;
+    WindowPatience patience;
     const auto search = [&](Workers& workers) {
+        const Searching searching;
         FoundDocuments found;
         found.restart(true);
         DocumentSearch({files, workers, patience}, found,

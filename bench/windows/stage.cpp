@@ -7,7 +7,8 @@ Stage::Stage(const std::wstring& workingDirectory, const std::wstring& list)
     : windows_(gate_),
       automation_{workingDirectory},
       platform{automation_, settings_,     files_,   records_, listHolds_,
-               clock_,      messageBoxes_, desktop_, windows_, L""},
+               clock_,      messageBoxes_, desktop_, windows_, {files_, workers_, patience_},
+               L""},
       files{L"", list, L""} {
     cad.attach(automation_);
     cad.identify();

@@ -9,6 +9,7 @@
 #include "platform/desktop.h"
 #include "platform/event_gate.h"
 #include "platform/platform.h"
+#include "platform/win32/files/pool_workers.h"
 #include "platform/win32/files/win_files.h"
 #include "platform/win32/files/win_record_files.h"
 #include "platform/win32/process/registry_settings.h"
@@ -18,6 +19,7 @@
 #include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/win_gate_keeper.h"
 #include "platform/win32/window/win_message_boxes.h"
+#include "platform/win32/window/window_patience.h"
 #include "selection/selection_window.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
@@ -56,11 +58,13 @@ class Stage {
     DialogFactory windows_;
     AnsweringAutomation automation_;
     RegistrySettings settings_;
-    WinFiles files_;
+    WinFiles& files_ = *new WinFiles;  // for readers that outlive the stage
     WinRecordFiles records_;
     WinListHolds listHolds_{files_};
     WinClock clock_;
     DesktopWithAll desktop_;
+    PoolWorkers workers_;
+    WindowPatience patience_;
 
  public:
     Platform platform;

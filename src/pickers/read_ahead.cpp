@@ -42,6 +42,7 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
     Workers* workers;
     SearchPatience* patience;
     TreeDirectory* awaited = nullptr;          ///< by the main thread
+    int unseen = 0;                            ///< directories read since the walk was woken
     int readers = 0;                           ///< workers that read, or will
     std::optional<RuntimeError> failure = {};  ///< of the reading as a whole
     bool ended = false;
@@ -84,8 +85,19 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
         lock.lock();
         if (ended) return false;
         plan.finish(*directory);
-        if (directory == awaited) patience->wake();
+        ++unseen;
+        wakeWalk();
         return true;
+    }
+
+    /// Once for several directories: they are there sooner than a thread wakes. A patience that
+    /// waits looks by itself, too, before a slow server has read so many.
+    void wakeWalk() {
+        constexpr int kSeveral = 16;
+        const bool readIt = awaited && awaited->state == TreeDirectory::State::Read;
+        if (!readIt || (unseen < kSeveral && plan.hasNext(awaited))) return;
+        unseen = 0;
+        patience->wake();
     }
 };
 

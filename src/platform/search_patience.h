@@ -9,8 +9,8 @@ class SearchPatience {
     /// Does what has come for the window, without waiting. False: the search is to stop.
     virtual bool serve() = 0;
 
-    /// The same, but waits first until something has come or wake() is called; one call of it that
-    /// came before counts.
+    /// The same, but waits first: until wake() is called, of which one call that came before
+    /// counts, or a few milliseconds.
     virtual bool wait() = 0;
 
     /// Ends a wait, or the next one when there is none. Called by any thread, and waits for none.

@@ -106,13 +106,7 @@ bool WindowPatience::serve() {
 }
 
 bool WindowPatience::wait() {
-    HANDLE woken = woken_.get();
-    const Milliseconds unwatched = kNoTime - lasting();
-    if (unwatched.count() > 0) {
-        const auto time = static_cast<DWORD>(unwatched.count());
-        if (WaitForSingleObject(woken, time) == WAIT_OBJECT_0) return true;
-    }
-    MsgWaitForMultipleObjectsEx(1, &woken, static_cast<DWORD>(kServing.count()), QS_ALLINPUT,
-                                MWMO_INPUTAVAILABLE);
+    constexpr DWORD kFew = 5;
+    WaitForSingleObject(woken_.get(), kFew);
     return serve();
 }
