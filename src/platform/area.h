@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 // Lengths on the screen, in pixels, before Windows' own types come into it.
@@ -23,8 +24,19 @@ struct Area {
     int bottom = 0;
     int width() const { return right - left; }
     int height() const { return bottom - top; }
+    Point corner() const { return {left, top}; }
+    Size size() const { return {width(), height()}; }
     bool operator==(const Area&) const = default;
 };
+
+inline Area areaAt(Point corner, Size size) {
+    return {corner.x, corner.y, corner.x + size.width, corner.y + size.height};
+}
+
+/// No wider and no higher than either.
+inline Size smaller(Size a, Size b) {
+    return {std::min(a.width, b.width), std::min(a.height, b.height)};
+}
 
 /// value * numerator / denominator (positive) in full precision, halves away from zero.
 constexpr int scaled(int value, int numerator, int denominator) {
@@ -33,7 +45,7 @@ constexpr int scaled(int value, int numerator, int denominator) {
     return static_cast<int>((product + half) / denominator);
 }
 
-/// Places are kept in twips: 1440 to an inch at the window's own resolution.
+/// Settings know twips: 1440 to an inch at the window's own resolution.
 inline constexpr int kTwipsPerInch = 1440;
 
 constexpr int twipsOf(int pixels, int dpi) { return scaled(pixels, kTwipsPerInch, dpi); }

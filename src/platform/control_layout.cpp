@@ -15,12 +15,15 @@ void ControlLayout::add(const Area& area, Growth across, Growth down) {
     places_.push_back({area, across, down});
 }
 
-Size ControlLayout::smallestClient() const { return {across(client_.width), down(client_.height)}; }
+Size ControlLayout::smallestClient() const {
+    return scaledSize({client_.width - shrinks_.width, client_.height - shrinks_.height});
+}
 
 std::vector<Area> ControlLayout::arranged(Size client) const {
+    const Size usual = templateClient();
     const Size smallest = smallestClient();
-    const int wider = std::max(client.width - smallest.width, 0);
-    const int higher = std::max(client.height - smallest.height, 0);
+    const int wider = std::max(client.width, smallest.width) - usual.width;
+    const int higher = std::max(client.height, smallest.height) - usual.height;
     std::vector<Area> areas;
     for (const Place& place : places_) {
         const Area& area = place.area;

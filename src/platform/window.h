@@ -3,10 +3,11 @@
 #include <memory>
 #include <span>
 
+#include "platform/area.h"
 #include "platform/controls.h"
 #include "platform/events.h"
 
-/// A window of the program. Lengths are twips: 1440 to an inch at the window's own resolution.
+/// A window of the program. Places are pixels of the virtual screen.
 class Window {
  public:
     virtual ~Window() = default;
@@ -18,11 +19,15 @@ class Window {
     virtual ComboBox& comboBox(int id) = 0;
     virtual TabStrip& tabStrip(int id) = 0;
 
-    virtual int top() const = 0;
-    virtual int left() const = 0;
-    virtual void moveTo(int top, int left) = 0;
-    /// The controls grow and shrink with it.
-    virtual void resize(int width, int height) = 0;
+    /// Where it stands while it is neither minimised nor maximised.
+    virtual Area place() const = 0;
+    /// The controls grow and shrink with it. On a monitor of another resolution it has another
+    /// size afterwards.
+    virtual void moveTo(const Area& place) = 0;
+    /// Pixels to an inch, where it stands.
+    virtual int dpi() const = 0;
+    /// The monitor it stands on, or next to, without the taskbar.
+    virtual Area workArea() const = 0;
     /// How far the work has come, for the taskbar to show: steps done of all. 0 of 0: none.
     virtual void showProgress(int done, int total) = 0;
     virtual void show() = 0;
@@ -55,7 +60,7 @@ struct Anchor {
 };
 
 /// What a window is made from: a dialog resource, whose id and texts are the form's own, with the
-/// accelerator resource of the same id as its shortcuts. Its size there is its smallest.
+/// accelerator resource of the same id as its shortcuts.
 struct WindowTemplate {
     int dialogId;
     std::span<const Tooltip> tooltips = {};
@@ -64,6 +69,8 @@ struct WindowTemplate {
     int fixedPitchId = 0;  ///< the list whose lines are aligned by their number of characters
     std::span<const Anchor> anchors = {};
     std::span<const AccessibleName> names = {};
+    /// How much smaller than there it can be made, in dialog units.
+    Size shrinks = {};
 };
 
 class WindowFactory {

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int kWidth = 13600;  // twips
+constexpr int kWidth = 13600;  ///< twips
 constexpr int kHeight = 6200;
 
 constexpr int kConfigurationsPage[] = {
@@ -75,7 +75,9 @@ ConfigurationWindow::ConfigurationWindow(Platform& platform, WindowPlaces& place
       Dir1(window_->listBox(IDC_FORM4_DIR1), platform.search) {}
 
 void ConfigurationWindow::Form_Load() {
-    window_->resize(kWidth, kHeight);
+    const int dpi = window_->dpi();
+    window_->moveTo(
+        areaAt(window_->place().corner(), {pixelsOf(kWidth, dpi), pixelsOf(kHeight, dpi)}));
     places_.read(PlacedWindow::SearchFolders);
     places_.restore(PlacedWindow::SearchFolders, *window_);
     showEditedCount(0);

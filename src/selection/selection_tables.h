@@ -105,4 +105,5 @@ inline constexpr WindowTemplate kSelectionWindow = {
     .fixedPitchId = IDC_FORM1_LIST1,
     .anchors = kSelectionAnchors,
     .names = kSelectionNames,
+    .shrinks = {18, 98},
 };

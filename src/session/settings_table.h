@@ -45,6 +45,15 @@ inline constexpr NumberSetting kConfigurationTop{place::kSearchFolders, place::k
 inline constexpr NumberSetting kConfigurationLeft{place::kSearchFolders, place::kDirectoryLists,
                                                   L"leftpos4", kUsualLeft};
 
+// Where they stand in pixels of the virtual screen, which tells monitors of several resolutions
+// apart and reaches further: "TOP LEFT X Y", the first two as written under the keys above.
+inline constexpr TextSetting kSelectionPixels{place::kProgram, place::kStartUp, L"pixelpos", L""};
+inline constexpr TextSetting kExistingListPixels{place::kProgram, place::kStartUp, L"pixelpos2",
+                                                 L""};
+inline constexpr TextSetting kTrackingPixels{place::kProgram, place::kStartUp, L"pixelpos3", L""};
+inline constexpr TextSetting kConfigurationPixels{place::kSearchFolders, place::kDirectoryLists,
+                                                  L"pixelpos4", L""};
+
 // "0" or "1" for each of the tracking window's four options. The store does not tell the two
 // spellings apart.
 inline constexpr TextSetting kLoadingOptions{place::kProgram, place::kStartUp, L"regcheck",

@@ -2,6 +2,9 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
+
+#include "platform/area.h"
 
 class Settings;
 class Window;
@@ -9,7 +12,9 @@ class Window;
 /// The windows whose places are kept.
 enum class PlacedWindow { Selection, ExistingList, Tracking, SearchFolders };
 
-/// Where the windows were left, in twips from the top left corner of the screen.
+/// Where the windows were left, in twips from the top left corner of the screen, 1440 to an inch at
+/// the window's own resolution; and in pixels, which count as long as the twips that were saved
+/// with them are still the saved ones.
 class WindowPlaces {
  public:
     explicit WindowPlaces(Settings& settings) : settings_(settings) {}
@@ -19,7 +24,7 @@ class WindowPlaces {
     void readAll();
     void read(PlacedWindow window);
 
-    /// Puts a window where the place read last says.
+    /// Puts a window where the place read last says, whole within the nearest monitor's work area.
     void restore(PlacedWindow which, Window& window) const;
 
     /// Saves where a window stands now, for the next run to read back: values are kept within the
@@ -30,6 +35,9 @@ class WindowPlaces {
     struct Place {
         std::int16_t top = 0;
         std::int16_t left = 0;
+        std::optional<Point> pixels;
+
+        Point corner(int dpi) const;
     };
 
     Settings& settings_;

@@ -125,4 +125,5 @@ inline constexpr WindowTemplate kTrackingWindow = {
     .fixedPitchId = IDC_FORM3_LIST1,
     .anchors = kTrackingAnchors,
     .names = kTrackingNames,
+    .shrinks = {0, 86},
 };

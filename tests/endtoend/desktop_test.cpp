@@ -1,9 +1,8 @@
 // What a window owes its user on any desktop: size, place, keyboard.
 
-#include <algorithm>
-
 #include "driver/winapi.h"
 #include "scenario.h"
+#include "searchfolders/configuration_ids.h"
 #include "selection/selection_ids.h"
 #include "tracking/tracking_ids.h"
 
@@ -17,26 +16,56 @@ SIZE SizeOf(HWND window) {
 
 using Desktop = Scenario;
 
-TEST_F(Desktop, ListsTakeTheSpaceOfALargerWindowWithinReach) {
+bool IsFrame(HWND control) {
+    wchar_t name[20] = {};
+    GetClassNameW(control, name, ARRAYSIZE(name));
+    const bool isGroup = (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+    return name == std::wstring(L"SysTabControl32") || (name == std::wstring(L"Button") && isGroup);
+}
+
+/// Makes a window as small as every window can be made; all its controls must be in sight then,
+/// none upon another (labels may touch by the rounding of a pixel).
+void ExpectAllInSightWhenSmall(HWND window) {
+    SetWindowPos(window, nullptr, 0, 0, 940, 480, SWP_NOZORDER);
+    EXPECT_LE(SizeOf(window).cx, 940);
+    EXPECT_LE(SizeOf(window).cy, 480);
+    RECT inside{};
+    GetClientRect(window, &inside);
+    MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&inside), 2);
+    std::vector<RECT> places;
+    for (HWND control = GetWindow(window, GW_CHILD); control;
+         control = GetWindow(control, GW_HWNDNEXT)) {
+        const RECT place = PlaceOf(control);
+        RECT shared{};
+        if (!IsWindowVisible(control)) continue;
+        UnionRect(&shared, &inside, &place);
+        EXPECT_TRUE(EqualRect(&shared, &inside)) << GetDlgCtrlID(control);
+        if (IsFrame(control)) continue;
+        for (const RECT& other : places) {
+            IntersectRect(&shared, &place, &other);
+            EXPECT_LE(shared.right - shared.left, 1) << GetDlgCtrlID(control);
+        }
+        places.push_back(place);
+    }
+}
+
+TEST_F(Desktop, WindowsStandWholeOnTheScreenAndCanBeMadeSmall) {
     settings.Set("tarnwick", "startup", "toppos3", "-9000");
     settings.Set("tarnwick", "startup", "leftpos3", "30000");
     WriteListOf({"a.SLDPRT", "b.SLDPRT"});
     cad.Start({"--hidden"});
     StartAndResume();
     HWND window = app.Window(kTracking);
-    EXPECT_GE(PlaceOf(window).top, 0);
-    EXPECT_LE(PlaceOf(window).left, GetSystemMetrics(SM_CXSCREEN) - 100);
+    EXPECT_EQ(PlaceOf(window).top, 0);
+    EXPECT_EQ(PlaceOf(window).right, GetSystemMetrics(SM_CXSCREEN));
 
     HWND list = app.Control(IDC_FORM3_LIST1);
-    const SIZE smallest = SizeOf(window);
+    const SIZE before = SizeOf(window);
     const SIZE listBefore = SizeOf(list);
-    for (const int more : {90, -100}) {
-        SetWindowPos(window, nullptr, 0, 0, smallest.cx + more, smallest.cy + more,
-                     SWP_NOMOVE | SWP_NOZORDER);
-        EXPECT_EQ(SizeOf(window).cx, smallest.cx + std::max(more, 0));
-        EXPECT_EQ(SizeOf(list).cx, listBefore.cx + std::max(more, 0));
-        EXPECT_EQ(SizeOf(list).cy, listBefore.cy + std::max(more, 0));
-    }
+    SetWindowPos(window, nullptr, 0, 0, before.cx + 90, before.cy - 50, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(SizeOf(list).cx, listBefore.cx + 90);
+    EXPECT_EQ(SizeOf(list).cy, listBefore.cy - 50);
+    ExpectAllInSightWhenSmall(window);
 }
 
 TEST_F(Desktop, ShortcutsReachTheListSelectItsLinesAndPressButtons) {
@@ -55,6 +84,14 @@ TEST_F(Desktop, ShortcutsReachTheListSelectItsLinesAndPressButtons) {
         keybd_event(VK_CONTROL, 0, KEYEVENTF_KEYUP, 0);
     }
     app.WaitForText(IDC_FORM1_NBFICH, "1");
+
+    ExpectAllInSightWhenSmall(window);
+    app.Click(IDC_FORM1_CMDREPDEF);
+    HWND configurations = app.Window(kConfigurations);
+    ExpectAllInSightWhenSmall(configurations);
+    app.Click(IDC_FORM4_CMDCREER);
+    WaitFor("the other page", [&] { return IsWindowVisible(app.Control(IDC_FORM4_CMDVALIDER)); });
+    ExpectAllInSightWhenSmall(configurations);
 }
 
 }  // namespace

@@ -17,6 +17,8 @@ using Lines = std::vector<std::string>;
 
 constexpr const char* kSelection = "Mervale 2002 - Tarnwick";
 constexpr const char* kPrompt = "Tarnwick  :  Message";
+constexpr const char* kConfigurations =
+    "Mervale 2002-2003     Gestion des répertoires de recherche";
 constexpr const char* kTracking = "Tarnwick - suivi du travail -";
 
 // What stands before the path of a line in the lists.

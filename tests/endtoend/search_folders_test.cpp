@@ -11,9 +11,6 @@
 namespace driver {
 namespace {
 
-constexpr const char* kConfigurations =
-    "Mervale 2002-2003     Gestion des répertoires de recherche";
-
 class SearchFolders : public Scenario {
  protected:
     void OpenConfigurations() {

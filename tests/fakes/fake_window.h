@@ -1,10 +1,17 @@
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <memory>
 
 #include "fakes/fake_controls.h"
 #include "platform/window.h"
+
+struct FakeMonitor {
+    Area area;
+    Area work = area;
+    int dpi = 96;
+};
 
 /// A window whose controls come into being when they are first asked for.
 struct FakeWindow : Window {
@@ -15,10 +22,8 @@ struct FakeWindow : Window {
     int dialog;
     EventSink& sink;
     State state = State::Created;
-    int topTwips = 0;
-    int leftTwips = 0;
-    int widthTwips = 0;
-    int heightTwips = 0;
+    Area area{0, 0, 600, 400};
+    std::vector<FakeMonitor> monitors{{.area = {-90'000, -90'000, 90'000, 90'000}}};
     int progressDone = 0;
     int progressTotal = 0;
 
@@ -28,16 +33,16 @@ struct FakeWindow : Window {
     FakeComboBox& comboBox(int id) override { return comboBoxes_[id]; }
     FakeTabStrip& tabStrip(int id) override { return tabStrips_[id]; }
 
-    int top() const override { return topTwips; }
-    int left() const override { return leftTwips; }
-    void moveTo(int top, int left) override {
-        topTwips = top;
-        leftTwips = left;
+    Area place() const override { return area; }
+    /// As Windows, it takes the resolution of the monitor that most of it is on.
+    void moveTo(const Area& place) override {
+        const int before = dpi();
+        area = place;
+        const auto scale = [&](int length) { return length * dpi() / before; };
+        area = areaAt(area.corner(), {scale(area.width()), scale(area.height())});
     }
-    void resize(int width, int height) override {
-        widthTwips = width;
-        heightTwips = height;
-    }
+    int dpi() const override { return monitor().dpi; }
+    Area workArea() const override { return monitor().work; }
     void showProgress(int done, int total) override {
         progressDone = done;
         progressTotal = total;
@@ -46,11 +51,24 @@ struct FakeWindow : Window {
     void hide() override { state = State::Hidden; }
     void unload() override { state = State::Unloaded; }
 
-    /// The user's own deed.
+    /// The user's own deeds.
+    void leaveAt(int left, int top) { area = areaAt({left, top}, area.size()); }
     void click(int id) { sink.raise(id, Event::Click); }
     void close() { sink.raise(kTheWindow, Event::Close); }
 
  private:
+    /// The one that most of it is on, or else the first.
+    const FakeMonitor& monitor() const {
+        return *std::ranges::max_element(monitors, {}, [&](const FakeMonitor& monitor) {
+            const auto shared = [](int a, int b, int c, int d) {
+                return std::max(std::min(b, d) - std::max(a, c), 0);
+            };
+            return std::int64_t{
+                       shared(area.left, area.right, monitor.area.left, monitor.area.right)} *
+                   shared(area.top, area.bottom, monitor.area.top, monitor.area.bottom);
+        });
+    }
+
     std::map<int, FakeControl> controls_;
     std::map<int, FakeCheckBox> checkBoxes_;
     std::map<int, FakeListBox> listBoxes_;

@@ -1,7 +1,9 @@
-// How the program's windows and boxes stand to each other while another program is in front.
+// How the program's windows and boxes stand to each other while another program is in front, and
+// what a window owes its controls when its size or the resolution changes.
 
 #include <windows.h>
 
+#include <commctrl.h>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -77,12 +79,36 @@ void CALLBACK onTimer(HWND, UINT, UINT_PTR timer, DWORD) {
     PostMessageW(loneButton(box), BM_CLICK, 0, 0);
 }
 
+constexpr Anchor kWide[] = {{IDC_CONTRACT_TYPED, Growth::Stretch, Growth::Stay}};
+constexpr Tooltip kTips[] = {{IDC_CONTRACT_BUTTON, L"Marquer comme FAIT"}};
+
+/// What Windows makes of a combo box that is resized: it takes the line that begins like its text.
+LRESULT CALLBACK completing(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                            DWORD_PTR) {
+    const LRESULT result = DefSubclassProc(box, message, wParam, lParam);
+    if (message == WM_SIZE) {
+        SendMessageW(box, CB_SETCURSEL, 0, 0);
+        SendMessageW(box, CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
+    }
+    return result;
+}
+
+HWND tooltipsOf(HWND window) {
+    HWND tips = nullptr;
+    do {
+        tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr);
+    } while (tips && GetWindow(tips, GW_OWNER) != window);
+    return tips;
+}
+
 class WindowsAndBoxes : public testing::Test, private EventSink {
  protected:
     void raise(int, Event) override {}
 
     std::unique_ptr<Window> makeWindow(HWND& handle) {
-        auto window = factory.create({.dialogId = IDD_CONTRACT}, *this);
+        auto window = factory.create(
+            {.dialogId = IDD_CONTRACT, .tooltips = kTips, .anchors = kWide, .shrinks = {40, 40}},
+            *this);
         handle = ownWindows().front();
         return window;
     }
@@ -161,4 +187,56 @@ TEST_F(WindowsAndBoxes, WindowThatIsNotShownYetDoesNotBecomeActive) {
     EXPECT_EQ(GetActiveWindow(), first);
     thirdWindow->show();
     EXPECT_TRUE(IsChild(third, GetFocus())) << "shown, it takes the keyboard";
+}
+
+TEST_F(WindowsAndBoxes, ResizedComboBoxKeepsItsTextAndSelection) {
+    HWND box = GetDlgItem(first, IDC_CONTRACT_TYPED);
+    SetWindowSubclass(box, completing, 0, 0);
+    const std::wstring line = L"*.SLDPRT";
+    firstWindow->comboBox(IDC_CONTRACT_TYPED).setLines({&line, 1});
+    firstWindow->comboBox(IDC_CONTRACT_TYPED).setText(L"*.SLD");
+    SendMessageW(box, CB_SETEDITSEL, 0, MAKELPARAM(2, 4));
+    const auto expectKept = [&] {
+        EXPECT_EQ(firstWindow->comboBox(IDC_CONTRACT_TYPED).text(), L"*.SLD");
+        EXPECT_EQ(firstWindow->comboBox(IDC_CONTRACT_TYPED).selectedLine(), -1);
+        EXPECT_EQ(SendMessageW(box, CB_GETEDITSEL, 0, 0), MAKELONG(2, 4));
+    };
+    const int width = firstWindow->place().width();
+    firstWindow->moveTo({0, 0, width + 50, 500});
+    expectKept();
+    firstWindow->moveTo({0, 0, 10, 10});
+    EXPECT_LT(firstWindow->place().width(), width) << "smaller than its template";
+    expectKept();
+}
+
+TEST_F(WindowsAndBoxes, ListsAndTooltipsFollowAChangeOfResolution) {
+    ListBox& lines = firstWindow->listBox(IDC_CONTRACT_ONE);
+    HWND list = GetDlgItem(first, IDC_CONTRACT_ONE);
+    HWND tips = tooltipsOf(first);
+    const auto font = [](HWND window) {
+        LOGFONTW made{};
+        GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)), sizeof made,
+                   &made);
+        return made.lfFaceName + std::to_wstring(made.lfHeight);
+    };
+    const auto extent = [&] { return SendMessageW(list, LB_GETHORIZONTALEXTENT, 0, 0); };
+    const auto extentOf = [&](const std::wstring& text) {
+        lines.setLines(2, [&](int i) { return i == 0 ? text : std::wstring(20, L'i'); });
+        return extent();
+    };
+    EXPECT_GT(extentOf(std::wstring(40, L'W')), 2 * extentOf(std::wstring(40, L'i')));
+    lines.replaceLine(1, std::wstring(80, L'W'));
+    const LRESULT wide = extent();
+    EXPECT_GT(wide, 4 * extentOf(std::wstring(20, L'W')) / 3);
+    lines.replaceLine(1, std::wstring(80, L'W'));
+
+    SendMessageW(list, LB_SETHORIZONTALEXTENT, 1, 0);
+    SendMessageW(tips, TTM_SETMAXTIPWIDTH, 0, -1);
+    SendMessageW(tips, WM_SETFONT, 0, 0);
+    RECT suggested{50, 60, 850, 660};
+    SendMessageW(first, WM_DPICHANGED, MAKEWPARAM(96, 96), reinterpret_cast<LPARAM>(&suggested));
+    EXPECT_EQ(firstWindow->place(), (Area{50, 60, 850, 660}));
+    EXPECT_EQ(extent(), wide);
+    EXPECT_EQ(SendMessageW(tips, TTM_GETMAXTIPWIDTH, 0, 0), MulDiv(400, firstWindow->dpi(), 96));
+    EXPECT_EQ(font(tips), font(GetDlgItem(first, IDC_CONTRACT_LABEL)));
 }

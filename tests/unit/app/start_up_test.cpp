@@ -66,10 +66,10 @@ TEST_F(StartUp, IsFollowedByTheAboutWindowAsOftenAsTheUserAsks) {
         {kEnterKey, Event::Click}, {kEscapeKey, Event::Click}, {kTheWindow, Event::Close}};
     for (const auto& [id, event] : ways) {
         askAbout();
-        EXPECT_EQ(about().topTwips, 0) << id << ": a closed window is not opened again";
-        about().topTwips = 100;
+        EXPECT_EQ(about().area.top, 0) << id << ": a closed window is not opened again";
+        about().leaveAt(0, 100);
         askAbout();
-        EXPECT_EQ(about().topTwips, 100) << id << ": one window is enough";
+        EXPECT_EQ(about().area.top, 100) << id << ": one window is enough";
         EXPECT_EQ(about().state, State::Shown) << id;
         about().sink.raise(id, event);
         EXPECT_EQ(about().state, State::Unloaded) << id;

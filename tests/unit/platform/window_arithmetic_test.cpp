@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/control_layout.h"
-#include "platform/within_reach.h"
+#include "platform/in_sight.h"
 
 namespace {
 
@@ -11,15 +11,10 @@ constexpr Size kUnit{6, 13};
 constexpr Area kButton{10, 20, 70, 40};
 
 Area placed(Growth across, Growth down, Size client) {
-    ControlLayout layout({400, 300}, kUnit);
+    ControlLayout layout({400, 300}, kUnit, {4, 8});  // 6 and 13 pixels
     layout.add(kButton, across, down);
     return layout.arranged(client).front();
 }
-
-constexpr Monitor kLeft{{0, 0, 1920, 1080}, {0, 0, 1920, 1040}};
-constexpr Monitor kAbove{{0, -1200, 1600, 0}, {0, -1200, 1600, -40}};
-
-Area title(int left, int top) { return {left, top, left + 600, top + 30}; }
 
 }  // namespace
 
@@ -31,36 +26,36 @@ TEST(Lengths, AreScaledAsWindowsDoes) {
     EXPECT_EQ(pixelsOf(1500, 144), 150);
 }
 
-TEST(ControlLayout, FollowsTheEdgesOfALargerWindow) {
+TEST(ControlLayout, FollowsTheEdgesOfTheWindow) {
     EXPECT_EQ(placed(Growth::Stay, Growth::Stay, {500, 330}), kButton);
     EXPECT_EQ(placed(Growth::Move, Growth::Stretch, {500, 330}), (Area{110, 20, 170, 70}));
     EXPECT_EQ(placed(Growth::Stretch, Growth::Move, {500, 330}), (Area{10, 50, 170, 70}));
-    EXPECT_EQ(placed(Growth::Move, Growth::Stretch, {100, 100}), kButton);
+    EXPECT_EQ(placed(Growth::Move, Growth::Stretch, {397, 290}), (Area{7, 20, 67, 30}));
+    EXPECT_EQ(placed(Growth::Stretch, Growth::Move, {100, 100}), (Area{10, 7, 64, 27}))
+        << "it shrinks no further";
 }
 
 TEST(ControlLayout, MeasuresByTheFontInUse) {
-    ControlLayout layout({400, 300}, kUnit);
+    ControlLayout layout({400, 300}, kUnit, {4, 8});
     layout.add(kButton, Growth::Move, Growth::Stay);
     layout.measureBy({9, 26});
-    EXPECT_EQ(layout.smallestClient(), (Size{600, 600}));
+    EXPECT_EQ(layout.templateClient(), (Size{600, 600}));
+    EXPECT_EQ(layout.smallestClient(), (Size{591, 574}));
     EXPECT_EQ(layout.arranged({610, 600}).front(), (Area{25, 40, 115, 80}));
 }
 
-TEST(WithinReach, LeavesAWindowThatCanBeGrabbed) {
-    EXPECT_EQ(cornerWithinReach(title(1900, 1000), true, kLeft), (Point{1900, 1000}));
-    EXPECT_EQ(cornerWithinReach(title(-480, 100), false, kLeft), (Point{-480, 100}));
-    EXPECT_EQ(cornerWithinReach(title(100, -15), false, kLeft), (Point{100, -15}));
+TEST(InSight, MovesAWindowNoFurtherThanItMust) {
+    const Area above{0, -1200, 1600, -40};
+    const std::pair<Area, Area> cases[] = {
+        {{100, -600, 500, -100}, {100, -600, 500, -100}},
+        {{-5, -1201, 395, -701}, {0, -1200, 400, -700}},
+        {{1500, -100, 1900, 400}, {1200, -540, 1600, -40}},
+        {{200, -900, 1900, 900}, {0, -1200, 1600, -40}},
+    };
+    for (const auto& [place, seen] : cases) EXPECT_EQ(inSight(place, above), seen);
 }
 
-TEST(WithinReach, BringsALostWindowOntoTheNearestMonitor) {
-    EXPECT_EQ(cornerWithinReach(title(-500, 100), false, kLeft), (Point{-480, 100}));
-    EXPECT_EQ(cornerWithinReach(title(5000, 9000), false, kLeft), (Point{1800, 1010}));
-    EXPECT_EQ(cornerWithinReach(title(100, -16), false, kLeft), (Point{100, 0}));
-    EXPECT_EQ(cornerWithinReach(title(-700, -5000), false, kAbove), (Point{-480, -1200}));
-}
-
-TEST(WithinReach, FindsTheCornerOfAMinimisedWindow) {
+TEST(InSight, FindsThePlaceOfAMinimisedWindow) {
     const Monitor taskbarOnTop{{0, 0, 1920, 1080}, {0, 40, 1920, 1080}};
-    EXPECT_EQ(cornerOnScreen({100, 200, 700, 800}, taskbarOnTop), (Point{100, 240}));
-    EXPECT_EQ(cornerOnScreen({100, 200, 700, 800}, kLeft), (Point{100, 200}));
+    EXPECT_EQ(placeOnScreen({100, 200, 700, 800}, taskbarOnTop), (Area{100, 240, 700, 840}));
 }

@@ -26,7 +26,7 @@ class ExistingListPrompt : public testing::Test {
 
 TEST_F(ExistingListPrompt, EveryAnswerSavesThePlaceClosesThePromptAndGoesOn) {
     exits.whenTaken = [&] {
-        EXPECT_EQ(machine.settings.entries.size(), 2U);
+        EXPECT_EQ(machine.settings.entries.size(), 3U);
         EXPECT_EQ(window.state, FakeWindow::State::Unloaded);
     };
     for (const int button : {IDC_FORM2_CMDOK, IDC_FORM2_CMDANNULE, IDC_FORM2_CMDEFFACER}) {

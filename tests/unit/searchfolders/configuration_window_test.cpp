@@ -55,8 +55,7 @@ class ConfigurationFixture : public testing::Test {
 }  // namespace
 
 TEST_F(ConfigurationFixture, OpensOnTheLastConfiguration) {
-    EXPECT_EQ(std::pair(window.widthTwips, window.heightTwips), std::pair(13600, 6200));
-    EXPECT_EQ(std::pair(window.topTwips, window.leftTwips), std::pair(300, 2964));
+    EXPECT_EQ(window.area, (Area{198, 20, 198 + 907, 20 + 413}));
     EXPECT_EQ(list(IDC_FORM4_LIST1).texts(), (Texts{L"En Cours", L"A", L"B"}));
     EXPECT_EQ(list(IDC_FORM4_LIST1).selection(), std::vector{2});
     EXPECT_EQ(list(IDC_FORM4_LIST3).texts(), (Texts{L"c:\\b", L"d:\\b"}));
@@ -158,7 +157,7 @@ TEST_F(ConfigurationFixture, OnlySauvegarderWritesTheFile) {
 
 TEST_F(ConfigurationFixture, AnnulerKeepsTheConfigurationsAndThePlace) {
     click(IDC_FORM4_CMDCREER);
-    window.moveTo(90000, 15);
+    window.leaveAt(1, 6'000);
     click(IDC_FORM4_CMDANNULER1);
     EXPECT_FALSE(editing());
     EXPECT_EQ(configurations.last, 2);

@@ -21,7 +21,7 @@ class SelectionLeaving : public SelectionFixture {
 
 TEST_F(SelectionLeaving, LaunchingWritesTheChosenDocumentsThenHandsOver) {
     load();
-    window().moveTo(450, -75);
+    window().leaveAt(-5, 30);
     highlight({1});
     click(IDC_FORM1_CMDCOCHE);
     listFile() = L"12  c:\\d'avant\r\n";
@@ -78,7 +78,7 @@ TEST_F(SelectionLeaving, TheListFileHoldsFullPaths) {
 
 TEST_F(SelectionLeaving, OnlySortieSavesTheWindowsPlace) {
     load();
-    window().moveTo(450, -75);
+    window().leaveAt(-5, 30);
     EXPECT_THROW(window().close(), ProgramEnd);
     EXPECT_THROW(click(IDC_FORM1_CMD_ANNULER), ProgramEnd);
     EXPECT_EQ(window().state, FakeWindow::State::Unloaded);

@@ -5,7 +5,7 @@ using SelectionLoad = SelectionFixture;
 TEST_F(SelectionLoad, ShowsTheDrawingsOfTheWorkingDirectory) {
     load();
     EXPECT_EQ(exits.taken, Lines{L"closeSplash"});
-    EXPECT_EQ(std::pair(window().topTwips, window().leftTwips), std::pair(300, -600));
+    EXPECT_EQ(window().area.corner(), (Point{-40, 20}));
     EXPECT_EQ(types().content, L"*.SLDDRW");
     EXPECT_EQ(types().lines.back(), L"*.SLDPRT ; *.SLDASM ; *.SLDDRW");
     EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).lines, (Lines{L"c:", L"d:"}));

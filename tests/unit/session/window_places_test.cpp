@@ -11,9 +11,40 @@ struct NoEvents : EventSink {
     void raise(int, Event) override {}
 };
 
+class WindowPlacesTest : public testing::Test {
+ protected:
+    /// Has the next run show the window on these monitors.
+    Area restored(std::vector<FakeMonitor> monitors, Size size = {600, 400}) {
+        FakeWindow window(0, sink);
+        window.monitors = std::move(monitors);
+        window.area = areaAt({}, size);
+        places.readAll();
+        places.restore(PlacedWindow::Selection, window);
+        return window.area;
+    }
+    void leave(const std::vector<FakeMonitor>& monitors, const Area& area) {
+        FakeWindow window(0, sink);
+        window.monitors = monitors;
+        window.area = area;
+        places.save(PlacedWindow::Selection, window);
+    }
+    void store(const wchar_t* key, const wchar_t* value) {
+        settings.write(L"tarnwick", L"startup", key, value);
+    }
+
+    NoEvents sink;
+    FakeSettings settings;
+    WindowPlaces places{settings};
+};
+
+const FakeMonitor kPlain{.area = {0, 0, 1920, 1080}, .work = {0, 0, 1920, 1040}};
+const FakeMonitor kFine{
+    .area = {1920, -300, 5760, 1860}, .work = {1920, -300, 5760, 1780}, .dpi = 192};
+const FakeMonitor kSmall{.area = {0, 0, 1280, 1024}, .work = {0, 40, 1280, 1024}, .dpi = 144};
+
 }  // namespace
 
-TEST(WindowPlaces, AreKeptUnderKeysOfTheirOwnWithinSixteenBits) {
+TEST_F(WindowPlacesTest, AreKeptUnderKeysOfTheirOwnWithinSixteenBits) {
     const struct {
         PlacedWindow which;
         const wchar_t *application, *section, *top, *left;
@@ -23,21 +54,62 @@ TEST(WindowPlaces, AreKeptUnderKeysOfTheirOwnWithinSixteenBits) {
         {PlacedWindow::Tracking, L"tarnwick", L"startup", L"toppos3", L"leftpos3"},
         {PlacedWindow::SearchFolders, L"mervale", L"listerepert", L"toppos4", L"leftpos4"},
     };
-    NoEvents sink;
-    FakeWindow window(0, sink);
     for (const auto& c : cases) {
-        FakeSettings settings;
-        WindowPlaces places(settings);
-        const auto expectPlace = [&](int top, int left) {
-            places.readAll();
-            places.restore(c.which, window);
-            EXPECT_EQ(std::pair(window.topTwips, window.leftTwips), std::pair(top, left)) << c.top;
-        };
-        expectPlace(1416, 2964);
-        window.moveTo(-480'000, 57'600);
+        settings.entries.clear();
+        FakeWindow window(0, sink);
+        places.readAll();
+        places.restore(c.which, window);
+        EXPECT_EQ(window.area.corner(), (Point{198, 94})) << c.top;
+        window.leaveAt(3'840, -32'000);
         places.save(c.which, window);
         EXPECT_EQ(settings.read(c.application, c.section, c.top, L""), L"-32768");
         EXPECT_EQ(settings.read(c.application, c.section, c.left, L""), L"32767");
-        expectPlace(-32768, 32767);
+        places.readAll();
+        places.restore(c.which, window);
+        EXPECT_EQ(window.area.corner(), (Point{3'840, -32'000})) << c.top;
     }
+}
+
+TEST_F(WindowPlacesTest, ComeBackOnMonitorsOfAnyScale) {
+    for (const Area& area :
+         {Area{100, 50, 700, 450}, Area{2'000, -200, 3'200, 600}, Area{4'000, 700, 5'200, 1'500}}) {
+        leave({kPlain, kFine}, area);
+        EXPECT_EQ(restored({kPlain, kFine}), area);
+        EXPECT_EQ(restored({kFine, kPlain}), area) << "whichever is the first";
+    }
+}
+
+TEST_F(WindowPlacesTest, PixelsCountAsLongAsTheTwipsStandAndCanBeRead) {
+    leave({kPlain, kFine}, {4'000, 700, 5'200, 1'500});
+    for (const wchar_t* pixels : {L"", L"5250 30000", L"5250 30000 4000", L"5250 30000 4000 x",
+                                  L"5250 30000 40000 700", L"52 30000 4000 700"}) {
+        store(L"pixelpos", pixels);
+        EXPECT_EQ(restored({kFine}).corner(), (Point{4'000, 700})) << pixels;
+    }
+    leave({kPlain, kFine}, {4'000, 700, 5'200, 1'500});
+    store(L"leftpos", L"1500");
+    store(L"toppos", L"750");
+    EXPECT_EQ(restored({kPlain, kFine}), (Area{100, 50, 700, 450})) << "changed meanwhile";
+}
+
+TEST_F(WindowPlacesTest, StandWholeInTheNearestWorkArea) {
+    const struct {
+        const wchar_t *left, *top;
+        Size size;
+        FakeMonitor monitor;
+        Area place;
+    } cases[] = {
+        {L"30000", L"-9000", {600, 400}, kPlain, {1'320, 0, 1'920, 400}},
+        {L"-75", L"15000", {600, 400}, kPlain, {0, 640, 600, 1'040}},
+        {L"2964", L"1416", {1'284, 985}, kSmall, {0, 40, 1'280, 1'024}},
+        {L"2964", L"1416", {1'284, 400}, kSmall, {0, 142, 1'280, 542}},
+    };
+    for (const auto& c : cases) {
+        store(L"leftpos", c.left);
+        store(L"toppos", c.top);
+        EXPECT_EQ(restored({c.monitor}, c.size), c.place) << c.left << c.top;
+    }
+    // On its way from the first monitor it doubles its size.
+    leave({kFine}, {4'000, 1'600, 5'200, 2'400});
+    EXPECT_EQ(restored({kPlain, kFine}), (Area{4'000, 980, 5'200, 1'780}));
 }

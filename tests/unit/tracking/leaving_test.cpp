@@ -4,7 +4,7 @@ using Leaving = TrackingFixture;
 
 TEST_F(Leaving, BySortieSavesPlaceAndOptionsAndClosesTheDocument) {
     loadStates(L"00");
-    window().moveTo(1500, 40000);
+    window().leaveAt(2'667, 100);
     const int ticked[] = {IDC_FORM3_CKMINIMISE, IDC_FORM3_CKRECONS2};
     for (const int box : {IDC_FORM3_CKSILENT, IDC_FORM3_CKRECONS}) {
         window().checkBox(box).ticked = false;

@@ -4,8 +4,7 @@ using Load = TrackingFixture;
 
 TEST_F(Load, PutsTheWindowInItsPlaceAndHidesWhatIsNotForTheUser) {
     load(L"0  c:\\a\r\n0  c:\\b\r\n");
-    EXPECT_EQ(window().topTwips, 300);
-    EXPECT_EQ(window().leftTwips, -600);
+    EXPECT_EQ(window().area.corner(), (Point{-40, 20}));
     EXPECT_FALSE(window().checkBox(IDC_FORM3_CKMINIMISE).visible);
     EXPECT_FALSE(window().control(IDC_FORM3_CMDMEMO).visible);
     EXPECT_FALSE(window().control(IDC_FORM3_NUMFICHCOUR).visible);

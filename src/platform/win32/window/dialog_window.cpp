@@ -34,6 +34,18 @@ HWND makeDialog(int dialogId, DLGPROC procedure) {
         L"une fenêtre");
 }
 
+/// Windows would resize the window and its controls, too, and undo what we do. A function of 1703,
+/// which Wine lacks.
+void leaveResolutionToUs(HWND window) {
+    using SetBehavior =
+        BOOL(WINAPI*)(HWND, DIALOG_DPI_CHANGE_BEHAVIORS, DIALOG_DPI_CHANGE_BEHAVIORS);
+    const FARPROC function =
+        GetProcAddress(GetModuleHandleW(L"user32"), "SetDialogDpiChangeBehavior");
+    if (!function) return;
+    reinterpret_cast<SetBehavior>(reinterpret_cast<void*>(function))(window, DDC_DISABLE_ALL,
+                                                                     DDC_DISABLE_ALL);
+}
+
 }  // namespace
 
 DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& events, EventGate& gate)
@@ -43,11 +55,12 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
       focusId_(windowTemplate.focusId),
       fixedPitchId_(windowTemplate.fixedPitchId),
       window_(makeDialog(windowTemplate.dialogId, procedure)),
-      layout_(window_.get(), windowTemplate.anchors),
+      layout_(window_.get(), windowTemplate),
       tips_(addTooltips(window_.get(), windowTemplate.tooltips)),
       taskbarButton_(window_.get()),
       progress_(taskbarButton_) {
     noteUsed(window_.get());
+    leaveResolutionToUs(window_.get());
     SetWindowLongPtrW(window_.get(), DWLP_USER, reinterpret_cast<LONG_PTR>(this));
     chooseFonts();
     takeTemplateSize();
@@ -56,37 +69,6 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
 }
 
 DialogWindow::~DialogWindow() { destroy(); }
-
-void DialogWindow::chooseFonts() {
-    const UINT dpi = GetDpiForWindow(window_.get());
-    WindowFonts fonts(dpi);
-    for (HWND child = GetWindow(window_.get(), GW_CHILD); child;
-         child = GetWindow(child, GW_HWNDNEXT)) {
-        const int id = GetDlgCtrlID(child);
-        HFONT font = fonts.text();
-        if (headingId_ != 0 && id == headingId_) font = fonts.heading();
-        if (fixedPitchId_ != 0 && id == fixedPitchId_) font = fonts.fixedPitch();
-        SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
-    }
-    layout_.measureBy(fonts.text());
-    fonts_ = std::move(fonts);
-    icons_ = WindowIcons(window_.get(), dpi);
-}
-
-void DialogWindow::takeTemplateSize() {
-    const Size size = layout_.smallestWindow();
-    SetWindowPos(window_.get(), nullptr, 0, 0, size.width, size.height,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    layout_.arrange();
-}
-
-void DialogWindow::changeResolution(const RECT& suggested) {
-    chooseFonts();
-    SetWindowPos(window_.get(), nullptr, suggested.left, suggested.top,
-                 suggested.right - suggested.left, suggested.bottom - suggested.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-    layout_.arrange();
-}
 
 bool DialogWindow::isShown() const { return IsWindowVisible(window_.get()); }
 

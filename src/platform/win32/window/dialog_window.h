@@ -31,10 +31,10 @@ class DialogWindow : public Window, private EventSource {
     ComboBox& comboBox(int id) override;
     TabStrip& tabStrip(int id) override;
 
-    int top() const override;
-    int left() const override;
-    void moveTo(int top, int left) override;
-    void resize(int width, int height) override;
+    Area place() const override;
+    void moveTo(const Area& place) override;
+    int dpi() const override;
+    Area workArea() const override;
     void showProgress(int done, int total) override;
     void show() override;
     void hide() override;
@@ -56,12 +56,12 @@ class DialogWindow : public Window, private EventSource {
     bool isUnmeantCommand(int id, Event event) const;
     void changeResolution(const RECT& suggested);
     void chooseFonts();
+    WindowFonts fittingFonts();
+    void giveFonts(const WindowFonts& fonts);
     void takeTemplateSize();
+    Size smallestSize() const;
     void destroy();
     HWND item(int id) const { return GetDlgItem(window_.get(), id); }
-    Point restoredCorner() const;
-    void placeCorner(int top, int left) const;
-    void placeInPixels(Point corner) const;
     template <class Kind>
     Kind& find(int id);
 

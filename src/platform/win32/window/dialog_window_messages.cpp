@@ -83,7 +83,7 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (wParam != SIZE_MINIMIZED) layout_.arrange();
             return TRUE;
         case WM_GETMINMAXINFO: {
-            const Size size = layout_.smallestWindow();
+            const Size size = smallestSize();
             reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {size.width, size.height};
             return TRUE;
         }

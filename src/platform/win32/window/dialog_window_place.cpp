@@ -1,70 +1,104 @@
-// Where a window stands, in twips.
+// Where a window stands, how large it is and how large its letters are.
 
+#include "platform/in_sight.h"
 #include "platform/win32/window/areas.h"
+#include "platform/win32/window/combo_field.h"
+#include "platform/win32/window/control_class.h"
 #include "platform/win32/window/dialog_window.h"
-#include "platform/within_reach.h"
+#include "platform/win32/window/tooltips.h"
+#include "platform/win32/window/win_controls.h"
 
 namespace {
 
-Monitor nearestMonitor(const RECT& area) {
+Monitor nearestMonitor(HMONITOR nearest) {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromRect(&area, MONITOR_DEFAULTTONEAREST), &monitor);
+    GetMonitorInfoW(nearest, &monitor);
     return {areaOfRect(monitor.rcMonitor), areaOfRect(monitor.rcWork)};
 }
 
-RECT titleBar(HWND window) {
-    RECT area{};
-    GetWindowRect(window, &area);
-    const UINT dpi = GetDpiForWindow(window);
-    area.bottom = area.top + GetSystemMetricsForDpi(SM_CYCAPTION, dpi) +
-                  GetSystemMetricsForDpi(SM_CYSIZEFRAME, dpi);
-    return area;
-}
+HMONITOR monitorOf(HWND window) { return MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST); }
 
-Point reachableCorner(HWND window) {
-    const RECT title = titleBar(window);
-    const bool onAMonitor = MonitorFromPoint({title.left, title.top}, MONITOR_DEFAULTTONULL);
-    return cornerWithinReach(areaOfRect(title), onAMonitor, nearestMonitor(title));
+void putAt(HWND window, const Area& place) {
+    SetWindowPos(window, nullptr, place.left, place.top, place.width(), place.height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace
 
-Point DialogWindow::restoredCorner() const {
+Area DialogWindow::place() const {
     RECT area{};
     GetWindowRect(window_.get(), &area);
-    if (!IsIconic(window_.get()) && !IsZoomed(window_.get())) return {area.left, area.top};
+    if (!IsIconic(window_.get()) && !IsZoomed(window_.get())) return areaOfRect(area);
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
     GetWindowPlacement(window_.get(), &placement);
     const RECT& normal = placement.rcNormalPosition;
-    return cornerOnScreen(areaOfRect(normal), nearestMonitor(normal));
+    return placeOnScreen(areaOfRect(normal),
+                         nearestMonitor(MonitorFromRect(&normal, MONITOR_DEFAULTTONEAREST)));
 }
 
-int DialogWindow::top() const { return twipsOf(restoredCorner().y, dpiOf(window_.get())); }
-
-int DialogWindow::left() const { return twipsOf(restoredCorner().x, dpiOf(window_.get())); }
-
-void DialogWindow::placeInPixels(Point corner) const {
-    SetWindowPos(window_.get(), nullptr, corner.x, corner.y, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+void DialogWindow::moveTo(const Area& place) {
+    HMONITOR before = monitorOf(window_.get());
+    putAt(window_.get(), place);
+    if (monitorOf(window_.get()) == before) return;
+    chooseFonts();
+    layout_.arrange();
 }
 
-void DialogWindow::placeCorner(int top, int left) const {
-    const int dpi = dpiOf(window_.get());
-    placeInPixels({pixelsOf(left, dpi), pixelsOf(top, dpi)});
+int DialogWindow::dpi() const { return dpiOf(window_.get()); }
+
+Area DialogWindow::workArea() const { return nearestMonitor(monitorOf(window_.get())).work; }
+
+Size DialogWindow::smallestSize() const {
+    return smaller(layout_.smallestWindow(), workArea().size());
 }
 
-void DialogWindow::moveTo(int top, int left) {
-    const int before = dpiOf(window_.get());
-    placeCorner(top, left);
-    // On a monitor of another resolution a twip is another length.
-    if (dpiOf(window_.get()) != before) placeCorner(top, left);
-    placeInPixels(reachableCorner(window_.get()));
+void DialogWindow::takeTemplateSize() {
+    putAt(window_.get(), areaAt(place().corner(), layout_.templateWindow()));
+    layout_.arrange();
 }
 
-void DialogWindow::resize(int width, int height) {
-    const int dpi = dpiOf(window_.get());
-    SetWindowPos(window_.get(), nullptr, 0, 0, pixelsOf(width, dpi), pixelsOf(height, dpi),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+// The letters first: the window can't be made smaller than they ask for.
+void DialogWindow::changeResolution(const RECT& suggested) {
+    chooseFonts();
+    putAt(window_.get(), areaOfRect(suggested));
+    layout_.arrange();
+}
+
+/// The usual letters; smaller ones where not even the smallest size would stand whole on the
+/// screen, as far as they can be read.
+WindowFonts DialogWindow::fittingFonts() {
+    constexpr int kLeastPercent = 60;
+    constexpr int kStep = 4;
+    int percent = 100;
+    WindowFonts fonts(dpi(), percent);
+    layout_.measureBy(fonts.text());
+    while (smallestSize() != layout_.smallestWindow() && percent > kLeastPercent) {
+        percent -= kStep;
+        fonts = WindowFonts(dpi(), percent);
+        layout_.measureBy(fonts.text());
+    }
+    return fonts;
+}
+
+void DialogWindow::chooseFonts() {
+    WindowFonts fonts = fittingFonts();
+    giveFonts(fonts);
+    fonts_ = std::move(fonts);
+    icons_ = WindowIcons(window_.get(), GetDpiForWindow(window_.get()));
+}
+
+void DialogWindow::giveFonts(const WindowFonts& fonts) {
+    for (HWND child = GetWindow(window_.get(), GW_CHILD); child;
+         child = GetWindow(child, GW_HWNDNEXT)) {
+        const int id = GetDlgCtrlID(child);
+        HFONT font = fonts.text();
+        if (headingId_ != 0 && id == headingId_) font = fonts.heading();
+        if (fixedPitchId_ != 0 && id == fixedPitchId_) font = fonts.fixedPitch();
+        const KeptComboField kept(child);
+        SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+        if (classOf(child) == ControlClass::ListBox) WinListBox(child).measureLines();
+    }
+    fitTooltips(tips_, fonts.text(), dpi());
 }

@@ -9,11 +9,6 @@ HWND addTooltips(HWND window, std::span<const Tooltip> tooltips) {
         CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
                         WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
                         CW_USEDEFAULT, CW_USEDEFAULT, window, nullptr, nullptr, nullptr);
-    // Long texts break over several lines.
-    constexpr int kWidestTip = 400;
-    SendMessageW(
-        tips, TTM_SETMAXTIPWIDTH, 0,
-        MulDiv(kWidestTip, static_cast<int>(GetDpiForWindow(window)), USER_DEFAULT_SCREEN_DPI));
     for (const Tooltip& tooltip : tooltips) {
         std::wstring text = tooltip.text;
         TOOLINFOW tool{};
@@ -25,6 +20,12 @@ HWND addTooltips(HWND window, std::span<const Tooltip> tooltips) {
         SendMessageW(tips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     }
     return tips;
+}
+
+void fitTooltips(HWND tips, HFONT font, int dpi) {
+    constexpr int kWidestTip = 400;  // beyond that a text breaks over several lines
+    SendMessageW(tips, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    SendMessageW(tips, TTM_SETMAXTIPWIDTH, 0, MulDiv(kWidestTip, dpi, USER_DEFAULT_SCREEN_DPI));
 }
 
 void relayToTooltips(HWND tips, HWND control, UINT mouseMessage) {

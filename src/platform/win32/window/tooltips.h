@@ -11,5 +11,8 @@
 /// control that was subclassed for that would take every message many times slower.
 HWND addTooltips(HWND window, std::span<const Tooltip> tooltips);
 
+/// Gives tooltips (none, when null) the font and the width that suit a resolution.
+void fitTooltips(HWND tips, HFONT font, int dpi);
+
 /// Tells the tooltips of a mouse message that a control is about to get.
 void relayToTooltips(HWND tips, HWND control, UINT mouseMessage);

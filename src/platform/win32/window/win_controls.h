@@ -63,11 +63,13 @@ class WinListBox : public ControlOf<ListBox> {
     void stopDrawing() override;
     void resumeDrawing() override;
 
+    /// The list has another font: it is scrolled sideways as far as its widest line reaches now.
+    void measureLines();
+
  private:
     bool severalSelectable() const;
-    void widenFor(std::size_t characters);
+    void setExtent(int pixels) { send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(pixels)); }
 
-    std::size_t widest_ = 0;  ///< characters of the longest line, for the horizontal scroll bar
     int pauses_ = 0;
     bool paused_ = false;  ///< whether the control knows of it
 };

@@ -9,12 +9,26 @@ WPARAM position(int index) { return static_cast<WPARAM>(index); }
 
 LPARAM asLparam(const std::wstring& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
 
-int characterWidth(HWND list) {
-    const FontContext context(list, reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0)));
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(context.get(), &metrics);
-    return metrics.tmAveCharWidth;
-}
+/// The widest of some lines in the font of their list.
+class WidestLine {
+ public:
+    explicit WidestLine(HWND list)
+        : context_(list, reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0))) {}
+
+    void add(const std::wstring& line) {
+        SIZE size{};
+        GetTextExtentPoint32W(context_.get(), line.c_str(), static_cast<int>(line.size()), &size);
+        widest_ = std::max<int>(widest_, size.cx);
+    }
+    /// How far a list must scroll for it to be seen: the control leaves a margin before it.
+    int extent() const { return widest_ == 0 ? 0 : widest_ + kMargin; }
+
+ private:
+    static constexpr int kMargin = 8;
+
+    FontContext context_;
+    int widest_ = 0;
+};
 
 }  // namespace
 
@@ -59,20 +73,21 @@ void WinListBox::setLines(int count, const std::function<std::wstring(int)>& lin
     send(LB_RESETCONTENT);
     constexpr LPARAM kBytesPerLine = 200;
     send(LB_INITSTORAGE, position(count), count * kBytesPerLine);
-    widest_ = 0;
-    std::size_t widest = 0;
+    WidestLine widest(handle());
     for (int i = 0; i < count; ++i) {
         const std::wstring text = line(i);
-        widest = std::max(widest, text.size());
+        widest.add(text);
         send(LB_ADDSTRING, 0, asLparam(text));
     }
-    widenFor(widest);
+    setExtent(widest.extent());
 }
 
 void WinListBox::replaceLine(int index, const std::wstring& line) {
     send(LB_DELETESTRING, position(index));
     send(LB_INSERTSTRING, position(index), asLparam(line));
-    if (line.size() > widest_) widenFor(line.size());
+    WidestLine widest(handle());
+    widest.add(line);
+    if (widest.extent() > sendForInt(LB_GETHORIZONTALEXTENT)) setExtent(widest.extent());
 }
 
 void WinListBox::changeText(int index, const std::wstring& line) {
@@ -89,9 +104,10 @@ void WinListBox::changeText(int index, const std::wstring& line) {
     if (send(LB_GETTOPINDEX) != top) send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
 }
 
-void WinListBox::widenFor(std::size_t characters) {
-    widest_ = characters;
-    send(LB_SETHORIZONTALEXTENT, (characters + 1) * static_cast<WPARAM>(characterWidth(handle())));
+void WinListBox::measureLines() {
+    WidestLine widest(handle());
+    for (int i = 0; i < count(); ++i) widest.add(line(i));
+    setExtent(widest.extent());
 }
 
 // Windows shows a hidden window whose drawing is switched on: it is left alone.

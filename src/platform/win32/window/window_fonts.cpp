@@ -4,10 +4,11 @@
 
 namespace {
 
-LOGFONTW messageFont(UINT dpi) {
+LOGFONTW messageFont(int dpi) {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
-    require(SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi),
+    require(SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0,
+                                       static_cast<UINT>(dpi)),
             L"la police des messages");
     return metrics.lfMessageFont;
 }
@@ -34,8 +35,9 @@ UniqueFont fixedPitchFont(LOGFONTW font) {
 
 }  // namespace
 
-WindowFonts::WindowFonts(UINT dpi) {
-    const LOGFONTW font = messageFont(dpi);
+WindowFonts::WindowFonts(int dpi, int percent) {
+    LOGFONTW font = messageFont(dpi);
+    font.lfHeight = scaled(font.lfHeight, percent, 100);
     text_ = made(font);
     heading_ = headingFont(font);
     fixedPitch_ = fixedPitchFont(font);

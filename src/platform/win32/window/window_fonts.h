@@ -3,10 +3,11 @@
 #include "platform/area.h"
 #include "platform/win32/window/handles.h"
 
-/// The fonts of a window at one resolution, made from the one the system uses in its own boxes.
+/// The fonts of a window at one resolution, made from the one the system uses in its own boxes,
+/// `percent` of its size.
 class WindowFonts {
  public:
-    explicit WindowFonts(UINT dpi);
+    WindowFonts(int dpi, int percent);
 
     HFONT text() const { return text_.get(); }
     HFONT heading() const { return heading_.get(); }

@@ -14,6 +14,14 @@ void setIcon(HWND window, WPARAM size, const UniqueIcon& icon) {
     SendMessageW(window, WM_SETICON, size, reinterpret_cast<LPARAM>(icon.get()));
 }
 
+void showInLabels(HWND window, const UniqueIcon& icon) {
+    HWND label = nullptr;
+    while ((label = FindWindowExW(window, label, L"Static", nullptr))) {
+        const bool showsIcon = (GetWindowLongW(label, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
+        if (showsIcon) SendMessageW(label, STM_SETICON, reinterpret_cast<WPARAM>(icon.get()), 0);
+    }
+}
+
 }  // namespace
 
 WindowIcons::WindowIcons(HWND window, UINT dpi)
@@ -23,4 +31,5 @@ WindowIcons::WindowIcons(HWND window, UINT dpi)
                     GetSystemMetricsForDpi(SM_CYICON, dpi))) {
     setIcon(window, ICON_SMALL, small_);
     setIcon(window, ICON_BIG, big_);
+    showInLabels(window, big_);
 }

@@ -2,7 +2,7 @@
 
 #include "platform/win32/window/handles.h"
 
-/// The program's icon on a window, in the sizes of one resolution.
+/// The program's icon on a window, and in its labels that show it, in the sizes of one resolution.
 class WindowIcons {
  public:
     WindowIcons(HWND window, UINT dpi);

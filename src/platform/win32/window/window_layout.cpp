@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/win32/window/areas.h"
+#include "platform/win32/window/combo_field.h"
 #include "platform/win32/window/control_class.h"
 #include "platform/win32/window/window_fonts.h"
 
@@ -30,10 +31,25 @@ Size clientSize(HWND window) {
     return {area.right, area.bottom};
 }
 
+/// The client area that a dialog resource asks for: the window is cut off where it would be larger
+/// than the screen (DLGTEMPLATEEX).
+Size templateClient(HWND window, int dialogId) {
+    constexpr int kWidth = 11;  // in words
+    HMODULE module = GetModuleHandleW(nullptr);
+    const HRSRC resource = FindResourceW(module, MAKEINTRESOURCEW(dialogId), RT_DIALOG);
+    const auto* words = static_cast<const short*>(LockResource(LoadResource(module, resource)));
+    RECT area{0, 0, words[kWidth], words[kWidth + 1]};
+    MapDialogRect(window, &area);
+    return {area.right, area.bottom};
+}
+
 }  // namespace
 
-WindowLayout::WindowLayout(HWND window, std::span<const Anchor> anchors)
-    : window_(window), layout_(clientSize(window), averageCharacter(fontOf(window))) {
+WindowLayout::WindowLayout(HWND window, const WindowTemplate& source)
+    : window_(window),
+      layout_(templateClient(window, source.dialogId), averageCharacter(fontOf(window)),
+              source.shrinks) {
+    const auto& anchors = source.anchors;
     for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         const auto anchor = std::ranges::find(anchors, GetDlgCtrlID(child), &Anchor::controlId);
         const bool anchored = anchor != anchors.end();
@@ -45,8 +61,7 @@ WindowLayout::WindowLayout(HWND window, std::span<const Anchor> anchors)
 
 void WindowLayout::measureBy(HFONT font) { layout_.measureBy(averageCharacter(font)); }
 
-Size WindowLayout::smallestWindow() const {
-    const Size client = layout_.smallestClient();
+Size WindowLayout::withFrame(Size client) const {
     RECT area{0, 0, client.width, client.height};
     AdjustWindowRectExForDpi(&area, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)), FALSE,
                              static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)),
@@ -58,6 +73,7 @@ void WindowLayout::arrange() const {
     const std::vector<Area> areas = layout_.arranged(clientSize(window_));
     for (std::size_t i = 0; i < areas.size(); ++i) {
         const Area& area = areas[i];
+        const KeptComboField kept(controls_[i]);
         SetWindowPos(controls_[i], nullptr, area.left, area.top, area.width(), area.height(),
                      SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
     }
