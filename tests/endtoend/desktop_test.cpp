@@ -56,8 +56,10 @@ TEST_F(Desktop, WindowsStandWholeOnTheScreenAndCanBeMadeSmall) {
     cad.Start({"--hidden"});
     StartAndResume();
     HWND window = app.Window(kTracking);
-    EXPECT_EQ(PlaceOf(window).top, 0);
-    EXPECT_EQ(PlaceOf(window).right, GetSystemMetrics(SM_CXSCREEN));
+    RECT work{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    EXPECT_EQ(PlaceOf(window).top, work.top);
+    EXPECT_EQ(PlaceOf(window).right, work.right);
 
     HWND list = app.Control(IDC_FORM3_LIST1);
     const SIZE before = SizeOf(window);
