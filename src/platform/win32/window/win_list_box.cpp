@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "platform/win32/window/handles.h"
+#include "platform/win32/window/widest_line.h"
 #include "platform/win32/window/win_controls.h"
 
 namespace {
@@ -8,27 +8,6 @@ namespace {
 WPARAM position(int index) { return static_cast<WPARAM>(index); }
 
 LPARAM asLparam(const std::wstring& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
-
-/// The widest of some lines in the font of their list.
-class WidestLine {
- public:
-    explicit WidestLine(HWND list)
-        : context_(list, reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0))) {}
-
-    void add(const std::wstring& line) {
-        SIZE size{};
-        GetTextExtentPoint32W(context_.get(), line.c_str(), static_cast<int>(line.size()), &size);
-        widest_ = std::max<int>(widest_, size.cx);
-    }
-    /// How far a list must scroll for it to be seen: the control leaves a margin before it.
-    int extent() const { return widest_ == 0 ? 0 : widest_ + kMargin; }
-
- private:
-    static constexpr int kMargin = 8;
-
-    FontContext context_;
-    int widest_ = 0;
-};
 
 }  // namespace
 
