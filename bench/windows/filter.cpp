@@ -12,15 +12,6 @@ namespace {
 
 constexpr wchar_t kNowhere[] = L"nulle part";
 
-/// Documents with their full paths.
-void fill(FoundDocuments& found, int count) {
-    found.restart(true);
-    for (const std::wstring& path : samplePaths(count)) {
-        const std::size_t backslash = path.rfind(L'\\');
-        found.store(path.substr(0, backslash), path.substr(backslash + 1));
-    }
-}
-
 Comparison compareFilter(const Setting& setting, int documents) {
     Stage stage;
     NoEvents events;
@@ -28,7 +19,7 @@ Comparison compareFilter(const Setting& setting, int documents) {
     window->show();
     ListBox& list = window->listBox(IDC_FORM1_LIST1);
     FoundDocuments found;
-    fill(found, documents);
+    fillFound(found, documents);
     SelectionList selection(list, found);
     selection.fill(0, {});
 

@@ -29,6 +29,8 @@ constexpr NamedRow kRows[] = {
     {"fill", listFill},
     {"next", nextDocument},
     {"filter", filter},
+    {"depth", depthOfLines},
+    {"choice", choiceOfLines},
     {"cad", cadCalls},
     {"start", start},
     {"save", listFileSave},

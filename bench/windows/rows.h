@@ -20,6 +20,9 @@ Row stopOfSearch(const Setting& setting);
 Row nextDocument(const Setting& setting);
 /// A filter that matches nothing, against a search in texts folded before.
 Row filter(const Setting& setting);
+/// All lines drawn at another depth; all lines chosen.
+Row depthOfLines(const Setting& setting);
+Row choiceOfLines(const Setting& setting);
 /// A document's eight CAD calls, against Invoke with member numbers known.
 Row cadCalls(const Setting& setting);
 /// From the process's creation to its first window, against a bare dialog.

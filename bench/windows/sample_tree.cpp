@@ -5,6 +5,8 @@
 #include <functional>
 #include <stdexcept>
 
+#include "selection/found_documents.h"
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -81,4 +83,12 @@ std::vector<std::wstring> samplePaths(int count) {
                         padded(i / 10) + L"\\" + documentName(i));
     }
     return paths;
+}
+
+void fillFound(FoundDocuments& found, int count) {
+    found.restart(true);
+    for (const std::wstring& path : samplePaths(count)) {
+        const std::size_t backslash = path.rfind(L'\\');
+        found.store(path.substr(0, backslash), path.substr(backslash + 1));
+    }
 }

@@ -14,3 +14,7 @@ std::filesystem::path flatDirectory(const std::filesystem::path& below, int docu
 
 /// The texts of full paths such as a pass holds, ascending.
 std::vector<std::wstring> samplePaths(int count);
+
+class FoundDocuments;
+/// The same, as documents found.
+void fillFound(FoundDocuments& found, int count);

@@ -3,6 +3,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <vector>
 
 // The controls of a window as the forms see them. What code changes through these interfaces
 // never raises an event; a form that owes itself one calls its own handler.
@@ -37,10 +38,10 @@ class ListBox : public Control {
     virtual void setMark(int index, int mark) = 0;
     /// Replaces all lines; none is selected and every mark is 0.
     virtual void setLines(int count, const std::function<std::wstring(int)>& line) = 0;
-    /// Removes a line and inserts another in its place: not selected, its mark 0.
-    virtual void replaceLine(int index, const std::wstring& line) = 0;
     /// Gives a line another text; it stays selected or not, and where it is on the screen.
     virtual void changeText(int index, const std::wstring& line) = 0;
+    /// The same for all lines; `line` is asked for each before the first one changes.
+    virtual void changeTexts(const std::function<std::wstring(int)>& line) = 0;
     /// Between these two nothing is drawn. Use DrawingPause.
     virtual void stopDrawing() = 0;
     virtual void resumeDrawing() = 0;
@@ -58,6 +59,11 @@ class DrawingPause {
  private:
     ListBox& list_;
 };
+
+/// Gives these lines other texts, the quicker way: a single change takes the longer the more lines
+/// there are.
+void changeLines(ListBox& list, const std::vector<int>& lines,
+                 const std::function<std::wstring(int)>& line);
 
 /// A drop-down list; its text is typed in or that of the selected line.
 class ComboBox : public Control {

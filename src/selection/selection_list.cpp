@@ -1,5 +1,7 @@
 #include "selection/selection_list.h"
 
+#include <numeric>
+
 #include "common/letter_case.h"
 #include "platform/controls.h"
 #include "selection/found_documents.h"
@@ -27,11 +29,8 @@ SelectionList::Entries SelectionList::chosenEntries() const {
 void SelectionList::redraw(int depth) {
     depth_ = depth;
     DrawingPause pause(list_);
-    for (int i = 0; i < found_.count(); ++i) {
-        const int mark = list_.mark(i);
-        list_.replaceLine(i, lineText(i, mark != 0));
-        list_.setMark(i, mark);
-    }
+    list_.changeTexts([&](int i) { return lineText(i, list_.mark(i) != 0); });
+    list_.clearSelection();
 }
 
 void SelectionList::appendLine(std::wstring& text, int line, bool chosen) const {
@@ -55,21 +54,29 @@ int SelectionList::chosenCount() const {
 
 bool SelectionList::chosen(int line) const { return list_.mark(line) == 1; }
 
-void SelectionList::setChosen(int line, bool chosen) {
-    list_.changeText(line, lineText(line, chosen));
-    list_.setMark(line, chosen ? 1 : 0);
+void SelectionList::toggle(const std::vector<int>& lines) {
+    if (lines.empty()) return;
+    // The list is asked once about each line: it answers slowly.
+    std::vector<bool> choose(static_cast<std::size_t>(found_.count()));
+    const auto chooses = [&](int line) { return choose[static_cast<std::size_t>(line)]; };
+    for (const int line : lines) choose[static_cast<std::size_t>(line)] = !chosen(line);
+    DrawingPause pause(list_);
+    changeLines(list_, lines, [&](int line) { return lineText(line, chooses(line)); });
+    for (const int line : lines) list_.setMark(line, chooses(line) ? 1 : 0);
 }
 
 void SelectionList::toggleHighlighted() {
-    DrawingPause pause(list_);
+    std::vector<int> lines;
     for (int i = 0; i < found_.count(); ++i) {
-        if (list_.selected(i)) setChosen(i, list_.mark(i) == 0);
+        if (list_.selected(i)) lines.push_back(i);
     }
+    toggle(lines);
 }
 
 void SelectionList::toggleAll() {
-    DrawingPause pause(list_);
-    for (int i = 0; i < found_.count(); ++i) setChosen(i, list_.mark(i) == 0);
+    std::vector<int> lines(static_cast<std::size_t>(found_.count()));
+    std::iota(lines.begin(), lines.end(), 0);
+    toggle(lines);
 }
 
 std::vector<int> SelectionList::matching(std::wstring_view filter, bool chosen) const {
@@ -85,11 +92,4 @@ std::vector<int> SelectionList::matching(std::wstring_view filter, bool chosen) 
         if (matches && (list_.mark(i) == 1) == chosen) lines.push_back(i);
     }
     return lines;
-}
-
-void SelectionList::setMatching(std::wstring_view filter, bool wanted) {
-    const std::vector<int> lines = matching(filter, !wanted);
-    if (lines.empty()) return;
-    DrawingPause pause(list_);
-    for (const int line : lines) setChosen(line, wanted);
 }

@@ -29,8 +29,8 @@ class SelectionList {
     void toggleHighlighted();
     void toggleAll();
     // These two match a line as it is displayed, label and visible part of the path, in any case.
-    void chooseMatching(std::wstring_view filter) { setMatching(filter, true); }
-    void dropMatching(std::wstring_view filter) { setMatching(filter, false); }
+    void chooseMatching(std::wstring_view filter) { toggle(matching(filter, false)); }
+    void dropMatching(std::wstring_view filter) { toggle(matching(filter, true)); }
 
  private:
     /// A line as it is displayed, chosen or not.
@@ -38,8 +38,7 @@ class SelectionList {
     void appendLine(std::wstring& text, int line, bool chosen) const;
     /// The lines, of those chosen or of those not chosen, that match as they are displayed.
     std::vector<int> matching(std::wstring_view filter, bool chosen) const;
-    void setChosen(int line, bool chosen);
-    void setMatching(std::wstring_view filter, bool wanted);
+    void toggle(const std::vector<int>& lines);
 
     ListBox& list_;
     const FoundDocuments& found_;

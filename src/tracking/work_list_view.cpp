@@ -33,14 +33,18 @@ void WorkListView::rebuild(const WorkList& list, int depth, bool allToDo) {
 
 void WorkListView::update(const WorkList& list, int depth) {
     auto wanted = labelsOf(list, false);
-    const bool allChanged = depth != drawnDepth_;
-    DrawingPause pause(list_);
+    std::vector<int> changed;
     for (std::size_t i = 0; i < wanted.size(); ++i) {
-        if (!allChanged && wanted[i] == drawnLabels_[i]) continue;
-        const int index = static_cast<int>(i);
-        const std::wstring path = wideText(list.lines[index].path);
-        list_.replaceLine(index, displayLine(index, wanted[i], path, depth));
+        if (depth != drawnDepth_ || wanted[i] != drawnLabels_[i]) {
+            changed.push_back(static_cast<int>(i));
+        }
     }
+    const auto lineText = [&](int i) {
+        return displayLine(i, wanted[static_cast<std::size_t>(i)], wideText(list.lines[i].path),
+                           depth);
+    };
+    DrawingPause pause(list_);
+    changeLines(list_, changed, lineText);
     list_.clearSelection();
     drawnLabels_ = std::move(wanted);
     drawnDepth_ = depth;

@@ -68,21 +68,6 @@ TEST_F(ListBoxContract, DoesNotMindALineThatIsNotThere) {
     }
 }
 
-TEST_F(ListBoxContract, ReplacedLineIsNewInItsPlace) {
-    fill(several, 4);
-    for (int i = 0; i < 4; ++i) {
-        several.select(i, true);
-        several.setMark(i, i + 1);
-    }
-    several.replaceLine(2, L"nouvelle");
-    EXPECT_EQ(several.count(), 4);
-    EXPECT_EQ(several.line(2), L"nouvelle");
-    EXPECT_EQ(several.line(3), L"ligne 3");
-    EXPECT_EQ(selection(several), (Lines{0, 1, 3}));
-    EXPECT_EQ(several.mark(2), 0);
-    EXPECT_EQ(several.mark(3), 4);
-}
-
 TEST_F(ListBoxContract, ChangedTextLeavesTheRest) {
     for (ListBox* list : {&several, &one}) {
         fill(*list, 4);
@@ -93,6 +78,9 @@ TEST_F(ListBoxContract, ChangedTextLeavesTheRest) {
         EXPECT_EQ(list->line(1), L"une");
         EXPECT_EQ(list->line(2), L"autre");
         EXPECT_EQ(list->count(), 4);
+        list->changeTexts([&](int i) { return list->line(i) + L"s"; });
+        EXPECT_EQ(list->line(3), L"ligne 3s");
+        EXPECT_EQ(list->line(2), L"autres");
         EXPECT_EQ(selection(*list), Lines{2});
         EXPECT_EQ(list->mark(2), 5);
     }

@@ -46,8 +46,12 @@ struct FakeListBox : FakeControlOf<ListBox> {
     int mark(int index) const override { return at(index).mark; }
     void setMark(int index, int mark) override { change(index).mark = mark; }
     void setLines(int count, const std::function<std::wstring(int)>& line) override;
-    void replaceLine(int index, const std::wstring& line) override { change(index) = {line}; }
     void changeText(int index, const std::wstring& line) override { change(index).text = line; }
+    void changeTexts(const std::function<std::wstring(int)>& line) override {
+        std::vector<std::wstring> changed;
+        for (int i = 0; i < count(); ++i) changed.push_back(line(i));
+        for (int i = 0; i < count(); ++i) changeText(i, changed[static_cast<std::size_t>(i)]);
+    }
     void stopDrawing() override { ++drawingStops; }
     void resumeDrawing() override { --drawingStops; }
 

@@ -225,10 +225,10 @@ TEST_F(WindowsAndBoxes, ListsAndTooltipsFollowAChangeOfResolution) {
         return extent();
     };
     EXPECT_GT(extentOf(std::wstring(40, L'W')), 2 * extentOf(std::wstring(40, L'i')));
-    lines.replaceLine(1, std::wstring(80, L'W'));
+    lines.changeText(1, std::wstring(80, L'W'));
     const LRESULT wide = extent();
     EXPECT_GT(wide, 4 * extentOf(std::wstring(20, L'W')) / 3);
-    lines.replaceLine(1, std::wstring(80, L'W'));
+    lines.changeText(1, std::wstring(80, L'W'));
 
     SendMessageW(list, LB_SETHORIZONTALEXTENT, 1, 0);
     SendMessageW(tips, TTM_SETMAXTIPWIDTH, 0, -1);

@@ -47,7 +47,10 @@ class WorkListDrawing : public testing::Test {
         const DrawingPause pause(list);
         for (int i = 0; i < kLines; ++i) {
             const WorkLine& line = work.lines[i];
-            list.replaceLine(i, displayLine(i, *labelOf(line.code), wideText(line.path), depth));
+            const auto text = displayLine(i, *labelOf(line.code), wideText(line.path), depth);
+            SendMessageW(handle, LB_DELETESTRING, static_cast<WPARAM>(i), 0);
+            SendMessageW(handle, LB_INSERTSTRING, static_cast<WPARAM>(i),
+                         reinterpret_cast<LPARAM>(text.c_str()));
         }
     }
 

@@ -10,7 +10,8 @@
 /// The widest of some lines in the font of their list.
 class WidestLine {
  public:
-    explicit WidestLine(HWND list);
+    /// `lines`: about how many are to come.
+    WidestLine(HWND list, int lines);
 
     void add(const std::wstring& line);
     /// How far a list must scroll for it to be seen: the control leaves a margin before it.
@@ -22,6 +23,8 @@ class WidestLine {
     int widthOf(const std::wstring& line) const;
 
     FontContext context_;
-    std::array<int, 256> widths_{};  ///< of the first characters: to ask for each line takes long
+    /// Of the first characters, when there are many lines: to ask for each of them takes long.
+    std::array<int, 256> widths_{};
+    std::size_t known_ = 0;  ///< characters
     int widest_ = 0;
 };

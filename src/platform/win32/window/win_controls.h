@@ -58,8 +58,8 @@ class WinListBox : public ControlOf<ListBox> {
     int mark(int index) const override;
     void setMark(int index, int mark) override;
     void setLines(int count, const std::function<std::wstring(int)>& line) override;
-    void replaceLine(int index, const std::wstring& line) override;
     void changeText(int index, const std::wstring& line) override;
+    void changeTexts(const std::function<std::wstring(int)>& line) override;
     void stopDrawing() override;
     void resumeDrawing() override;
 
@@ -68,6 +68,7 @@ class WinListBox : public ControlOf<ListBox> {
 
  private:
     bool severalSelectable() const;
+    std::vector<int> selection() const;
     void setExtent(int pixels) { send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(pixels)); }
 
     int pauses_ = 0;

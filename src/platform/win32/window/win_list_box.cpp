@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "platform/win32/window/widest_line.h"
 #include "platform/win32/window/win_controls.h"
@@ -52,7 +53,7 @@ void WinListBox::setLines(int count, const std::function<std::wstring(int)>& lin
     send(LB_RESETCONTENT);
     constexpr LPARAM kBytesPerLine = 200;
     send(LB_INITSTORAGE, position(count), count * kBytesPerLine);
-    WidestLine widest(handle());
+    WidestLine widest(handle(), count);
     for (int i = 0; i < count; ++i) {
         const std::wstring text = line(i);
         widest.add(text);
@@ -61,19 +62,12 @@ void WinListBox::setLines(int count, const std::function<std::wstring(int)>& lin
     setExtent(widest.extent());
 }
 
-void WinListBox::replaceLine(int index, const std::wstring& line) {
-    send(LB_DELETESTRING, position(index));
-    send(LB_INSERTSTRING, position(index), asLparam(line));
-    WidestLine widest(handle());
-    widest.add(line);
-    if (widest.extent() > sendForInt(LB_GETHORIZONTALEXTENT)) setExtent(widest.extent());
-}
-
 void WinListBox::changeText(int index, const std::wstring& line) {
     const LRESULT top = send(LB_GETTOPINDEX);
     const bool wasSelected = selected(index);
     const LRESULT data = send(LB_GETITEMDATA, position(index));
-    replaceLine(index, line);
+    send(LB_DELETESTRING, position(index));
+    send(LB_INSERTSTRING, position(index), asLparam(line));
     send(LB_SETITEMDATA, position(index), data);
     if (wasSelected && severalSelectable()) {
         send(LB_SELITEMRANGEEX, position(index), index);
@@ -81,10 +75,42 @@ void WinListBox::changeText(int index, const std::wstring& line) {
         send(LB_SETCURSEL, position(index));
     }
     if (send(LB_GETTOPINDEX) != top) send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
+    WidestLine widest(handle(), 1);
+    widest.add(line);
+    if (widest.extent() > sendForInt(LB_GETHORIZONTALEXTENT)) setExtent(widest.extent());
+}
+
+std::vector<int> WinListBox::selection() const {
+    if (!severalSelectable()) return {sendForInt(LB_GETCURSEL)};
+    const int count = std::max(0, sendForInt(LB_GETSELCOUNT));
+    std::vector<int> lines(static_cast<std::size_t>(count));
+    send(LB_GETSELITEMS, position(count), reinterpret_cast<LPARAM>(lines.data()));
+    return lines;
+}
+
+void WinListBox::changeTexts(const std::function<std::wstring(int)>& line) {
+    DrawingPause pause(*this);
+    const auto lines = static_cast<std::size_t>(count());
+    const LRESULT top = send(LB_GETTOPINDEX);
+    const LRESULT caret = send(LB_GETCARETINDEX);
+    const std::vector<int> selected = selection();
+    std::vector<std::pair<std::wstring, int>> changed(lines);
+    for (std::size_t i = 0; i < lines; ++i) {
+        const int index = static_cast<int>(i);
+        changed[i] = {line(index), mark(index)};
+    }
+    setLines(count(), [&](int i) { return changed[static_cast<std::size_t>(i)].first; });
+    for (std::size_t i = 0; i < lines; ++i) {
+        if (changed[i].second != 0) setMark(static_cast<int>(i), changed[i].second);
+    }
+    for (const int index : selected) select(index, true);
+    constexpr LPARAM kEvenHalfSeen = TRUE;  // not to be scrolled to
+    if (severalSelectable()) send(LB_SETCARETINDEX, static_cast<WPARAM>(caret), kEvenHalfSeen);
+    send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
 }
 
 void WinListBox::measureLines() {
-    WidestLine widest(handle());
+    WidestLine widest(handle(), count());
     for (int i = 0; i < count(); ++i) widest.add(line(i));
     setExtent(widest.extent());
 }
