@@ -30,6 +30,11 @@ std::int32_t rounded(std::int32_t whole, std::wstring_view decimals) {
     return half > 0 || (half == 0 && whole % 2 == 1) ? whole + 1 : whole;
 }
 
+RuntimeError noNumber(std::wstring_view text) {
+    return errors::typeMismatch(L"un nombre était attendu au lieu de \"" + std::wstring(text) +
+                                L"\"");
+}
+
 }  // namespace
 
 std::int32_t numericValue(std::wstring_view text) {
@@ -55,7 +60,7 @@ std::int16_t wholeNumber(std::wstring_view text) {
         decimals = rest.substr(1, digitsAt(rest, 1));
         rest.remove_prefix(1 + decimals.size());
     }
-    if (!rest.empty() || (whole.empty() && decimals.empty())) throw errors::typeMismatch();
+    if (!rest.empty() || (whole.empty() && decimals.empty())) throw noNumber(text);
 
     constexpr std::int32_t kPastAll = 1 << 20;
     const std::int32_t magnitude = rounded(std::min(numericValue(whole), kPastAll), decimals);

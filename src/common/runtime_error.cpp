@@ -1,5 +1,11 @@
 #include "common/runtime_error.h"
 
+#include "common/numbers.h"
+
+void RuntimeError::addPlace(int line, const std::wstring& file) {
+    addLine(L"Ligne " + decimal(line) + L" de " + file);
+}
+
 namespace errors {
 namespace {
 
@@ -25,7 +31,9 @@ RuntimeError subscriptOutOfRange() {
     return {9, L"L'indice n'appartient pas à la sélection : la capacité d'une table est dépassée."};
 }
 
-RuntimeError typeMismatch() { return {13, L"Incompatibilité de type : un nombre était attendu."}; }
+RuntimeError typeMismatch(const std::wstring& expected) {
+    return {13, L"Incompatibilité de type : " + expected + L"."};
+}
 
 RuntimeError unexpected() { return {51, L"Erreur interne de Tarnwick."}; }
 

@@ -10,6 +10,8 @@ struct RuntimeError {
 
     /// Adds a line that tells more: which document, which file.
     void addLine(const std::wstring& line) { text += L"\r\n" + line; }
+    /// Adds where it was met: a line of a file, counted from 1.
+    void addPlace(int line, const std::wstring& file);
 };
 
 /// The program ends at once and without a message, with exit code 0.
@@ -22,7 +24,7 @@ RuntimeError unwritableText();                             ///< 5, for a text no
 RuntimeError overflow();                                   ///< 6
 RuntimeError outOfMemory();                                ///< 7
 RuntimeError subscriptOutOfRange();                        ///< 9
-RuntimeError typeMismatch();                               ///< 13
+RuntimeError typeMismatch(const std::wstring& expected);   ///< 13, "... était attendu"
 RuntimeError unexpected();                                 ///< 51, for what nobody thought of
 RuntimeError system(const std::wstring& what);             ///< 51, Windows gave nothing
 RuntimeError fileNotFound(const std::wstring& path);       ///< 53

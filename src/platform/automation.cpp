@@ -16,7 +16,7 @@ void putProperty(const ObjectPtr& object, std::wstring_view name, const Argument
 std::wstring textOf(const Value& value) {
     if (const auto* text = std::get_if<std::wstring>(&value)) return *text;
     if (std::holds_alternative<std::monostate>(value)) return {};
-    throw errors::typeMismatch();
+    throw errors::typeMismatch(L"un texte était attendu de SolidWorks");
 }
 
 ObjectPtr objectOf(const Value& value) {

@@ -4,23 +4,31 @@
 
 namespace {
 
+/// Which file it was the server's own words may tell, and its caller does.
+std::optional<RuntimeError> sentenceOf(std::uint32_t number) {
+    switch (number) {
+        case 53:
+            return errors::fileNotFound({});
+        case 70:
+            return errors::permissionDenied({});
+        case 75:
+            return errors::fileAccess({});
+        case 76:
+            return errors::pathNotFound({});
+        default:
+            return std::nullopt;
+    }
+}
+
 /// The run-time error that a server names by its number (the CTL_E_ codes of olectl.h).
 std::optional<RuntimeError> numberedError(CallResult code, const std::wstring& description) {
     constexpr std::uint32_t kControlErrors = 0x800A0000;  // failures of FACILITY_CONTROL
     const auto bits = static_cast<std::uint32_t>(code);
     if ((bits & 0xFFFF0000) != kControlErrors) return std::nullopt;
-    switch (bits & 0xFFFF) {
-        case 53:
-            return errors::fileNotFound(description);
-        case 70:
-            return errors::permissionDenied(description);
-        case 75:
-            return errors::fileAccess(description);
-        case 76:
-            return errors::pathNotFound(description);
-        default:
-            return errors::automation(description);
-    }
+    auto error = sentenceOf(bits & 0xFFFF);
+    if (!error) return errors::automation(description);
+    if (!description.empty()) error->addLine(description);
+    return error;
 }
 
 }  // namespace
@@ -38,7 +46,8 @@ RuntimeError callError(const CallFailure& failure) {
         case call_result::kMemberNotFound:
             return errors::unknownMember(std::wstring(failure.name));
         case call_result::kTypeMismatch:
-            return errors::typeMismatch();
+            return errors::typeMismatch(L"un argument d'un autre type était attendu par " +
+                                        std::wstring(failure.name));
         case call_result::kRejected:
         case call_result::kRetryLater:
             return errors::automation(L"SolidWorks est occupé et n'a pas pris l'appel.");

@@ -1,6 +1,7 @@
 #include "searchfolders/configuration_file.h"
 
 #include "common/letter_case.h"
+#include "common/runtime_error.h"
 #include "common/text.h"
 #include "platform/file_system_object.h"
 #include "platform/files.h"
@@ -14,6 +15,30 @@ bool isHeader(std::wstring_view line) {
     return upperCase(line).find(marker) != std::wstring::npos;
 }
 
+class Reader {
+ public:
+    explicit Reader(Configurations& configurations) : configurations_(configurations) {}
+
+    void take(std::wstring_view line) {
+        if (isHeader(line)) {
+            // Cut off the front, wherever the marker stands.
+            line.remove_prefix(kMarker.size());
+            ++row_;
+            entry_ = 0;
+        } else {
+            ++entry_;
+        }
+        configurations_.rows[row_][entry_] = trimmed(line);
+    }
+
+    void end() { configurations_.last = row_; }
+
+ private:
+    Configurations& configurations_;
+    int row_ = 0;
+    int entry_ = 0;
+};
+
 void appendConfiguration(std::wstring& text, const Configuration& configuration) {
     ((text += kMarker) += L"  ") += configuration[0] + L"\r\n";
     for (int j = 1; j <= kMostDirectories; ++j) {
@@ -23,22 +48,20 @@ void appendConfiguration(std::wstring& text, const Configuration& configuration)
 
 }  // namespace
 
-void parseConfigurationFile(std::wstring_view text, Configurations& configurations) {
-    int row = 0;
-    int entry = 0;
-    while (!text.empty()) {
-        std::wstring_view line = takeLine(text);
-        if (isHeader(line)) {
-            // Cut off the front, wherever the marker stands.
-            line.remove_prefix(kMarker.size());
-            ++row;
-            entry = 0;
-        } else {
-            ++entry;
+void parseConfigurationFile(std::wstring_view text, Configurations& configurations,
+                            const std::wstring& file) {
+    Reader reader(configurations);
+    int number = 0;
+    try {
+        while (!text.empty()) {
+            ++number;
+            reader.take(takeLine(text));
         }
-        configurations.rows[row][entry] = trimmed(line);
+    } catch (RuntimeError& error) {
+        error.addPlace(number, file);
+        throw;
     }
-    configurations.last = row;
+    reader.end();
 }
 
 std::wstring formatConfigurationFile(const Configurations& configurations) {
@@ -54,5 +77,7 @@ void readConfigurations(Configurations& configurations, const std::wstring& file
                         FileSystemObject& fileSystem, Files& files) {
     for (int i = 1; i <= kMostConfigurations; ++i) clearFrom(configurations.rows[i], 0);
     configurations.last = 0;
-    if (fileSystem.fileExists(file)) parseConfigurationFile(files.readText(file), configurations);
+    if (fileSystem.fileExists(file)) {
+        parseConfigurationFile(files.readText(file), configurations, file);
+    }
 }

@@ -1,11 +1,19 @@
 #include "session/setting_values.h"
 
 #include "common/numbers.h"
+#include "common/runtime_error.h"
 #include "platform/settings.h"
 
 std::int16_t valueOf(Settings& settings, const NumberSetting& setting) {
-    return wholeNumber(settings.read(setting.application, setting.section, setting.key,
-                                     decimal(setting.otherwise)));
+    const std::wstring text = settings.read(setting.application, setting.section, setting.key,
+                                            decimal(setting.otherwise));
+    try {
+        return wholeNumber(text);
+    } catch (RuntimeError& error) {
+        error.addLine(std::wstring(L"Réglage : HKEY_CURRENT_USER\\Software\\") +
+                      setting.application + L"\\" + setting.section + L"\\" + setting.key);
+        throw;
+    }
 }
 
 std::wstring valueOf(Settings& settings, const TextSetting& setting) {

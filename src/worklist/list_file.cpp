@@ -78,7 +78,7 @@ bool parseListFile(std::string text, WorkList& list, const std::wstring& file) {
             line.fileLine = count++;
         }
     } catch (RuntimeError& error) {
-        error.addLine(L"Ligne " + decimal(count + 1) + L" de " + file);
+        error.addPlace(count + 1, file);
         throw;
     }
     list.last = count - 1;

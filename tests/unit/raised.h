@@ -2,13 +2,18 @@
 
 #include "common/runtime_error.h"
 
-/// The number of the run-time error that an action raises, 0 when it raises none.
+/// The run-time error that an action raises, number 0 when it raises none.
 template <class Action>
-int raised(const Action& action) {
+RuntimeError raisedError(const Action& action) {
     try {
         action();
     } catch (const RuntimeError& error) {
-        return error.number;
+        return error;
     }
-    return 0;
+    return {};
+}
+
+template <class Action>
+int raised(const Action& action) {
+    return raisedError(action).number;
 }

@@ -47,7 +47,11 @@ TEST_F(StartUp, GoesThroughItsStepsInOrder) {
 
 TEST_F(StartUp, ReadsThePlacesFirst) {
     machine.settings.write(L"mervale", L"listerepert", L"leftpos4", L"à gauche");
-    EXPECT_EQ(raised([&] { program.start(); }), 13);
+    const RuntimeError error = raisedError([&] { program.start(); });
+    EXPECT_EQ(error.number, 13);
+    EXPECT_EQ(error.text,
+              L"Incompatibilité de type : un nombre était attendu au lieu de \"à gauche\".\r\n"
+              L"Réglage : HKEY_CURRENT_USER\\Software\\mervale\\listerepert\\leftpos4");
     EXPECT_EQ(about().state, State::Shown);
     EXPECT_EQ(machine.automation.journal, CallJournal());
 }

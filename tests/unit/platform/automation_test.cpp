@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/fake_automation.h"
+#include "platform/file_system_object.h"
 #include "unit/raised.h"
 
 TEST(AutomationResult, BecomesTextWhenItIsOneOrEmpty) {
@@ -19,4 +21,12 @@ TEST(AutomationResult, IsTrueWithAllBitsSetOnly) {
                                Value(), Value(std::wstring(L"True"))}) {
         EXPECT_FALSE(isTrue(other)) << other.index();
     }
+}
+
+TEST(FileSystemObject, NamesThePathThatItCouldNotLookUp) {
+    FakeAutomation automation;
+    automation.fileExists = [](const std::wstring&) -> bool { throw errors::permissionDenied({}); };
+    FileSystemObject files(automation);
+    EXPECT_EQ(raisedError([&] { files.fileExists(L"s:\\x.cfg"); }).text,
+              L"Permission refusée.\r\nFichier : s:\\x.cfg");
 }

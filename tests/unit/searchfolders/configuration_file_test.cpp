@@ -19,23 +19,25 @@ TEST(ConfigurationFile, StoresEveryLineByTheRules) {
     };
     for (const auto& c : cases) {
         Configurations configs;
-        parseConfigurationFile(c.text, configs);
+        parseConfigurationFile(c.text, configs, {});
         EXPECT_EQ(configs.last, c.count) << c.text;
         for (int j = 0; j < 4; ++j) EXPECT_EQ(configs.rows[c.row][j], c.expected[j]) << c.text << j;
     }
 }
 
-TEST(ConfigurationFile, HoldsAsMuchAsTheTable) {
+TEST(ConfigurationFile, HoldsAsMuchAsTheTableAndNamesTheLineThatIsTooMuch) {
     const auto errorFor = [](int configurations, int directories) {
         std::wstring text;
         for (int i = 0; i < configurations; ++i) text += L"Configuration:  c\r\n";
         for (int i = 0; i < directories; ++i) text += L"   c:\\d\r\n";
         Configurations configs;
-        return raised([&] { parseConfigurationFile(text, configs); });
+        return raisedError([&] { parseConfigurationFile(text, configs, L"c:\\x.cfg"); });
     };
-    EXPECT_EQ(errorFor(50, 200), 0);
-    EXPECT_EQ(errorFor(51, 1), 9);
-    EXPECT_EQ(errorFor(1, 201), 9);
+    EXPECT_EQ(errorFor(50, 200).number, 0);
+    EXPECT_EQ(errorFor(51, 1).number, 9);
+    const RuntimeError error = errorFor(1, 201);
+    EXPECT_EQ(error.number, 9);
+    EXPECT_TRUE(error.text.ends_with(L"\r\nLigne 202 de c:\\x.cfg")) << error.text;
 }
 
 TEST(ConfigurationFile, IsWrittenBackWithItsHolesClosed) {
@@ -49,7 +51,7 @@ TEST(ConfigurationFile, IsWrittenBackWithItsHolesClosed) {
     };
     for (const auto& [read, written] : cases) {
         Configurations configs;
-        parseConfigurationFile(read, configs);
+        parseConfigurationFile(read, configs, {});
         EXPECT_EQ(formatConfigurationFile(configs), written);
     }
 }
