@@ -21,7 +21,6 @@ constexpr struct {
     {ControlClass::Button, notification::kButtonClicked, Event::Click},
     {ControlClass::ListBox, notification::kListSelectionChanged, Event::Click},
     {ControlClass::ListBox, notification::kListDoubleClicked, Event::DoubleClick},
-    {ControlClass::ComboBox, notification::kComboSelectionChanged, Event::Click},
     {ControlClass::ComboBox, notification::kComboTextEdited, Event::Change},
     {ControlClass::ComboBox, notification::kComboFocusLost, Event::Validate},
 };

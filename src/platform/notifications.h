@@ -19,8 +19,12 @@ inline constexpr unsigned kListDoubleClicked = 2;
 inline constexpr unsigned kComboSelectionChanged = 1;
 inline constexpr unsigned kComboFocusLost = 4;
 inline constexpr unsigned kComboTextEdited = 5;
+inline constexpr unsigned kComboListShown = 7;
+inline constexpr unsigned kComboListClosed = 8;
+inline constexpr unsigned kComboChoiceCancelled = 10;
 }  // namespace notification
 
 /// The event that a control's notification stands for, if a window can bind it. Losing the focus
 /// counts only when it stays in the window: switching to another program doesn't leave a field.
+/// When a line of a drop-down counts as chosen is known to DropDown.
 std::optional<Event> eventOf(ControlClass control, unsigned code, bool focusStaysInWindow);

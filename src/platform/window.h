@@ -67,6 +67,7 @@ struct WindowTemplate {
     int headingId = 0;     ///< the label shown as the window's heading
     int focusId = 0;       ///< the control that has the focus first; 0: the first one
     int fixedPitchId = 0;  ///< the list whose lines are aligned by their number of characters
+    int liveId = 0;        ///< the label that a screen reader reads out whenever it changes
     std::span<const Anchor> anchors = {};
     std::span<const AccessibleName> names = {};
     /// How much smaller than there it can be made, in dialog units.

@@ -123,6 +123,7 @@ inline constexpr WindowTemplate kTrackingWindow = {
     .headingId = IDC_FORM3_LABEL2,
     .focusId = IDC_FORM3_LIST1,
     .fixedPitchId = IDC_FORM3_LIST1,
+    .liveId = IDC_FORM3_TXTETAT,
     .anchors = kTrackingAnchors,
     .names = kTrackingNames,
     .shrinks = {0, 86},

@@ -29,7 +29,10 @@ TEST(WindowsNumbers, AreThoseOfTheHeaders) {
         {notification::kListDoubleClicked, LBN_DBLCLK},
         {notification::kComboSelectionChanged, CBN_SELCHANGE},
         {notification::kComboFocusLost, CBN_KILLFOCUS},
-        {notification::kComboTextEdited, CBN_EDITCHANGE}};
+        {notification::kComboTextEdited, CBN_EDITCHANGE},
+        {notification::kComboListShown, CBN_DROPDOWN},
+        {notification::kComboListClosed, CBN_CLOSEUP},
+        {notification::kComboChoiceCancelled, CBN_SELENDCANCEL}};
     for (const auto& [ours, windows] : errors) EXPECT_EQ(ours, windows);
 
     const std::pair<CallResult, HRESULT> results[] = {

@@ -1,13 +1,15 @@
 #include "platform/win32/window/dialog_window.h"
 
 #include <commctrl.h>
+#include <uxtheme.h>
 
 #include "platform/win32/process/require.h"
-#include "platform/win32/window/accessible_names.h"
+#include "platform/win32/window/focus.h"
 #include "platform/win32/window/foreground.h"
 #include "platform/win32/window/hourglass.h"
 #include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/own_windows.h"
+#include "platform/win32/window/screen_reader.h"
 #include "platform/win32/window/tooltips.h"
 #include "platform/win32/window/win_controls.h"
 
@@ -27,6 +29,13 @@ void registerWindowClass() {
 }
 
 HWND firstControl(HWND window) { return GetNextDlgTabItem(window, nullptr, FALSE); }
+
+/// Pages are no windows of their own: on a window of another colour than the tab strip's they would
+/// stand out of its frame. So the window has that colour all over.
+void colourAsTabPages(HWND window) {
+    if (!FindWindowExW(window, nullptr, WC_TABCONTROLW, nullptr)) return;
+    EnableThemeDialogTexture(window, ETDT_ENABLETAB);
+}
 
 HWND makeDialog(int dialogId, DLGPROC procedure) {
     return require(
@@ -54,6 +63,7 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
       headingId_(windowTemplate.headingId),
       focusId_(windowTemplate.focusId),
       fixedPitchId_(windowTemplate.fixedPitchId),
+      liveId_(windowTemplate.liveId),
       window_(makeDialog(windowTemplate.dialogId, procedure)),
       layout_(window_.get(), windowTemplate),
       tips_(addTooltips(window_.get(), windowTemplate.tooltips)),
@@ -64,8 +74,9 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
     SetWindowLongPtrW(window_.get(), DWLP_USER, reinterpret_cast<LONG_PTR>(this));
     chooseFonts();
     takeTemplateSize();
-    nameControls(window_.get(), windowTemplate.names);
+    tellScreenReaders(window_.get(), windowTemplate.names, liveId_);
     shortcuts_.emplace(window_.get(), windowTemplate.dialogId);
+    colourAsTabPages(window_.get());
 }
 
 DialogWindow::~DialogWindow() { destroy(); }
@@ -84,7 +95,10 @@ Kind& DialogWindow::find(int id) {
     return static_cast<Kind&>(*entry);
 }
 
-Control& DialogWindow::control(int id) { return find<WinControl>(id); }
+Control& DialogWindow::control(int id) {
+    if (id == liveId_ && id != 0) return find<WinLiveLabel>(id);
+    return find<WinControl>(id);
+}
 CheckBox& DialogWindow::checkBox(int id) { return find<WinCheckBox>(id); }
 ListBox& DialogWindow::listBox(int id) { return find<WinListBox>(id); }
 ComboBox& DialogWindow::comboBox(int id) { return find<WinComboBox>(id); }
@@ -99,7 +113,7 @@ void DialogWindow::show() {
     noteUsed(window);
     ShowWindow(window, IsIconic(window) ? SW_RESTORE : SW_SHOW);
     takeForeground(window);
-    if (!wasVisible) SetFocus(focusId_ != 0 ? item(focusId_) : firstControl(window));
+    if (!wasVisible) focusOn(window, focusId_ != 0 ? item(focusId_) : firstControl(window));
     // The splash is shown before the program serves any messages.
     UpdateWindow(window);
 }

@@ -7,8 +7,10 @@
 #include <optional>
 #include <typeindex>
 #include <utility>
+#include <vector>
 
 #include "platform/event_gate.h"
+#include "platform/win32/window/combo_lists.h"
 #include "platform/win32/window/shortcuts.h"
 #include "platform/win32/window/win_taskbar_button.h"
 #include "platform/win32/window/window_fonts.h"
@@ -50,9 +52,14 @@ class DialogWindow : public Window, private EventSource {
     void onCommand(int id, WORD code, HWND control);
     INT_PTR onNotify(const NMHDR& header);
     INT_PTR onSetCursor(HWND control, int place, WORD mouseMessage);
+    void onComboBox(int id, WORD code, HWND comboBox);
     void onKey(int id);
     void onShortcut(HWND control);
     void raise(int id, Event event);
+    /// Raises an event once the message that is being handled is done with, yet before any other.
+    void defer(int id, Event event);
+    void onDeferred();
+    void serveDeferred();
     bool isUnmeantCommand(int id, Event event) const;
     void changeResolution(const RECT& suggested);
     void chooseFonts();
@@ -70,6 +77,7 @@ class DialogWindow : public Window, private EventSource {
     const int headingId_;
     const int focusId_;
     const int fixedPitchId_;
+    const int liveId_;
     UniqueWindow window_;
     WindowLayout layout_;
     std::optional<WindowShortcuts> shortcuts_;
@@ -78,6 +86,8 @@ class DialogWindow : public Window, private EventSource {
     HWND tips_;
     /// By id and kind: any control may also be asked for as a plain one.
     std::map<std::pair<int, std::type_index>, std::unique_ptr<Control>> controls_;
+    ComboLists comboLists_;
+    std::vector<std::pair<int, Event>> deferred_;
     WinTaskbarButton taskbarButton_;
     TaskbarProgress progress_;
 };

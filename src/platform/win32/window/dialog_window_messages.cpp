@@ -6,6 +6,7 @@
 
 #include "platform/win32/window/control_class.h"
 #include "platform/win32/window/dialog_window.h"
+#include "platform/win32/window/focus.h"
 #include "platform/win32/window/hourglass.h"
 #include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/own_windows.h"
@@ -13,27 +14,15 @@
 
 namespace {
 
-/// A drop-down shows a chosen line in its field only after it has told us of it.
-void showChosenLine(HWND comboBox) {
-    const LRESULT line = SendMessageW(comboBox, CB_GETCURSEL, 0, 0);
-    if (line == CB_ERR) return;
-    SendMessageW(comboBox, CB_SETCURSEL, static_cast<WPARAM>(line), 0);
-}
+/// A window's own timers.
+constexpr UINT_PTR kDeferredTimer = 1;
+
+/// A handler closed the window for good.
+bool isOver(HWND window) { return GetWindowLongPtrW(window, DWLP_USER) == 0; }
 
 bool focusStaysInWindow(HWND window) {
     HWND focus = GetFocus();
     return focus && GetAncestor(focus, GA_ROOT) == window;
-}
-
-bool canBeUsed(HWND control) {
-    return control && IsWindowVisible(control) && IsWindowEnabled(control);
-}
-
-/// A control that a handler disabled or hid no longer takes the keyboard: another one must.
-void keepKeyboard(HWND window, int focusId) {
-    if (canBeUsed(GetFocus())) return;
-    HWND home = GetDlgItem(window, focusId);
-    SetFocus(canBeUsed(home) ? home : GetNextDlgTabItem(window, nullptr, FALSE));
 }
 
 bool isButton(HWND control) { return classOf(control) == ControlClass::Button; }
@@ -52,9 +41,11 @@ void bringBoxForward() {
     }
 }
 
+/// Round and round; backwards with the Shift key.
 void showNextTab(HWND tabStrip) {
-    const LRESULT next = SendMessageW(tabStrip, TCM_GETCURSEL, 0, 0) + 1;
     const LRESULT count = SendMessageW(tabStrip, TCM_GETITEMCOUNT, 0, 0);
+    const LRESULT step = GetKeyState(VK_SHIFT) < 0 ? count - 1 : 1;
+    const LRESULT next = SendMessageW(tabStrip, TCM_GETCURSEL, 0, 0) + step;
     SendMessageW(tabStrip, TCM_SETCURSEL, static_cast<WPARAM>(next % count), 0);
 }
 
@@ -99,6 +90,9 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SETCURSOR:
             return onSetCursor(reinterpret_cast<HWND>(wParam), static_cast<short>(LOWORD(lParam)),
                                HIWORD(lParam));
+        case WM_TIMER:
+            if (wParam == kDeferredTimer) onDeferred();
+            return TRUE;
         case WM_ACTIVATE:
             if (LOWORD(wParam) != WA_INACTIVE) noteUsed(window_.get());
             return FALSE;
@@ -134,12 +128,44 @@ void DialogWindow::onCommand(int id, WORD code, HWND control) {
     constexpr WORD kFromShortcut = 1;
     if (!control && code == kFromShortcut) onShortcut(item(id));
     if (!control) return;
+    if (classOf(control) == ControlClass::ComboBox) return onComboBox(id, code, control);
     const auto event = eventOf(classOf(control), code, focusStaysInWindow(window_.get()));
     if (!event) return;
-    if (classOf(control) == ControlClass::ComboBox && *event == Event::Click) {
-        showChosenLine(control);
-    }
+    // Windows lets Enter follow a press of the mouse, not one that another program posts.
+    if (control == GetFocus() && isPushButton(control)) focusOn(window_.get(), control);
     raise(id, *event);
+}
+
+void DialogWindow::onComboBox(int id, WORD code, HWND comboBox) {
+    const auto step = comboLists_.notified(comboBox, code);
+    if (step == DropDown::Step::Act || step == DropDown::Step::ActLater) {
+        showChosenLine(comboBox);
+        step == DropDown::Step::Act ? raise(id, Event::Click) : defer(id, Event::Click);
+    }
+    const auto event = eventOf(ControlClass::ComboBox, code, focusStaysInWindow(window_.get()));
+    if (!event) return;
+    // A box in the midst of a change of the focus would take it from who is getting it.
+    *event == Event::Validate ? defer(id, *event) : raise(id, *event);
+}
+
+void DialogWindow::defer(int id, Event event) {
+    deferred_.emplace_back(id, event);
+    SetTimer(window_.get(), kDeferredTimer, USER_TIMER_MINIMUM, nullptr);
+}
+
+// The end of a press that took the focus elsewhere has them served first, and is still this press.
+void DialogWindow::onDeferred() {
+    if (GetKeyState(VK_LBUTTON) >= 0) serveDeferred();
+}
+
+void DialogWindow::serveDeferred() {
+    HWND window = window_.get();
+    KillTimer(window, kDeferredTimer);
+    // A handler may end this object.
+    for (const auto& [id, event] : std::exchange(deferred_, {})) {
+        if (isOver(window)) return;
+        gate_.deliver(events_, id, event, *this);
+    }
 }
 
 /// What a person types or chooses meanwhile is kept; what a press would start is not.
@@ -152,11 +178,15 @@ bool DialogWindow::isUnmeantCommand(int id, Event event) const {
 
 void DialogWindow::raise(int id, Event event) {
     if (isUnmeantCommand(id, event)) return;
-    // The handler may end this object.
     HWND window = window_.get();
     const int focusId = focusId_;
+    std::erase(deferred_, std::pair(id, event));
+    if (!deferred_.empty() && event != Event::Close) {
+        serveDeferred();
+        if (isOver(window) || !canUse(id)) return;
+    }
     gate_.deliver(events_, id, event, *this);
-    if (GetActiveWindow() == window) keepKeyboard(window, focusId);
+    if (GetActiveWindow() == window) keepKeyboard(window, GetDlgItem(window, focusId));
 }
 
 void DialogWindow::onKey(int id) {
@@ -167,6 +197,8 @@ void DialogWindow::onKey(int id) {
         raise(GetDlgCtrlID(focus), Event::DoubleClick);
     } else if (kind == ControlClass::Edit && GetParent(focus) == window_.get()) {
         raise(GetDlgCtrlID(focus), Event::Enter);
+    } else if (id == kEnterKey && isPushButton(focus)) {
+        SendMessageW(focus, BM_CLICK, 0, 0);
     } else {
         raise(id, Event::Click);
     }
@@ -176,7 +208,7 @@ void DialogWindow::onShortcut(HWND control) {
     if (!canBeUsed(control)) return;
     // As a click would: leaving a field ends what was typed in it, which may change what can be
     // used.
-    SetFocus(control);
+    focusOn(window_.get(), control);
     if (!canBeUsed(control)) return;
     if (classOf(control) == ControlClass::Button) {
         SendMessageW(control, BM_CLICK, 0, 0);

@@ -6,5 +6,9 @@
 
 #include "platform/window.h"
 
-/// Tells screen readers the names of controls; they live as long as the controls.
-void nameControls(HWND window, std::span<const AccessibleName> names);
+/// Tells screen readers that a window is a dialog, how its controls are called, and which label is
+/// to be read out when it changes (0: none).
+void tellScreenReaders(HWND window, std::span<const AccessibleName> names, int liveId);
+
+/// That label has changed.
+void announceChange(HWND label);

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <vector>
+
 #include "platform/win32/window/handles.h"
 
 /// The shortcuts of a window, as long as it lives: the accelerator resource of its dialog's id,
-/// if there is one.
+/// if there is one. Its ASCII entries are signs: Ctrl and the key that bears the sign on the layout
+/// in use.
 class WindowShortcuts {
  public:
     WindowShortcuts(HWND window, int dialogId);
@@ -11,9 +14,13 @@ class WindowShortcuts {
     WindowShortcuts(const WindowShortcuts&) = delete;
     WindowShortcuts& operator=(const WindowShortcuts&) = delete;
 
+    /// Carries out a key that goes down; false when it is no shortcut.
+    bool translate(MSG& message) const;
+
  private:
     HWND window_;
     UniqueShortcuts table_;
+    std::vector<ACCEL> signs_;
 };
 
 /// Carries out a key message that is a shortcut in this window; false when it is none. Besides

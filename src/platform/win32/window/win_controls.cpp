@@ -2,6 +2,14 @@
 
 #include <commctrl.h>
 
+#include "platform/win32/window/screen_reader.h"
+
+void WinLiveLabel::setText(const std::wstring& text) {
+    const bool changes = this->text() != text;
+    WinControl::setText(text);
+    if (changes) announceChange(handle());
+}
+
 bool WinCheckBox::checked() const { return send(BM_GETCHECK) == BST_CHECKED; }
 
 void WinCheckBox::setChecked(bool checked) {

@@ -40,6 +40,13 @@ class ControlOf : public Interface {
 
 using WinControl = ControlOf<Control>;
 
+/// A label that screen readers read out when it changes.
+class WinLiveLabel : public WinControl {
+ public:
+    using WinControl::WinControl;
+    void setText(const std::wstring& text) override;
+};
+
 class WinCheckBox : public ControlOf<CheckBox> {
  public:
     using ControlOf::ControlOf;

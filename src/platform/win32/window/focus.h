@@ -1,0 +1,20 @@
+#pragma once
+
+#include <windows.h>
+
+/// The control is to be seen and enabled.
+bool canBeUsed(HWND control);
+
+/// A button that Enter presses while it has the focus.
+bool isPushButton(HWND control);
+
+/// Gives the keyboard to a control of this window, as the Tab key does: the default button follows,
+/// and the text of a field is selected.
+void focusOn(HWND window, HWND control);
+
+/// A control that a handler disabled or hid no longer takes the keyboard: another one must, this
+/// one if it can.
+void keepKeyboard(HWND window, HWND home);
+
+/// Shows where the focus is, which Windows hides as long as only the mouse is used.
+void showFocusCues(HWND window);
