@@ -13,6 +13,21 @@ namespace {
 
 class SearchFolders : public Scenario {
  protected:
+    /// Where the buttons of the page in front stand, with the room around them where the second
+    /// press of a double click may fall.
+    std::vector<RECT> ButtonsInFront() const {
+        std::vector<RECT> places;
+        for (HWND control : Descendants(app.Window(kConfigurations))) {
+            const LONG kind = GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK;
+            if (ClassOf(control) != "Button" || kind == BS_GROUPBOX) continue;
+            if (!IsWindowVisible(control)) continue;
+            places.push_back(PlaceOf(control));
+            InflateRect(&places.back(), GetSystemMetrics(SM_CXDOUBLECLK) / 2,
+                        GetSystemMetrics(SM_CYDOUBLECLK) / 2);
+        }
+        return places;
+    }
+
     void OpenConfigurations() {
         app.Click(IDC_FORM1_CMDREPDEF);
         app.Window(kConfigurations);
@@ -36,10 +51,15 @@ TEST_F(SearchFolders, AreCreatedSavedAppliedAndFoundAgain) {
     EXPECT_TRUE(app.Selected(IDC_FORM4_LIST1).empty());
     ExpectLines(IDC_FORM4_LIST3, {"C:\\Normes", "C:\\Profilés"});
 
+    const std::vector<RECT> firstPage = ButtonsInFront();
     EXPECT_FALSE(app.Visible(IDC_FORM4_LIST2));
     Post(app.Control(IDC_FORM4_TABSTRIP1), TCM_SETCURFOCUS, 1);
     WaitFor("the second page", [this] { return app.Visible(IDC_FORM4_LIST2); });
     EXPECT_FALSE(app.Visible(IDC_FORM4_LIST1) || app.Visible(IDC_FORM4_FRATAB0));
+    RECT both;
+    for (const RECT& first : firstPage)
+        for (const RECT& second : ButtonsInFront())
+            EXPECT_FALSE(IntersectRect(&both, &first, &second)) << both.left << ' ' << both.top;
 
     app.Click(IDC_FORM4_CMDCREER);
     app.Open(IDC_FORM4_DIR1, "documents");

@@ -60,6 +60,7 @@ class DialogWindow : public Window, private EventSource {
     void defer(int id, Event event);
     void onDeferred();
     void serveDeferred();
+    bool serveFirst(int id);
     bool isUnmeantCommand(int id, Event event) const;
     void changeResolution(const RECT& suggested);
     void chooseFonts();

@@ -176,15 +176,21 @@ bool DialogWindow::isUnmeantCommand(int id, Event event) const {
                           gate_.busy());
 }
 
+/// Whether this control's event is still meant after those that came before it.
+bool DialogWindow::serveFirst(int id) {
+    HWND window = window_.get();
+    const int shown = InputSieve::windowsShown();
+    serveDeferred();
+    // Who was asked something meanwhile may think otherwise now.
+    return !isOver(window) && canUse(id) && InputSieve::windowsShown() == shown;
+}
+
 void DialogWindow::raise(int id, Event event) {
     if (isUnmeantCommand(id, event)) return;
     HWND window = window_.get();
     const int focusId = focusId_;
     std::erase(deferred_, std::pair(id, event));
-    if (!deferred_.empty() && event != Event::Close) {
-        serveDeferred();
-        if (isOver(window) || !canUse(id)) return;
-    }
+    if (!deferred_.empty() && event != Event::Close && !serveFirst(id)) return;
     gate_.deliver(events_, id, event, *this);
     if (GetActiveWindow() == window) keepKeyboard(window, GetDlgItem(window, focusId));
 }

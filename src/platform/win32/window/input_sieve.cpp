@@ -126,5 +126,9 @@ void InputSieve::workEnded() {
 }
 
 void InputSieve::windowShown() {
-    if (sieve) sieve->judge_.windowShown(GetTickCount());
+    if (!sieve) return;
+    ++sieve->windowsShown_;
+    sieve->judge_.windowShown(GetTickCount());
 }
+
+int InputSieve::windowsShown() { return sieve ? sieve->windowsShown_ : 0; }

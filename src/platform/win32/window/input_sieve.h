@@ -23,11 +23,14 @@ class InputSieve {
     static void messageHandled();
     static void workEnded();
     static void windowShown();
+    /// How many windows and boxes have come up so far.
+    static int windowsShown();
 
     /// Judges a message that is taken from the queue; true when it is to be dropped.
     bool drops(const MSG& message);
 
  private:
     PressJudge judge_;
+    int windowsShown_ = 0;
     UniqueHook hook_;
 };
