@@ -13,8 +13,8 @@ class Files;
 
 /// Reads the text of a configuration file into the rows from 1 on, the last of which it notes.
 /// Lines before the first header go into row 0; blank and comment lines are directories like any
-/// other line. Raises 9 at a 51st header, or at a 201st line under one header, and names that line of
-/// the file.
+/// other line. Raises 9 at a 51st header, or at a 201st line under one header, and names that line
+/// of the file.
 void parseConfigurationFile(std::wstring_view text, Configurations& configurations,
                             const std::wstring& file);
 
