@@ -48,8 +48,12 @@ TEST_F(Selection, FindsMarksFiltersAndLaunches) {
     ExpectAlone(kTracking);
 }
 
-TEST_F(Selection, EndsSilentlyWhenLaunchedWithoutDocuments) {
+TEST_F(Selection, ShowsAboutAndEndsSilentlyWhenLaunchedWithoutDocuments) {
     StartInDocuments();
+    app.Click(IDC_FORM1_CMDAP);
+    app.Window("A Propos de Tarnwick");
+    app.Click(IDOK);
+    ExpectAlone(kSelection);
     app.Click(IDC_FORM1_CMD_TRACER);
     EXPECT_EQ(app.WaitForExit(), 0);
     EXPECT_EQ(sandbox.ReadList(), "");

@@ -140,7 +140,7 @@ void DialogWindow::onComboBox(int id, WORD code, HWND comboBox) {
     const auto step = comboLists_.notified(comboBox, code);
     if (step == DropDown::Step::Act || step == DropDown::Step::ActLater) {
         showChosenLine(comboBox);
-        step == DropDown::Step::Act ? raise(id, Event::Click) : defer(id, Event::Click);
+        return step == DropDown::Step::Act ? raise(id, Event::Click) : defer(id, Event::Click);
     }
     const auto event = eventOf(ControlClass::ComboBox, code, focusStaysInWindow(window_.get()));
     if (!event) return;
@@ -203,7 +203,7 @@ void DialogWindow::onKey(int id) {
         raise(GetDlgCtrlID(focus), Event::DoubleClick);
     } else if (kind == ControlClass::Edit && GetParent(focus) == window_.get()) {
         raise(GetDlgCtrlID(focus), Event::Enter);
-    } else if (id == kEnterKey && isPushButton(focus)) {
+    } else if (id == kEnterKey && isPushButton(focus) && GetDlgCtrlID(focus) != kEnterKey) {
         SendMessageW(focus, BM_CLICK, 0, 0);
     } else {
         raise(id, Event::Click);
