@@ -14,6 +14,9 @@ const std::string kMarked =
 
 class KeptMarks : public Scenario {
  protected:
+    void WaitUntilForgotten() const {
+        WaitFor("the marks to be forgotten", [this] { return !RecordThere(); });
+    }
     bool RecordThere() const {
         return std::filesystem::exists(sandbox.Directory() / "tarnwick.reprise");
     }
@@ -67,7 +70,7 @@ TEST_F(KeptMarks, AreOfferedAfterAKillAndAfterTheSessionDied) {
     app.WaitForText(IDC_FORM3_TXTETAT, paths[2]);
     app.Click(IDC_FORM3_CMDFICHIERLISTE);
     ExpectList(ListOf({"1", "2", "3", "0"}));
-    EXPECT_FALSE(RecordThere());
+    WaitUntilForgotten();
 }
 
 TEST_F(KeptMarks, AreForgottenByNoAndByALaunch) {
@@ -97,7 +100,7 @@ TEST_F(KeptMarks, AreForgottenByNoAndByALaunch) {
     EXPECT_EQ(sandbox.ReadList(), ListOf({"0", "0"}));
     app.CloseByFrame(kTracking);
     EXPECT_EQ(app.WaitForExit(), 0);
-    EXPECT_FALSE(RecordThere());
+    WaitUntilForgotten();
 }
 
 TEST_F(KeptMarks, ADocumentThatStopsTheProgramCanBePassed) {
