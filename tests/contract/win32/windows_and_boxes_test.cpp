@@ -1,5 +1,6 @@
-// How the program's windows and boxes stand to each other while another program is in front, and
-// what a window owes its controls when its size or the resolution changes.
+// How the program's windows and boxes stand to each other while another program is in front, what a
+// window owes its controls when its size or the resolution changes, what keys do in it, and what a
+// screen reader is told.
 
 #include <windows.h>
 
@@ -8,6 +9,8 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <thread>
+#include <utility>
+#include <vector>
 
 #include "contract/contract_ids.h"
 #include "platform/win32/process/message_pump.h"
@@ -101,14 +104,25 @@ HWND tooltipsOf(HWND window) {
     return tips;
 }
 
+using RaisedEvents = std::vector<std::pair<int, Event>>;
+
+int labelsReadOut = 0;
+
+void CALLBACK onLiveRegion(HWINEVENTHOOK, DWORD, HWND label, LONG, LONG, DWORD, DWORD) {
+    if (GetDlgCtrlID(label) == IDC_CONTRACT_LABEL) ++labelsReadOut;
+}
+
 class WindowsAndBoxes : public testing::Test, private EventSink {
  protected:
-    void raise(int, Event) override {}
+    void raise(int id, Event event) override { raised.emplace_back(id, event); }
 
     std::unique_ptr<Window> makeWindow(HWND& handle) {
-        auto window = factory.create(
-            {.dialogId = IDD_CONTRACT, .tooltips = kTips, .anchors = kWide, .shrinks = {40, 40}},
-            *this);
+        auto window = factory.create({.dialogId = IDD_CONTRACT,
+                                      .tooltips = kTips,
+                                      .liveId = IDC_CONTRACT_LABEL,
+                                      .anchors = kWide,
+                                      .shrinks = {40, 40}},
+                                     *this);
         handle = ownWindows().front();
         return window;
     }
@@ -119,6 +133,7 @@ class WindowsAndBoxes : public testing::Test, private EventSink {
         EXPECT_EQ(boxes.show({.text = L"Oui ?", .title = kTitle}), MessageBoxes::Answer::Ok);
     }
 
+    RaisedEvents raised;
     WinGateKeeper keeper;
     WinMessageBoxes boxes;
     EventGate gate{keeper, boxes};
@@ -239,4 +254,44 @@ TEST_F(WindowsAndBoxes, ListsAndTooltipsFollowAChangeOfResolution) {
     EXPECT_EQ(extent(), wide);
     EXPECT_EQ(SendMessageW(tips, TTM_GETMAXTIPWIDTH, 0, 0), MulDiv(400, firstWindow->dpi(), 96));
     EXPECT_EQ(font(tips), font(GetDlgItem(first, IDC_CONTRACT_LABEL)));
+}
+
+TEST_F(WindowsAndBoxes, EnterPressesTheFocusedButtonThoughItIsNotTheDefaultOne) {
+    firstWindow->show();
+    SetFocus(GetDlgItem(first, IDC_CONTRACT_BUTTON));
+    SendMessageW(first, WM_COMMAND, IDOK, 0);
+    EXPECT_EQ(raised, (RaisedEvents{{IDC_CONTRACT_BUTTON, Event::Click}}));
+}
+
+TEST_F(WindowsAndBoxes, ADroppedListCountsWhenItClosesAndNotWhenItIsGivenUp) {
+    firstWindow->show();
+    const std::wstring drives[] = {L"c:", L"d:", L"e:"};
+    ComboBox& box = firstWindow->comboBox(IDC_CONTRACT_CHOSEN);
+    HWND list = GetDlgItem(first, IDC_CONTRACT_CHOSEN);
+    box.setLines(drives);
+    box.selectLine(0);
+    SetFocus(list);
+    const auto chooseThirdLine = [&](WPARAM closing) {
+        SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
+        for (const WPARAM key : {WPARAM{VK_DOWN}, WPARAM{VK_DOWN}, closing}) {
+            SendMessageW(list, WM_KEYDOWN, key, 1);
+        }
+        return box.selectedLine();
+    };
+    EXPECT_EQ(chooseThirdLine(VK_ESCAPE), 0);
+    EXPECT_EQ(chooseThirdLine(VK_RETURN), 2);
+    EXPECT_TRUE(eventually([&] { return !raised.empty(); }));
+    EXPECT_EQ(raised, (RaisedEvents{{IDC_CONTRACT_CHOSEN, Event::Click}}));
+}
+
+TEST_F(WindowsAndBoxes, ALiveLabelIsReadOutWhenItChanges) {
+    HWINEVENTHOOK hook =
+        SetWinEventHook(EVENT_OBJECT_LIVEREGIONCHANGED, EVENT_OBJECT_LIVEREGIONCHANGED, nullptr,
+                        onLiveRegion, GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
+    for (const wchar_t* text : {L"a", L"b", L"b"}) {
+        firstWindow->control(IDC_CONTRACT_LABEL).setText(text);
+    }
+    EXPECT_TRUE(eventually([] { return labelsReadOut >= 2; }));
+    EXPECT_EQ(labelsReadOut, 2);
+    UnhookWinEvent(hook);
 }
