@@ -1,16 +1,20 @@
 #!/usr/bin/env bash
-# Installs what building, testing and running Tarnwick needs on Debian 12. Asks the network only for what is missing.
+# install-packages.sh [run]: installs what building, testing and running Tarnwick needs on Debian 12; with "run", what
+# ./run needs. Asks the network only for what is missing.
 set -euo pipefail
 
 packages=(
-    cmake make g++
-    g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64
-    libgtest-dev libbenchmark-dev
-    clang lld libclang-rt-14-dev clang-tidy clang-format cppcheck
-    nsis zip
+    cmake make g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 libgtest-dev
     wine wine64 xvfb xauth imagemagick
     fonts-wine fonts-liberation fonts-dejavu-core
 )
+if [[ "${1:-}" != run ]]; then
+    packages+=(
+        g++ libbenchmark-dev
+        clang lld libclang-rt-14-dev clang-tidy clang-format cppcheck
+        nsis zip lowdown
+    )
+fi
 
 installed() {
     [[ "$(dpkg-query -W -f '${Status}' "$1" 2>/dev/null)" == "install ok installed" ]]

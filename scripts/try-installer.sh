@@ -67,7 +67,7 @@ rmdir "$place/tarnwick.exe"
 mv "$older/kept.exe" "$place/tarnwick.exe"
 
 unlocked wine "$setup" /S
-for file in tarnwick.exe tarnwick-trialcad.exe LISEZMOI.txt; do
+for file in tarnwick.exe tarnwick-trialcad.exe LISEZMOI.txt guide.html; do
     cmp "build/win/package/Tarnwick/$file" "$place/$file" || fail "not replaced: $file"
 done
 for file in uninstall.exe tarnwick.lst tarnwick.cfg; do expect "$place/$file"; done
@@ -105,7 +105,7 @@ unregistered() { ! registry query "$uninstall_key"; }
 echo "user's list" >"$place/tarnwick.lst"
 uninstall '{6E1B5B0A-3C0F-4C58-9C57-2A7D8F1E40B3}'
 registry query "$trial_key" && fail "the trial session's class is still there"
-for file in tarnwick-trialcad.exe LISEZMOI.txt; do expect_gone "$place/$file"; done
+for file in tarnwick-trialcad.exe LISEZMOI.txt guide.html; do expect_gone "$place/$file"; done
 for file in tarnwick.lst tarnwick.cfg; do expect "$place/$file"; done
 unlocked wine "$setup" /S
 uninstall '{00000000-0000-0000-0000-000000000001}'
