@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr wchar_t kEnding[] = L".reprise";
-
 bool allAsInFile(const std::vector<KeptLine>& lines) {
     return std::ranges::all_of(
         lines, [](const KeptLine& line) { return line.state == KeptLine::State::AsInFile; });
@@ -17,8 +15,12 @@ bool allAsInFile(const std::vector<KeptLine>& lines) {
 
 }  // namespace
 
+std::wstring keptMarksFile(const std::wstring& listFile) {
+    return besideList(listFile, L".reprise");
+}
+
 MarkKeeper::MarkKeeper(RecordFiles& files, const std::wstring& listFile, const Clock& clock)
-    : file_(files.at(besideList(listFile, kEnding))), clock_(clock) {}
+    : file_(files.at(keptMarksFile(listFile))), clock_(clock) {}
 
 void MarkKeeper::begin(const ListIdentity& listFile, const WorkList& list) {
     listFile_ = listFile;
@@ -100,5 +102,5 @@ bool MarkKeeper::takeFailure() {
 }
 
 void removeKeptMarks(RecordFiles& files, const std::wstring& listFile) {
-    files.at(besideList(listFile, kEnding))->remove();
+    files.at(keptMarksFile(listFile))->remove();
 }

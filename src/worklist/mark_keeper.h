@@ -57,5 +57,8 @@ class MarkKeeper {
     bool told_ = false;     ///< the user knows
 };
 
+/// Where the marks of a list are kept.
+std::wstring keptMarksFile(const std::wstring& listFile);
+
 /// Removes the marks kept of a list, if there are any: they are not to be offered any more.
 void removeKeptMarks(RecordFiles& files, const std::wstring& listFile);

@@ -5,4 +5,5 @@
 class WinClock : public Clock {
  public:
     std::int64_t now() const override;
+    LocalTime local(std::int64_t time) const override;
 };
