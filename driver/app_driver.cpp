@@ -1,5 +1,7 @@
 #include "driver/app_driver.h"
 
+#include <algorithm>
+
 #include "driver/input.h"
 #include "driver/text.h"
 #include "driver/wait.h"
@@ -93,6 +95,17 @@ ModalBox AppDriver::Box() const {
 }
 
 bool AppDriver::ShowsBox() const { return FindBox() != nullptr; }
+
+void AppDriver::SaveAsProposed(const std::string& title, const std::string& file) const {
+    HWND dialog = Window(title);
+    WaitFor("the proposed name " + file, [&] {
+        const auto parts = Descendants(dialog);
+        return std::any_of(parts.begin(), parts.end(),
+                           [&](HWND part) { return driver::TextOf(part) == file; });
+    });
+    Post(Descendant(dialog, IDOK), BM_CLICK);
+    WaitFor("the dialog to close", [&] { return !IsWindow(dialog); });
+}
 
 std::string AppDriver::Describe() const {
     if (!Running()) return "tarnwick does not run\n";

@@ -57,6 +57,9 @@ class AppDriver {
     ModalBox Box() const;
     bool ShowsBox() const;
 
+    /// Waits for a dialog of the system with this title that proposes this file, and accepts it.
+    void SaveAsProposed(const std::string& title, const std::string& file) const;
+
     /// All windows of the program with their controls, for the report of a failed test.
     std::string Describe() const;
 

@@ -10,8 +10,8 @@
 namespace driver {
 namespace {
 
-// The two places where the program keeps settings.
-constexpr std::array kSections{L"tarnwick\\startup", L"mervale\\listerepert"};
+// The places where the program keeps settings.
+constexpr std::array kSections{L"tarnwick\\startup", L"tarnwick\\options", L"mervale\\listerepert"};
 constexpr std::array kApplications{L"tarnwick", L"mervale"};
 constexpr DWORD kLongestValue = 1024;
 

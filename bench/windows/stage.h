@@ -17,6 +17,7 @@
 #include "platform/win32/process/win_list_holds.h"
 #include "platform/win32/window/dialog_window.h"
 #include "platform/win32/window/input_sieve.h"
+#include "platform/win32/window/win_file_dialogs.h"
 #include "platform/win32/window/win_gate_keeper.h"
 #include "platform/win32/window/win_message_boxes.h"
 #include "platform/win32/window/window_patience.h"
@@ -27,6 +28,8 @@
 /// A desktop where every window is found.
 struct DesktopWithAll : Desktop {
     WindowHandle findWindow(const std::wstring&) override { return 1; }
+    WindowHandle findWindow(const std::function<bool(const std::wstring&)>&) override { return 1; }
+    void restore(WindowHandle) override {}
     void bringToFront(WindowHandle) override {}
 };
 
@@ -62,6 +65,7 @@ class Stage {
     WinRecordFiles records_;
     WinListHolds listHolds_{files_};
     WinClock clock_;
+    WinFileDialogs fileDialogs_;
     DesktopWithAll desktop_;
     PoolWorkers workers_;
     WindowPatience patience_;

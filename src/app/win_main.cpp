@@ -24,6 +24,7 @@
 #include "platform/win32/window/message_loop.h"
 #include "platform/win32/window/win_busy_waiting.h"
 #include "platform/win32/window/win_desktop.h"
+#include "platform/win32/window/win_file_dialogs.h"
 #include "platform/win32/window/win_gate_keeper.h"
 #include "platform/win32/window/win_message_boxes.h"
 #include "platform/win32/window/window_patience.h"
@@ -69,6 +70,7 @@ struct RunningProgram {
     WinRecordFiles records;
     WinListHolds listHolds{files};
     WinClock clock;
+    WinFileDialogs fileDialogs;
     WinDesktop desktop;
     DialogFactory windows;
     InputSieve sieve;
@@ -81,6 +83,7 @@ struct RunningProgram {
                      listHolds,
                      clock,
                      messageBoxes,
+                     fileDialogs,
                      desktop,
                      windows,
                      {files, workers, searchPatience},

@@ -2,10 +2,10 @@
 
 #include "cad/document_type.h"
 #include "cad/release_name.h"
+#include "cad/window_title.h"
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
-#include "platform/desktop.h"
 
 namespace {
 
@@ -97,10 +97,19 @@ void CadSession::closeDocument() {
 
 std::wstring CadSession::title() { return textOf(callMethod(document_, L"GetTitle")); }
 
+Desktop::WindowHandle CadSession::findWindow() {
+    if (const auto window = desktop_.findWindow(releaseName_ + L" - " + title())) return window;
+    const std::wstring document = title();
+    const auto window = desktop_.findWindow(releaseName_ + L" - [" + document + L"]");
+    if (window != 0 || !anyRelease_) return window;
+    return desktop_.findWindow(
+        [&](const std::wstring& title) { return isTitleOfAnyRelease(title, document); });
+}
+
 void CadSession::bringForward() {
     with(openPath_, [&] {
-        auto window = desktop_.findWindow(releaseName_ + L" - " + title());
-        if (window == 0) window = desktop_.findWindow(releaseName_ + L" - [" + title() + L"]");
+        const Desktop::WindowHandle window = findWindow();
+        if (anyRelease_) desktop_.restore(window);
         desktop_.bringToFront(window);
         callMethod(document_, L"ViewZoomtofit2");
     });

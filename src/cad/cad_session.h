@@ -5,8 +5,7 @@
 #include <string>
 
 #include "platform/automation.h"
-
-class Desktop;
+#include "platform/desktop.h"
 
 /// How a document is loaded.
 struct LoadingOptions {
@@ -43,6 +42,9 @@ class CadSession {
     /// Brings the application's window to the front, if its title is as expected, and zooms the
     /// document to fit.
     void bringForward();
+    /// Whether its window may also have a title as the releases since 2005 give it, and is restored
+    /// when it is minimised.
+    void expectAnyRelease(bool any) { anyRelease_ = any; }
 
     /// The directories where it looks for referenced documents, separated by semicolons.
     std::wstring searchFolders();
@@ -53,6 +55,7 @@ class CadSession {
     void load(const std::wstring& path, const LoadingOptions& options);
     void rebuild(LoadingOptions::Rebuild wanted);
     std::wstring title();
+    Desktop::WindowHandle findWindow();
 
     Desktop& desktop_;
     ObjectPtr application_;
@@ -61,4 +64,5 @@ class CadSession {
     std::wstring workingDirectory_;
     std::wstring openPath_;  ///< empty when no document counts as open
     std::int16_t typeCode_ = 0;
+    bool anyRelease_ = false;
 };

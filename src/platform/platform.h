@@ -8,6 +8,7 @@
 class Automation;
 class Settings;
 class Clock;
+class FileDialogs;
 class Files;
 class ListHolds;
 class MessageBoxes;
@@ -24,6 +25,7 @@ struct Platform {
     ListHolds& listHolds;
     const Clock& clock;
     MessageBoxes& messageBoxes;
+    FileDialogs& fileDialogs;
     Desktop& desktop;
     WindowFactory& windows;
     SearchServices search;

@@ -2,6 +2,8 @@
 
 #include <memory>
 #include <span>
+#include <string>
+#include <vector>
 
 #include "platform/area.h"
 #include "platform/controls.h"
@@ -30,6 +32,14 @@ class Window {
     virtual Area workArea() const = 0;
     /// How far the work has come, for the taskbar to show: steps done of all. 0 of 0: none.
     virtual void showProgress(int done, int total) = 0;
+    /// The check mark of an item of the system menu.
+    virtual void setMenuMark(int itemId, bool marked) = 0;
+    /// Above the windows of all programs, or among them.
+    virtual void setTopmost(bool topmost) = 0;
+    /// From now on the template's hot keys act, whichever program has the keyboard. Gives the names
+    /// of those that another program has taken: then none acts.
+    virtual std::vector<std::wstring> takeHotKeys() = 0;
+    virtual void releaseHotKeys() = 0;
     virtual void show() = 0;
     virtual void hide() = 0;
     /// Closes the window for good: its controls are gone.
@@ -59,6 +69,21 @@ struct Anchor {
     Growth down;
 };
 
+/// An item that a window adds to its system menu, below a separator. Chosen, it is clicked. The
+/// four lowest bits of its id are 0 (the WM_SYSCOMMAND message).
+struct SystemMenuItem {
+    int id;
+    const wchar_t* text;
+};
+
+/// A key of the digit row that acts with Ctrl and Shift as a button of the window does, whichever
+/// program has the keyboard.
+struct HotKey {
+    int controlId;
+    int place;  ///< in the row, from 1, whatever the keyboard writes on it
+    const wchar_t* name;
+};
+
 /// What a window is made from: a dialog resource, whose id and texts are the form's own, with the
 /// accelerator resource of the same id as its shortcuts.
 struct WindowTemplate {
@@ -72,6 +97,8 @@ struct WindowTemplate {
     std::span<const AccessibleName> names = {};
     /// How much smaller than there it can be made, in dialog units.
     Size shrinks = {};
+    std::span<const SystemMenuItem> systemMenu = {};
+    std::span<const HotKey> hotKeys = {};
 };
 
 class WindowFactory {

@@ -15,4 +15,8 @@ struct ProgramFiles {
 
     /// Says who has the list open, as long as it is.
     std::wstring holdFile() const { return besideList(list, L".verrou"); }
+
+    /// Whether a file is one of these, or holds the marks kept of the list: nothing else may be
+    /// written there.
+    bool owns(const std::wstring& path) const;
 };

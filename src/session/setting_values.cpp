@@ -4,6 +4,12 @@
 #include "common/runtime_error.h"
 #include "platform/settings.h"
 
+namespace {
+
+const wchar_t* markText(bool marked) { return marked ? L"1" : L"0"; }
+
+}  // namespace
+
 std::int16_t valueOf(Settings& settings, const NumberSetting& setting) {
     const std::wstring text = settings.read(setting.application, setting.section, setting.key,
                                             decimal(setting.otherwise));
@@ -20,10 +26,19 @@ std::wstring valueOf(Settings& settings, const TextSetting& setting) {
     return settings.read(setting.application, setting.section, setting.key, setting.otherwise);
 }
 
+bool valueOf(Settings& settings, const MarkSetting& setting) {
+    return settings.read(setting.application, setting.section, setting.key,
+                         markText(setting.otherwise)) == markText(true);
+}
+
 void setValue(Settings& settings, const NumberSetting& setting, std::int16_t value) {
     settings.write(setting.application, setting.section, setting.key, decimal(value));
 }
 
 void setValue(Settings& settings, const TextSetting& setting, const std::wstring& value) {
     settings.write(setting.application, setting.section, setting.key, value);
+}
+
+void setValue(Settings& settings, const MarkSetting& setting, bool marked) {
+    settings.write(setting.application, setting.section, setting.key, markText(marked));
 }

@@ -13,6 +13,7 @@ struct Setting {
 
 using NumberSetting = Setting<std::int16_t>;
 using TextSetting = Setting<const wchar_t*>;
+using MarkSetting = Setting<bool>;
 
 /// Every setting there is. Adding one takes a line here and the one who uses it.
 namespace setting {
@@ -20,6 +21,7 @@ namespace setting {
 namespace place {
 inline constexpr wchar_t kProgram[] = L"tarnwick";
 inline constexpr wchar_t kStartUp[] = L"startup";
+inline constexpr wchar_t kOptions[] = L"options";
 // The search-folder window keeps its place under names of its own.
 inline constexpr wchar_t kSearchFolders[] = L"mervale";
 inline constexpr wchar_t kDirectoryLists[] = L"listerepert";
@@ -60,5 +62,11 @@ inline constexpr TextSetting kLoadingOptions{place::kProgram, place::kStartUp, L
                                              L"1111"};
 inline constexpr TextSetting kLoadingOptionsWritten{place::kProgram, place::kStartUp, L"RegCheck",
                                                     L"1111"};
+
+// The marks of the tracking window's system menu.
+inline constexpr MarkSetting kAlwaysVisible{place::kProgram, place::kOptions, L"toujoursvisible",
+                                            false};
+inline constexpr MarkSetting kHotKeys{place::kProgram, place::kOptions, L"touches", false};
+inline constexpr MarkSetting kAllReleases{place::kProgram, place::kOptions, L"premierplan", false};
 
 }  // namespace setting

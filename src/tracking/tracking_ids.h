@@ -44,3 +44,9 @@
 #define IDC_FORM3_CMDPURGE 1339
 #define IDC_FORM3_CMDREPA 1340
 #define IDC_FORM3_CMDDESELECT 1341
+
+// The items of the system menu. Windows keeps the four lowest bits of such an id for itself.
+#define IDM_FORM3_TOUJOURSVISIBLE 1344
+#define IDM_FORM3_TOUCHES 1360
+#define IDM_FORM3_PREMIERPLAN 1376
+#define IDM_FORM3_RAPPORT 1392

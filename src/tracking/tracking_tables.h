@@ -29,6 +29,10 @@ inline constexpr Binding<TrackingWindow> kTrackingBindings[] = {
     {IDC_FORM3_CMDREPA, Event::Click, &TrackingWindow::CmdRepA_Click, Presses::Single},
     {IDC_FORM3_CMDDESELECT, Event::Click, &TrackingWindow::CmdDeSelect_Click},
     {IDC_FORM3_CMDSORTIE, Event::Click, &TrackingWindow::CmdSortie_Click, Presses::Single},
+    {IDM_FORM3_TOUJOURSVISIBLE, Event::Click, &TrackingWindow::ToujoursVisible_Click},
+    {IDM_FORM3_TOUCHES, Event::Click, &TrackingWindow::Touches_Click},
+    {IDM_FORM3_PREMIERPLAN, Event::Click, &TrackingWindow::PremierPlan_Click},
+    {IDM_FORM3_RAPPORT, Event::Click, &TrackingWindow::Rapport_Click},
 };
 
 inline constexpr Tooltip kTrackingTooltips[] = {
@@ -117,6 +121,20 @@ inline constexpr AccessibleName kTrackingNames[] = {
     {IDC_FORM3_CMD4, L"Précédent"},
 };
 
+inline constexpr SystemMenuItem kTrackingSystemMenu[] = {
+    {IDM_FORM3_TOUJOURSVISIBLE, L"Toujours visible"},
+    {IDM_FORM3_TOUCHES, L"Touches actives dans SolidWorks"},
+    {IDM_FORM3_PREMIERPLAN, L"SolidWorks au premier plan, toutes versions"},
+    {IDM_FORM3_RAPPORT, L"Exporter le rapport..."},
+};
+
+inline constexpr HotKey kTrackingHotKeys[] = {
+    {IDC_FORM3_CMDSUIV, 1, L"Ctrl+Maj+1"},
+    {IDC_FORM3_CMDSUIVQUITTER, 2, L"Ctrl+Maj+2"},
+    {IDC_FORM3_CMDSUIVSAUTER, 3, L"Ctrl+Maj+3"},
+    {IDC_FORM3_CMDPRECEDENT, 4, L"Ctrl+Maj+4"},
+};
+
 inline constexpr WindowTemplate kTrackingWindow = {
     .dialogId = IDD_FORM3,
     .tooltips = kTrackingTooltips,
@@ -127,4 +145,6 @@ inline constexpr WindowTemplate kTrackingWindow = {
     .anchors = kTrackingAnchors,
     .names = kTrackingNames,
     .shrinks = {0, 86},
+    .systemMenu = kTrackingSystemMenu,
+    .hotKeys = kTrackingHotKeys,
 };

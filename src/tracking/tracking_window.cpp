@@ -48,6 +48,7 @@ void TrackingWindow::Form_Load(Origin origin) {
 
 void TrackingWindow::load(Origin origin) {
     places_.restore(PlacedWindow::Tracking, *window_);
+    takeOptions();
     tickOptions();
     CkMinimise.setVisible(false);
     NNiveau1.reset();

@@ -58,6 +58,12 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
     void CmdRepA_Click();
     void CmdDeSelect_Click();
 
+    // The system menu: three marks, and the report.
+    void ToujoursVisible_Click();
+    void Touches_Click();
+    void PremierPlan_Click();
+    void Rapport_Click();
+
     const Pass& pass() const { return pass_; }
 
  private:
@@ -70,6 +76,7 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
     bool resume();
     bool offerMarks(KeptState& kept);
     bool startBeside(std::int32_t fileLine);
+    void takeOptions();
     void tickOptions();
     std::wstring tickedOptions() const;
     LoadingOptions loadingOptions() const;
@@ -101,6 +108,13 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
     /// After an edit of the list: opens the document of the current line, if there is one.
     void followEdit(bool inProgress);
 
+    void setAlwaysVisible(bool on);
+    void setAllReleases(bool on);
+    /// They stay off when one is taken.
+    void setHotKeys(bool on);
+    /// Raises 70, 75 or 76.
+    void writeReport(const std::wstring& path);
+
     Platform& platform_;
     WindowPlaces& places_;
     CadSession& cad_;
@@ -113,4 +127,7 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
     ListBox& List1;
     CheckBox &CkMinimise, &CkSilent, &CkRecons, &CkRecons2;
     WorkListView lines_;
+    bool alwaysVisible_ = false;
+    bool allReleases_ = false;
+    bool hotKeys_ = false;
 };

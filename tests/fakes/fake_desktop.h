@@ -10,10 +10,18 @@
 struct FakeDesktop : Desktop {
     std::map<std::wstring, WindowHandle> windows;
     std::vector<WindowHandle> broughtForward;
+    std::vector<WindowHandle> restored;
 
     WindowHandle findWindow(const std::wstring& title) override {
         const auto window = windows.find(title);
         return window == windows.end() ? 0 : window->second;
     }
+    WindowHandle findWindow(const std::function<bool(const std::wstring&)>& isTitle) override {
+        for (const auto& [title, window] : windows) {
+            if (isTitle(title)) return window;
+        }
+        return 0;
+    }
+    void restore(WindowHandle window) override { restored.push_back(window); }
     void bringToFront(WindowHandle window) override { broughtForward.push_back(window); }
 };

@@ -8,6 +8,7 @@
 #include "fakes/fake_automation.h"
 #include "fakes/fake_clock.h"
 #include "fakes/fake_desktop.h"
+#include "fakes/fake_file_dialogs.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_list_holds.h"
 #include "fakes/fake_message_boxes.h"
@@ -28,6 +29,7 @@ struct FakePlatform {
     FakeSettings settings;
     FakeFiles files;
     FakeMessageBoxes boxes;
+    FakeFileDialogs fileDialogs;
     FakeDesktop desktop;
     FakeRecordFiles records;
     FakeListHolds listHolds;
@@ -35,8 +37,17 @@ struct FakePlatform {
     FakeWindowFactory windows;
     NoWorkers workers;
     FakePatience patience;
-    Platform platform{automation,     settings, files,   records, listHolds,
-                      clock,          boxes,    desktop, windows, {files, workers, patience},
+    Platform platform{automation,
+                      settings,
+                      files,
+                      records,
+                      listHolds,
+                      clock,
+                      boxes,
+                      fileDialogs,
+                      desktop,
+                      windows,
+                      {files, workers, patience},
                       L"c:\\tarnwick"};
 
     FakePlatform() {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <set>
 
 #include "fakes/fake_controls.h"
 #include "platform/window.h"
@@ -26,6 +27,10 @@ struct FakeWindow : Window {
     std::vector<FakeMonitor> monitors{{.area = {-90'000, -90'000, 90'000, 90'000}}};
     int progressDone = 0;
     int progressTotal = 0;
+    std::set<int> menuMarks;
+    bool topmost = false;
+    bool hasHotKeys = false;
+    std::vector<std::wstring> keysOfOthers;  ///< among the hot keys
 
     FakeControl& control(int id) override { return controls_[id]; }
     FakeCheckBox& checkBox(int id) override { return checkBoxes_[id]; }
@@ -47,6 +52,15 @@ struct FakeWindow : Window {
         progressDone = done;
         progressTotal = total;
     }
+    void setMenuMark(int itemId, bool marked) override {
+        marked ? void(menuMarks.insert(itemId)) : void(menuMarks.erase(itemId));
+    }
+    void setTopmost(bool value) override { topmost = value; }
+    std::vector<std::wstring> takeHotKeys() override {
+        hasHotKeys = keysOfOthers.empty();
+        return keysOfOthers;
+    }
+    void releaseHotKeys() override { hasHotKeys = false; }
     void show() override { state = State::Shown; }
     void hide() override { state = State::Hidden; }
     void unload() override { state = State::Unloaded; }

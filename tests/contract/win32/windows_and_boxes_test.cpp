@@ -117,11 +117,13 @@ class WindowsAndBoxes : public testing::Test, private EventSink {
     void raise(int id, Event event) override { raised.emplace_back(id, event); }
 
     std::unique_ptr<Window> makeWindow(HWND& handle) {
+        static constexpr SystemMenuItem kItems[] = {{kItem, L"Un"}, {kItem + 16, L"Deux"}};
         auto window = factory.create({.dialogId = IDD_CONTRACT,
                                       .tooltips = kTips,
                                       .liveId = IDC_CONTRACT_LABEL,
                                       .anchors = kWide,
-                                      .shrinks = {40, 40}},
+                                      .shrinks = {40, 40},
+                                      .systemMenu = kItems},
                                      *this);
         handle = ownWindows().front();
         return window;
@@ -134,6 +136,7 @@ class WindowsAndBoxes : public testing::Test, private EventSink {
     }
 
     RaisedEvents raised;
+    static constexpr int kItem = 1344;
     WinGateKeeper keeper;
     WinMessageBoxes boxes;
     EventGate gate{keeper, boxes};
@@ -294,4 +297,30 @@ TEST_F(WindowsAndBoxes, ALiveLabelIsReadOutWhenItChanges) {
     EXPECT_TRUE(eventually([] { return labelsReadOut >= 2; }));
     EXPECT_EQ(labelsReadOut, 2);
     UnhookWinEvent(hook);
+}
+
+TEST_F(WindowsAndBoxes, BoxStandsAboveAWindowThatIsAlwaysVisible) {
+    firstWindow->show();
+    firstWindow->setTopmost(true);
+    EXPECT_NE(GetWindowLongW(first, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+    ask([](HWND box) { EXPECT_NE(GetWindowLongW(box, GWL_EXSTYLE) & WS_EX_TOPMOST, 0); });
+    ShowWindow(first, SW_MINIMIZE);
+    firstWindow->setTopmost(false);
+    EXPECT_EQ(GetWindowLongW(first, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+    EXPECT_TRUE(IsIconic(first));
+}
+
+TEST_F(WindowsAndBoxes, ItemsOfTheSystemMenuStandBelowASeparatorAndAreClicked) {
+    HMENU menu = GetSystemMenu(first, FALSE);
+    const int count = GetMenuItemCount(menu);
+    EXPECT_NE(GetMenuState(menu, static_cast<UINT>(count - 3), MF_BYPOSITION) & MF_SEPARATOR, 0U);
+    EXPECT_EQ(GetMenuItemID(menu, count - 2), static_cast<UINT>(kItem));
+    firstWindow->setMenuMark(kItem, true);
+    EXPECT_EQ(GetMenuState(menu, kItem, MF_BYCOMMAND), MF_CHECKED);
+    EXPECT_EQ(GetMenuState(menu, kItem + 16, MF_BYCOMMAND), MF_UNCHECKED);
+    firstWindow->setMenuMark(kItem, false);
+    EXPECT_EQ(GetMenuState(menu, kItem, MF_BYCOMMAND), MF_UNCHECKED);
+    SendMessageW(first, WM_SYSCOMMAND, kItem + 16 + 3, 0);
+    SendMessageW(first, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    EXPECT_EQ(raised, (RaisedEvents{{kItem + 16, Event::Click}}));
 }

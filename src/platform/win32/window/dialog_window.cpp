@@ -10,6 +10,7 @@
 #include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/own_windows.h"
 #include "platform/win32/window/screen_reader.h"
+#include "platform/win32/window/system_menu.h"
 #include "platform/win32/window/tooltips.h"
 #include "platform/win32/window/win_controls.h"
 
@@ -67,6 +68,7 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
       window_(makeDialog(windowTemplate.dialogId, procedure)),
       layout_(window_.get(), windowTemplate),
       tips_(addTooltips(window_.get(), windowTemplate.tooltips)),
+      hotKeys_(windowTemplate.hotKeys),
       taskbarButton_(window_.get()),
       progress_(taskbarButton_) {
     noteUsed(window_.get());
@@ -77,6 +79,7 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
     tellScreenReaders(window_.get(), windowTemplate.names, liveId_);
     shortcuts_.emplace(window_.get(), windowTemplate.dialogId);
     colourAsTabPages(window_.get());
+    addToSystemMenu(window_.get(), windowTemplate.systemMenu);
 }
 
 DialogWindow::~DialogWindow() { destroy(); }
@@ -134,6 +137,7 @@ void DialogWindow::destroy() {
     gate_.forget(*this);
     noteGone(window_.get());
     shortcuts_.reset();
+    hotKeys_.release();
     window_.reset();
 }
 

@@ -12,6 +12,7 @@
 #include "platform/event_gate.h"
 #include "platform/win32/window/combo_lists.h"
 #include "platform/win32/window/shortcuts.h"
+#include "platform/win32/window/win_hot_keys.h"
 #include "platform/win32/window/win_taskbar_button.h"
 #include "platform/win32/window/window_fonts.h"
 #include "platform/win32/window/window_icons.h"
@@ -38,6 +39,10 @@ class DialogWindow : public Window, private EventSource {
     int dpi() const override;
     Area workArea() const override;
     void showProgress(int done, int total) override;
+    void setMenuMark(int itemId, bool marked) override;
+    void setTopmost(bool topmost) override;
+    std::vector<std::wstring> takeHotKeys() override;
+    void releaseHotKeys() override;
     void show() override;
     void hide() override;
     void unload() override;
@@ -61,6 +66,9 @@ class DialogWindow : public Window, private EventSource {
     void onDeferred();
     void serveDeferred();
     bool serveFirst(int id);
+    void onHotKey(int id, UINT key);
+    /// Its button is pressed while another program may have the keyboard.
+    void pressFromAfar(int id);
     bool isUnmeantCommand(int id, Event event) const;
     void changeResolution(const RECT& suggested);
     void chooseFonts();
@@ -89,6 +97,7 @@ class DialogWindow : public Window, private EventSource {
     std::map<std::pair<int, std::type_index>, std::unique_ptr<Control>> controls_;
     ComboLists comboLists_;
     std::vector<std::pair<int, Event>> deferred_;
+    WinHotKeys hotKeys_;
     WinTaskbarButton taskbarButton_;
     TaskbarProgress progress_;
 };

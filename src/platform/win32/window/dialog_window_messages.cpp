@@ -10,6 +10,7 @@
 #include "platform/win32/window/hourglass.h"
 #include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/own_windows.h"
+#include "platform/win32/window/system_menu.h"
 #include "platform/win32/window/tooltips.h"
 
 namespace {
@@ -70,6 +71,13 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return TRUE;
         case WM_NOTIFY:
             return onNotify(*reinterpret_cast<const NMHDR*>(lParam));
+        case WM_SYSCOMMAND:
+            if (!isAddedItem(wParam)) return FALSE;
+            raise(itemOf(wParam), Event::Click);
+            return TRUE;
+        case WM_HOTKEY:
+            onHotKey(static_cast<int>(wParam), HIWORD(lParam));
+            return TRUE;
         case WM_SIZE:
             if (wParam != SIZE_MINIMIZED) layout_.arrange();
             return TRUE;

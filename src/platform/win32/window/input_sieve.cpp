@@ -99,6 +99,9 @@ bool InputSieve::drops(const MSG& message) {
                        (HIWORD(message.lParam) & KF_REPEAT) != 0);
     } else if (isKeyUp(kind)) {
         judge_.keyUp(message.time, static_cast<int>(message.wParam));
+    } else if (kind == WM_HOTKEY) {
+        // Posted when the key went down.
+        judge_.keyDown(message.time, HIWORD(message.lParam), false);
     } else {
         judge_.nothing();
         return false;

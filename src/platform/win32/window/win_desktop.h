@@ -5,5 +5,7 @@
 class WinDesktop : public Desktop {
  public:
     WindowHandle findWindow(const std::wstring& title) override;
+    WindowHandle findWindow(const std::function<bool(const std::wstring&)>& isTitle) override;
+    void restore(WindowHandle window) override;
     void bringToFront(WindowHandle window) override;
 };

@@ -2,12 +2,8 @@
 
 #include <windows.h>
 
-#include <vector>
-
 #include "platform/win32/process/unique.h"
-#include "platform/win32/window/hourglass.h"
-#include "platform/win32/window/input_sieve.h"
-#include "platform/win32/window/own_windows.h"
+#include "platform/win32/window/question.h"
 
 namespace {
 
@@ -37,26 +33,6 @@ class FrenchButtons {
     UniqueHook hook_;
 };
 
-/// Disables every window of the program but the box's owner, which the box disables itself.
-class OthersDisabled {
- public:
-    explicit OthersDisabled(HWND owner) {
-        for (HWND window : ownWindows()) {
-            if (window == owner || !IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
-            disabled_.push_back(window);
-            EnableWindow(window, FALSE);
-        }
-    }
-    ~OthersDisabled() {
-        for (HWND window : disabled_) EnableWindow(window, TRUE);
-    }
-    OthersDisabled(const OthersDisabled&) = delete;
-    OthersDisabled& operator=(const OthersDisabled&) = delete;
-
- private:
-    std::vector<HWND> disabled_;
-};
-
 DWORD styleOf(const MessageBoxContent& box) {
     const int defaultButton = (box.defaultButton - 1) * MB_DEFBUTTON2;
     return static_cast<DWORD>(static_cast<int>(box.buttons) | static_cast<int>(box.icon) |
@@ -67,17 +43,15 @@ DWORD styleOf(const MessageBoxContent& box) {
 }  // namespace
 
 MessageBoxes::Answer WinMessageBoxes::show(const MessageBoxContent& box) {
+    const Question question;
     MSGBOXPARAMSW parameters{};
     parameters.cbSize = sizeof parameters;
-    parameters.hwndOwner = ownerOfDialogs();
+    parameters.hwndOwner = question.owner();
     parameters.lpszText = box.text.c_str();
     parameters.lpszCaption = box.title.c_str();
-    parameters.dwStyle = styleOf(box);
+    parameters.dwStyle = styleOf(box) | (question.topmost() ? MB_TOPMOST : 0);
     parameters.dwContextHelpId = static_cast<DWORD>(box.helpContext);
-    const HourglassAside question;
-    const OthersDisabled others(parameters.hwndOwner);
     const FrenchButtons french;
-    InputSieve::windowShown();
     const int button = MessageBoxIndirectW(&parameters);
     return box.buttons == MessageBoxContent::Buttons::Ok ? Answer::Ok : static_cast<Answer>(button);
 }

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+/// What is to be saved, and where it would go if the user changed nothing.
+struct SaveQuestion {
+    std::wstring title;
+    std::wstring directory;  ///< without a trailing backslash
+    std::wstring name;
+    std::wstring kind;       ///< of files, as the user reads it
+    std::wstring extension;  ///< without the dot; a name without one is given it
+};
+
+/// The system's own dialogs about files.
+class FileDialogs {
+ public:
+    virtual ~FileDialogs() = default;
+
+    /// The full path that the user chose, by which an existing file may be replaced; nothing when
+    /// the user thought better of it. Raises 51 when there is no such dialog.
+    virtual std::optional<std::wstring> askWhereToSave(const SaveQuestion& question) = 0;
+};

@@ -1,0 +1,21 @@
+#include "platform/win32/window/question.h"
+
+#include "platform/win32/window/input_sieve.h"
+#include "platform/win32/window/own_windows.h"
+
+Question::Question() : owner_(ownerOfDialogs()) {
+    for (HWND window : ownWindows()) {
+        if (window == owner_ || !IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
+        disabled_.push_back(window);
+        EnableWindow(window, FALSE);
+    }
+    InputSieve::windowShown();
+}
+
+Question::~Question() {
+    for (HWND window : disabled_) EnableWindow(window, TRUE);
+}
+
+bool Question::topmost() const {
+    return owner_ && (GetWindowLongW(owner_, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+}

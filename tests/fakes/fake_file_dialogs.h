@@ -1,0 +1,17 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "platform/file_dialogs.h"
+
+/// Records what is asked, and always has the same answer.
+struct FakeFileDialogs : FileDialogs {
+    std::vector<SaveQuestion> asked;
+    std::optional<std::wstring> answer;
+
+    std::optional<std::wstring> askWhereToSave(const SaveQuestion& question) override {
+        asked.push_back(question);
+        return answer;
+    }
+};
