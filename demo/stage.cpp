@@ -58,6 +58,15 @@ void Stage::ShowConfigurationFile() const {
     std::cout << sandbox.ReadConfigurations().value_or("(none)\n");
 }
 
+void Stage::ShowFile(const std::string& name) const {
+    std::optional<std::string> text;
+    WaitFor("the file " + name, [&] {
+        text = ReadFileBytes(sandbox.Directory() / name);
+        return text.has_value();
+    });
+    std::cout << *text << std::flush;
+}
+
 void Stage::Picture(const std::string& name, HWND window) const {
     SetForegroundWindow(window);
     Send(window, WM_NCACTIVATE, TRUE);  // a button pressed from outside leaves the title bar grey

@@ -27,6 +27,8 @@ class Stage {
     void ShowLines(int list) const;
     void ShowListFile() const;
     void ShowConfigurationFile() const;
+    /// Waits for a file beside the program, and shows its text.
+    void ShowFile(const std::string& name) const;
 
     /// Leaves NAME.png with this window as it looks on the screen.
     void Picture(const std::string& name, HWND window) const;

@@ -1,4 +1,9 @@
+#include <iostream>
+
 #include "demo/steps.h"
+#include "driver/keys.h"
+#include "driver/wait.h"
+#include "driver/winapi.h"
 #include "resume/existing_list_ids.h"
 #include "tracking/tracking_ids.h"
 
@@ -21,6 +26,34 @@ void SaveListAndLeave(Stage& stage) {
     stage.ShowCallsUpTo("closedoc");
 }
 
+void AdvanceByKey(Stage& stage) {
+    stage.Tell("Seen, by a key: the trial CAD session is in front, and stays there");
+    stage.app.WaitForCommandEnd(IDC_FORM3_LIST1, IDC_FORM3_CMDDESELECT);
+    Send(stage.app.Window(kTracking), WM_SYSCOMMAND, IDM_FORM3_TOUCHES);
+    BringForward(stage.cad.Window());
+    std::cout << "  Ctrl+Maj+2" << std::endl;
+    PressKeys({VK_CONTROL, VK_SHIFT, '2'});
+    stage.ShowCallsUpTo(kDocumentShown);
+}
+
+void PictureSystemMenu(Stage& stage) {
+    stage.Tell("Opening the system menu");
+    HWND window = stage.app.Window(kTracking);
+    BringForward(window);
+    PressKeys({VK_MENU, VK_SPACE});
+    WaitFor("the menu", [] { return FindWindowW(L"#32768", nullptr) != nullptr; });
+    stage.Picture("tracking-menu", window);
+    PressKeys({VK_ESCAPE});
+    WaitFor("the menu to close", [] { return FindWindowW(L"#32768", nullptr) == nullptr; });
+}
+
+void ExportReport(Stage& stage) {
+    stage.Tell("Exporting the report");
+    stage.app.ChooseInSystemMenu(kTracking, IDM_FORM3_RAPPORT);
+    stage.app.SaveAsProposed("Exporter le rapport", "tarnwick-rapport.csv");
+    stage.ShowFile("tarnwick-rapport.csv");
+}
+
 }  // namespace
 
 void PlayTrackingWindow(Stage& stage) {
@@ -30,8 +63,7 @@ void PlayTrackingWindow(Stage& stage) {
 
     stage.Tell("Done: saved, closed, and the next one opened");
     PressAndShow(stage, IDC_FORM3_CMDSUIV);
-    stage.Tell("Seen: closed without saving");
-    PressAndShow(stage, IDC_FORM3_CMDSUIVQUITTER);
+    AdvanceByKey(stage);
     stage.Tell("Skipped: it stays to do");
     PressAndShow(stage, IDC_FORM3_CMDSUIVSAUTER);
     stage.Tell("Back to the one that was skipped");
@@ -40,6 +72,8 @@ void PlayTrackingWindow(Stage& stage) {
     PressAndShow(stage, IDC_FORM3_CMDSUIV);
     stage.ShowLines(IDC_FORM3_LIST1);
     stage.Picture("tracking-later", stage.app.Window(kTracking));
+    PictureSystemMenu(stage);
+    ExportReport(stage);
     stage.Picture("trial-cad", stage.cad.Window());
     SaveListAndLeave(stage);
 }

@@ -96,6 +96,17 @@ ModalBox AppDriver::Box() const {
 
 bool AppDriver::ShowsBox() const { return FindBox() != nullptr; }
 
+void AppDriver::WaitForCommandEnd(int list, int clearButton) const {
+    Click(clearButton);
+    WaitFor("the command's end", [&] { return Selected(list).empty(); });
+    const DWORD end = GetTickCount();
+    WaitFor("a later time", [&] { return GetTickCount() - end > kPollingInterval; });
+}
+
+void AppDriver::ChooseInSystemMenu(const std::string& caption, int item) const {
+    Post(Window(caption), WM_SYSCOMMAND, static_cast<WPARAM>(item));
+}
+
 void AppDriver::SaveAsProposed(const std::string& title, const std::string& file) const {
     HWND dialog = Window(title);
     WaitFor("the proposed name " + file, [&] {

@@ -57,6 +57,12 @@ class AppDriver {
     ModalBox Box() const;
     bool ShowsBox() const;
 
+    /// Waits for the end of the command at work: what is pressed before does not count. It clears
+    /// a list by its button, which waits, too.
+    void WaitForCommandEnd(int list, int clearButton) const;
+
+    void ChooseInSystemMenu(const std::string& caption, int item) const;
+
     /// Waits for a dialog of the system with this title that proposes this file, and accepts it.
     void SaveAsProposed(const std::string& title, const std::string& file) const;
 

@@ -28,4 +28,4 @@ while kill -0 "$player" 2>/dev/null; do
     sleep 0.05
 done
 wait "$player"
-echo "Left in build/demo: $(cd build/demo && echo *.png tarnwick.lst)"
+echo "Left in build/demo: $(cd build/demo && echo *.png tarnwick.lst tarnwick-rapport.csv)"

@@ -17,9 +17,7 @@ class TrackingOptions : public Scenario {
         StartAndResume();
     }
 
-    void ChooseInMenu(int item) const {
-        Post(app.Window(kTracking), WM_SYSCOMMAND, static_cast<WPARAM>(item));
-    }
+    void ChooseInMenu(int item) const { app.ChooseInSystemMenu(kTracking, item); }
 
     void ExpectOption(const char* key, const char* value) const {
         const auto read = [&] { return settings.Get("tarnwick", "options", key).value_or(""); };
@@ -30,14 +28,10 @@ class TrackingOptions : public Scenario {
         return (GetWindowLongW(app.Window(kTracking), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
     }
 
-    /// Waits for this to be the last call of a command, and for the command's end: what is pressed
-    /// before does not count.
+    /// Waits for this to be the last call of a command, and for the command's end.
     void WaitForLastCall(const std::string& call) const {
         WaitFor(call, [&] { return cad.Calls().back() == call; });
-        app.Click(IDC_FORM3_CMDDESELECT);
-        WaitFor("the command's end", [&] { return app.Selected(IDC_FORM3_LIST1).empty(); });
-        const DWORD end = GetTickCount();
-        WaitFor("a later time", [&] { return GetTickCount() - end > kPollingInterval; });
+        app.WaitForCommandEnd(IDC_FORM3_LIST1, IDC_FORM3_CMDDESELECT);
     }
 
     /// Exports the report to where the dialog proposes; gives its lines.
