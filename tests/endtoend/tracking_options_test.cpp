@@ -115,12 +115,13 @@ TEST_F(TrackingOptions, KeysLeadThePassInARecentReleaseThatKeepsTheKeyboard) {
 
 TEST_F(TrackingOptions, ATakenKeyIsNamedAndNoneIsActive) {
     settings.Set("tarnwick", "options", "touches", "1");
+    settings.Set("tarnwick", "options", "toujoursvisible", "1");
     {
         const TakenKey taken('3');
         Resume({"--hidden"});
         EXPECT_NE(app.Box().Text().find("Ctrl+Maj+3\r\n"), std::string::npos);
         app.Box().Answer(IDOK);
-        app.Window(kTracking);
+        EXPECT_TRUE(IsTopmost());
         EXPECT_TRUE(TakenKey('2').WasFree());
     }
     ChooseInMenu(IDM_FORM3_TOUCHES);

@@ -66,6 +66,7 @@ class DialogWindow : public Window, private EventSource {
     void onDeferred();
     void serveDeferred();
     bool serveFirst(int id);
+    INT_PTR onSystemCommand(WPARAM command);
     void onHotKey(int id, UINT key);
     /// Its button is pressed while another program may have the keyboard.
     void pressFromAfar(int id);

@@ -1,6 +1,7 @@
 // What a window does while another program is in front.
 
 #include "platform/win32/window/dialog_window.h"
+#include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/system_menu.h"
 
 namespace {
@@ -28,6 +29,15 @@ UniqueWindow hiddenTopmost() {
 void DialogWindow::setMenuMark(int itemId, bool marked) {
     CheckMenuItem(GetSystemMenu(window_.get(), FALSE), static_cast<UINT>(itemId),
                   MF_BYCOMMAND | (marked ? MF_CHECKED : MF_UNCHECKED));
+}
+
+INT_PTR DialogWindow::onSystemCommand(WPARAM command) {
+    if (isAddedItem(command)) {
+        raise(itemOf(command), Event::Click);
+        return TRUE;
+    }
+    // What was pressed next, while a command was at work, would choose in a menu that nobody saw.
+    return itemOf(command) == SC_MOUSEMENU && InputSieve::currentPress().late;
 }
 
 // Minimised it stays minimised.

@@ -72,9 +72,7 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_NOTIFY:
             return onNotify(*reinterpret_cast<const NMHDR*>(lParam));
         case WM_SYSCOMMAND:
-            if (!isAddedItem(wParam)) return FALSE;
-            raise(itemOf(wParam), Event::Click);
-            return TRUE;
+            return onSystemCommand(wParam);
         case WM_HOTKEY:
             onHotKey(static_cast<int>(wParam), HIWORD(lParam));
             return TRUE;

@@ -64,6 +64,11 @@ POINT placeOf(const MSG& message) {
 /// The keys that press a button.
 bool pressesButtons(WPARAM key) { return key == VK_RETURN || key == VK_SPACE || key == VK_ESCAPE; }
 
+/// Alt+Space.
+bool opensSystemMenu(const MSG& message) {
+    return message.message == WM_SYSKEYDOWN && message.wParam == VK_SPACE;
+}
+
 bool isUnmeant(const PressVerdict& press) {
     return press.late || press.repeated || press.onNewWindow || CallOut::any();
 }
@@ -109,6 +114,7 @@ bool InputSieve::drops(const MSG& message) {
     const PressVerdict press = judge_.verdict();
     // A window's frame is pressed to move or to close it, which waits; but not by mistake.
     if (isFramePress(kind)) return press.onNewWindow;
+    if (opensSystemMenu(message) && press.late) return true;
     if (classOf(message.hwnd) != ControlClass::Button) return false;
     if (isKeyDown(kind)) return pressesButtons(message.wParam) && isUnmeant(press);
     return isPress(kind) && isUnmeant(press);
