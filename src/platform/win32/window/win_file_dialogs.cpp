@@ -6,7 +6,7 @@
 
 #include "platform/win32/com/com_ptr.h"
 #include "platform/win32/process/require.h"
-#include "platform/win32/window/question.h"
+#include "platform/win32/window/modal_question.h"
 
 namespace {
 
@@ -55,7 +55,7 @@ std::wstring pathOf(IFileSaveDialog& dialog) {
 std::optional<std::wstring> WinFileDialogs::askWhereToSave(const SaveQuestion& question) {
     const auto dialog = makeDialog();
     prepare(*dialog.get(), question);
-    const Question asking;
+    const ModalQuestion asking;
     const HRESULT answer = dialog->Show(asking.owner());
     if (answer == HRESULT_FROM_WIN32(ERROR_CANCELLED)) return std::nullopt;
     requireSuccess(answer, kWhat);

@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "platform/win32/process/unique.h"
-#include "platform/win32/window/question.h"
+#include "platform/win32/window/modal_question.h"
 
 namespace {
 
@@ -43,7 +43,7 @@ DWORD styleOf(const MessageBoxContent& box) {
 }  // namespace
 
 MessageBoxes::Answer WinMessageBoxes::show(const MessageBoxContent& box) {
-    const Question question;
+    const ModalQuestion question;
     MSGBOXPARAMSW parameters{};
     parameters.cbSize = sizeof parameters;
     parameters.hwndOwner = question.owner();

@@ -9,12 +9,12 @@
 /// While it lives a box or a dialog of the system asks the user something: the program waits for
 /// its user, and all its windows are disabled but the owner, which the box disables itself. What
 /// was pressed before is not meant for it.
-class Question {
+class ModalQuestion {
  public:
-    Question();
-    ~Question();
-    Question(const Question&) = delete;
-    Question& operator=(const Question&) = delete;
+    ModalQuestion();
+    ~ModalQuestion();
+    ModalQuestion(const ModalQuestion&) = delete;
+    ModalQuestion& operator=(const ModalQuestion&) = delete;
 
     HWND owner() const { return owner_; }
     /// Whether its owner stands above the windows of all programs.

@@ -1,9 +1,9 @@
-#include "platform/win32/window/question.h"
+#include "platform/win32/window/modal_question.h"
 
 #include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/own_windows.h"
 
-Question::Question() : owner_(ownerOfDialogs()) {
+ModalQuestion::ModalQuestion() : owner_(ownerOfDialogs()) {
     for (HWND window : ownWindows()) {
         if (window == owner_ || !IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
         disabled_.push_back(window);
@@ -12,10 +12,10 @@ Question::Question() : owner_(ownerOfDialogs()) {
     InputSieve::windowShown();
 }
 
-Question::~Question() {
+ModalQuestion::~ModalQuestion() {
     for (HWND window : disabled_) EnableWindow(window, TRUE);
 }
 
-bool Question::topmost() const {
+bool ModalQuestion::topmost() const {
     return owner_ && (GetWindowLongW(owner_, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
 }
