@@ -2,9 +2,9 @@
 
 #include "platform/win32/files/pool_workers.h"
 
+#include <atomic>
 #include <future>
 #include <gtest/gtest.h>
-#include <latch>
 
 #include "contract/machine.h"
 #include "pickers/tree_walk.h"
@@ -31,16 +31,17 @@ class EventPatience : public SearchPatience {
 /// Jobs that wait until eight of them have come.
 struct Meeting {
     PoolWorkers workers;
-    std::latch all{8};
+    std::atomic<int> missing{8};
     std::promise<void> held;
+    std::shared_future<void> all{held.get_future()};
 };
 
 void join(const std::shared_ptr<Meeting>& meeting, int jobs) {
     if (jobs == 0) return;
     EXPECT_TRUE(meeting->workers.start([meeting, jobs] {
         join(meeting, jobs - 1);
-        meeting->all.arrive_and_wait();
-        if (jobs == 1) meeting->held.set_value();
+        if (--meeting->missing == 0) meeting->held.set_value();
+        meeting->all.wait();
     }));
 }
 
@@ -50,7 +51,7 @@ void join(const std::shared_ptr<Meeting>& meeting, int jobs) {
 TEST(PoolWorkers, RunEightJobsAtOnce) {
     const auto meeting = std::make_shared<Meeting>();
     join(meeting, 8);
-    EXPECT_EQ(meeting->held.get_future().wait_for(kGenerous), std::future_status::ready);
+    EXPECT_EQ(meeting->all.wait_for(kGenerous), std::future_status::ready);
 }
 
 TEST(PoolWorkers, ReadATreeAsTheMainThreadDoes) {

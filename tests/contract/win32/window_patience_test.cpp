@@ -3,7 +3,6 @@
 #include "platform/win32/window/window_patience.h"
 
 #include <gtest/gtest.h>
-#include <semaphore>
 #include <set>
 #include <thread>
 
@@ -21,16 +20,17 @@ namespace {
 
 /// A server that does not answer until it is told to.
 struct SilentFiles : WinFiles {
-    std::binary_semaphore answers{0};
+    // std::binary_semaphore of this library may sleep for ever (GCC bug 104928).
+    HANDLE answers = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     void visit(const std::wstring&, const std::function<void(const DirectoryEntry&)>&) override {
-        answers.acquire();
+        WaitForSingleObject(answers, INFINITE);
     }
 };
 
 class SearchOnAWindow : public testing::Test, private EventSink {
  protected:
     SearchOnAWindow() { window_->show(); }
-    ~SearchOnAWindow() override { files_->answers.release(); }
+    ~SearchOnAWindow() override { SetEvent(files_->answers); }
 
     /// A command searches until the other thread, which stands for the user, has the server answer
     /// or ends the search.
@@ -42,7 +42,7 @@ class SearchOnAWindow : public testing::Test, private EventSink {
                             [](const auto&, const auto&) {});
         });
     }
-    void answer() { files_->answers.release(); }
+    void answer() { SetEvent(files_->answers); }
     HWND dialog() const { return ownWindows().front(); }
     HWND item(int id) const { return GetDlgItem(dialog(), id); }
 
