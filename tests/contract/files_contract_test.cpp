@@ -29,16 +29,7 @@ TEST_F(FilesContract, TextIsReadBackAsItWasWritten) {
     EXPECT_EQ(namesIn(files, directory), Names{L"tarnwick.lst"});
 }
 
-TEST_F(FilesContract, CopyIsKeptInPlaceOfAnOlderOne) {
-    files.replaceText(path(L"tarnwick.lst"), L"0  c:\\été\r\n");
-    files.replaceText(path(L"copie.lst"), L"d'avant");
-    files.keepCopy(path(L"tarnwick.lst"), path(L"copie.lst"));
-    EXPECT_EQ(files.readText(path(L"copie.lst")), L"0  c:\\été\r\n");
-    EXPECT_EQ(raised([&] { files.keepCopy(path(L"absent.lst"), path(L"copie.lst")); }), 53);
-    EXPECT_EQ(namesIn(files, directory), (Names{L"copie.lst", L"tarnwick.lst"}));
-}
-
-TEST_F(FilesContract, RemovedFileIsGone) {
+TEST_F(FilesContract, RemovedOrMissingIsNotFound) {
     files.replaceText(path(L"tarnwick.lst"), L"");
     EXPECT_EQ(files.kindOf(path(L"tarnwick.lst")), PathKind::File);
     files.remove(path(L"tarnwick.lst"));
@@ -46,6 +37,9 @@ TEST_F(FilesContract, RemovedFileIsGone) {
     EXPECT_EQ(files.kindOf(path(L"absent\\tarnwick.lst")), PathKind::Nothing);
     EXPECT_EQ(files.kindOf(directory), PathKind::Directory);
     EXPECT_EQ(raised([&] { files.remove(path(L"tarnwick.lst")); }), 53);
+    EXPECT_EQ(raised([&] { files.readText(path(L"tarnwick.lst")); }), 53);
+    EXPECT_EQ(raised([&] { namesIn(files, path(L"absent")); }), 76);
+    EXPECT_EQ(raised([&] { files.identify(path(L"absent")); }), 76);
 }
 
 TEST_F(FilesContract, DirectoryIsVisitedEntryByEntry) {
@@ -63,12 +57,6 @@ TEST_F(FilesContract, DirectoryIsVisitedEntryByEntry) {
     EXPECT_EQ(namesIn(files, path(L"vide")), Names());
     EXPECT_EQ(namesIn(files, path(L"plein")), Names{L"b.SLDPRT"});
     EXPECT_EQ(namesIn(files, path(L"plein\\")), Names{L"b.SLDPRT"});
-}
-
-TEST_F(FilesContract, MissingFilesAndDirectoriesAreNotFound) {
-    EXPECT_EQ(raised([&] { files.readText(path(L"absent.lst")); }), 53);
-    EXPECT_EQ(raised([&] { namesIn(files, path(L"absent")); }), 76);
-    EXPECT_EQ(raised([&] { files.identify(path(L"absent")); }), 76);
 }
 
 TEST_F(FilesContract, DirectoryIsTheSameByEveryPathToIt) {

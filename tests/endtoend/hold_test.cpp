@@ -94,9 +94,6 @@ TEST_F(Hold, ListsOfTheirOwnAreOpenSideBySide) {
     app.CloseByFrame(kSelection);
     EXPECT_EQ(app.WaitForExit(), 0);
     EXPECT_TRUE(!Held("tarnwick.verrou") && Held("Été 2026.verrou"));
-
-    app.Start({"documents\\a.SLDPRT"});
-    EXPECT_NE(ExpectFatalError(5).find(InDirectory("documents\\a.SLDPRT")), std::string::npos);
 }
 
 TEST_F(Hold, ListOpenOnAnotherMachineIsLeftAlone) {

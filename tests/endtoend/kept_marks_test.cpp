@@ -1,8 +1,6 @@
 // Marks outlive whatever ends the program.
 
-#include "resume/existing_list_ids.h"
 #include "scenario.h"
-#include "selection/selection_ids.h"
 #include "tracking/tracking_ids.h"
 
 namespace driver {
@@ -73,48 +71,21 @@ TEST_F(KeptMarks, AreOfferedAfterAKillAndAfterTheSessionDied) {
     WaitUntilForgotten();
 }
 
-TEST_F(KeptMarks, AreForgottenByNoAndByALaunch) {
-    WriteListOf({"a.SLDDRW", "b.SLDDRW"});
-    cad.Start({"--working-directory", sandbox.Documents().string()});
-    StartAndResume();
-    app.Click(IDC_FORM3_CMDSUIV);
-    app.WaitForText(IDC_FORM3_TXTETAT, paths[1]);
-    app.CloseByFrame(kTracking);
-    EXPECT_EQ(app.WaitForExit(), 0);
-    EXPECT_TRUE(RecordThere());
-    Resume(Marked(1), IDNO);
-    app.WaitForText(IDC_FORM3_TXTETAT, paths[0]);
-    app.Click(IDC_FORM3_CMDSUIV);
-    app.WaitForText(IDC_FORM3_TXTETAT, paths[1]);
-    app.CloseByFrame(kTracking);
-    EXPECT_EQ(app.WaitForExit(), 0);
-
-    // The same list launched anew has the same bytes, but no marks.
-    app.Start();
-    app.Click(IDC_FORM2_CMDANNULE);
-    app.WaitForText(IDC_FORM1_CPTFICHIER, "2");
-    app.Click(IDC_FORM1_CMD_INV);
-    app.Click(IDC_FORM1_CMD_TRACER);
-    app.WaitForText(IDC_FORM3_TXTETAT, paths[0]);
-    app.Window(kTracking);
-    EXPECT_EQ(sandbox.ReadList(), ListOf({"0", "0"}));
-    app.CloseByFrame(kTracking);
-    EXPECT_EQ(app.WaitForExit(), 0);
-    WaitUntilForgotten();
-}
-
 TEST_F(KeptMarks, ADocumentThatStopsTheProgramCanBePassed) {
     WriteListOf({"a.SLDPRT", "b.SLDPRT", "c.SLDPRT"});
-    cad.Start({"--fail", "ActivateDoc2:1"});
+    std::filesystem::remove(paths[0]);
+    cad.Start({"--fail", "Save2"});
     StartAndResume();
-    ExpectFatalError(440);
+    ExpectFatalError(91);
     EXPECT_TRUE(RecordThere());
     Resume("Tarnwick s'est arrêté pendant l'ouverture de :\r\n" + paths[0] +
                "\r\nPasser au document suivant ?",
            IDYES);
     app.WaitForText(IDC_FORM3_TXTETAT, paths[1]);
-    app.Click(IDC_FORM3_CMDFICHIERLISTE);
-    ExpectList(ListOf({"0", "3", "0"}));
+    app.Click(IDC_FORM3_CMDSUIV);
+    const std::string text = ExpectFatalError(440);
+    EXPECT_NE(text.find("Save2"), std::string::npos) << "the session's own description: " << text;
+    EXPECT_EQ(sandbox.ReadList(), ListOf({"0", "0", "0"}));
 }
 
 }  // namespace

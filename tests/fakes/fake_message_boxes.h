@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <stdexcept>
 #include <vector>
 
@@ -10,8 +11,10 @@
 struct FakeMessageBoxes : MessageBoxes {
     std::vector<MessageBoxContent> shown;
     std::deque<Answer> answers;
+    std::function<void()> whileShown = [] {};
 
     Answer show(const MessageBoxContent& box) override {
+        whileShown();
         shown.push_back(box);
         if (!answers.empty()) {
             const Answer answer = answers.front();

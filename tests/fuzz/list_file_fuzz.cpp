@@ -7,20 +7,6 @@
 
 namespace {
 
-/// A table is big, so one serves many runs, which leave no trace but their texts. Those are let go
-/// of now and then.
-class ReusedList {
- public:
-    WorkList& operator()() {
-        if (++uses_ % 1000 == 0) list_ = WorkList();
-        return list_;
-    }
-
- private:
-    WorkList list_;
-    int uses_ = 0;
-};
-
 /// Whether a line survives a save: its code must fill the first columns and none else.
 bool survivesSave(const WorkLine& line) {
     if (line.reload) return line.code.size() == 1;
@@ -29,8 +15,7 @@ bool survivesSave(const WorkLine& line) {
 
 /// Saving has put a 1 before the codes of flagged lines, which reading takes off again.
 void requireSameAfterSave(WorkList& list) {
-    static ReusedList lists;
-    WorkList& reread = lists();
+    WorkList reread;
     std::string text;
     formatListFile(list, list.lineCount(), [&](std::string_view piece) { text += piece; });
     require(parseListFile(text, reread));
@@ -47,8 +32,7 @@ void requireSameAfterSave(WorkList& list) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static ReusedList lists;
-    WorkList& list = lists();
+    WorkList list;
     std::string text;
     appendUtf8(text, textOfBytes(data, size));
     bool found = false;

@@ -23,48 +23,43 @@ struct Answers : IdentityCalls {
         information = narrowAnswer;
         return true;
     }
-
-    DirectoryId id() {
-        DirectoryId result{};
-        EXPECT_TRUE(identify(nullptr, result, *this));
-        return result;
-    }
 };
 
-DirectoryId wideId(ULONGLONG volume, BYTE last) {
-    Answers answers;
-    answers.wideAnswer = FILE_ID_INFO{};
-    answers.wideAnswer->VolumeSerialNumber = volume;
-    answers.wideAnswer->FileId.Identifier[0] = 1;
-    answers.wideAnswer->FileId.Identifier[15] = last;
-    return answers.id();
+FILE_ID_INFO wide(ULONGLONG volume, BYTE first, BYTE last) {
+    FILE_ID_INFO id{.VolumeSerialNumber = volume, .FileId = {}};
+    id.FileId.Identifier[0] = first;
+    id.FileId.Identifier[15] = last;
+    return id;
 }
 
-DirectoryId narrowId(DWORD volume, DWORD high, DWORD low, std::optional<FILE_ID_INFO> wide = {}) {
+DirectoryId idFrom(std::optional<FILE_ID_INFO> wide, DWORD volume = 0, DWORD high = 0,
+                   DWORD low = 0) {
     Answers answers;
     answers.wideAnswer = wide;
     answers.narrowAnswer.dwVolumeSerialNumber = volume;
     answers.narrowAnswer.nFileIndexHigh = high;
     answers.narrowAnswer.nFileIndexLow = low;
-    return answers.id();
+    DirectoryId id{};
+    EXPECT_TRUE(identify(nullptr, id, answers));
+    return id;
 }
 
 }  // namespace
 
 TEST(DirectoryIdentity, TellsApartByAllBitsThatTheFileSystemHas) {
-    EXPECT_EQ(wideId(7, 2), wideId(7, 2));
-    EXPECT_FALSE(wideId(7, 2) == wideId(7, 3));
-    EXPECT_FALSE(wideId(7, 2) == wideId(1ULL << 40, 2));
-    EXPECT_EQ(narrowId(7, 1, 2), narrowId(7, 1, 2));
-    EXPECT_FALSE(narrowId(7, 1, 2) == narrowId(7, 2, 2));
-    EXPECT_FALSE(narrowId(7, 1, 2) == narrowId(8, 1, 2));
+    const DirectoryId one = idFrom(wide(7, 1, 2));
+    EXPECT_EQ(one, idFrom(wide(7, 1, 2)));
+    EXPECT_FALSE(one == idFrom(wide(7, 1, 3)) || one == idFrom(wide(1ULL << 40, 1, 2)));
+    const DirectoryId old = idFrom({}, 7, 1, 2);
+    EXPECT_EQ(old, idFrom({}, 7, 1, 2));
+    EXPECT_FALSE(old == idFrom({}, 7, 2, 2) || old == idFrom({}, 8, 1, 2));
 }
 
 TEST(DirectoryIdentity, AsksTheOldWayWhereTheNewIdentityIsNoneOrAllBits) {
     for (const BYTE filler : {BYTE{0}, BYTE{0xFF}}) {
         FILE_ID_INFO none{};
         std::ranges::fill(none.FileId.Identifier, filler);
-        EXPECT_FALSE(narrowId(7, 1, 2, none) == narrowId(7, 1, 3, none));
+        EXPECT_FALSE(idFrom(none, 7, 1, 2) == idFrom(none, 7, 1, 3));
     }
 }
 

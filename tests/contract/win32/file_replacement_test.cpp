@@ -5,15 +5,15 @@
 #include <gtest/gtest.h>
 
 #include "contract/machine.h"
-#include "platform/win32/process/unique.h"
 #include "unit/raised.h"
 
 namespace {
 
-/// Lets its Nth call fail with a given Windows error.
+/// Lets its Nth call, and so many in all, fail with a given Windows error.
 class FailingCalls : public FileCalls {
  public:
-    FailingCalls(int failing, DWORD error) : failing_(failing), error_(error) {}
+    FailingCalls(int failing, DWORD error, int times = 1)
+        : failing_(failing), error_(error), times_(times) {}
 
     HANDLE create(const std::wstring& path) override {
         return fails() ? INVALID_HANDLE_VALUE : FileCalls::create(path);
@@ -30,32 +30,15 @@ class FailingCalls : public FileCalls {
 
  private:
     bool fails() {
-        if (++calls_ != failing_) return false;
+        if (++calls_ < failing_ || calls_ >= failing_ + times_) return false;
         SetLastError(error_);
         return true;
     }
 
     int failing_;
     DWORD error_;
+    int times_;
     int calls_ = 0;
-};
-
-/// The file is open elsewhere until the third attempt to move over it.
-class ReadByAnother : public FileCalls {
- public:
-    explicit ReadByAnother(const std::wstring& file)
-        : reader_(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                              0, nullptr)) {}
-
-    bool move(const std::wstring& from, const std::wstring& to) override {
-        if (++moves == 3) reader_.reset(INVALID_HANDLE_VALUE);
-        return FileCalls::move(from, to);
-    }
-
-    int moves = 0;
-
- private:
-    UniqueHandle reader_;
 };
 
 const WriteContent kNew = [](const ByteSink& file) { file("nouveau"); };
@@ -87,8 +70,8 @@ TEST_F(FileReplacement, LeavesTheOldFileWhicheverCallFails) {
 
 TEST_F(FileReplacement, TriesAgainWhileAnotherProgramReadsTheFile) {
     files.replaceText(file, L"ancien");
-    ReadByAnother calls(file);
+    FailingCalls calls(4, ERROR_SHARING_VIOLATION, 2);
     replaceFile(file, kNew, calls);
     EXPECT_EQ(files.readText(file), L"nouveau");
-    EXPECT_EQ(calls.moves, 3);
+    EXPECT_EQ(calls.calls(), 6);
 }

@@ -14,11 +14,6 @@ const ListHolder kZoe{L"zoé", L"PC-2"};
 
 class HoldFileTest : public testing::Test {
  protected:
-    UniqueHandle open(DWORD access, DWORD how, DWORD sharing) const {
-        return UniqueHandle(CreateFileW(path.c_str(), access, sharing, nullptr, how,
-                                        FILE_ATTRIBUTE_NORMAL, nullptr));
-    }
-
     ScratchDirectory directory;
     std::wstring path = directory.path() + L"\\liste.verrou";
 };
@@ -38,23 +33,20 @@ TEST_F(HoldFileTest, BelongsToOneAndGoesWithIt) {
 }
 
 TEST_F(HoldFileTest, LeftOverIsTakenOverOnceNobodyReadsIt) {
-    open(GENERIC_WRITE, CREATE_NEW, 0).reset();
-    HoldFile file(path);
-    {
-        const UniqueHandle backup = open(GENERIC_READ, OPEN_EXISTING, FILE_SHARE_READ);
-        EXPECT_EQ(file.take(kJean), HoldFileState::Busy);
-    }
-    EXPECT_EQ(file.take(kJean), HoldFileState::Ours);
-    // What reads along shares all.
-    EXPECT_EQ(HoldFile(path).holder(), kJean);
-}
-
-TEST_F(HoldFileTest, NamesOfAnyBytesAreRead) {
-    const UniqueHandle held = open(GENERIC_READ | GENERIC_WRITE, CREATE_ALWAYS, FILE_SHARE_READ);
-    EXPECT_EQ(HoldFile(path).take(kJean), HoldFileState::Theirs);
-    EXPECT_EQ(HoldFile(path).holder(), ListHolder());
+    const auto open = [&](DWORD access, DWORD how) {
+        return UniqueHandle(
+            CreateFileW(path.c_str(), access, FILE_SHARE_READ, nullptr, how, 0, nullptr));
+    };
+    UniqueHandle other = open(GENERIC_READ | GENERIC_WRITE, CREATE_NEW);
     const std::string bytes = "\xFF\xFE" + std::string(5000, 'x');
     DWORD written = 0;
-    WriteFile(held.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-    EXPECT_FALSE(HoldFile(path).holder().user.empty());
+    WriteFile(other.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    HoldFile file(path);
+    EXPECT_EQ(file.take(kJean), HoldFileState::Theirs);
+    EXPECT_FALSE(file.holder().user.empty()) << "whatever bytes it is named by";
+    other.reset();
+    other = open(GENERIC_READ, OPEN_EXISTING);
+    EXPECT_EQ(file.take(kJean), HoldFileState::Busy);
+    other.reset();
+    EXPECT_EQ(file.take(kJean), HoldFileState::Ours);
 }

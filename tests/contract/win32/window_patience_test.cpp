@@ -30,7 +30,7 @@ struct SilentFiles : WinFiles {
 class SearchOnAWindow : public testing::Test, private EventSink {
  protected:
     SearchOnAWindow() { window_->show(); }
-    ~SearchOnAWindow() override { SetEvent(files_->answers); }
+    ~SearchOnAWindow() override { answer(); }
 
     /// A command searches until the other thread, which stands for the user, has the server answer
     /// or ends the search.

@@ -18,14 +18,6 @@ namespace {
 
 constexpr int kLines = 200;
 
-/// What a user sees of a list box, and can tell by the keyboard.
-struct Look {
-    std::vector<std::wstring> lines;
-    std::vector<int> selection;
-    LRESULT top;
-    bool operator==(const Look&) const = default;
-};
-
 class WorkListDrawing : public testing::Test {
  protected:
     /// A list drawn at depth 0 with some lines selected, scrolled, then changed in two lines.
@@ -54,11 +46,11 @@ class WorkListDrawing : public testing::Test {
         }
     }
 
-    Look look() const {
-        Look look{{}, {}, SendMessageW(handle, LB_GETTOPINDEX, 0, 0)};
+    /// What a user sees of the list, and can tell by the keyboard.
+    std::vector<std::wstring> look() const {
+        std::vector look{std::to_wstring(SendMessageW(handle, LB_GETTOPINDEX, 0, 0))};
         for (int i = 0; i < list.count(); ++i) {
-            look.lines.push_back(list.line(i));
-            if (list.selected(i)) look.selection.push_back(i);
+            look.push_back((list.selected(i) ? L"* " : L"  ") + list.line(i));
         }
         return look;
     }
@@ -77,7 +69,7 @@ TEST_F(WorkListDrawing, LooksAsIfEachLineHadBeenReplaced) {
         for (const int top : {0, 1, 50, 95, 101, kLines - 30, kLines - 1}) {
             prepare(top);
             replaceEachLine(depth);
-            const Look wanted = look();
+            const auto wanted = look();
             prepare(top);
             view.update(work, depth);
             EXPECT_TRUE(look() == wanted) << "from line " << top << " at depth " << depth;

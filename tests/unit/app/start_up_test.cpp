@@ -21,12 +21,7 @@ class StartUp : public testing::Test {
     /// The error of a start with these files named on the command line.
     RuntimeError failure(const std::vector<std::wstring>& namedFiles = {}) {
         machine.platform.namedFiles = namedFiles;
-        try {
-            Program(machine.platform).start();
-        } catch (const RuntimeError& error) {
-            return error;
-        }
-        return {0, L""};
+        return raisedError([&] { Program(machine.platform).start(); });
     }
 
     FakePlatform machine;

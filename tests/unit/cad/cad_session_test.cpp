@@ -57,13 +57,9 @@ TEST_F(CadSessionTest, FailuresNameTheDocument) {
         [&] { session.bringForward(); },
     };
     for (const auto& call : calls) {
-        try {
-            call();
-            ADD_FAILURE();
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.number, 91);
-            EXPECT_TRUE(error.text.ends_with(L"\r\nDocument : c:\\été\\a.SLDPRT"));
-        }
+        const RuntimeError error = raisedError(call);
+        EXPECT_EQ(error.number, 91);
+        EXPECT_TRUE(error.text.ends_with(L"\r\nDocument : c:\\été\\a.SLDPRT"));
     }
     EXPECT_TRUE(desktop.broughtForward.empty());
 }

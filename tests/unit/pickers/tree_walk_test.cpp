@@ -9,7 +9,6 @@
 #include "fakes/fake_files.h"
 #include "fakes/fake_patience.h"
 #include "fakes/joining_workers.h"
-#include "pickers/open_directories.h"
 
 namespace {
 
@@ -33,31 +32,6 @@ Log logOf(const Walk& walk) {
     }
     return log;
 }
-
-/// The walk as it is meant, one directory after the other.
-class PlainWalk {
- public:
-    PlainWalk(Files& files, const DirectoryVisitor& visit)
-        : files_(files),
-          visit_(visit),
-          open_([&](const auto& path) { return files.identify(path); }) {}
-
-    void run(const std::wstring& directory) {
-        const DirectoryContents contents = listContents(files_, directory, isPart);
-        visit_(directory, contents.files);
-        open_.enter(directory);
-        for (const Subdirectory& below : contents.subdirectories) {
-            const std::wstring path = childPath(directory, below.name);
-            if (!below.isLink || !open_.leadsBack(path)) run(path);
-        }
-        open_.leave();
-    }
-
- private:
-    Files& files_;
-    const DirectoryVisitor& visit_;
-    OpenDirectories open_;
-};
 
 class RandomTree {
  public:
@@ -98,20 +72,20 @@ class RandomTree {
 class TreeWalk : public testing::Test {
  protected:
     /// All workers are waited for.
-    WalkEnd walk(Log& log) {
-        JoiningWorkers workers;
+    WalkEnd walk(Workers& workers) {
         return walkTree(
             {files, workers, patience}, L"c:\\r", true, isPart,
             [&](const auto& directory, const auto& names) { note(log, directory, names); });
     }
 
+    Log log;
     FakeFiles files;
     FakePatience patience;
 };
 
 }  // namespace
 
-TEST(TreeWalks, MeetWhatAPlainWalkMeetsAndFailWhereItFails) {
+TEST(TreeWalks, MeetWhatOneThreadMeetsAndFailWhereItFails) {
     for (unsigned seed = 0; seed < 200; ++seed) {
         RandomTree tree(seed);
         const auto visitor = [&](Log& log) {
@@ -121,22 +95,22 @@ TEST(TreeWalks, MeetWhatAPlainWalkMeetsAndFailWhereItFails) {
                 if (left-- == 0) throw errors::subscriptOutOfRange();
             };
         };
-        const Log plain = logOf([&](Log& log) {
-            const DirectoryVisitor visit = visitor(log);
-            PlainWalk(tree.files, visit).run(L"c:\\r");
-        });
+        const auto logWith = [&](Workers& workers) {
+            return logOf([&](Log& log) {
+                FakePatience patience;
+                EXPECT_EQ(
+                    walkTree({tree.files, workers, patience}, L"c:\\r", true, isPart, visitor(log)),
+                    WalkEnd::Complete);
+            });
+        };
+        NoWorkers alone;
+        const Log expected = logWith(alone);
         tree.files.beforeEach = [&](const std::wstring& directory) {
             std::this_thread::sleep_for(std::chrono::microseconds(directory.size() * (seed % 7)));
         };
-        const Log ahead = logOf([&](Log& log) {
-            FakePatience patience;
-            JoiningWorkers workers;
-            workers.refusedEach = seed % 3 == 0 ? 1 + static_cast<int>(seed / 3) : 1 << 30;
-            EXPECT_EQ(
-                walkTree({tree.files, workers, patience}, L"c:\\r", true, isPart, visitor(log)),
-                WalkEnd::Complete);
-        });
-        ASSERT_EQ(ahead, plain) << "seed " << seed;
+        JoiningWorkers workers;
+        workers.refusedEach = seed % 3 == 0 ? 1 + static_cast<int>(seed / 3) : 1 << 30;
+        ASSERT_EQ(logWith(workers), expected) << "seed " << seed;
     }
 }
 
@@ -156,13 +130,9 @@ TEST_F(TreeWalk, EndsWhenItIsToldAlthoughAServerDoesNotAnswer) {
             answer.wait();
         };
         patience.goesOn = [&] { return !asked; };
-        Log log;
+        log.clear();
         JoiningWorkers hanging;
-        const auto visitor = [&](const auto& directory, const auto& names) {
-            note(log, directory, names);
-        };
-        EXPECT_EQ(walkTree({files, hanging, patience}, L"c:\\r", true, isPart, visitor),
-                  WalkEnd::Interrupted);
+        EXPECT_EQ(walk(hanging), WalkEnd::Interrupted);
         answer.count_down();
         // As far as it came; the workers may have asked before the walk had come that far.
         const Log all = {L"c:\\r", L"c:\\r\\a", L"1.SLDPRT", L"c:\\r\\b", L"2.SLDPRT"};
@@ -177,6 +147,6 @@ TEST_F(TreeWalk, LetsThroughWhatThePatienceRaises) {
     files.beforeEach = [](const std::wstring&) {
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     };
-    Log log;
-    EXPECT_THROW(walk(log), ProgramEnd);
+    JoiningWorkers workers;
+    EXPECT_THROW(walk(workers), ProgramEnd);
 }

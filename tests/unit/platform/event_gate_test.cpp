@@ -19,14 +19,6 @@ struct FakeKeeper : GateKeeper {
     void quit(int exitCode) override { quits.push_back(exitCode); }
 };
 
-struct BoxesThatWait : FakeMessageBoxes {
-    std::function<void()> whileShown = [] {};
-    Answer show(const MessageBoxContent& box) override {
-        whileShown();
-        return FakeMessageBoxes::show(box);
-    }
-};
-
 struct FakeSource : EventSource {
     bool shown = true;
     bool usable = true;
@@ -48,7 +40,7 @@ struct FakeSink : EventSink {
 
 struct EventGateTest : testing::Test {
     FakeKeeper keeper;
-    BoxesThatWait boxes;
+    FakeMessageBoxes boxes;
     EventGate gate{keeper, boxes};
     FakeSource source;
     FakeSink sink;
@@ -148,7 +140,7 @@ TEST(EventGateEnds, WithTheNumberOfWhateverIsThrown) {
         for (const bool outsideHandlers : {false, true}) {
             for (const bool noBox : {false, true}) {
                 FakeKeeper keeper;
-                BoxesThatWait boxes;
+                FakeMessageBoxes boxes;
                 if (noBox) boxes.whileShown = [] { throw std::bad_alloc(); };
                 EventGate gate(keeper, boxes);
                 outsideHandlers ? gate.guard(c.action) : gate.run(c.action);

@@ -82,17 +82,21 @@ TEST(HoldProtocol, FindsOutWhoHasAList) {
 
 TEST(HoldProtocol, TellsAHeldFileFromOneThatCannotBeWritten) {
     constexpr std::uint32_t kNotFound = 2, kDenied = 5, kShared = 32, kWriteProtected = 19;
-    EXPECT_EQ(holdFileState(0, 0), HoldFileState::Ours);
-    EXPECT_EQ(holdFileState(kShared, kShared), HoldFileState::Theirs);
-    EXPECT_EQ(holdFileState(kDenied, kShared), HoldFileState::Theirs)
-        << "another user's, in a directory "
-           "where each may write his own";
-    EXPECT_EQ(holdFileState(kShared, 0), HoldFileState::Busy) << "a reader has it";
-    EXPECT_EQ(holdFileState(kShared, kNotFound), HoldFileState::Busy) << "gone meanwhile";
-    EXPECT_EQ(holdFileState(kDenied, kDenied), HoldFileState::Busy) << "about to go";
-    EXPECT_EQ(holdFileState(kDenied, kNotFound), HoldFileState::Unusable);
-    EXPECT_EQ(holdFileState(kDenied, 0), HoldFileState::Unusable) << "left over, another user's";
-    EXPECT_EQ(holdFileState(kWriteProtected, kNotFound), HoldFileState::Unusable);
+    using enum HoldFileState;
+    const struct {
+        std::uint32_t creating, looking;
+        HoldFileState state;
+        const char* what;
+    } cases[] = {{0, 0, Ours, ""},
+                 {kShared, kShared, Theirs, ""},
+                 {kDenied, kShared, Theirs, "another user's, where each may write his own"},
+                 {kShared, 0, Busy, "a reader has it"},
+                 {kShared, kNotFound, Busy, "gone meanwhile"},
+                 {kDenied, kDenied, Busy, "about to go"},
+                 {kDenied, kNotFound, Unusable, ""},
+                 {kDenied, 0, Unusable, "left over, another user's"},
+                 {kWriteProtected, kNotFound, Unusable, ""}};
+    for (const auto& c : cases) EXPECT_EQ(holdFileState(c.creating, c.looking), c.state) << c.what;
 }
 
 TEST(HoldProtocol, OneNameForEveryPathToAList) {

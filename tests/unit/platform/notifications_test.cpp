@@ -13,11 +13,9 @@ TEST(Notification, StandsForTheEventOfItsControl) {
     EXPECT_EQ(eventOf(controlClass(L"ListBox"), kListDoubleClicked, true), Event::DoubleClick);
     EXPECT_EQ(eventOf(controlClass(L"ComboBox"), kComboTextEdited, true), Event::Change);
     EXPECT_EQ(eventOf(controlClass(L"ComboBox"), kListDoubleClicked, true), std::nullopt);
+    EXPECT_EQ(controlClass(L"SysTabControl32"), ControlClass::TabStrip);
     EXPECT_EQ(eventOf(controlClass(L"Static"), kButtonClicked, true), std::nullopt);
-}
-
-TEST(Notification, EndsTypingOnlyWhenTheFocusStaysInTheWindow) {
-    using namespace notification;
+    // Typing ends only when the focus stays in the window.
     EXPECT_EQ(eventOf(ControlClass::ComboBox, kComboFocusLost, true), Event::Validate);
     EXPECT_EQ(eventOf(ControlClass::ComboBox, kComboFocusLost, false), std::nullopt);
 }

@@ -82,6 +82,12 @@ TEST_F(SelectionSearch, AsksBeforeAWholeDriveIsSearched) {
         tick(true);
         chooseDrive(1);
     };
+    const auto rebuildAtRoot = [&] {
+        tickAtRoot();
+        type(L"SLDDRW");
+        leaveTypes();
+        chooseType(0);
+    };
     const struct {
         const char* what;
         std::function<void()> act;
@@ -93,6 +99,7 @@ TEST_F(SelectionSearch, AsksBeforeAWholeDriveIsSearched) {
         {"open", openRoot, {kYes}},
         {"drive", changeToRoot, {kYes, kYes}},
         {"drive, no the second time", changeToRoot, {kYes, kNo}},
+        {"at every rebuild", rebuildAtRoot, {kYes, kYes, kYes, kYes, kNo}},
     };
     const Lines whole = {L"d:\\\\b.SLDDRW", L"d:\\doc\\d.SLDDRW"};
     for (const auto& c : cases) {
@@ -103,6 +110,10 @@ TEST_F(SelectionSearch, AsksBeforeAWholeDriveIsSearched) {
         EXPECT_EQ(ticked(), c.answers.back() == kYes) << c.what;
         EXPECT_EQ(unchosen(), ticked() ? whole : Lines{L"b.SLDDRW"}) << c.what;
     }
+    leaveTypes();
+    openDirectory(L"doc");
+    tick(true);
+    EXPECT_EQ(machine.boxes.shown.size(), 5U) << "no question elsewhere";
     const MessageBoxContent& box = machine.boxes.shown.front();
     EXPECT_EQ(box.title, L"Tarnwick Mervale");
     EXPECT_EQ(box.text,
@@ -131,21 +142,4 @@ TEST_F(SelectionSearch, ListsWhatWasFoundWhenItIsStoppedOrBegunAgain) {
     type(L"*.SLDDRW");
     EXPECT_EQ(unchosen(), found);
     EXPECT_EQ(machine.boxes.shown.size(), 1U);
-}
-
-TEST_F(SelectionSearch, AsksAgainAtEveryRebuildOfAWholeDrive) {
-    load(L"d:\\");
-    machine.boxes.answers = {kYes, kYes, kYes, kYes, kNo};
-    tick(true);
-    type(L"SLDDRW");
-    leaveTypes();
-    EXPECT_EQ(machine.boxes.shown.size(), 4U);
-    chooseType(0);
-    EXPECT_EQ(machine.boxes.shown.size(), 5U);
-    EXPECT_FALSE(ticked());
-    EXPECT_EQ(unchosen(), Lines{L"b.SLDDRW"});
-    leaveTypes();
-    openDirectory(L"doc");
-    tick(true);
-    EXPECT_EQ(machine.boxes.shown.size(), 5U);
 }

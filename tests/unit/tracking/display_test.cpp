@@ -6,32 +6,19 @@ using Lines = std::vector<std::wstring>;
 TEST_F(Display, OfANewListShowsAllLinesButTheFirstAsToDo) {
     load(L"1  c:\\a\r\n0  c:\\b\r\n2  c:\\c\r\n0  c:\\d\r\n",
          TrackingWindow::Origin::LaunchedAfterDeclining);
-    EXPECT_EQ(list().texts(), (Lines{
-                                  L"0001   Fait          c:\\a",
-                                  L"0002                c:\\b",
-                                  L"0003                c:\\c",
-                                  L"0004                c:\\d",
-                              }));
+    EXPECT_EQ(list().texts(), (Lines{L"0001   Fait          c:\\a", L"0002                c:\\b",
+                                     L"0003                c:\\c", L"0004                c:\\d"}));
     // The next redraw shows the states.
     click(IDC_FORM3_CMDSUIVQUITTER);
-    EXPECT_EQ(list().texts(), (Lines{
-                                  L"0001   Fait          c:\\a",
-                                  L"0002   Vu            c:\\b",
-                                  L"0003   Vu            c:\\c",
-                                  L"0004   EnCours  c:\\d",
-                              }));
+    EXPECT_EQ(list().texts(), (Lines{L"0001   Fait          c:\\a", L"0002   Vu            c:\\b",
+                                     L"0003   Vu            c:\\c", L"0004   EnCours  c:\\d"}));
 }
 
 TEST_F(Display, OfAnUnknownStateTakesTheLabelAbove) {
     load(L"5  c:\\a\r\n1  c:\\b\r\n7  c:\\c\r\nx  c:\\d\r\n0  c:\\e\r\n6  c:\\f\r\n");
-    EXPECT_EQ(list().texts(), (Lines{
-                                  L"0001  c:\\a",
-                                  L"0002   Fait          c:\\b",
-                                  L"0003   Fait          c:\\c",
-                                  L"0004   Fait          c:\\d",
-                                  L"0005   EnCours  c:\\e",
-                                  L"0006   EnCours  c:\\f",
-                              }));
+    EXPECT_EQ(list().texts(), (Lines{L"0001  c:\\a", L"0002   Fait          c:\\b",
+                                     L"0003   Fait          c:\\c", L"0004   Fait          c:\\d",
+                                     L"0005   EnCours  c:\\e", L"0006   EnCours  c:\\f"}));
     // And changes with it.
     click(IDC_FORM3_CMDSUIVQUITTER);
     EXPECT_EQ(list().texts()[5], L"0006   Vu            c:\\f");

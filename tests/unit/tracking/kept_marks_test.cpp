@@ -1,3 +1,4 @@
+#include "unit/raised.h"
 #include "unit/tracking/tracking_window_fixture.h"
 
 namespace {
@@ -55,10 +56,11 @@ TEST_F(Resuming, OffersTheMarksThatWereKept) {
     EXPECT_EQ(states(), L"3 0 0 0 0");
     EXPECT_FALSE(recordThere());
     EXPECT_EQ(restart({}), Texts());
-}
-
-TEST_F(Resuming, SavingTheListLeavesNothingToOffer) {
-    loadStates(L"00000");
+    // Neither a save nor a launch of the same list leaves anything to offer.
+    click(IDC_FORM3_CMDSUIV);
+    start(TrackingWindow::Origin::Launched);
+    EXPECT_FALSE(recordThere());
+    EXPECT_EQ(states(), L"3 0 0 0 0");
     click(IDC_FORM3_CMDSUIV);
     click(IDC_FORM3_CMDFICHIERLISTE);
     EXPECT_FALSE(recordThere());
@@ -79,12 +81,8 @@ TEST_F(Resuming, LeavesTheRecordAtEveryEndAndSaysSoWhenOneIsAnError) {
     machine.boxes.answers = {kYes};
     dieOpening(L"c");
     start();
-    try {
-        click(IDC_FORM3_CMDSUIV);
-        ADD_FAILURE();
-    } catch (const RuntimeError& error) {
-        EXPECT_NE(error.text.find(L"\r\nDocument : c:\\c\r\nLes marques"), std::wstring::npos);
-    }
+    const std::wstring failure = raisedError([&] { click(IDC_FORM3_CMDSUIV); }).text;
+    EXPECT_NE(failure.find(L"\r\nDocument : c:\\c\r\nLes marques"), std::wstring::npos);
 }
 
 TEST_F(Resuming, GoesPastADocumentThatStopsTheProgramOrOpensItAgain) {

@@ -40,6 +40,8 @@ TEST_F(Leaving, ListFileHasAsManyLinesAsTheCounterShows) {
 
 TEST_F(Leaving, ListFileIsWholeAfterALoadThatEndsTheList) {
     loadStates(L"12");
+    EXPECT_FALSE(canAdvance());
+    EXPECT_TRUE(canStepBack() && cad().hasOpen(L""));
     click(IDC_FORM3_CMDFICHIERLISTE);
     EXPECT_EQ(listFile(), L"1  c:\\a\r\n2  c:\\b\r\n");
 }

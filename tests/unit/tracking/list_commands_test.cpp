@@ -26,14 +26,24 @@ class ListCommands : public TrackingFixture {
     /// That this line is the current one in every place that shows it.
     void expectCurrent(int index) {
         const std::wstring path = wideText(work().lines[index].path);
-        EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), std::to_wstring(index));
-        EXPECT_EQ(text(IDC_FORM3_NBFICH1), std::to_wstring(index + 1));
-        EXPECT_EQ(text(IDC_FORM3_CPTFICHIER1), std::to_wstring(work().last + 1));
-        EXPECT_EQ(text(IDC_FORM3_TXTETAT), path);
+        EXPECT_EQ(shown(), std::to_wstring(index) + L": " + std::to_wstring(index + 1) + L'/' +
+                               std::to_wstring(work().last + 1) + L' ' + path);
         EXPECT_EQ(list().selection(), std::vector{index});
         EXPECT_EQ(list().count(), work().last + 1);
         EXPECT_TRUE(list().line(index).ends_with(path));
         EXPECT_TRUE(cad().hasOpen(path));
+    }
+
+    /// Two buttons have a text of their own, by one letter.
+    void expectWantsALine(int button) {
+        const bool other = button == IDC_FORM3_CMDCHARAZ || button == IDC_FORM3_CMDREPA;
+        select({});
+        click(button);
+        const MessageBoxContent& box = machine.boxes.shown.back();
+        EXPECT_EQ(box.text, std::wstring(L"Pour cette fonction , il faut avoir sélectionn") +
+                                (other ? L"er" : L"é") + L" au moins une ligne ");
+        EXPECT_EQ(box.title, L"Manque sélection ");
+        expectHelp(box);
     }
 
     void expectHelp(const MessageBoxContent& box) {
@@ -45,38 +55,34 @@ class ListCommands : public TrackingFixture {
 const struct {
     int button;
     bool needsSelection;
-    const wchar_t* text;
+    const wchar_t* what;
     const wchar_t* title;
 } kQuestions[] = {
-    {IDC_FORM3_CMDCHAF, true,
-     L"Voulez vous vraiment passer les lignes sélectionnées \n\ren mode 'Fait'",
+    {IDC_FORM3_CMDCHAF, true, L"passer les lignes sélectionnées \n\ren mode 'Fait'",
      L"Passage en mode 'F'"},
-    {IDC_FORM3_CMDCHAV, true,
-     L"Voulez vous vraiment passer les lignes sélectionnées \n\ren mode 'Vu'",
+    {IDC_FORM3_CMDCHAV, true, L"passer les lignes sélectionnées \n\ren mode 'Vu'",
      L"Passage en mode 'V'"},
-    {IDC_FORM3_CMDCHARAZ, true,
-     L"Voulez vous vraiment passer les lignes sélectionnées \n\ren mode 'à traiter'",
+    {IDC_FORM3_CMDCHARAZ, true, L"passer les lignes sélectionnées \n\ren mode 'à traiter'",
      L"Passage en mode 'A Traiter'"},
     {IDC_FORM3_CMDELIF, true,
-     L"Voulez vous vraiment supprimer les fichiers marqués 'F' \n\r"
+     L"supprimer les fichiers marqués 'F' \n\r"
      L"parmi les lignes sélectionnées",
      L"Elimination 'F' et 'V' "},
     {IDC_FORM3_CMDELIFV, true,
-     L"Voulez vous vraiment supprimer les fichiers marqués 'F' et 'V'\n\r"
+     L"supprimer les fichiers marqués 'F' et 'V'\n\r"
      L"parmi les lignes sélectionnées",
      L"Elimination 'F' et 'V' "},
     {IDC_FORM3_CMDELIV, true,
-     L"Voulez vous vraiment supprimer les fichiers marqués 'V'\n\rparmi les lignes sélectionnées",
-     L"Elimination 'V' "},
+     L"supprimer les fichiers marqués 'V'\n\rparmi les lignes sélectionnées", L"Elimination 'V' "},
     {IDC_FORM3_CMDPURGE, false,
-     L"Voulez vous vraiment supprimer tous les fichiers marqués 'F' et 'V'\n\r"
+     L"supprimer tous les fichiers marqués 'F' et 'V'\n\r"
      L"sans tenir compte des lignes sélectionnées ? ",
      L"Elimination 'F' et 'V' "},
 };
 
 }  // namespace
 
-TEST_F(ListCommands, AskFirstAndDoNothingWhenTheAnswerIsNo) {
+TEST_F(ListCommands, WantALineAskFirstAndDoNothingWhenTheAnswerIsNo) {
     loadStates(L"10201");
     for (const auto& q : kQuestions) {
         select(q.needsSelection ? std::vector{0, 2, 3} : std::vector<int>{});
@@ -86,7 +92,7 @@ TEST_F(ListCommands, AskFirstAndDoNothingWhenTheAnswerIsNo) {
         click(q.button);
         ASSERT_EQ(machine.boxes.shown.size(), 1U) << q.title;
         const MessageBoxContent& box = machine.boxes.shown.front();
-        EXPECT_EQ(box.text, q.text);
+        EXPECT_EQ(box.text, std::wstring(L"Voulez vous vraiment ") + q.what);
         EXPECT_EQ(box.title, q.title);
         EXPECT_EQ(box.buttons, MessageBoxContent::Buttons::YesNo) << q.title;
         EXPECT_EQ(box.icon, MessageBoxContent::Icon::Stop) << q.title;
@@ -95,27 +101,9 @@ TEST_F(ListCommands, AskFirstAndDoNothingWhenTheAnswerIsNo) {
         EXPECT_EQ(states(), L"1 3 2 0 1") << q.title;
         EXPECT_EQ(list().selection(), selected) << q.title;
         EXPECT_EQ(takeCalls(), CallJournal()) << q.title;
+        if (q.needsSelection) expectWantsALine(q.button);
     }
-}
-
-TEST_F(ListCommands, WantALineSelected) {
-    // Two buttons have a text of their own, by one letter.
-    const std::pair<int, const wchar_t*> cases[] = {
-        {IDC_FORM3_CMDCHAF, L"é"},  {IDC_FORM3_CMDCHAV, L"é"}, {IDC_FORM3_CMDELIF, L"é"},
-        {IDC_FORM3_CMDELIFV, L"é"}, {IDC_FORM3_CMDELIV, L"é"}, {IDC_FORM3_CMDCHARAZ, L"er"},
-        {IDC_FORM3_CMDREPA, L"er"}};
-    loadStates(L"10201");
-    select({});
-    for (const auto& [button, ending] : cases) {
-        machine.boxes.shown.clear();
-        click(button);
-        ASSERT_EQ(machine.boxes.shown.size(), 1U) << button;
-        const MessageBoxContent& box = machine.boxes.shown.front();
-        EXPECT_EQ(box.text, std::wstring(L"Pour cette fonction , il faut avoir sélectionn") +
-                                ending + L" au moins une ligne ");
-        EXPECT_EQ(box.title, L"Manque sélection ");
-        expectHelp(box);
-    }
+    expectWantsALine(IDC_FORM3_CMDREPA);
     EXPECT_EQ(states(), L"1 3 2 0 1");
 }
 
@@ -150,13 +138,18 @@ TEST_F(ListCommands, ChangeOrRemoveLinesAndKeepTheCurrentOneOpen) {
 
 TEST_F(ListCommands, WithNothingLeftToDoThePassIsOver) {
     loadStates(L"000");
-    for (int i = 0; i < 3; ++i) click(IDC_FORM3_CMDSUIV);
+    click(IDC_FORM3_CMDSUIV);
+    click(IDC_FORM3_CMDSUIV);
+    takeCalls();
+    click(IDC_FORM3_CMDSUIV);
+    EXPECT_EQ(takeCalls(), (CallJournal{L"c.save2(True)", L"closedoc(\"c:\\c\")"}));
+    EXPECT_EQ(shown(), L"3: 3/3 Aucun");
+    EXPECT_EQ(list().texts()[2], L"0003   Fait          c:\\c");
+    EXPECT_TRUE(list().selection().empty() && canStepBack() && cad().hasOpen(L""));
     command(IDC_FORM3_CMDELIF, {0, 2});
     EXPECT_EQ(states(), L"1");
     EXPECT_FALSE(canAdvance());
-    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"Aucun");
-    EXPECT_EQ(text(IDC_FORM3_NBFICH1), L"3");
-    EXPECT_EQ(text(IDC_FORM3_CPTFICHIER1), L"1");
+    EXPECT_EQ(shown().substr(2), L" 3/1 Aucun");
     click(IDC_FORM3_CMDFICHIERLISTE);
     EXPECT_EQ(listFile(), L"1  c:\\b\r\n");
     command(IDC_FORM3_CMDPURGE, {});

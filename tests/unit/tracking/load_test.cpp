@@ -11,21 +11,6 @@ TEST_F(Load, PutsTheWindowInItsPlaceAndHidesWhatIsNotForTheUser) {
     EXPECT_EQ(text(IDC_FORM3_NNIVEAU1), L"0");
 }
 
-TEST_F(Load, OpensTheDocumentItStartsAtOrStandsAtTheEnd) {
-    const struct {
-        const wchar_t* codes;
-        const wchar_t* pointer;
-        bool opened;
-    } cases[] = {{L"1200", L"2", true}, {L"120", L"3", false}};
-    for (const auto& c : cases) {
-        loadStates(c.codes);
-        EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), c.pointer) << c.codes;
-        EXPECT_EQ(!cad().hasOpen(L""), c.opened) << c.codes;
-        EXPECT_EQ(canAdvance(), c.opened) << c.codes;
-        EXPECT_TRUE(canStepBack()) << c.codes;
-    }
-}
-
 TEST_F(Load, TicksTheOptionsThatWereSaved) {
     const std::pair<const wchar_t*, std::wstring> cases[] = {
         {L"0101", L"0101"}, {L"", L"0000"}, {L"11", L"1100"}, {L"21x1", L"0101"}};

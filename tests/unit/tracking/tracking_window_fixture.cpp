@@ -35,6 +35,11 @@ void TrackingFixture::loadStates(const std::wstring& codes) {
     takeCalls();
 }
 
+std::wstring TrackingFixture::shown() {
+    return text(IDC_FORM3_NUMFICHCOUR) + L": " + text(IDC_FORM3_NBFICH1) + L'/' +
+           text(IDC_FORM3_CPTFICHIER1) + L' ' + text(IDC_FORM3_TXTETAT);
+}
+
 std::wstring TrackingFixture::states() {
     std::wstring result;
     for (int i = 0; i <= work().last; ++i) {

@@ -33,6 +33,8 @@ class TrackingFixture : public testing::Test {
     std::wstring text(int id) { return window().control(id).content; }
     CallJournal takeCalls() { return machine.automation.takeJournal(); }
 
+    /// The pointer, the number shown of how many, and the document.
+    std::wstring shown();
     /// All states, separated by blanks.
     std::wstring states();
     /// Whether the six advance buttons are enabled; they must be alike.

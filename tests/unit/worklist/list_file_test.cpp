@@ -89,11 +89,3 @@ TEST(ListFile, HoldsAsManyLinesAsTheTable) {
     EXPECT_EQ(raised([&] { saved(list, 8002); }), 9);
     EXPECT_EQ(raised([&] { parseListFile(linesToDo(8002), list); }), 9);
 }
-
-TEST(ListFile, AFlaggedCodeGrowsAtEachSave) {
-    WorkList list;
-    ASSERT_TRUE(parseListFile("10  c:\\a\r\n0  c:\\b\r\n", list));
-    EXPECT_EQ(saved(list, 2), "10  c:\\a\r\n0  c:\\b\r\n");
-    EXPECT_EQ(list.lines[0].code, "10");
-    EXPECT_EQ(saved(list, 2), "110  c:\\a\r\n0  c:\\b\r\n");
-}

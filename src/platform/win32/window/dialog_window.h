@@ -77,6 +77,7 @@ class DialogWindow : public Window, private EventSource {
     void giveFonts(const WindowFonts& fonts);
     void takeTemplateSize();
     Size smallestSize() const;
+    void standInSight();
     void destroy();
     HWND item(int id) const { return GetDlgItem(window_.get(), id); }
     template <class Kind>

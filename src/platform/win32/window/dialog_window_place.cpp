@@ -46,6 +46,11 @@ void DialogWindow::moveTo(const Area& place) {
     layout_.arrange();
 }
 
+void DialogWindow::standInSight() {
+    const Area whole = inSight(place(), workArea());
+    if (whole != place()) moveTo(whole);
+}
+
 int DialogWindow::dpi() const { return dpiOf(window_.get()); }
 
 Area DialogWindow::workArea() const { return nearestMonitor(monitorOf(window_.get())).work; }
