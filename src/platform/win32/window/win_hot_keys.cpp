@@ -5,7 +5,7 @@
 namespace {
 
 /// The virtual key at this place of the digit row: the row's scan codes follow that of Escape, 1,
-/// on every keyboard (Keyboard Scan Code Specification, set 1).
+/// on every keyboard (the scan codes of set 1).
 UINT virtualKey(int place) {
     const UINT key =
         MapVirtualKeyExW(static_cast<UINT>(place + 1), MAPVK_VSC_TO_VK, GetKeyboardLayout(0));
