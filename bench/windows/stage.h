@@ -31,6 +31,7 @@ struct DesktopWithAll : Desktop {
     WindowHandle findWindow(const std::function<bool(const std::wstring&)>&) override { return 1; }
     void restore(WindowHandle) override {}
     void bringToFront(WindowHandle) override {}
+    bool open(const std::wstring&) override { return false; }
 };
 
 /// The ways out of the selection window, none of which is taken.

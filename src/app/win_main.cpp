@@ -6,6 +6,7 @@
 
 #include "app/program.h"
 #include "platform/event_gate.h"
+#include "platform/guide.h"
 #include "platform/late_bound_automation.h"
 #include "platform/patience.h"
 #include "platform/platform.h"
@@ -55,7 +56,9 @@ struct Apartment {
 /// The program on the machine it runs on.
 struct RunningProgram {
     RunningProgram(EventGate& gate, MessageBoxes& boxes)
-        : messageBoxes(boxes), patience(waiting, boxes), windows(gate) {}
+        : messageBoxes(boxes),
+          patience(waiting, boxes),
+          windows(gate, [this] { showGuide(desktop, messageBoxes, programDirectory()); }) {}
 
     Apartment apartment;
     MessageBoxes& messageBoxes;

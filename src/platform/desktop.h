@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-/// The windows of other programs.
+/// Other programs and their windows.
 class Desktop {
  public:
     using WindowHandle = std::uintptr_t;
@@ -24,4 +24,7 @@ class Desktop {
 
     /// Brings a window to the front; with 0 nothing happens (the SetForegroundWindow function).
     virtual void bringToFront(WindowHandle window) = 0;
+
+    /// Has a document opened by its program; false when it can't be (the ShellExecuteEx function).
+    virtual bool open(const std::wstring& document) = 0;
 };

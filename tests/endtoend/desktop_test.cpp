@@ -86,6 +86,11 @@ TEST_F(Desktop, ShortcutsReachTheListSelectItsLinesAndPressButtons) {
         keybd_event(VK_CONTROL, 0, KEYEVENTF_KEYUP, 0);
     }
     app.WaitForText(IDC_FORM1_NBFICH, "1");
+    keybd_event(VK_F1, 0, 0, 0);
+    keybd_event(VK_F1, 0, KEYEVENTF_KEYUP, 0);
+    // Here there is no guide beside the program.
+    EXPECT_NE(app.Box().Text().find("guide.html"), std::string::npos);
+    app.Box().Answer(IDOK);
 
     ExpectAllInSightWhenSmall(window);
     app.Click(IDC_FORM1_CMDREPDEF);

@@ -11,6 +11,7 @@ struct FakeDesktop : Desktop {
     std::map<std::wstring, WindowHandle> windows;
     std::vector<WindowHandle> broughtForward;
     std::vector<WindowHandle> restored;
+    std::wstring openable;
 
     WindowHandle findWindow(const std::wstring& title) override {
         const auto window = windows.find(title);
@@ -24,4 +25,5 @@ struct FakeDesktop : Desktop {
     }
     void restore(WindowHandle window) override { restored.push_back(window); }
     void bringToFront(WindowHandle window) override { broughtForward.push_back(window); }
+    bool open(const std::wstring& document) override { return document == openable; }
 };

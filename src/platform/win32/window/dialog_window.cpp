@@ -58,9 +58,11 @@ void leaveResolutionToUs(HWND window) {
 
 }  // namespace
 
-DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& events, EventGate& gate)
+DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& events, EventGate& gate,
+                           const std::function<void()>& help)
     : events_(events),
       gate_(gate),
+      help_(help),
       headingId_(windowTemplate.headingId),
       focusId_(windowTemplate.focusId),
       fixedPitchId_(windowTemplate.fixedPitchId),
@@ -143,9 +145,12 @@ void DialogWindow::destroy() {
     window_.reset();
 }
 
-DialogFactory::DialogFactory(EventGate& gate) : gate_(gate) { registerWindowClass(); }
+DialogFactory::DialogFactory(EventGate& gate, std::function<void()> help)
+    : gate_(gate), help_(std::move(help)) {
+    registerWindowClass();
+}
 
 std::unique_ptr<Window> DialogFactory::create(const WindowTemplate& windowTemplate,
                                               EventSink& events) {
-    return std::make_unique<DialogWindow>(windowTemplate, events, gate_);
+    return std::make_unique<DialogWindow>(windowTemplate, events, gate_, help_);
 }

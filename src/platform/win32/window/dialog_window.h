@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -23,7 +24,8 @@
 /// turns notifications into events and sends those through the gate.
 class DialogWindow : public Window, private EventSource {
  public:
-    DialogWindow(const WindowTemplate& windowTemplate, EventSink& events, EventGate& gate);
+    DialogWindow(const WindowTemplate& windowTemplate, EventSink& events, EventGate& gate,
+                 const std::function<void()>& help);
     ~DialogWindow() override;
     DialogWindow(const DialogWindow&) = delete;
     DialogWindow& operator=(const DialogWindow&) = delete;
@@ -68,6 +70,7 @@ class DialogWindow : public Window, private EventSource {
     bool serveFirst(int id);
     INT_PTR onSystemCommand(WPARAM command);
     void onHotKey(int id, UINT key);
+    void onHelp();
     /// Its button is pressed while another program may have the keyboard.
     void pressFromAfar(int id);
     bool isUnmeantCommand(int id, Event event) const;
@@ -85,6 +88,7 @@ class DialogWindow : public Window, private EventSource {
 
     EventSink& events_;
     EventGate& gate_;
+    const std::function<void()>& help_;
     const int headingId_;
     const int focusId_;
     const int fixedPitchId_;
@@ -107,10 +111,13 @@ class DialogWindow : public Window, private EventSource {
 /// Makes the program's windows.
 class DialogFactory : public WindowFactory {
  public:
-    explicit DialogFactory(EventGate& gate);
+    /// `help`: what F1 does in every window.
+    explicit DialogFactory(
+        EventGate& gate, std::function<void()> help = [] {});
     std::unique_ptr<Window> create(const WindowTemplate& windowTemplate,
                                    EventSink& events) override;
 
  private:
     EventGate& gate_;
+    std::function<void()> help_;
 };

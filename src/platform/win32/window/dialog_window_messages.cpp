@@ -76,6 +76,9 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_HOTKEY:
             onHotKey(static_cast<int>(wParam), HIWORD(lParam));
             return TRUE;
+        case WM_HELP:
+            onHelp();
+            return TRUE;
         case WM_SIZE:
             if (wParam != SIZE_MINIMIZED) layout_.arrange();
             return TRUE;
@@ -104,6 +107,13 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return FALSE;
         default:
             return FALSE;
+    }
+}
+
+// A box asks its owner for help, too: while one is up the gate is busy.
+void DialogWindow::onHelp() {
+    if (startsCommand(InputSieve::currentPress(), false, gate_.busy()) && !gate_.busy()) {
+        gate_.run(help_);
     }
 }
 

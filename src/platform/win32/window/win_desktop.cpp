@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <shellapi.h>
 #include <string>
 
 namespace {
@@ -63,3 +64,13 @@ void WinDesktop::restore(WindowHandle window) {
 }
 
 void WinDesktop::bringToFront(WindowHandle window) { SetForegroundWindow(handleOf(window)); }
+
+bool WinDesktop::open(const std::wstring& document) {
+    SHELLEXECUTEINFOW info{};
+    info.cbSize = sizeof info;
+    // What went wrong we tell ourselves.
+    info.fMask = SEE_MASK_FLAG_NO_UI;
+    info.lpFile = document.c_str();
+    info.nShow = SW_SHOWNORMAL;
+    return ShellExecuteExW(&info) != FALSE;
+}

@@ -8,4 +8,5 @@ class WinDesktop : public Desktop {
     WindowHandle findWindow(const std::function<bool(const std::wstring&)>& isTitle) override;
     void restore(WindowHandle window) override;
     void bringToFront(WindowHandle window) override;
+    bool open(const std::wstring& document) override;
 };
