@@ -11,9 +11,8 @@
 namespace driver::demo {
 namespace {
 
-/// What `import -crop` takes for the place of a window on the screen.
-std::string Area(HWND window) {
-    const RECT place = PlaceOf(window);
+/// What `import -crop` takes for a place on the screen.
+std::string Area(const RECT& place) {
     return std::to_string(place.right - place.left) + "x" +
            std::to_string(place.bottom - place.top) + "+" + std::to_string(place.left) + "+" +
            std::to_string(place.top);
@@ -67,12 +66,17 @@ void Stage::ShowFile(const std::string& name) const {
     std::cout << *text << std::flush;
 }
 
-void Stage::Picture(const std::string& name, HWND window) const {
+void Stage::Picture(const std::string& name, HWND window, HWND behind) const {
+    RECT place = PlaceOf(window);
+    if (behind) {
+        const RECT other = PlaceOf(behind);
+        UnionRect(&place, &place, &other);
+    }
     SetForegroundWindow(window);
     Send(window, WM_NCACTIVATE, TRUE);  // a button pressed from outside leaves the title bar grey
     const std::filesystem::path request = sandbox.Directory() / "picture.request";
     const std::filesystem::path draft = sandbox.Directory() / "picture.draft";
-    WriteFileBytes(draft, name + " " + Area(window) + "\n");
+    WriteFileBytes(draft, name + " " + Area(place) + "\n");
     std::filesystem::rename(draft, request);  // only now can it be seen, whole
     WaitFor("the picture " + name, [&] { return !std::filesystem::exists(request); });
     std::cout << "    (picture " << name << ".png)" << std::endl;

@@ -30,8 +30,9 @@ class Stage {
     /// Waits for a file beside the program, and shows its text.
     void ShowFile(const std::string& name) const;
 
-    /// Leaves NAME.png with this window as it looks on the screen.
-    void Picture(const std::string& name, HWND window) const;
+    /// Leaves NAME.png with this window as it looks on the screen; of another one what is seen
+    /// behind and beside it.
+    void Picture(const std::string& name, HWND window, HWND behind = nullptr) const;
 
     Sandbox sandbox;
     std::vector<std::string> documents;

@@ -54,6 +54,18 @@ void ExportReport(Stage& stage) {
     stage.ShowFile("tarnwick-rapport.csv");
 }
 
+/// Both windows as a user has them, the tracking window in a corner of the screen.
+void PictureBesideCad(Stage& stage) {
+    HWND window = stage.app.Window(kTracking);
+    const RECT place = PlaceOf(window);
+    const int left = GetSystemMetrics(SM_CXSCREEN) - (place.right - place.left);
+    const int top = GetSystemMetrics(SM_CYSCREEN) - (place.bottom - place.top);
+    SetForegroundWindow(stage.cad.Window());
+    MoveTo(window, left, top);
+    stage.Picture("tracking-beside-cad", window, stage.cad.Window());
+    MoveTo(window, place.left, place.top);
+}
+
 }  // namespace
 
 void PlayTrackingWindow(Stage& stage) {
@@ -72,6 +84,7 @@ void PlayTrackingWindow(Stage& stage) {
     PressAndShow(stage, IDC_FORM3_CMDSUIV);
     stage.ShowLines(IDC_FORM3_LIST1);
     stage.Picture("tracking-later", stage.app.Window(kTracking));
+    PictureBesideCad(stage);
     PictureSystemMenu(stage);
     ExportReport(stage);
     stage.Picture("trial-cad", stage.cad.Window());
