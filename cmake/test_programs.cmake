@@ -8,20 +8,6 @@ function(compile_quickly target)
   endif()
 endfunction()
 
-# Compiles the files of one folder as one: what each of them needs of templates is made once, which takes half the
-# time. So their helpers have names of their own, and no name of a header is taken again.
-function(compile_folders_as_one target)
-  get_target_property(sources ${target} SOURCES)
-  foreach(source IN LISTS sources)
-    get_filename_component(folder ${source} DIRECTORY)
-    get_filename_component(folder ${folder} NAME)
-    set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${folder})
-  endforeach()
-  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
-  # A fixture without linkage is no mistake in a file that nobody includes but this one.
-  target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
-endfunction()
-
 # Has the programs of this directory, and of those below it, linked by LLVM's linker where it is installed: GNU's takes
 # up to twenty seconds for the thousands of small sections that unoptimised tests have.
 macro(link_quickly)

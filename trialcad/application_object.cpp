@@ -9,7 +9,7 @@ namespace {
 constexpr long kSilentOption = 1;
 constexpr long kActivateError = 1;
 
-constexpr Member kMembers[] = {
+constexpr Member kApplicationMembers[] = {
     {L"RevisionNumber", 0, perform<&ApplicationObject::revisionNumber>},
     {L"GetCurrentWorkingDirectory", 0, perform<&ApplicationObject::getCurrentWorkingDirectory>},
     {L"OpenDoc6", 6, perform<&ApplicationObject::openDoc6>},
@@ -34,7 +34,7 @@ ApplicationObject::ApplicationObject(Session& session, std::wstring revision, Me
                                      CallDesk& desk)
     : AutomationObject(names, desk), session_(session), revision_(std::move(revision)) {}
 
-std::span<const Member> ApplicationObject::members() { return kMembers; }
+std::span<const Member> ApplicationObject::members() { return kApplicationMembers; }
 
 void ApplicationObject::revisionNumber(Call& call) { call.answer(revision_); }
 

@@ -9,7 +9,7 @@ namespace {
 constexpr long kSaved = 0;
 constexpr long kNotSaved = 1;
 
-constexpr Member kMembers[] = {
+constexpr Member kDocumentMembers[] = {
     {L"GetTitle", 0, perform<&DocumentObject::getTitle>},
     {L"GetPathName", 0, perform<&DocumentObject::getPathName>},
     {L"GetType", 0, perform<&DocumentObject::getType>},
@@ -23,7 +23,7 @@ constexpr Member kMembers[] = {
 DocumentObject::DocumentObject(Document document, MemberNames& names, CallDesk& desk)
     : AutomationObject(names, desk), document_(std::move(document)) {}
 
-std::span<const Member> DocumentObject::members() { return kMembers; }
+std::span<const Member> DocumentObject::members() { return kDocumentMembers; }
 
 std::wstring DocumentObject::title() const { return fileNameOf(document_.path); }
 

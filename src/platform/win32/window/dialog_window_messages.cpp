@@ -8,6 +8,7 @@
 #include "platform/win32/window/dialog_window.h"
 #include "platform/win32/window/focus.h"
 #include "platform/win32/window/hourglass.h"
+#include "platform/win32/window/input_messages.h"
 #include "platform/win32/window/input_sieve.h"
 #include "platform/win32/window/own_windows.h"
 #include "platform/win32/window/system_menu.h"
@@ -27,11 +28,6 @@ bool focusStaysInWindow(HWND window) {
 }
 
 bool isButton(HWND control) { return classOf(control) == ControlClass::Button; }
-
-bool isPress(WORD mouseMessage) {
-    return mouseMessage == WM_LBUTTONDOWN || mouseMessage == WM_RBUTTONDOWN ||
-           mouseMessage == WM_MBUTTONDOWN || mouseMessage == WM_XBUTTONDOWN;
-}
 
 /// A press on a window that is disabled is meant for the box that waits. Windows itself knows only
 /// the box's owner, and beeps.
@@ -126,7 +122,7 @@ INT_PTR DialogWindow::onNotify(const NMHDR& header) {
 // Sent before each mouse message of a control.
 INT_PTR DialogWindow::onSetCursor(HWND control, int place, WORD mouseMessage) {
     if (place == HTERROR) {
-        if (isPress(mouseMessage)) bringBoxForward();
+        if (isMousePress(mouseMessage)) bringBoxForward();
         return FALSE;
     }
     relayToTooltips(tips_, control, mouseMessage);

@@ -3,6 +3,7 @@
 #include "platform/call_out.h"
 #include "platform/win32/process/require.h"
 #include "platform/win32/window/control_class.h"
+#include "platform/win32/window/input_messages.h"
 
 namespace {
 
@@ -14,36 +15,6 @@ PressJudge::Limits systemLimits() {
             .width = GetSystemMetrics(SM_CXDOUBLECLK) / 2,
             .height = GetSystemMetrics(SM_CYDOUBLECLK) / 2};
 }
-
-bool isMousePress(UINT message) {
-    switch (message) {
-        case WM_LBUTTONDOWN:
-        case WM_LBUTTONDBLCLK:
-        case WM_RBUTTONDOWN:
-        case WM_MBUTTONDOWN:
-        case WM_XBUTTONDOWN:
-            return true;
-        default:
-            return false;
-    }
-}
-
-bool isFramePress(UINT message) {
-    return message == WM_NCLBUTTONDOWN || message == WM_NCLBUTTONDBLCLK ||
-           message == WM_NCPOINTERDOWN;
-}
-
-bool isPress(UINT message) {
-    return isMousePress(message) || isFramePress(message) || message == WM_POINTERDOWN;
-}
-
-bool isRelease(UINT message) {
-    return message == WM_LBUTTONUP || message == WM_NCLBUTTONUP || message == WM_POINTERUP;
-}
-
-bool isKeyDown(UINT message) { return message == WM_KEYDOWN || message == WM_SYSKEYDOWN; }
-
-bool isKeyUp(UINT message) { return message == WM_KEYUP || message == WM_SYSKEYUP; }
 
 /// A mouse message that Windows made of a touch, whose press came as a pointer message before
 /// (System Events and Mouse Messages).

@@ -15,10 +15,10 @@ UINT virtualKey(int place) {
 /// The key that is down since it acted, 0 for none.
 UINT_PTR heldKey = 0;
 
-bool isDown(UINT_PTR key) { return GetAsyncKeyState(static_cast<int>(key)) < 0; }
+bool isDownNow(UINT_PTR key) { return GetAsyncKeyState(static_cast<int>(key)) < 0; }
 
 void CALLBACK waitUntilUp(HWND window, UINT, UINT_PTR key, DWORD) {
-    if (isDown(key)) return;
+    if (isDownNow(key)) return;
     KillTimer(window, key);
     heldKey = 0;
 }
@@ -50,7 +50,7 @@ void WinHotKeys::release() {
 bool WinHotKeys::has(int id) const { return std::ranges::find(taken_, id) != taken_.end(); }
 
 bool WinHotKeys::isHeld(UINT key) const {
-    if (!isDown(key)) return false;
+    if (!isDownNow(key)) return false;
     if (key == heldKey) return true;
     heldKey = key;
     SetTimer(window_, key, USER_TIMER_MINIMUM, waitUntilUp);

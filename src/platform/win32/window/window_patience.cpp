@@ -4,6 +4,7 @@
 #include "platform/win32/process/require.h"
 #include "platform/win32/window/control_class.h"
 #include "platform/win32/window/hourglass.h"
+#include "platform/win32/window/input_messages.h"
 #include "platform/win32/window/input_sieve.h"
 
 namespace {
@@ -18,34 +19,14 @@ constexpr Milliseconds kServing(20);
 
 Milliseconds lasting() { return std::chrono::duration_cast<Milliseconds>(Searching::lasting()); }
 
-bool isPress(UINT message) {
-    switch (message) {
-        case WM_LBUTTONDOWN:
-        case WM_LBUTTONDBLCLK:
-        case WM_RBUTTONDOWN:
-        case WM_RBUTTONDBLCLK:
-        case WM_MBUTTONDOWN:
-        case WM_MBUTTONDBLCLK:
-        case WM_XBUTTONDOWN:
-        case WM_XBUTTONDBLCLK:
-        case WM_MOUSEWHEEL:
-        case WM_MOUSEHWHEEL:
-        case WM_POINTERDOWN:
-        case WM_POINTERWHEEL:
-        case WM_TOUCH:
-            return true;
-        default:
-            return false;
-    }
-}
-
-bool isFramePress(UINT message) {
-    return message == WM_NCLBUTTONDOWN || message == WM_NCLBUTTONDBLCLK ||
-           message == WM_NCRBUTTONDOWN || message == WM_NCPOINTERDOWN;
+/// Wheels and fingers do their work at once.
+bool movesSomething(UINT message) {
+    return message == WM_MOUSEWHEEL || message == WM_MOUSEHWHEEL || message == WM_POINTERWHEEL ||
+           message == WM_TOUCH;
 }
 
 /// A key goes down, or is a character by now. What it is when it goes up again follows from that.
-bool isKey(UINT message) { return message == WM_KEYDOWN || message == WM_CHAR; }
+bool isTyped(UINT message) { return message == WM_KEYDOWN || message == WM_CHAR; }
 
 /// The field of a drop-down: what is typed there may be a newer search.
 bool isTypedIntoDropDown(const MSG& message) {
@@ -59,9 +40,9 @@ bool isTypedIntoDropDown(const MSG& message) {
 bool isOfProgramWindow(HWND window) { return GetAncestor(window, GA_ROOT) == window; }
 
 bool isDropped(const MSG& message) {
-    if (isPress(message.message)) return true;
     if (isFramePress(message.message)) return !isOfProgramWindow(message.hwnd);
-    return isKey(message.message) && !isTypedIntoDropDown(message);
+    if (isPress(message.message) || movesSomething(message.message)) return true;
+    return isTyped(message.message) && !isTypedIntoDropDown(message);
 }
 
 /// A press before the search began was not meant for it.
@@ -71,7 +52,7 @@ bool stopsSearch(const MSG& message) {
     return static_cast<LONG>(message.time - began) >= 0;
 }
 
-void handle(const MSG& message) {
+void serveOne(const MSG& message) {
     if (stopsSearch(message)) Searching::stop();
     if (isDropped(message)) return;
     TranslateMessage(&message);
@@ -86,7 +67,7 @@ bool handleWaiting() {
             PostQuitMessage(static_cast<int>(message.wParam));
             return false;
         }
-        handle(message);
+        serveOne(message);
         InputSieve::messageHandled();
     }
     return true;
