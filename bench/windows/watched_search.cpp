@@ -21,7 +21,7 @@ class SearchingProgram {
     explicit SearchingProgram(const std::filesystem::path& tree) {
         trial_.Start({"--hidden", "--working-directory", driver::Utf8(tree.wstring())});
         app_.Start();
-        app_.WaitForText(IDC_FORM1_CPTFICHIER, "0");
+        app_.Window("Mervale 2002 - Tarnwick");
         app_.Choose(IDC_FORM1_TYPEF, "*.SLDPRT ; *.SLDASM ; *.SLDDRW");
         list_ = app_.Control(IDC_FORM1_LIST1);
     }
