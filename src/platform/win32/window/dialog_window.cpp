@@ -118,9 +118,11 @@ void DialogWindow::show() {
     noteUsed(window);
     ShowWindow(window, IsIconic(window) ? SW_RESTORE : SW_SHOW);
     takeForeground(window);
-    // Windows may tell a window only now which monitor it is on.
-    if (!wasVisible) standInSight();
-    if (!wasVisible) focusOn(window, focusId_ != 0 ? item(focusId_) : firstControl(window));
+    if (!wasVisible) {
+        // Windows may tell a window only now which monitor it is on.
+        standInSight();
+        focusOn(window, focusId_ != 0 ? item(focusId_) : firstControl(window));
+    }
     // The splash is shown before the program serves any messages.
     UpdateWindow(window);
 }
