@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
 

@@ -1,7 +1,4 @@
-#include <gtest/gtest.h>
-
 #include "contract/machine.h"
-#include "unit/raised.h"
 
 namespace {
 
@@ -14,8 +11,6 @@ class FilesContract : public testing::Test {
     std::wstring directory = machine->directory();
 };
 
-using Names = std::vector<std::wstring>;
-
 }  // namespace
 
 TEST_F(FilesContract, TextIsReadBackAsItWasWritten) {
@@ -26,7 +21,7 @@ TEST_F(FilesContract, TextIsReadBackAsItWasWritten) {
         files.replaceText(path(L"tarnwick.lst"), text);
         EXPECT_EQ(files.readText(path(L"tarnwick.lst")), text);
     }
-    EXPECT_EQ(namesIn(files, directory), Names{L"tarnwick.lst"});
+    EXPECT_EQ(namesIn(files, directory), Texts{L"tarnwick.lst"});
 }
 
 TEST_F(FilesContract, RemovedOrMissingIsNotFound) {
@@ -53,10 +48,10 @@ TEST_F(FilesContract, DirectoryIsVisitedEntryByEntry) {
     machine->addDirectory(path(L"plein"));
     files.replaceText(path(L"plein\\b.SLDPRT"), L"");
     EXPECT_EQ(namesIn(files, directory),
-              (Names{L"?caché.SLDASM", L"?système\\", L"plein\\", L"vide\\", L"é.SLDPRT"}));
-    EXPECT_EQ(namesIn(files, path(L"vide")), Names());
-    EXPECT_EQ(namesIn(files, path(L"plein")), Names{L"b.SLDPRT"});
-    EXPECT_EQ(namesIn(files, path(L"plein\\")), Names{L"b.SLDPRT"});
+              (Texts{L"?caché.SLDASM", L"?système\\", L"plein\\", L"vide\\", L"é.SLDPRT"}));
+    EXPECT_EQ(namesIn(files, path(L"vide")), Texts());
+    EXPECT_EQ(namesIn(files, path(L"plein")), Texts{L"b.SLDPRT"});
+    EXPECT_EQ(namesIn(files, path(L"plein\\")), Texts{L"b.SLDPRT"});
 }
 
 TEST_F(FilesContract, DirectoryIsTheSameByEveryPathToIt) {

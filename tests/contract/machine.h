@@ -1,12 +1,11 @@
 #pragma once
 
 #include <memory>
-#include <string>
-#include <vector>
 
 #include "platform/files.h"
 #include "platform/settings.h"
 #include "platform/window.h"
+#include "unit/unit_test.h"
 
 /// A platform, real or fake, on which the same checks are run: what they find on both, the tests
 /// of the forms may rely on.

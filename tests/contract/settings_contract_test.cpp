@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "contract/machine.h"
 
 TEST(SettingsContract, EntriesAreReadBackByTheirKeyInAnyCase) {

@@ -2,10 +2,7 @@
 
 #include "platform/win32/files/file_replacement.h"
 
-#include <gtest/gtest.h>
-
 #include "contract/machine.h"
-#include "unit/raised.h"
 
 namespace {
 

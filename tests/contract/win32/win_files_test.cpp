@@ -2,16 +2,11 @@
 
 #include <windows.h>
 
-#include <gtest/gtest.h>
-
 #include "contract/machine.h"
 #include "platform/long_path.h"
 #include "platform/win32/process/unique.h"
-#include "unit/raised.h"
 
 namespace {
-
-using Names = std::vector<std::wstring>;
 
 class WinFilesTest : public testing::Test {
  protected:
@@ -40,7 +35,7 @@ class WinFilesTest : public testing::Test {
     void expectRefused(int number, const WriteContent& write) {
         EXPECT_EQ(raised([&] { files.replace(path(L"tarnwick.lst"), write); }), number);
         EXPECT_EQ(readBytes(path(L"tarnwick.lst")), "ancien");
-        EXPECT_EQ(namesIn(files, directory), Names{L"tarnwick.lst"});
+        EXPECT_EQ(namesIn(files, directory), Texts{L"tarnwick.lst"});
     }
 
     std::unique_ptr<Machine> machine = makeMachine();
@@ -82,7 +77,7 @@ TEST_F(WinFilesTest, KeepsACopyOfAnyBytesOverAReadOnlyFileAndRemovesOne) {
     files.keepCopy(list, copy);
     EXPECT_EQ(readBytes(copy), odd);
     files.remove(list);
-    EXPECT_EQ(namesIn(files, directory), Names{L"tarnwick-precedente.lst"});
+    EXPECT_EQ(namesIn(files, directory), Texts{L"tarnwick-precedente.lst"});
 
     const UniqueHandle held(open(copy, GENERIC_READ, OPEN_EXISTING, FILE_SHARE_READ));
     EXPECT_EQ(raised([&] { files.remove(copy); }), 70);
@@ -106,7 +101,7 @@ TEST_F(WinFilesTest, TakesPathsOfAnyLength) {
     ASSERT_GT(deep.size(), 480U);
     files.replaceText(deep + L"\\f.SLDPRT", L"contenu");
     EXPECT_EQ(files.readText(deep + L"\\f.SLDPRT"), L"contenu");
-    EXPECT_EQ(namesIn(files, deep), Names{L"f.SLDPRT"});
+    EXPECT_EQ(namesIn(files, deep), Texts{L"f.SLDPRT"});
     EXPECT_FALSE(files.identify(deep) == files.identify(directory));
 }
 
@@ -115,7 +110,7 @@ TEST_F(WinFilesTest, TakesNamesThatEndWithADotOrABlank) {
     machine->addDirectory(path(L"etc"));
     files.replaceText(path(L"etc.\\fin ."), L"contenu");
     EXPECT_EQ(files.readText(path(L"etc.\\fin .")), L"contenu");
-    EXPECT_EQ(namesIn(files, path(L"etc.")), Names{L"fin ."});
-    EXPECT_EQ(namesIn(files, path(L"etc")), Names());
+    EXPECT_EQ(namesIn(files, path(L"etc.")), Texts{L"fin ."});
+    EXPECT_EQ(namesIn(files, path(L"etc")), Texts());
     EXPECT_FALSE(files.identify(path(L"etc.")) == files.identify(path(L"etc")));
 }

@@ -5,12 +5,9 @@
 #include <windows.h>
 
 #include <commctrl.h>
-#include <functional>
-#include <gtest/gtest.h>
 #include <memory>
 #include <thread>
 #include <utility>
-#include <vector>
 
 #include "contract/contract_ids.h"
 #include "platform/win32/process/message_pump.h"
@@ -19,6 +16,7 @@
 #include "platform/win32/window/own_windows.h"
 #include "platform/win32/window/win_gate_keeper.h"
 #include "platform/win32/window/win_message_boxes.h"
+#include "unit/unit_test.h"
 
 namespace {
 

@@ -4,7 +4,6 @@
 #include <windows.h>
 
 #include <array>
-#include <gtest/gtest.h>
 
 #include "common/utf8.h"
 #include "contract/contract_ids.h"

@@ -1,11 +1,9 @@
-#include <gtest/gtest.h>
-
 #include "about/about_ids.h"
 #include "app/program.h"
 #include "fakes/fake_platform.h"
 #include "resume/existing_list_ids.h"
 #include "selection/selection_ids.h"
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 namespace {
 
@@ -19,7 +17,7 @@ class StartUp : public testing::Test {
     void askAbout() { machine.window(IDD_FORM1).click(IDC_FORM1_CMDAP); }
 
     /// The error of a start with these files named on the command line.
-    RuntimeError failure(const std::vector<std::wstring>& namedFiles = {}) {
+    RuntimeError failure(const Texts& namedFiles = {}) {
         machine.platform.namedFiles = namedFiles;
         return raisedError([&] { Program(machine.platform).start(); });
     }
@@ -35,7 +33,7 @@ TEST_F(StartUp, GoesThroughItsStepsInOrder) {
     EXPECT_EQ(machine.automation.journal,
               (CallJournal{L"attach SldWorks.Application", L"RevisionNumber()",
                            L"GetCurrentWorkingDirectory()", L"create Scripting.FileSystemObject"}));
-    EXPECT_EQ(machine.listHolds.asked, std::vector<std::wstring>{L"c:\\tarnwick\\tarnwick.verrou"});
+    EXPECT_EQ(machine.listHolds.asked, Texts{L"c:\\tarnwick\\tarnwick.verrou"});
     EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
     EXPECT_EQ(about().state, State::Unloaded);
 }
@@ -57,6 +55,9 @@ TEST_F(StartUp, AsksAboutAnExistingListEvenAnEmptyOne) {
     EXPECT_EQ(machine.window(IDD_FORM2).state, State::Shown);
     EXPECT_EQ(about().state, State::Unloaded);
     EXPECT_FALSE(machine.windows.made.contains(IDD_FORM1));
+    machine.window(IDD_FORM2).click(IDC_FORM2_CMDANNULE);
+    EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
+    EXPECT_THROW(machine.window(IDD_FORM1).click(IDC_FORM1_CMD_TRACER), ProgramEnd);
 }
 
 TEST_F(StartUp, IsFollowedByTheAboutWindowAsOftenAsTheUserAsks) {
@@ -79,8 +80,7 @@ TEST_F(StartUp, WorksOnTheListThatTheCommandLineNames) {
     const std::wstring list = L"c:\\été 2026.lst\\Liste 1.LST";
     machine.files.texts[list] = L"";
     EXPECT_EQ(failure({list}).text, L"");
-    EXPECT_EQ(machine.listHolds.asked,
-              std::vector<std::wstring>{L"c:\\été 2026.lst\\Liste 1.verrou"});
+    EXPECT_EQ(machine.listHolds.asked, Texts{L"c:\\été 2026.lst\\Liste 1.verrou"});
     EXPECT_TRUE(machine.windows.made.contains(IDD_FORM2));
     for (const wchar_t* other : {L"c:\\été 2026.lst", L"c:\\a.lst\\b.txt", L"c:\\alst", L"c:\\",
                                  L"c:\\a.txt:b.lst", L"", L"c:\\*.lst", L"\\\\.\\NUL", L"absent"}) {

@@ -1,10 +1,8 @@
 #include "cad/cad_session.h"
 
-#include <gtest/gtest.h>
-
 #include "fakes/fake_automation.h"
 #include "fakes/fake_desktop.h"
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 namespace {
 

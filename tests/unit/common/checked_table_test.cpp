@@ -1,8 +1,6 @@
 #include "common/checked_table.h"
 
-#include <gtest/gtest.h>
-
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 TEST(CheckedTable, HasAllItsEntriesFromTheBeginningAndNoMore) {
     CheckedTable<std::string, 1000> table;

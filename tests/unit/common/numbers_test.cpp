@@ -1,8 +1,6 @@
 #include "common/numbers.h"
 
-#include <gtest/gtest.h>
-
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 TEST(NumericValue, IsThatOfTheLeadingDigitsUpToTheLargestNumber) {
     const std::pair<const wchar_t*, std::int32_t> cases[] = {

@@ -1,7 +1,6 @@
 #include "common/text.h"
 
-#include <gtest/gtest.h>
-#include <vector>
+#include "unit/unit_test.h"
 
 TEST(Trimmed, LosesBlanksOnly) {
     EXPECT_EQ(trimmed(L"  a b  "), L"a b");
@@ -20,7 +19,7 @@ TEST(EqualIgnoringCase, KnowsAccentedLetters) {
 TEST(TakeLine, EndsAtEveryKindOfLineEnd) {
     const struct {
         const wchar_t* text;
-        std::vector<std::wstring> lines;
+        Texts lines;
     } cases[] = {
         {L"a\r\nb", {L"a", L"b"}},
         {L"\n\r\n\r\r\n", {L"", L"", L"", L""}},
@@ -29,7 +28,7 @@ TEST(TakeLine, EndsAtEveryKindOfLineEnd) {
         {L"", {}},
     };
     for (const auto& c : cases) {
-        std::vector<std::wstring> lines;
+        Texts lines;
         for (std::wstring_view rest = c.text; !rest.empty();) lines.emplace_back(takeLine(rest));
         EXPECT_EQ(lines, c.lines) << c.text;
     }

@@ -1,8 +1,6 @@
 #include "common/utf8.h"
 
-#include <gtest/gtest.h>
-
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 namespace {
 

@@ -1,14 +1,11 @@
 #include "pickers/directory_picker.h"
 
-#include <gtest/gtest.h>
-
 #include "fakes/fake_controls.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_patience.h"
 #include "pickers/drive_picker.h"
 #include "platform/workers.h"
-
-using Lines = std::vector<std::wstring>;
+#include "unit/unit_test.h"
 
 TEST(DirectoryPicker, ShowsAndOpensAncestorsAndSubdirectories) {
     FakeFiles files;
@@ -28,7 +25,7 @@ TEST(DirectoryPicker, ShowsAndOpensAncestorsAndSubdirectories) {
     EXPECT_TRUE(picker.setPath(L"c:\\plans\\moteur\\"));
     EXPECT_EQ(picker.path(), L"c:\\plans\\moteur");
     EXPECT_EQ(list.texts(),
-              (Lines{L"c:\\", L"  plans", L"    moteur", L"      arbre", L"      Bielle"}));
+              (Texts{L"c:\\", L"  plans", L"    moteur", L"      arbre", L"      Bielle"}));
     EXPECT_EQ(list.selection(), std::vector{2});
     EXPECT_FALSE(picker.setPath(L"c:\\plans\\moteur"));
 
@@ -36,7 +33,7 @@ TEST(DirectoryPicker, ShowsAndOpensAncestorsAndSubdirectories) {
     EXPECT_EQ(picker.path(), L"c:\\plans\\moteur\\arbre");
     EXPECT_FALSE(open(3));
     EXPECT_TRUE(open(1));
-    EXPECT_EQ(list.texts(), (Lines{L"c:\\", L"  plans", L"    moteur", L"    Zone"}));
+    EXPECT_EQ(list.texts(), (Texts{L"c:\\", L"  plans", L"    moteur", L"    Zone"}));
     EXPECT_TRUE(open(0));
     list.clearSelection();
     EXPECT_FALSE(picker.openSelected());

@@ -1,23 +1,22 @@
 #include "pickers/tree_walk.h"
 
 #include <atomic>
-#include <gtest/gtest.h>
 #include <latch>
 #include <random>
 
-#include "common/runtime_error.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_patience.h"
 #include "fakes/joining_workers.h"
+#include "unit/unit_test.h"
 
 namespace {
 
 /// What a walk comes by: each directory with the names in it, and how it ended.
-using Log = std::vector<std::wstring>;
+using Log = Texts;
 
 bool isPart(std::wstring_view name) { return name.ends_with(L".SLDPRT"); }
 
-void note(Log& log, const std::wstring& directory, const std::vector<std::wstring>& names) {
+void note(Log& log, const std::wstring& directory, const Texts& names) {
     log.push_back(directory);
     log.insert(log.end(), names.begin(), names.end());
 }
@@ -90,7 +89,7 @@ TEST(TreeWalks, MeetWhatOneThreadMeetsAndFailWhereItFails) {
         RandomTree tree(seed);
         const auto visitor = [&](Log& log) {
             return [&, left = tree.failingVisit](const std::wstring& directory,
-                                                 const std::vector<std::wstring>& names) mutable {
+                                                 const Texts& names) mutable {
                 note(log, directory, names);
                 if (left-- == 0) throw errors::subscriptOutOfRange();
             };

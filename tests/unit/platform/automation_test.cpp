@@ -1,10 +1,8 @@
 #include "platform/automation.h"
 
-#include <gtest/gtest.h>
-
 #include "fakes/fake_automation.h"
 #include "platform/file_system_object.h"
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 TEST(AutomationResult, BecomesTextWhenItIsOneOrEmpty) {
     EXPECT_EQ(textOf(Value(std::wstring(L"12.0"))), L"12.0");

@@ -1,10 +1,8 @@
 // What the system shows for us: its message boxes, and a window's button on its taskbar.
 
-#include <gtest/gtest.h>
-#include <vector>
-
 #include "platform/message_boxes.h"
 #include "platform/taskbar_progress.h"
+#include "unit/unit_test.h"
 
 namespace {
 

@@ -1,14 +1,10 @@
 #include "platform/event_gate.h"
 
-#include <gtest/gtest.h>
-#include <map>
 #include <new>
-#include <string>
-#include <vector>
 
-#include "common/runtime_error.h"
 #include "fakes/fake_message_boxes.h"
 #include "platform/searching.h"
+#include "unit/unit_test.h"
 
 namespace {
 

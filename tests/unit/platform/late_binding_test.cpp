@@ -1,9 +1,7 @@
-#include <gtest/gtest.h>
-
 #include "fakes/fake_message_boxes.h"
 #include "fakes/fake_waiting.h"
 #include "platform/late_bound_automation.h"
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 namespace {
 

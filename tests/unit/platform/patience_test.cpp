@@ -1,10 +1,8 @@
 #include "platform/patience.h"
 
-#include <gtest/gtest.h>
-#include <vector>
-
 #include "fakes/fake_message_boxes.h"
 #include "fakes/fake_waiting.h"
+#include "unit/unit_test.h"
 
 namespace {
 

@@ -1,16 +1,11 @@
 #include "resume/existing_list_window.h"
 
-#include <gtest/gtest.h>
-
-#include "common/runtime_error.h"
 #include "fakes/fake_exits.h"
 #include "fakes/fake_platform.h"
 #include "resume/existing_list_ids.h"
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 namespace {
-
-using Texts = std::vector<std::wstring>;
 
 class ExistingListPrompt : public testing::Test {
  protected:

@@ -1,13 +1,10 @@
 #include "searchfolders/configuration_editing.h"
 
-#include <gtest/gtest.h>
 #include <set>
 
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 namespace {
-
-using Texts = std::vector<std::wstring>;
 
 void fill(Configuration& configuration, const Texts& entries, int first = 0) {
     for (const std::wstring& entry : entries) configuration[first++] = entry;

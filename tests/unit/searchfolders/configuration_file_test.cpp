@@ -1,8 +1,6 @@
 #include "searchfolders/configuration_file.h"
 
-#include <gtest/gtest.h>
-
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 TEST(ConfigurationFile, StoresEveryLineByTheRules) {
     const struct {

@@ -1,15 +1,11 @@
 #include "searchfolders/configuration_window.h"
 
-#include <gtest/gtest.h>
-
 #include "cad/cad_session.h"
 #include "fakes/fake_platform.h"
 #include "searchfolders/configuration_ids.h"
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 namespace {
-
-using Texts = std::vector<std::wstring>;
 
 constexpr auto kTwo =
     L"Configuration:  A\r\n   c:\\a\r\nConfiguration:  B\r\n   c:\\b\r\n   d:\\b\r\n";

@@ -1,8 +1,6 @@
 #include "searchfolders/folder_list.h"
 
-#include <gtest/gtest.h>
-
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 TEST(SearchFolders, AreSplitAndJoinedAtSemicolons) {
     const struct {

@@ -11,11 +11,6 @@ class SelectionChoosing : public SelectionFixture {
         tick(true);
     }
 
-    void toggle(const std::vector<int>& lines) {
-        highlight(lines);
-        click(IDC_FORM1_CMDCOCHE);
-    }
-
     /// Lines and marks agree, and the counter with them; then the marks.
     std::wstring chosen() {
         for (const auto& line : list().lines) {
@@ -74,13 +69,13 @@ TEST_F(SelectionChoosing, TheDepthHidesLevelsAndKeepsTheChoice) {
     toggle({0, 2});
     click(IDC_FORM1_CMDPLUS);
     EXPECT_EQ(list().texts(),
-              (Lines{L" X   c:\\..\\axe.slddrw", L"              c:\\..\\Zoe.SLDDRW",
+              (Texts{L" X   c:\\..\\axe.slddrw", L"              c:\\..\\Zoe.SLDDRW",
                      L" X   c:\\..\\moteur\\bielle.SLDDRW"}));
     click(IDC_FORM1_CMDPLUS);
     EXPECT_EQ(list().line(2), L" X   c:\\..\\..\\bielle.SLDDRW");
-    EXPECT_EQ(chosen(), L"101");
     click(IDC_FORM1_CMDMOINS);
     EXPECT_EQ(list().line(2), L" X   c:\\..\\moteur\\bielle.SLDDRW");
+    EXPECT_EQ(chosen(), L"101");
     // A line can be unchosen whatever the depth.
     click(IDC_FORM1_CMD_INV);
     EXPECT_EQ(chosen(), L"010");

@@ -1,15 +1,12 @@
 #include "selection/document_search.h"
 
-#include <gtest/gtest.h>
-
 #include "fakes/fake_files.h"
 #include "platform/search_patience.h"
 #include "platform/workers.h"
 #include "selection/found_documents.h"
+#include "unit/unit_test.h"
 
 namespace {
-
-using Paths = std::vector<std::wstring>;
 
 class Search : public testing::Test {
  protected:
@@ -17,14 +14,14 @@ class Search : public testing::Test {
         for (const wchar_t* path : paths) files.add(path);
     }
 
-    Paths run(const std::wstring& directory, bool withSubdirectories,
+    Texts run(const std::wstring& directory, bool withSubdirectories,
               const wchar_t* types = L"*.SLDPRT ; *.SLDASM ; *.SLDDRW") {
         found.restart(withSubdirectories);
         listed.clear();
         DocumentSearch search({files, alone, unwatched}, found, DocumentKinds(types),
                               [&](int filesListed) { listed.push_back(filesListed); });
         search.run(directory, withSubdirectories);
-        Paths result;
+        Texts result;
         for (int i = 0; i < found.count(); ++i) result.push_back(found.entry(i));
         return result;
     }
@@ -45,10 +42,10 @@ TEST_F(Search, ListsOneDirectoryByNameWhateverTheKind) {
             L"c:\\plans\\dossier.SLDPRT\\e.SLDPRT"});
     files.attributes[L"c:\\plans\\~$bras.SLDASM"] = attribute::kHidden;
     EXPECT_EQ(run(L"c:\\plans", false),
-              (Paths{L"a.b.SldPrt", L"Axe.slddrw", L"bras.SLDASM", L"Zoe.SLDPRT"}));
+              (Texts{L"a.b.SldPrt", L"Axe.slddrw", L"bras.SLDASM", L"Zoe.SLDPRT"}));
     EXPECT_EQ(listed, std::vector<int>{4});
-    EXPECT_EQ(run(L"c:\\plans", false, L"sldprt"), (Paths{L"a.b.SldPrt", L"Zoe.SLDPRT"}));
-    EXPECT_EQ(run(L"c:\\plans", false, L"*.*"), Paths());
+    EXPECT_EQ(run(L"c:\\plans", false, L"sldprt"), (Texts{L"a.b.SldPrt", L"Zoe.SLDPRT"}));
+    EXPECT_EQ(run(L"c:\\plans", false, L"*.*"), Texts());
     EXPECT_EQ(files.visits, (std::map<std::wstring, int>{{L"c:\\plans", 3}}));
 }
 
@@ -62,7 +59,7 @@ TEST_F(Search, WalksATreeDepthFirstReadingEachDirectoryOnce) {
     files.attributes[L"c:\\plans\\systeme"] = attribute::kHidden | attribute::kSystem;
     EXPECT_EQ(
         run(L"c:\\plans", true),
-        (Paths{L"c:\\plans\\z.SLDPRT", L"c:\\plans\\Alpha\\x.SLDPRT",
+        (Texts{L"c:\\plans\\z.SLDPRT", L"c:\\plans\\Alpha\\x.SLDPRT",
                L"c:\\plans\\Alpha\\fond\\f.SLDPRT", L"c:\\plans\\Alpha\\fond\\profond\\p.SLDDRW",
                L"c:\\plans\\alpha2\\n.SLDPRT", L"c:\\plans\\beta\\a.SLDPRT",
                L"c:\\plans\\beta\\b.SLDASM", L"c:\\plans\\cache\\c.SLDPRT"}));
@@ -83,7 +80,7 @@ TEST_F(Search, FollowsLinksButNotBackIntoDirectoriesThatAreOpen) {
         {L"c:\\plans\\zbas", L"c:\\plans\\sous"},          // aside: read a second time
     };
     EXPECT_EQ(run(L"c:\\plans", true),
-              (Paths{L"c:\\plans\\a.SLDPRT", L"c:\\plans\\ailleurs\\c.SLDPRT",
+              (Texts{L"c:\\plans\\a.SLDPRT", L"c:\\plans\\ailleurs\\c.SLDPRT",
                      L"c:\\plans\\ailleurs\\bas\\d.SLDPRT", L"c:\\plans\\sous\\b.SLDPRT",
                      L"c:\\plans\\zbas\\b.SLDPRT"}));
 }

@@ -1,24 +1,22 @@
 #include "selection/found_documents.h"
 
-#include <gtest/gtest.h>
+#include "unit/unit_test.h"
 
 namespace {
-
-using Entries = std::vector<std::wstring>;
 
 void store(FoundDocuments& found, std::initializer_list<const wchar_t*> names) {
     for (const wchar_t* name : names) found.store(L"c:\\x", name);
 }
 
 /// What two passes leave of these names, the second one adding to the first.
-Entries kept(bool fullPaths) {
+Texts kept(bool fullPaths) {
     FoundDocuments found;
     found.restart(fullPaths);
     found.beginPass(false);
     store(found, {L"b", L"a", L"b", L"B"});
     found.beginPass(true);
     store(found, {L"a", L"a"});
-    Entries result;
+    Texts result;
     for (int i = 0; i < found.count(); ++i) result.push_back(found.entry(i));
     found.beginPass(false);
     EXPECT_EQ(found.count(), 0);
@@ -28,9 +26,9 @@ Entries kept(bool fullPaths) {
 }  // namespace
 
 TEST(FoundDocuments, KeepsBareNamesOncePerPassAndEveryFullPath) {
-    EXPECT_EQ(kept(false), (Entries{L"b", L"a", L"B", L"a"}));
-    EXPECT_EQ(kept(true), (Entries{L"c:\\x\\b", L"c:\\x\\a", L"c:\\x\\b", L"c:\\x\\B", L"c:\\x\\a",
-                                   L"c:\\x\\a"}));
+    EXPECT_EQ(kept(false), (Texts{L"b", L"a", L"B", L"a"}));
+    EXPECT_EQ(kept(true), (Texts{L"c:\\x\\b", L"c:\\x\\a", L"c:\\x\\b", L"c:\\x\\B", L"c:\\x\\a",
+                                 L"c:\\x\\a"}));
 }
 
 TEST(FoundDocuments, TheVeryLastEntryOutlivesANewPass) {

@@ -1,5 +1,3 @@
-#include "common/runtime_error.h"
-#include "unit/raised.h"
 #include "unit/selection/selection_window_fixture.h"
 
 namespace {
@@ -22,8 +20,7 @@ class SelectionLeaving : public SelectionFixture {
 TEST_F(SelectionLeaving, LaunchingWritesTheChosenDocumentsThenHandsOver) {
     load();
     window().leaveAt(-5, 30);
-    highlight({1});
-    click(IDC_FORM1_CMDCOCHE);
+    toggle({1});
     listFile() = L"12  c:\\d'avant\r\n";
     leaveTypes();  // a click in the field, and then on the button
     exits.whenTaken = [&] {
@@ -92,6 +89,6 @@ TEST_F(SelectionLeaving, OpensTheOtherWindowsBesideItself) {
     load();
     click(IDC_FORM1_CMDAP);
     click(IDC_FORM1_CMDREPDEF);
-    EXPECT_EQ(exits.taken, (Lines{L"closeSplash", L"showAbout", L"showConfigurations"}));
+    EXPECT_EQ(exits.taken, (Texts{L"closeSplash", L"showAbout", L"showConfigurations"}));
     EXPECT_EQ(window().state, FakeWindow::State::Shown);
 }

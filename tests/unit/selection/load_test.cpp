@@ -4,15 +4,15 @@ using SelectionLoad = SelectionFixture;
 
 TEST_F(SelectionLoad, ShowsTheDrawingsOfTheWorkingDirectory) {
     load();
-    EXPECT_EQ(exits.taken, Lines{L"closeSplash"});
+    EXPECT_EQ(exits.taken, Texts{L"closeSplash"});
     EXPECT_EQ(window().area.corner(), (Point{-40, 20}));
     EXPECT_EQ(types().content, L"*.SLDDRW");
     EXPECT_EQ(types().lines.back(), L"*.SLDPRT ; *.SLDASM ; *.SLDDRW");
-    EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).lines, (Lines{L"c:", L"d:"}));
+    EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).lines, (Texts{L"c:", L"d:"}));
     EXPECT_EQ(window().listBox(IDC_FORM1_REPERT).texts(),
-              (Lines{L"c:\\", L"  plans", L"    moteur"}));
+              (Texts{L"c:\\", L"  plans", L"    moteur"}));
     EXPECT_FALSE(ticked());
-    EXPECT_EQ(unchosen(), (Lines{L"axe.slddrw", L"Zoe.SLDDRW"}));
+    EXPECT_EQ(unchosen(), (Texts{L"axe.slddrw", L"Zoe.SLDDRW"}));
     EXPECT_EQ(text(IDC_FORM1_NBFICH), L"0");
     EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"2");
     EXPECT_EQ(text(IDC_FORM1_NNIVEAU), L"0");
@@ -27,7 +27,7 @@ TEST_F(SelectionLoad, StartsWhereverTheSessionWorks) {
     const struct {
         const wchar_t* workingDirectory;
         const wchar_t* drive;
-        Lines found;
+        Texts found;
     } cases[] = {
         {L"d:\\doc\\", L"d:", {L"d.SLDDRW"}},
         {L"\\\\serveur\\part\\plans", L"", {L"r.SLDDRW"}},

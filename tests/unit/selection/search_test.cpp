@@ -1,21 +1,14 @@
-#include <functional>
-
-#include "unit/raised.h"
 #include "unit/selection/selection_window_fixture.h"
 
-namespace {
-
+using SelectionSearch = SelectionFixture;
 constexpr auto kYes = MessageBoxes::Answer::Yes;
 constexpr auto kNo = MessageBoxes::Answer::No;
-using SelectionSearch = SelectionFixture;
-
-}  // namespace
 
 TEST_F(SelectionSearch, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
     const struct {
         const char* what;
         std::function<void()> act;
-        Lines found;
+        Texts found;
     } cases[] = {
         {"typing", [&] { type(L"xsldprt"); }, {L"Bras.SLDPRT"}},
         {"choosing a kind", [&] { chooseType(3); }, {L"Bras.SLDPRT", L"corps.SLDASM"}},
@@ -42,12 +35,11 @@ TEST_F(SelectionSearch, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
 TEST_F(SelectionSearch, LeavingTheKindsAsTheyAreKeepsWhatIsChosen) {
     load();
     tick(true);
-    highlight({0, 2});
-    click(IDC_FORM1_CMDCOCHE);
+    toggle({0, 2});
     machine.files.texts.erase(L"c:\\plans\\axe.slddrw");
     machine.files.add(L"c:\\plans\\bague.SLDDRW");
     leaveTypes();
-    EXPECT_EQ(list().texts(), (Lines{L"              c:\\plans\\bague.SLDDRW",
+    EXPECT_EQ(list().texts(), (Texts{L"              c:\\plans\\bague.SLDDRW",
                                      L"              c:\\plans\\Zoe.SLDDRW",
                                      L" X   c:\\plans\\moteur\\bielle.SLDDRW"}));
     EXPECT_EQ(marks(), L"001");
@@ -67,48 +59,39 @@ TEST_F(SelectionSearch, FailsWhenThereAreTooManyDocuments) {
 }
 
 TEST_F(SelectionSearch, AsksBeforeAWholeDriveIsSearched) {
-    const auto tickAtRoot = [&] {
-        load(L"d:\\");
-        tick(true);
-    };
-    const auto openRoot = [&] {
-        load(L"d:\\doc");
-        tick(true);
-        openDirectory(L"d:\\");
-    };
-    const auto changeToRoot = [&] {
-        machine.files.currentDirectories.clear();
-        load(L"c:\\plans");
-        tick(true);
-        chooseDrive(1);
-    };
-    const auto rebuildAtRoot = [&] {
-        tickAtRoot();
+    machine.files.currentDirectories.clear();
+    const auto nothing = [] {};
+    const auto open = [&] { openDirectory(L"d:\\"); };
+    const auto changeDrive = [&] { chooseDrive(1); };
+    const auto rebuild = [&] {
         type(L"SLDDRW");
         leaveTypes();
         chooseType(0);
     };
     const struct {
         const char* what;
+        const wchar_t* begin;  ///< where sub-directories are asked for
         std::function<void()> act;
         std::deque<MessageBoxes::Answer> answers;
     } cases[] = {
-        {"tick", tickAtRoot, {kYes, kYes}},
-        {"tick, no", tickAtRoot, {kNo}},
-        {"tick, no the second time", tickAtRoot, {kYes, kNo}},
-        {"open", openRoot, {kYes}},
-        {"drive", changeToRoot, {kYes, kYes}},
-        {"drive, no the second time", changeToRoot, {kYes, kNo}},
-        {"at every rebuild", rebuildAtRoot, {kYes, kYes, kYes, kYes, kNo}},
+        {"tick", L"d:\\", nothing, {kYes, kYes}},
+        {"tick, no", L"d:\\", nothing, {kNo}},
+        {"tick, no the second time", L"d:\\", nothing, {kYes, kNo}},
+        {"open", L"d:\\doc", open, {kYes}},
+        {"drive", L"c:\\plans", changeDrive, {kYes, kYes}},
+        {"drive, no the second time", L"c:\\plans", changeDrive, {kYes, kNo}},
+        {"at every rebuild", L"d:\\", rebuild, {kYes, kYes, kYes, kYes, kNo}},
     };
-    const Lines whole = {L"d:\\\\b.SLDDRW", L"d:\\doc\\d.SLDDRW"};
+    const Texts whole = {L"d:\\\\b.SLDDRW", L"d:\\doc\\d.SLDDRW"};
     for (const auto& c : cases) {
         machine.boxes.shown.clear();
         machine.boxes.answers = c.answers;
+        load(c.begin);
+        tick(true);
         c.act();
         EXPECT_EQ(machine.boxes.shown.size(), c.answers.size()) << c.what;
         EXPECT_EQ(ticked(), c.answers.back() == kYes) << c.what;
-        EXPECT_EQ(unchosen(), ticked() ? whole : Lines{L"b.SLDDRW"}) << c.what;
+        EXPECT_EQ(unchosen(), ticked() ? whole : Texts{L"b.SLDDRW"}) << c.what;
     }
     leaveTypes();
     openDirectory(L"doc");
@@ -129,7 +112,7 @@ TEST_F(SelectionSearch, ListsWhatWasFoundWhenItIsStoppedOrBegunAgain) {
     load();
     machine.serveAfter(L"c:\\plans", [] { Searching::stop(); });
     tick(true);
-    const Lines found = {L"c:\\plans\\axe.slddrw", L"c:\\plans\\Zoe.SLDDRW"};
+    const Texts found = {L"c:\\plans\\axe.slddrw", L"c:\\plans\\Zoe.SLDDRW"};
     EXPECT_EQ(unchosen(), found);
     EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"2");
     ASSERT_EQ(machine.boxes.shown.size(), 1U);

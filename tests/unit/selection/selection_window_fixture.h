@@ -1,9 +1,6 @@
 #pragma once
 
-#include <gtest/gtest.h>
 #include <memory>
-#include <string>
-#include <vector>
 
 #include "cad/cad_session.h"
 #include "common/text.h"
@@ -11,6 +8,7 @@
 #include "fakes/fake_platform.h"
 #include "selection/selection_ids.h"
 #include "selection/selection_window.h"
+#include "unit/unit_test.h"
 
 /// The selection window on a machine in memory, driven by its controls' events. The machine has
 ///   c:\a.SLDDRW
@@ -20,8 +18,6 @@
 ///   d:\doc        d.SLDDRW; the current directory of its drive
 class SelectionFixture : public testing::Test {
  protected:
-    using Lines = std::vector<std::wstring>;
-
     SelectionFixture() {
         for (const wchar_t* path :
              {L"c:\\a.SLDDRW", L"c:\\plans\\axe.slddrw", L"c:\\plans\\Bras.SLDPRT",
@@ -52,6 +48,10 @@ class SelectionFixture : public testing::Test {
         types().content = typed;
         window().sink.raise(IDC_FORM1_TYPEF, Event::Change);
     }
+    void choose(int comboBox, int line) {
+        window().comboBox(comboBox).selectLine(line);
+        click(comboBox);
+    }
     void chooseType(int line) { choose(IDC_FORM1_TYPEF, line); }
     void leaveTypes() { window().sink.raise(IDC_FORM1_TYPEF, Event::Validate); }
     void chooseDrive(int line) { choose(IDC_FORM1_UNITE, line); }
@@ -67,10 +67,11 @@ class SelectionFixture : public testing::Test {
         window().checkBox(IDC_FORM1_SOUSREP).ticked = ticked;
         click(IDC_FORM1_SOUSREP);
     }
-    /// Highlights these lines of the list and no others.
-    void highlight(const std::vector<int>& lines) {
+    /// Highlights these lines of the list and no others, and presses the button.
+    void toggle(const std::vector<int>& lines) {
         list().clearSelection();
         for (const int line : lines) list().select(line, true);
+        click(IDC_FORM1_CMDCOCHE);
     }
 
     // What a user sees.
@@ -81,8 +82,8 @@ class SelectionFixture : public testing::Test {
     bool ticked() { return window().checkBox(IDC_FORM1_SOUSREP).ticked; }
     std::wstring text(int id) { return control(id).content; }
     /// The list without its prefixes of 14 blanks, which all lines must have.
-    Lines unchosen() {
-        Lines result;
+    Texts unchosen() {
+        Texts result;
         for (const std::wstring& line : list().texts()) {
             EXPECT_EQ(line.substr(0, 14), std::wstring(14, L' '));
             result.push_back(line.substr(14));
@@ -100,10 +101,4 @@ class SelectionFixture : public testing::Test {
     FakeExits exits;
     CadSession cad{machine.desktop};
     std::unique_ptr<SelectionWindow> form;
-
- private:
-    void choose(int comboBox, int line) {
-        window().comboBox(comboBox).selectLine(line);
-        click(comboBox);
-    }
 };

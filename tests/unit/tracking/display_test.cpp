@@ -1,22 +1,19 @@
 #include "unit/tracking/tracking_window_fixture.h"
 
 using Display = TrackingFixture;
-using Lines = std::vector<std::wstring>;
-
 TEST_F(Display, OfANewListShowsAllLinesButTheFirstAsToDo) {
-    load(L"1  c:\\a\r\n0  c:\\b\r\n2  c:\\c\r\n0  c:\\d\r\n",
-         TrackingWindow::Origin::LaunchedAfterDeclining);
-    EXPECT_EQ(list().texts(), (Lines{L"0001   Fait          c:\\a", L"0002                c:\\b",
+    load(L"1  c:\\a\r\n0  c:\\b\r\n2  c:\\c\r\n0  c:\\d\r\n", Origin::LaunchedAfterDeclining);
+    EXPECT_EQ(list().texts(), (Texts{L"0001   Fait          c:\\a", L"0002                c:\\b",
                                      L"0003                c:\\c", L"0004                c:\\d"}));
     // The next redraw shows the states.
     click(IDC_FORM3_CMDSUIVQUITTER);
-    EXPECT_EQ(list().texts(), (Lines{L"0001   Fait          c:\\a", L"0002   Vu            c:\\b",
+    EXPECT_EQ(list().texts(), (Texts{L"0001   Fait          c:\\a", L"0002   Vu            c:\\b",
                                      L"0003   Vu            c:\\c", L"0004   EnCours  c:\\d"}));
 }
 
 TEST_F(Display, OfAnUnknownStateTakesTheLabelAbove) {
     load(L"5  c:\\a\r\n1  c:\\b\r\n7  c:\\c\r\nx  c:\\d\r\n0  c:\\e\r\n6  c:\\f\r\n");
-    EXPECT_EQ(list().texts(), (Lines{L"0001  c:\\a", L"0002   Fait          c:\\b",
+    EXPECT_EQ(list().texts(), (Texts{L"0001  c:\\a", L"0002   Fait          c:\\b",
                                      L"0003   Fait          c:\\c", L"0004   Fait          c:\\d",
                                      L"0005   EnCours  c:\\e", L"0006   EnCours  c:\\f"}));
     // And changes with it.
@@ -38,18 +35,29 @@ TEST_F(Display, RedrawnInPlaceLosesTheUsersSelection) {
 
 TEST_F(Display, DepthHidesLevelsOfAllLines) {
     load(L"0  C:\\A\\B\\f\r\n1  C:\\g\r\n2  C:\\A\\h\r\n");
-    const Lines whole = list().texts();
+    const Texts whole = list().texts();
     click(IDC_FORM3_CMDPLUS1);
     EXPECT_EQ(text(IDC_FORM3_NNIVEAU1), L"1");
-    const Lines oneLevel = {L"0001   EnCours  C:\\..\\B\\f", L"0002   Fait          ",
+    const Texts oneLevel = {L"0001   EnCours  C:\\..\\B\\f", L"0002   Fait          ",
                             L"0003   Vu            C:\\..\\h"};
     EXPECT_EQ(list().texts(), oneLevel);
-    click(IDC_FORM3_CMDPLUS1);
-    EXPECT_EQ(list().texts()[0], L"0001   EnCours  C:\\..\\..\\f");
-    click(IDC_FORM3_CMDMOINS1);
+    clickAll({IDC_FORM3_CMDPLUS1, IDC_FORM3_CMDMOINS1});
     EXPECT_EQ(list().texts(), oneLevel);
     click(IDC_FORM3_CMDSUIV);
     EXPECT_EQ(list().texts()[0], L"0001   Fait          C:\\..\\B\\f");
     click(IDC_FORM3_CMDMOINS1);
     EXPECT_EQ(list().texts()[1], whole[1]);
+}
+
+TEST_F(Display, CountsTheLinesNoLongerToDoUntilThePassEnds) {
+    loadStates(L"01200");
+    const auto expectShownAfter = [&](int button, int done, int total) {
+        if (button != 0) click(button);
+        EXPECT_EQ(std::pair(window().progressDone, window().progressTotal), std::pair(done, total));
+    };
+    expectShownAfter(0, 2, 5);
+    expectShownAfter(IDC_FORM3_CMDSUIV, 3, 5);
+    expectShownAfter(IDC_FORM3_CMDSUIVSAUTER, 3, 5);
+    expectShownAfter(IDC_FORM3_CMDSUIVQUITTER, 0, 0);
+    expectShownAfter(IDC_FORM3_CMDPRECEDENT, 4, 5);
 }

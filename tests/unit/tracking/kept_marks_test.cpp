@@ -1,21 +1,17 @@
-#include "unit/raised.h"
 #include "unit/tracking/tracking_window_fixture.h"
 
 namespace {
 
 class Resuming : public TrackingFixture {
  protected:
-    static constexpr auto kYes = MessageBoxes::Answer::Yes;
-    static constexpr auto kNo = MessageBoxes::Answer::No;
-
     bool recordThere() { return !machine.records.contents.empty(); }
 
     /// Starts again as after a kill, with these answers; gives the boxes that came.
-    std::vector<std::wstring> restart(std::deque<MessageBoxes::Answer> answers) {
+    Texts restart(std::deque<MessageBoxes::Answer> answers) {
         machine.boxes.shown.clear();
         machine.boxes.answers = std::move(answers);
         start();
-        std::vector<std::wstring> texts;
+        Texts texts;
         for (const auto& box : machine.boxes.shown) {
             EXPECT_EQ(box.title, L"Tarnwick");
             EXPECT_EQ(box.defaultButton, 1);
@@ -35,8 +31,6 @@ class Resuming : public TrackingFixture {
     }
 };
 
-using Texts = std::vector<std::wstring>;
-
 const std::wstring kMarked =
     L"Le passage précédent s'est arrêté avant l'enregistrement de la liste.\r\n"
     L"Documents marqués depuis : 2\r\nRetrouver ces marques ?";
@@ -47,8 +41,7 @@ const std::wstring kOpening =
 
 TEST_F(Resuming, OffersTheMarksThatWereKept) {
     loadStates(L"00000");
-    click(IDC_FORM3_CMDSUIV);
-    click(IDC_FORM3_CMDSUIVQUITTER);
+    clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIVQUITTER});
     EXPECT_EQ(restart({kYes}), Texts{kMarked});
     EXPECT_EQ(states(), L"1 2 3 0 0");
     EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\c");
@@ -58,14 +51,12 @@ TEST_F(Resuming, OffersTheMarksThatWereKept) {
     EXPECT_EQ(restart({}), Texts());
     // Neither a save nor a launch of the same list leaves anything to offer.
     click(IDC_FORM3_CMDSUIV);
-    start(TrackingWindow::Origin::Launched);
+    start(Origin::Launched);
     EXPECT_FALSE(recordThere());
     EXPECT_EQ(states(), L"3 0 0 0 0");
-    click(IDC_FORM3_CMDSUIV);
-    click(IDC_FORM3_CMDFICHIERLISTE);
+    clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDFICHIERLISTE});
     EXPECT_FALSE(recordThere());
-    click(IDC_FORM3_CMDSUIVQUITTER);
-    click(IDC_FORM3_CMDSUIVQUITTER);
+    clickAll({IDC_FORM3_CMDSUIVQUITTER, IDC_FORM3_CMDSUIVQUITTER});
     EXPECT_EQ(restart({kYes}), Texts{kMarked});
     EXPECT_EQ(states(), L"1 2 2 3 0");
 }
@@ -87,8 +78,9 @@ TEST_F(Resuming, LeavesTheRecordAtEveryEndAndSaysSoWhenOneIsAnError) {
 
 TEST_F(Resuming, GoesPastADocumentThatStopsTheProgramOrOpensItAgain) {
     loadStates(L"0000");
-    dieOpening(L"c");
     const auto stopAtC = [&] {
+        machine.records.contents.clear();
+        dieOpening(L"c");
         start();
         click(IDC_FORM3_CMDSUIV);
         EXPECT_THROW(click(IDC_FORM3_CMDSUIV), RuntimeError);
@@ -99,15 +91,12 @@ TEST_F(Resuming, GoesPastADocumentThatStopsTheProgramOrOpensItAgain) {
     EXPECT_EQ(states(), L"1 1 0 3");
     EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\d");
 
-    machine.records.contents.clear();
-    dieOpening(L"c");
     stopAtC();
     EXPECT_EQ(restart({kYes, kNo}), (Texts{kMarked, kOpening}));
     EXPECT_EQ(states(), L"1 1 3 0");
     EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\c");
 
     // The very first document; and one with nothing to do behind it.
-    machine.records.contents.clear();
     dieOpening(L"c");
     EXPECT_THROW(load(L"0  c:\\c\r\n0  c:\\d\r\n"), RuntimeError);
     EXPECT_EQ(restart({kYes}), Texts{kOpening});
@@ -123,8 +112,7 @@ TEST_F(Resuming, TellsOnceThatMarksCannotBeKept) {
     machine.records.writesUntilFailure = 0;
     loadStates(L"0000");
     EXPECT_EQ(machine.boxes.shown.size(), 1U);
-    click(IDC_FORM3_CMDSUIV);
-    click(IDC_FORM3_CMDSUIV);
+    clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIV});
     EXPECT_EQ(machine.boxes.shown.size(), 1U);
     EXPECT_EQ(states(), L"1 1 3 0");
 }

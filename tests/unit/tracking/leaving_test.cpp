@@ -1,20 +1,41 @@
+// What the window takes over when it is loaded, and what it leaves behind.
+
 #include "unit/tracking/tracking_window_fixture.h"
 
+using Load = TrackingFixture;
 using Leaving = TrackingFixture;
+
+TEST_F(Load, PutsTheWindowInItsPlaceAndHidesWhatIsNotForTheUser) {
+    loadStates(L"00");
+    EXPECT_EQ(window().area.corner(), (Point{-40, 20}));
+    EXPECT_FALSE(window().checkBox(IDC_FORM3_CKMINIMISE).visible);
+    EXPECT_FALSE(window().control(IDC_FORM3_CMDMEMO).visible);
+    EXPECT_FALSE(window().control(IDC_FORM3_NUMFICHCOUR).visible);
+    EXPECT_EQ(text(IDC_FORM3_NNIVEAU1), L"0");
+}
+
+TEST_F(Load, TicksTheOptionsThatWereSaved) {
+    const std::pair<const wchar_t*, std::wstring> cases[] = {
+        {L"0101", L"0101"}, {L"", L"0000"}, {L"11", L"1100"}, {L"21x1", L"0101"}};
+    for (const auto& [saved, expected] : cases) {
+        machine.settings.write(L"tarnwick", L"startup", L"RegCheck", saved);
+        loadStates(L"00");
+        std::wstring ticked;
+        for (const int box : kOptionBoxes) ticked += window().checkBox(box).ticked ? L'1' : L'0';
+        EXPECT_EQ(ticked, expected) << saved;
+    }
+}
 
 TEST_F(Leaving, BySortieSavesPlaceAndOptionsAndClosesTheDocument) {
     loadStates(L"00");
     window().leaveAt(2'667, 100);
-    const int ticked[] = {IDC_FORM3_CKMINIMISE, IDC_FORM3_CKRECONS2};
-    for (const int box : {IDC_FORM3_CKSILENT, IDC_FORM3_CKRECONS}) {
-        window().checkBox(box).ticked = false;
-    }
-    for (const int box : ticked) window().checkBox(box).ticked = true;
+    tickOptions(L"1001");
     EXPECT_THROW(click(IDC_FORM3_CMDSORTIE), ProgramEnd);
     EXPECT_EQ(takeCalls(), CallJournal{L"closedoc(\"c:\\a\")"});
-    EXPECT_EQ(machine.settings.read(L"tarnwick", L"startup", L"toppos3", L""), L"1500");
-    EXPECT_EQ(machine.settings.read(L"tarnwick", L"startup", L"leftpos3", L""), L"32767");
-    EXPECT_EQ(machine.settings.read(L"tarnwick", L"startup", L"regcheck", L""), L"1001");
+    const auto saved = [&](const wchar_t* key) {
+        return machine.settings.read(L"tarnwick", L"startup", key, L"") + L' ';
+    };
+    EXPECT_EQ(saved(L"toppos3") + saved(L"leftpos3") + saved(L"regcheck"), L"1500 32767 1001 ");
     EXPECT_EQ(listFile(), L"0  c:\\a\r\n0  c:\\b\r\n");
 }
 
@@ -27,21 +48,16 @@ TEST_F(Leaving, ListFileSavedTwiceLosesItsFlaggedStates) {
     // Flagged and saved, a line is no longer found as to do.
     click(IDC_FORM3_CMDSUIV);
     EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"2");
-    load(listFile());
-    EXPECT_EQ(work().lines[1].code, "100");
 }
 
 TEST_F(Leaving, ListFileHasAsManyLinesAsTheCounterShows) {
-    load(L"0  c:\\a\r\n0  c:\\b\r\n0  c:\\c\r\n");
+    loadStates(L"000");
     window().control(IDC_FORM3_CPTFICHIER1).content = L"2";
     click(IDC_FORM3_CMDFICHIERLISTE);
     EXPECT_EQ(listFile(), L"3  c:\\a\r\n0  c:\\b\r\n");
-}
-
-TEST_F(Leaving, ListFileIsWholeAfterALoadThatEndsTheList) {
+    // It is whole after a load that ends the list.
     loadStates(L"12");
-    EXPECT_FALSE(canAdvance());
-    EXPECT_TRUE(canStepBack() && cad().hasOpen(L""));
+    EXPECT_TRUE(!canAdvance() && canStepBack() && cad->hasOpen(L""));
     click(IDC_FORM3_CMDFICHIERLISTE);
     EXPECT_EQ(listFile(), L"1  c:\\a\r\n2  c:\\b\r\n");
 }

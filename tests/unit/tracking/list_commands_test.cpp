@@ -1,11 +1,6 @@
-#include "common/utf8.h"
-#include "unit/raised.h"
 #include "unit/tracking/tracking_window_fixture.h"
 
 namespace {
-
-constexpr auto kYes = MessageBoxes::Answer::Yes;
-constexpr auto kNo = MessageBoxes::Answer::No;
 
 class ListCommands : public TrackingFixture {
  protected:
@@ -31,7 +26,7 @@ class ListCommands : public TrackingFixture {
         EXPECT_EQ(list().selection(), std::vector{index});
         EXPECT_EQ(list().count(), work().last + 1);
         EXPECT_TRUE(list().line(index).ends_with(path));
-        EXPECT_TRUE(cad().hasOpen(path));
+        EXPECT_TRUE(cad->hasOpen(path));
     }
 
     /// Two buttons have a text of their own, by one letter.
@@ -43,40 +38,24 @@ class ListCommands : public TrackingFixture {
         EXPECT_EQ(box.text, std::wstring(L"Pour cette fonction , il faut avoir sélectionn") +
                                 (other ? L"er" : L"é") + L" au moins une ligne ");
         EXPECT_EQ(box.title, L"Manque sélection ");
-        expectHelp(box);
-    }
-
-    void expectHelp(const MessageBoxContent& box) {
-        EXPECT_EQ(box.helpFile, L"DEMO.HLP");
         EXPECT_EQ(box.helpContext, 1000);
     }
 };
 
+/// The end of each question tells it from the others.
 const struct {
     int button;
-    bool needsSelection;
-    const wchar_t* what;
-    const wchar_t* title;
+    const wchar_t *end, *title;
 } kQuestions[] = {
-    {IDC_FORM3_CMDCHAF, true, L"passer les lignes sélectionnées \n\ren mode 'Fait'",
+    {IDC_FORM3_CMDCHAF, L" vraiment passer les lignes sélectionnées \n\ren mode 'Fait'",
      L"Passage en mode 'F'"},
-    {IDC_FORM3_CMDCHAV, true, L"passer les lignes sélectionnées \n\ren mode 'Vu'",
-     L"Passage en mode 'V'"},
-    {IDC_FORM3_CMDCHARAZ, true, L"passer les lignes sélectionnées \n\ren mode 'à traiter'",
-     L"Passage en mode 'A Traiter'"},
-    {IDC_FORM3_CMDELIF, true,
-     L"supprimer les fichiers marqués 'F' \n\r"
-     L"parmi les lignes sélectionnées",
+    {IDC_FORM3_CMDCHAV, L"en mode 'Vu'", L"Passage en mode 'V'"},
+    {IDC_FORM3_CMDCHARAZ, L"en mode 'à traiter'", L"Passage en mode 'A Traiter'"},
+    {IDC_FORM3_CMDELIF, L"'F' \n\rparmi les lignes sélectionnées", L"Elimination 'F' et 'V' "},
+    {IDC_FORM3_CMDELIFV, L"'F' et 'V'\n\rparmi les lignes sélectionnées",
      L"Elimination 'F' et 'V' "},
-    {IDC_FORM3_CMDELIFV, true,
-     L"supprimer les fichiers marqués 'F' et 'V'\n\r"
-     L"parmi les lignes sélectionnées",
-     L"Elimination 'F' et 'V' "},
-    {IDC_FORM3_CMDELIV, true,
-     L"supprimer les fichiers marqués 'V'\n\rparmi les lignes sélectionnées", L"Elimination 'V' "},
-    {IDC_FORM3_CMDPURGE, false,
-     L"supprimer tous les fichiers marqués 'F' et 'V'\n\r"
-     L"sans tenir compte des lignes sélectionnées ? ",
+    {IDC_FORM3_CMDELIV, L"marqués 'V'\n\rparmi les lignes sélectionnées", L"Elimination 'V' "},
+    {IDC_FORM3_CMDPURGE, L"\n\rsans tenir compte des lignes sélectionnées ? ",
      L"Elimination 'F' et 'V' "},
 };
 
@@ -85,23 +64,26 @@ const struct {
 TEST_F(ListCommands, WantALineAskFirstAndDoNothingWhenTheAnswerIsNo) {
     loadStates(L"10201");
     for (const auto& q : kQuestions) {
-        select(q.needsSelection ? std::vector{0, 2, 3} : std::vector<int>{});
+        const bool needsSelection = q.button != IDC_FORM3_CMDPURGE;
+        select(needsSelection ? std::vector{0, 2, 3} : std::vector<int>{});
         const auto selected = list().selection();
         machine.boxes.shown.clear();
         machine.boxes.answers = {kNo};
         click(q.button);
         ASSERT_EQ(machine.boxes.shown.size(), 1U) << q.title;
         const MessageBoxContent& box = machine.boxes.shown.front();
-        EXPECT_EQ(box.text, std::wstring(L"Voulez vous vraiment ") + q.what);
+        EXPECT_TRUE(box.text.starts_with(L"Voulez vous vraiment ")) << box.text;
+        EXPECT_TRUE(box.text.ends_with(q.end)) << box.text;
         EXPECT_EQ(box.title, q.title);
         EXPECT_EQ(box.buttons, MessageBoxContent::Buttons::YesNo) << q.title;
         EXPECT_EQ(box.icon, MessageBoxContent::Icon::Stop) << q.title;
         EXPECT_EQ(box.defaultButton, 2) << q.title;
-        expectHelp(box);
+        EXPECT_EQ(box.helpFile, L"DEMO.HLP");
+        EXPECT_EQ(box.helpContext, 1000);
         EXPECT_EQ(states(), L"1 3 2 0 1") << q.title;
         EXPECT_EQ(list().selection(), selected) << q.title;
         EXPECT_EQ(takeCalls(), CallJournal()) << q.title;
-        if (q.needsSelection) expectWantsALine(q.button);
+        if (needsSelection) expectWantsALine(q.button);
     }
     expectWantsALine(IDC_FORM3_CMDREPA);
     EXPECT_EQ(states(), L"1 3 2 0 1");
@@ -138,14 +120,13 @@ TEST_F(ListCommands, ChangeOrRemoveLinesAndKeepTheCurrentOneOpen) {
 
 TEST_F(ListCommands, WithNothingLeftToDoThePassIsOver) {
     loadStates(L"000");
-    click(IDC_FORM3_CMDSUIV);
-    click(IDC_FORM3_CMDSUIV);
+    clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIV});
     takeCalls();
     click(IDC_FORM3_CMDSUIV);
     EXPECT_EQ(takeCalls(), (CallJournal{L"c.save2(True)", L"closedoc(\"c:\\c\")"}));
     EXPECT_EQ(shown(), L"3: 3/3 Aucun");
     EXPECT_EQ(list().texts()[2], L"0003   Fait          c:\\c");
-    EXPECT_TRUE(list().selection().empty() && canStepBack() && cad().hasOpen(L""));
+    EXPECT_TRUE(list().selection().empty() && canStepBack() && cad->hasOpen(L""));
     command(IDC_FORM3_CMDELIF, {0, 2});
     EXPECT_EQ(states(), L"1");
     EXPECT_FALSE(canAdvance());

@@ -1,7 +1,5 @@
-#include <gtest/gtest.h>
-
 #include "fakes/fake_controls.h"
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 #include "worklist/display_depth.h"
 #include "worklist/display_line.h"
 #include "worklist/short_path.h"

@@ -1,8 +1,6 @@
 #include "worklist/list_file.h"
 
-#include <gtest/gtest.h>
-
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 namespace {
 

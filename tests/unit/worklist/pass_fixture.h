@@ -1,10 +1,7 @@
 #pragma once
 
-#include <gtest/gtest.h>
-#include <string>
-#include <vector>
-
 #include "fakes/fake_clock.h"
+#include "unit/unit_test.h"
 #include "worklist/pass.h"
 
 /// The text of a list file of the documents c:\0, c:\1 … whose codes these are.

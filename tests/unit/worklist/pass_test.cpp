@@ -1,6 +1,5 @@
 #include "worklist/pass.h"
 
-#include "unit/raised.h"
 #include "unit/worklist/pass_fixture.h"
 
 namespace {

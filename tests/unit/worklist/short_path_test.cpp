@@ -1,8 +1,6 @@
 #include "worklist/short_path.h"
 
-#include <gtest/gtest.h>
-
-#include "unit/raised.h"
+#include "unit/unit_test.h"
 
 TEST(shortPath, HidesTheFirstLevels) {
     constexpr wchar_t kPath[] = L"C:\\A\\B\\C\\f.SLDPRT";

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "unit/raised.h"
+
+using Texts = std::vector<std::wstring>;
