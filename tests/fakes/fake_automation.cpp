@@ -21,74 +21,60 @@ std::wstring textArgument(const Argument& argument) {
     return std::get<std::wstring>(argument);
 }
 
-std::wstring fileName(const std::wstring& path) { return path.substr(path.rfind(L'\\') + 1); }
-
 }  // namespace
 
-Value FakeObject::call(std::wstring_view name, std::span<const Argument> arguments,
-                       std::wstring_view) {
-    std::wstring line = namePrefix + std::wstring(name) + L'(';
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        line += (i == 0 ? L"" : L", ") + std::visit(ArgumentText(), arguments[i]);
-    }
-    journal.push_back(line + L')');
-    const auto answer = answers.find(name);
-    if (answer == answers.end()) throw errors::unknownMember(std::wstring(name));
-    return answer->second(arguments);
-}
+struct FakeAutomation::Object : AutomationObject {
+    Object(FakeAutomation& all, std::wstring itsName = {})
+        : server(all), name(std::move(itsName)) {}
 
-void FakeObject::put(std::wstring_view name, const Argument& value) {
-    journal.push_back(namePrefix + std::wstring(name) + L" = " + std::visit(ArgumentText(), value));
+    FakeAutomation& server;
+    std::wstring name;
+
+    std::wstring prefix() const { return name.empty() ? name : name + L'.'; }
+    Value call(std::wstring_view method, std::span<const Argument> arguments,
+               std::wstring_view) override {
+        std::wstring line = prefix() + std::wstring(method) + L'(';
+        for (std::size_t i = 0; i < arguments.size(); ++i)
+            line += (i == 0 ? L"" : L", ") + std::visit(ArgumentText(), arguments[i]);
+        server.journal.push_back(line + L')');
+        return server.answer(name, method, arguments);
+    }
+    void put(std::wstring_view property, const Argument& value) override {
+        server.journal.push_back(prefix() + std::wstring(property) + L" = " +
+                                 std::visit(ArgumentText(), value));
+    }
+};
+
+Value FakeAutomation::answer(const std::wstring& object, std::wstring_view name,
+                             std::span<const Argument> arguments) {
+    const auto instead = overrides.find(name);
+    if (instead != overrides.end()) return instead->second(arguments);
+    if (name == L"OpenDoc6" || name == L"ActivateDoc2") {
+        const std::wstring path = textArgument(arguments[0]);
+        if (!documentsOpen) return ObjectPtr();
+        return std::make_shared<Object>(*this, path.substr(path.rfind(L'\\') + 1));
+    }
+    if (name == L"setsearchfolders") {
+        searchFolders = textArgument(arguments[1]);
+        return setSearchFoldersResult;
+    }
+    if (name == L"RevisionNumber") return revision;
+    if (name == L"GetCurrentWorkingDirectory") return workingDirectory;
+    if (name == L"GetSearchFolders") return searchFolders;
+    if (name == L"GetTitle") return object;
+    if (name == L"ForceRebuild3") return true;
+    if (name == L"save2") return std::int32_t{0};
+    if (name == L"closedoc" || name == L"ViewZoomtofit2") return {};
+    if (name == L"fileExists") return fileExists(textArgument(arguments[0]));
+    throw errors::unknownMember(std::wstring(name));
 }
 
 ObjectPtr FakeAutomation::attach(const std::wstring& progId) {
     journal.push_back(L"attach " + progId);
-    return makeApplication();
+    return std::make_shared<Object>(*this);
 }
 
 ObjectPtr FakeAutomation::create(const std::wstring& progId) {
     journal.push_back(L"create " + progId);
-    return makeFileSystem();
-}
-
-ObjectPtr FakeAutomation::makeApplication() {
-    auto application = std::make_shared<FakeObject>(journal);
-    const auto open = [this](auto arguments) { return document(textArgument(arguments[0])); };
-    application->answers = {
-        {L"RevisionNumber", [this](auto) { return revision; }},
-        {L"GetCurrentWorkingDirectory", [this](auto) { return workingDirectory; }},
-        {L"OpenDoc6", open},
-        {L"ActivateDoc2", open},
-        {L"closedoc", [](auto) { return Value(); }},
-        {L"GetSearchFolders", [this](auto) { return searchFolders; }},
-        {L"setsearchfolders",
-         [this](auto arguments) {
-             searchFolders = textArgument(arguments[1]);
-             return setSearchFoldersResult;
-         }},
-    };
-    for (const auto& [name, answer] : overrides) application->answers[name] = answer;
-    return application;
-}
-
-Value FakeAutomation::document(const std::wstring& path) {
-    if (!documentsOpen) return ObjectPtr();
-    const std::wstring name = fileName(path);
-    auto result = std::make_shared<FakeObject>(journal, name + L'.');
-    result->answers = {
-        {L"GetTitle", [name](auto) { return name; }},
-        {L"ForceRebuild3", [](auto) { return true; }},
-        {L"save2", [](auto) { return Value(std::int32_t{0}); }},
-        {L"ViewZoomtofit2", [](auto) { return Value(); }},
-    };
-    for (const auto& [method, answer] : overrides) result->answers[method] = answer;
-    return ObjectPtr(result);
-}
-
-ObjectPtr FakeAutomation::makeFileSystem() {
-    auto fileSystem = std::make_shared<FakeObject>(journal, L"Fso.");
-    fileSystem->answers = {
-        {L"fileExists", [this](auto arguments) { return fileExists(textArgument(arguments[0])); }},
-    };
-    return fileSystem;
+    return std::make_shared<Object>(*this, L"Fso");
 }

@@ -13,24 +13,10 @@
 /// name in front.
 using CallJournal = std::vector<std::wstring>;
 
-/// An object that records its calls and answers them from a table of functions by method name.
-struct FakeObject : AutomationObject {
-    using Answer = std::function<Value(std::span<const Argument>)>;
-
-    explicit FakeObject(CallJournal& calls, std::wstring prefix = {})
-        : journal(calls), namePrefix(std::move(prefix)) {}
-
-    CallJournal& journal;
-    std::wstring namePrefix;
-    std::map<std::wstring, Answer, std::less<>> answers;
-
-    Value call(std::wstring_view name, std::span<const Argument> arguments,
-               std::wstring_view resultClass) override;
-    void put(std::wstring_view name, const Argument& value) override;
-};
-
 /// A running CAD application whose documents open and close, and a file-system object.
 struct FakeAutomation : Automation {
+    using Answer = std::function<Value(std::span<const Argument>)>;
+
     CallJournal journal;
     bool documentsOpen = true;  ///< false: opening and activating give no document
     std::wstring revision = L"12.0.0";
@@ -40,7 +26,7 @@ struct FakeAutomation : Automation {
     std::function<bool(const std::wstring&)> fileExists = [](const std::wstring&) { return false; };
 
     /// What a method does instead of what it usually does, by its name.
-    std::map<std::wstring, FakeObject::Answer, std::less<>> overrides;
+    std::map<std::wstring, Answer, std::less<>> overrides;
 
     ObjectPtr attach(const std::wstring& progId) override;
     ObjectPtr create(const std::wstring& progId) override;
@@ -49,7 +35,9 @@ struct FakeAutomation : Automation {
     CallJournal takeJournal() { return std::exchange(journal, {}); }
 
  private:
-    ObjectPtr makeApplication();
-    ObjectPtr makeFileSystem();
-    Value document(const std::wstring& path);
+    struct Object;
+
+    /// What the object of this name answers to a call.
+    Value answer(const std::wstring& object, std::wstring_view name,
+                 std::span<const Argument> arguments);
 };

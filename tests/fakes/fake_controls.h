@@ -41,11 +41,19 @@ struct FakeListBox : FakeControlOf<ListBox> {
     int count() const override { return static_cast<int>(lines.size()); }
     std::wstring line(int index) const override { return at(index).text; }
     bool selected(int index) const override { return at(index).selected; }
-    void select(int index, bool selected) override;
-    void clearSelection() override;
+    void select(int index, bool selected) override {
+        if (has(index) && !severalSelectable) clearSelection();
+        change(index).selected = selected;
+    }
+    void clearSelection() override {
+        for (Line& line : lines) line.selected = false;
+    }
     int mark(int index) const override { return at(index).mark; }
     void setMark(int index, int mark) override { change(index).mark = mark; }
-    void setLines(int count, const std::function<std::wstring(int)>& line) override;
+    void setLines(int count, const std::function<std::wstring(int)>& line) override {
+        lines.clear();
+        for (int i = 0; i < count; ++i) lines.push_back({line(i)});
+    }
     void changeText(int index, const std::wstring& line) override { change(index).text = line; }
     void changeTexts(const std::function<std::wstring(int)>& line) override {
         std::vector<std::wstring> changed;
@@ -56,15 +64,29 @@ struct FakeListBox : FakeControlOf<ListBox> {
     void resumeDrawing() override { --drawingStops; }
 
     /// The texts of all lines.
-    std::vector<std::wstring> texts() const;
+    std::vector<std::wstring> texts() const {
+        std::vector<std::wstring> result;
+        for (const Line& line : lines) result.push_back(line.text);
+        return result;
+    }
     /// The indices of the selected lines.
-    std::vector<int> selection() const;
+    std::vector<int> selection() const {
+        std::vector<int> result;
+        for (int i = 0; i < count(); ++i) {
+            if (selected(i)) result.push_back(i);
+        }
+        return result;
+    }
 
  private:
     bool has(int index) const { return index >= 0 && index < count(); }
     /// A line; for one that is not there, what a list answers then.
-    Line at(int index) const;
-    Line& change(int index);
+    Line at(int index) const {
+        return has(index) ? lines[static_cast<std::size_t>(index)] : Line{.text = L"", .mark = -1};
+    }
+    Line& change(int index) {
+        return has(index) ? lines[static_cast<std::size_t>(index)] : nowhere_;
+    }
 
     Line nowhere_;
 };

@@ -1,6 +1,5 @@
 #include "fakes/fake_files.h"
 
-#include <cstring>
 #include <functional>
 
 #include "common/runtime_error.h"
@@ -82,15 +81,6 @@ bool FakeFiles::exists(const std::wstring& directory) const {
     return directory.size() == 2 || directories.contains(directory) || !below(directory).empty();
 }
 
-DirectoryEntry FakeFiles::entry(const std::wstring& path, const std::wstring& name,
-                                bool isDirectory) const {
-    const auto given = attributes.find(path);
-    std::uint32_t bits = given == attributes.end() ? 0 : given->second;
-    if (isDirectory) bits |= attribute::kDirectory;
-    if (links.contains(path)) bits |= attribute::kReparsePoint;
-    return directoryEntry(name, bits, kMountPointTag);
-}
-
 void FakeFiles::visit(const std::wstring& directory,
                       const std::function<void(const DirectoryEntry&)>& visitor) {
     beforeEach(directory);
@@ -102,18 +92,21 @@ void FakeFiles::visit(const std::wstring& directory,
     if (unreadable.contains(where)) throw errors::permissionDenied(directory);
     if (!exists(where)) throw errors::pathNotFound(directory);
 
-    for (const auto& [name, isDirectory] : below(where))
-        visitor(entry(where + L'\\' + name, name, isDirectory));
+    for (const auto& [name, isDirectory] : below(where)) {
+        const std::wstring path = where + L'\\' + name;
+        const auto given = attributes.find(path);
+        std::uint32_t bits = given == attributes.end() ? 0 : given->second;
+        if (isDirectory) bits |= attribute::kDirectory;
+        if (links.contains(path)) bits |= attribute::kReparsePoint;
+        visitor(directoryEntry(name, bits, kMountPointTag));
+    }
 }
 
 DirectoryId FakeFiles::identify(const std::wstring& directory) {
     beforeEach(directory);
     const std::wstring where = resolved(directory);
     if (!exists(where)) throw errors::pathNotFound(directory);
-    DirectoryId id{.volume = 1, .file = {}};
-    const std::size_t number = std::hash<std::wstring>()(where);
-    std::memcpy(id.file.data(), &number, sizeof number);
-    return id;
+    return {.volume = std::hash<std::wstring>()(where), .file = {}};
 }
 
 std::wstring FakeFiles::currentDirectory(wchar_t drive) {

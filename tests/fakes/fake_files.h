@@ -37,8 +37,6 @@ struct FakeFiles : Files {
  private:
     /// The path with links on the way replaced by where they lead, without a trailing backslash.
     std::wstring resolved(std::wstring path) const;
-    DirectoryEntry entry(const std::wstring& path, const std::wstring& name,
-                         bool isDirectory) const;
     /// The names right below a directory; true for those of directories.
     std::map<std::wstring, bool> below(const std::wstring& directory) const;
     bool exists(const std::wstring& directory) const;

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <thread>
-#include <utility>
 
 #include "fakes/fake_automation.h"
 #include "fakes/fake_clock.h"
@@ -51,9 +49,7 @@ struct FakePlatform {
                       L"c:\\tarnwick"};
 
     FakePlatform() {
-        automation.fileExists = [this](const std::wstring& path) {
-            return files.texts.contains(path);
-        };
+        automation.fileExists = [this](const auto& path) { return files.texts.contains(path); };
     }
 
     const ProgramFiles programFiles{L"c:\\tarnwick", L"c:\\tarnwick\\tarnwick.lst",
