@@ -2,12 +2,8 @@
 
 #include <algorithm>
 
-#include "driver/winapi.h"
 #include "scenario.h"
-#include "selection/selection_ids.h"
-#include "tracking/tracking_ids.h"
 
-namespace driver {
 namespace {
 
 class BusyCad : public Scenario {
@@ -90,10 +86,8 @@ TEST_F(BusyCad, OtherProgramsCommandsAndTheFrameWaitForTheCall) {
     app.Click(IDC_FORM3_CMDSUIVSAUTER);
     WaitForCall("OpenDoc6(&\"" + paths[2]);
     EXPECT_EQ(CallsWith("b.SLDPRT.ViewZoomtofit2"), 1) << "b was left before it was shown";
-    app.CloseByFrame(kTracking);
-    EXPECT_EQ(app.WaitForExit(), 0);
+    ExpectEnd(kTracking);
     EXPECT_EQ(CallsWith("c.SLDPRT.ViewZoomtofit2"), 1) << "the command was cut off";
 }
 
 }  // namespace
-}  // namespace driver

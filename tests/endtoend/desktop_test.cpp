@@ -1,12 +1,7 @@
 // What a window owes its user on any desktop: size, place, keyboard.
 
-#include "driver/winapi.h"
 #include "scenario.h"
-#include "searchfolders/configuration_ids.h"
-#include "selection/selection_ids.h"
-#include "tracking/tracking_ids.h"
 
-namespace driver {
 namespace {
 
 SIZE SizeOf(HWND window) {
@@ -102,4 +97,3 @@ TEST_F(Desktop, ShortcutsReachTheListSelectItsLinesAndPressButtons) {
 }
 
 }  // namespace
-}  // namespace driver

@@ -1,12 +1,7 @@
 // One list, one program: what a start meets on a list that is open already, and lists of their own.
 
-#include "driver/text.h"
-#include "driver/winapi.h"
-#include "resume/existing_list_ids.h"
 #include "scenario.h"
-#include "tracking/tracking_ids.h"
 
-namespace driver {
 namespace {
 
 class Hold : public Scenario {
@@ -81,6 +76,7 @@ TEST_F(Hold, ListsOfTheirOwnAreOpenSideBySide) {
     const std::string summer = InDirectory("Été 2026.lst");
     WriteFileBytes(Wide(summer), ListOf({"0", "0"}));
     app.Start();
+    EXPECT_EQ(app.TextOf(IDC_FORM2_LABEL1), "Un fichier LISTE  existe déja");
     app.Click(IDC_FORM2_CMDANNULE);
     app.Window(kSelection);
     other.Start({"Été 2026.lst"});
@@ -91,8 +87,7 @@ TEST_F(Hold, ListsOfTheirOwnAreOpenSideBySide) {
     WaitFor("the other list to be saved",
             [&] { return ReadFileBytes(Wide(summer))->starts_with("3"); });
     ExpectList(ListOf({"0", "0"}));
-    app.CloseByFrame(kSelection);
-    EXPECT_EQ(app.WaitForExit(), 0);
+    ExpectEnd(kSelection);
     EXPECT_TRUE(!Held("tarnwick.verrou") && Held("Été 2026.verrou"));
 }
 
@@ -127,4 +122,3 @@ TEST_F(Hold, ListWhereNothingCanBeWrittenIsOpenAllTheSame) {
 }
 
 }  // namespace
-}  // namespace driver

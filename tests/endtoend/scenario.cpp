@@ -2,9 +2,6 @@
 
 #include <iostream>
 
-#include "driver/text.h"
-#include "resume/existing_list_ids.h"
-
 namespace driver {
 
 Scenario::Scenario() : cad(sandbox), app(sandbox) {}

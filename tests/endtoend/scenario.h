@@ -8,8 +8,14 @@
 #include "driver/expected_calls.h"
 #include "driver/sandbox.h"
 #include "driver/settings.h"
+#include "driver/text.h"
 #include "driver/trial_cad.h"
 #include "driver/wait.h"
+#include "driver/winapi.h"
+#include "resume/existing_list_ids.h"
+#include "searchfolders/configuration_ids.h"
+#include "selection/selection_ids.h"
+#include "tracking/tracking_ids.h"
 
 namespace driver {
 
@@ -55,6 +61,11 @@ class Scenario : public testing::Test {
     void ExpectAlone(const char* caption) const;
     /// Expects the box of a fatal error and the end of the program; gives the box's text.
     std::string ExpectFatalError(int number);
+    /// Expects the program to end without a word, closed by its window's frame if one is named.
+    void ExpectEnd(const char* closed = nullptr) const {
+        if (closed) app.CloseByFrame(closed);
+        EXPECT_EQ(app.WaitForExit(), 0);
+    }
 
     Sandbox sandbox;
     Settings settings;
@@ -72,3 +83,5 @@ class Scenario : public testing::Test {
 std::string ListLine(const std::string& code, const std::string& path);
 
 }  // namespace driver
+
+using namespace driver;

@@ -2,13 +2,8 @@
 
 #include <commctrl.h>
 
-#include "driver/text.h"
-#include "driver/winapi.h"
 #include "scenario.h"
-#include "searchfolders/configuration_ids.h"
-#include "selection/selection_ids.h"
 
-namespace driver {
 namespace {
 
 class SearchFolders : public Scenario {
@@ -91,4 +86,3 @@ TEST_F(SearchFolders, AreCreatedSavedAppliedAndFoundAgain) {
 }
 
 }  // namespace
-}  // namespace driver

@@ -4,9 +4,7 @@
 #include <iostream>
 
 #include "scenario.h"
-#include "tracking/tracking_ids.h"
 
-namespace driver {
 namespace {
 
 class Soak : public Scenario {
@@ -48,4 +46,3 @@ TEST_F(Soak, ResourcesStayFlat) {
 }
 
 }  // namespace
-}  // namespace driver

@@ -2,10 +2,8 @@
 
 #include <objbase.h>
 
-#include "driver/winapi.h"
 #include "scenario.h"
 
-namespace driver {
 namespace {
 
 constexpr wchar_t kName[] = L"SldWorks.Application";
@@ -47,4 +45,3 @@ TEST_F(TrialSession, LeavesNoClassBehind) {
 }
 
 }  // namespace
-}  // namespace driver
