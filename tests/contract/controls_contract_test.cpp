@@ -1,18 +1,7 @@
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
 
-namespace {
-
-/// What code changes raises no event, whatever it is.
-class ControlContract : public testing::Test {
- protected:
-    ~ControlContract() override { EXPECT_EQ(machine->eventsRaised(), 0); }
-
-    std::unique_ptr<Machine> machine = makeMachine();
-    Window& window = machine->window();
-};
-
-}  // namespace
+using ControlContract = ContractTest;
 
 TEST_F(ControlContract, TextIsReadBackAsItWasSet) {
     for (const int id : {IDC_CONTRACT_LABEL, IDC_CONTRACT_FIELD, IDC_CONTRACT_BUTTON}) {

@@ -1,17 +1,6 @@
 #include "contract/machine.h"
 
-namespace {
-
-class FilesContract : public testing::Test {
- protected:
-    std::wstring path(const std::wstring& name) { return directory + L'\\' + name; }
-
-    std::unique_ptr<Machine> machine = makeMachine();
-    Files& files = machine->files();
-    std::wstring directory = machine->directory();
-};
-
-}  // namespace
+using FilesContract = ContractTest;
 
 TEST_F(FilesContract, TextIsReadBackAsItWasWritten) {
     for (const std::wstring& text :
@@ -21,7 +10,7 @@ TEST_F(FilesContract, TextIsReadBackAsItWasWritten) {
         files.replaceText(path(L"tarnwick.lst"), text);
         EXPECT_EQ(files.readText(path(L"tarnwick.lst")), text);
     }
-    EXPECT_EQ(namesIn(files, directory), Texts{L"tarnwick.lst"});
+    EXPECT_EQ(namesIn(directory), Texts{L"tarnwick.lst"});
 }
 
 TEST_F(FilesContract, RemovedOrMissingIsNotFound) {
@@ -33,7 +22,7 @@ TEST_F(FilesContract, RemovedOrMissingIsNotFound) {
     EXPECT_EQ(files.kindOf(directory), PathKind::Directory);
     EXPECT_EQ(raised([&] { files.remove(path(L"tarnwick.lst")); }), 53);
     EXPECT_EQ(raised([&] { files.readText(path(L"tarnwick.lst")); }), 53);
-    EXPECT_EQ(raised([&] { namesIn(files, path(L"absent")); }), 76);
+    EXPECT_EQ(raised([&] { namesIn(path(L"absent")); }), 76);
     EXPECT_EQ(raised([&] { files.identify(path(L"absent")); }), 76);
 }
 
@@ -47,11 +36,11 @@ TEST_F(FilesContract, DirectoryIsVisitedEntryByEntry) {
     machine->hide(path(L"système"), true);
     machine->addDirectory(path(L"plein"));
     files.replaceText(path(L"plein\\b.SLDPRT"), L"");
-    EXPECT_EQ(namesIn(files, directory),
+    EXPECT_EQ(namesIn(directory),
               (Texts{L"?caché.SLDASM", L"?système\\", L"plein\\", L"vide\\", L"é.SLDPRT"}));
-    EXPECT_EQ(namesIn(files, path(L"vide")), Texts());
-    EXPECT_EQ(namesIn(files, path(L"plein")), Texts{L"b.SLDPRT"});
-    EXPECT_EQ(namesIn(files, path(L"plein\\")), Texts{L"b.SLDPRT"});
+    EXPECT_EQ(namesIn(path(L"vide")), Texts());
+    EXPECT_EQ(namesIn(path(L"plein")), Texts{L"b.SLDPRT"});
+    EXPECT_EQ(namesIn(path(L"plein\\")), Texts{L"b.SLDPRT"});
 }
 
 TEST_F(FilesContract, DirectoryIsTheSameByEveryPathToIt) {

@@ -5,13 +5,9 @@ namespace {
 
 using Lines = std::vector<int>;
 
-class ListBoxContract : public testing::Test {
- protected:
-    ~ListBoxContract() override { EXPECT_EQ(machine->eventsRaised(), 0); }
-
-    std::unique_ptr<Machine> machine = makeMachine();
-    ListBox& several = machine->window().listBox(IDC_CONTRACT_SEVERAL);
-    ListBox& one = machine->window().listBox(IDC_CONTRACT_ONE);
+struct ListBoxContract : ContractTest {
+    ListBox& several = window.listBox(IDC_CONTRACT_SEVERAL);
+    ListBox& one = window.listBox(IDC_CONTRACT_ONE);
 };
 
 void fill(ListBox& list, int count) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <memory>
 
 #include "platform/files.h"
@@ -31,6 +32,27 @@ class Machine {
 /// The machine of the platform that the checks are built for.
 std::unique_ptr<Machine> makeMachine();
 
-/// The names in a directory, sorted; those of directories end with a backslash, those left out
-/// begin with a question mark.
-std::vector<std::wstring> namesIn(Files& files, const std::wstring& directory);
+/// A check on a machine of its own. What code changes in its window raises no event, whatever it
+/// is.
+struct ContractTest : testing::Test {
+    ~ContractTest() override { EXPECT_EQ(machine->eventsRaised(), 0); }
+
+    std::wstring path(const std::wstring& name) const { return directory + L'\\' + name; }
+
+    /// The names in a directory, sorted; those of directories end with a backslash, those left out
+    /// begin with a question mark.
+    Texts namesIn(const std::wstring& where) {
+        Texts names;
+        files.visit(where, [&](const DirectoryEntry& entry) {
+            names.push_back((entry.isLeftOut ? L"?" : L"") + std::wstring(entry.name) +
+                            (entry.isDirectory ? L"\\" : L""));
+        });
+        std::ranges::sort(names);
+        return names;
+    }
+
+    std::unique_ptr<Machine> machine = makeMachine();
+    Window& window = machine->window();
+    Files& files = machine->files();
+    std::wstring directory = machine->directory();
+};

@@ -40,11 +40,8 @@ class FailingCalls : public FileCalls {
 
 const WriteContent kNew = [](const ByteSink& file) { file("nouveau"); };
 
-class FileReplacement : public testing::Test {
- protected:
-    std::unique_ptr<Machine> machine = makeMachine();
-    Files& files = machine->files();
-    std::wstring file = machine->directory() + L"\\tarnwick.lst";
+struct FileReplacement : ContractTest {
+    std::wstring file = path(L"tarnwick.lst");
 };
 
 }  // namespace
@@ -59,7 +56,7 @@ TEST_F(FileReplacement, LeavesTheOldFileWhicheverCallFails) {
         if (calls.calls() < failing) break;
         EXPECT_EQ(error, 75) << "call " << failing;
         EXPECT_EQ(files.readText(file), L"ancien") << "call " << failing;
-        EXPECT_EQ(namesIn(files, machine->directory()).size(), 1u) << "call " << failing;
+        EXPECT_EQ(namesIn(directory).size(), 1u) << "call " << failing;
     }
     EXPECT_EQ(failing, 5) << "create, write, flush and move";
     EXPECT_EQ(files.readText(file), L"nouveau");

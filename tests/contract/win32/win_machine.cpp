@@ -2,19 +2,16 @@
 
 #include <commctrl.h>
 
-#include "contract/contract_ids.h"
 #include "contract/machine.h"
+#include "contract/win32/real_windows.h"
 #include "contract/win32/scratch_directory.h"
 #include "platform/long_path.h"
 #include "platform/win32/files/win_files.h"
 #include "platform/win32/process/registry_settings.h"
-#include "platform/win32/window/dialog_window.h"
-#include "platform/win32/window/win_gate_keeper.h"
-#include "platform/win32/window/win_message_boxes.h"
 
 namespace {
 
-class WinMachine : public Machine, private EventSink {
+class WinMachine : public Machine, private RealWindows, private EventSink {
  public:
     WinMachine() { window_->show(); }
     ~WinMachine() override { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\tarnwick contract"); }
@@ -38,20 +35,13 @@ class WinMachine : public Machine, private EventSink {
     void raise(int, Event) override { ++events_; }
 
     /// The class of tab strips is registered before a window has one.
-    struct TabClass {
-        TabClass() {
-            const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_TAB_CLASSES};
-            InitCommonControlsEx(&controls);
-        }
-    };
+    static std::unique_ptr<Window> makeWindow(DialogFactory& factory, EventSink& events) {
+        const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_TAB_CLASSES};
+        InitCommonControlsEx(&controls);
+        return factory.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, events);
+    }
 
-    TabClass tabClass_;
-    WinGateKeeper keeper_;
-    WinMessageBoxes boxes_;
-    EventGate gate_{keeper_, boxes_};
-    DialogFactory factory_{gate_};
-    std::unique_ptr<Window> window_ =
-        factory_.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);
+    std::unique_ptr<Window> window_ = makeWindow(factory, *this);
     int events_ = 0;
     RegistrySettings settings_;
     WinFiles files_;

@@ -2,19 +2,14 @@
 
 #include "platform/win32/window/window_patience.h"
 
-#include <gtest/gtest.h>
 #include <set>
 #include <thread>
 
-#include "contract/contract_ids.h"
+#include "contract/win32/real_windows.h"
 #include "pickers/tree_walk.h"
 #include "platform/searching.h"
 #include "platform/win32/files/pool_workers.h"
 #include "platform/win32/files/win_files.h"
-#include "platform/win32/window/dialog_window.h"
-#include "platform/win32/window/own_windows.h"
-#include "platform/win32/window/win_gate_keeper.h"
-#include "platform/win32/window/win_message_boxes.h"
 
 namespace {
 
@@ -27,7 +22,7 @@ struct SilentFiles : WinFiles {
     }
 };
 
-class SearchOnAWindow : public testing::Test, private EventSink {
+class SearchOnAWindow : public testing::Test, protected RealWindows, private EventSink {
  protected:
     SearchOnAWindow() { window_->show(); }
     ~SearchOnAWindow() override { answer(); }
@@ -35,7 +30,7 @@ class SearchOnAWindow : public testing::Test, private EventSink {
     /// A command searches until the other thread, which stands for the user, has the server answer
     /// or ends the search.
     void search(const std::function<void()>& user) {
-        gate_.run([&] {
+        gate.run([&] {
             const Searching searching;
             const std::jthread other(user);
             end_ = walkTree({*files_, workers_, patience_}, L"c:\\", true, noFile,
@@ -46,9 +41,6 @@ class SearchOnAWindow : public testing::Test, private EventSink {
     HWND dialog() const { return ownWindows().front(); }
     HWND item(int id) const { return GetDlgItem(dialog(), id); }
 
-    WinGateKeeper keeper_;
-    WinMessageBoxes boxes_;
-    EventGate gate_{keeper_, boxes_};
     std::optional<WalkEnd> end_;
     std::set<int> raised_;
 
@@ -61,9 +53,8 @@ class SearchOnAWindow : public testing::Test, private EventSink {
     SilentFiles* files_ = new SilentFiles;  // its readers may outlive the test
     PoolWorkers workers_;
     WindowPatience patience_;
-    DialogFactory factory_{gate_};
     std::unique_ptr<Window> window_ =
-        factory_.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);
+        factory.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);
 };
 
 }  // namespace
@@ -83,14 +74,12 @@ TEST_F(SearchOnAWindow, AnswersAndDropsAllButWhatIsTypedForANewerOne) {
         DWORD_PTR answered = 0;
         EXPECT_NE(SendMessageTimeoutW(dialog(), WM_NULL, 0, 0, 0, 60000, &answered), 0);
         HWND check = item(IDC_CONTRACT_CHECK);
-        HWND typed = item(IDC_CONTRACT_TYPED);
-        PostMessageW(check, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
-        PostMessageW(check, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
-        PostMessageW(check, WM_KEYDOWN, VK_SPACE, 1);
-        PostMessageW(check, WM_KEYUP, VK_SPACE, 1);
+        for (const UINT mouse : {WM_LBUTTONDOWN, WM_LBUTTONUP})
+            PostMessageW(check, mouse, 0, MAKELPARAM(3, 3));
+        for (const UINT key : {WM_KEYDOWN, WM_KEYUP}) PostMessageW(check, key, VK_SPACE, 1);
         PostMessageW(item(IDC_CONTRACT_BUTTON), BM_CLICK, 0, 0);
         PostMessageW(item(IDC_CONTRACT_FIELD), WM_CHAR, 'a', 1);
-        PostMessageW(GetWindow(typed, GW_CHILD), WM_CHAR, 'b', 1);
+        PostMessageW(GetWindow(item(IDC_CONTRACT_TYPED), GW_CHILD), WM_CHAR, 'b', 1);
     });
     EXPECT_EQ(end_, WalkEnd::Interrupted);
     EXPECT_EQ(raised_, std::set{IDC_CONTRACT_TYPED});
@@ -102,12 +91,12 @@ TEST_F(SearchOnAWindow, AnswersAndDropsAllButWhatIsTypedForANewerOne) {
 TEST_F(SearchOnAWindow, IsEndedByEscapeOrWithTheProgramByAFrame) {
     search([&] { PostMessageW(item(IDC_CONTRACT_ONE), WM_KEYDOWN, VK_ESCAPE, 1); });
     EXPECT_EQ(end_, WalkEnd::Interrupted);
-    EXPECT_FALSE(gate_.ended());
+    EXPECT_FALSE(gate.ended());
     end_.reset();
     search([&] { PostMessageW(dialog(), WM_CLOSE, 0, 0); });
     EXPECT_FALSE(end_);
-    EXPECT_TRUE(gate_.ended());
-    EXPECT_EQ(gate_.exitCode(), 0);
+    EXPECT_TRUE(gate.ended());
+    EXPECT_EQ(gate.exitCode(), 0);
     MSG quit;
     EXPECT_TRUE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }

@@ -5,18 +5,11 @@
 #include <windows.h>
 
 #include <commctrl.h>
-#include <memory>
 #include <thread>
-#include <utility>
 
-#include "contract/contract_ids.h"
+#include "contract/win32/real_windows.h"
 #include "platform/win32/process/message_pump.h"
-#include "platform/win32/window/dialog_window.h"
 #include "platform/win32/window/hourglass.h"
-#include "platform/win32/window/own_windows.h"
-#include "platform/win32/window/win_gate_keeper.h"
-#include "platform/win32/window/win_message_boxes.h"
-#include "unit/unit_test.h"
 
 namespace {
 
@@ -61,13 +54,14 @@ class OtherProgram {
     std::thread thread_;
 };
 
-/// The only button of a box that is to be seen.
-HWND loneButton(HWND box) {
-    HWND button = nullptr;
+/// The first window of a class below `parent`, or below none, that is the wanted one.
+template <class IsWanted>
+HWND findWindow(HWND parent, const wchar_t* className, const IsWanted& isWanted) {
+    HWND window = nullptr;
     do {
-        button = FindWindowExW(box, button, L"Button", nullptr);
-    } while (button && !IsWindowVisible(button));
-    return button;
+        window = FindWindowExW(parent, window, className, nullptr);
+    } while (window && !isWanted(window));
+    return window;
 }
 
 std::function<void(HWND)> whileBoxIsShown;
@@ -77,7 +71,7 @@ void CALLBACK onTimer(HWND, UINT, UINT_PTR timer, DWORD) {
     if (!box || !IsWindowVisible(box)) return;
     KillTimer(nullptr, timer);
     whileBoxIsShown(box);
-    PostMessageW(loneButton(box), BM_CLICK, 0, 0);
+    PostMessageW(findWindow(box, L"Button", IsWindowVisible), BM_CLICK, 0, 0);
 }
 
 constexpr Anchor kWide[] = {{IDC_CONTRACT_TYPED, Growth::Stretch, Growth::Stay}};
@@ -94,14 +88,6 @@ LRESULT CALLBACK completing(HWND box, UINT message, WPARAM wParam, LPARAM lParam
     return result;
 }
 
-HWND tooltipsOf(HWND window) {
-    HWND tips = nullptr;
-    do {
-        tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr);
-    } while (tips && GetWindow(tips, GW_OWNER) != window);
-    return tips;
-}
-
 using RaisedEvents = std::vector<std::pair<int, Event>>;
 
 int labelsReadOut = 0;
@@ -110,7 +96,7 @@ void CALLBACK onLiveRegion(HWINEVENTHOOK, DWORD, HWND label, LONG, LONG, DWORD, 
     if (GetDlgCtrlID(label) == IDC_CONTRACT_LABEL) ++labelsReadOut;
 }
 
-class WindowsAndBoxes : public testing::Test, private EventSink {
+class WindowsAndBoxes : public testing::Test, protected RealWindows, private EventSink {
  protected:
     void raise(int id, Event event) override { raised.emplace_back(id, event); }
 
@@ -135,10 +121,6 @@ class WindowsAndBoxes : public testing::Test, private EventSink {
 
     RaisedEvents raised;
     static constexpr int kItem = 1344;
-    WinGateKeeper keeper;
-    WinMessageBoxes boxes;
-    EventGate gate{keeper, boxes};
-    DialogFactory factory{gate};
     HWND first = nullptr;
     HWND second = nullptr;
     std::unique_ptr<Window> firstWindow = makeWindow(first);
@@ -159,11 +141,9 @@ TEST_F(WindowsAndBoxes, BoxBelongsToTheVisibleWindowUsedLastThoughNoneIsActive) 
     ASSERT_TRUE(eventually([] { return GetActiveWindow() == nullptr; }));
     ask([&](HWND box) {
         EXPECT_EQ(GetWindow(box, GW_OWNER), second);
-        EXPECT_FALSE(IsWindowEnabled(first));
-        EXPECT_FALSE(IsWindowEnabled(second));
+        EXPECT_FALSE(IsWindowEnabled(first) || IsWindowEnabled(second));
     });
-    EXPECT_TRUE(IsWindowEnabled(first));
-    EXPECT_TRUE(IsWindowEnabled(second));
+    EXPECT_TRUE(IsWindowEnabled(first) && IsWindowEnabled(second));
 }
 
 // Windows sends this to a disabled window that is clicked, and knows the box of its owner only.
@@ -178,31 +158,19 @@ TEST_F(WindowsAndBoxes, PressOnADisabledWindowBringsTheBoxForward) {
     });
 }
 
-TEST_F(WindowsAndBoxes, NoHourglassStandsOverAQuestion) {
-    firstWindow->show();
-    Hourglass::set(true);
-    ask([](HWND) { EXPECT_FALSE(Hourglass::shown()); });
-    EXPECT_TRUE(Hourglass::shown());
-    Hourglass::set(false);
-}
-
-TEST_F(WindowsAndBoxes, ForegroundIsKeptFromOneWindowToTheNext) {
+TEST_F(WindowsAndBoxes, ForegroundGoesFromOneShownWindowToTheNext) {
     firstWindow->show();
     ASSERT_TRUE(eventually([&] { return GetForegroundWindow() == first; }));
     firstWindow->hide();
     EXPECT_EQ(GetWindowThreadProcessId(GetForegroundWindow(), nullptr), GetCurrentThreadId());
     secondWindow->show();
     EXPECT_TRUE(eventually([&] { return GetForegroundWindow() == second; }));
-}
-
-TEST_F(WindowsAndBoxes, WindowThatIsNotShownYetDoesNotBecomeActive) {
-    firstWindow->show();
-    ASSERT_TRUE(eventually([&] { return GetActiveWindow() == first; }));
+    // One that is not shown yet does not become active; shown, it takes the keyboard.
     HWND third = nullptr;
     const auto thirdWindow = makeWindow(third);
-    EXPECT_EQ(GetActiveWindow(), first);
+    EXPECT_EQ(GetActiveWindow(), second);
     thirdWindow->show();
-    EXPECT_TRUE(IsChild(third, GetFocus())) << "shown, it takes the keyboard";
+    EXPECT_TRUE(IsChild(third, GetFocus()));
 }
 
 TEST_F(WindowsAndBoxes, ResizedComboBoxKeepsItsTextAndSelection) {
@@ -228,7 +196,8 @@ TEST_F(WindowsAndBoxes, ResizedComboBoxKeepsItsTextAndSelection) {
 TEST_F(WindowsAndBoxes, ListsAndTooltipsFollowAChangeOfResolution) {
     ListBox& lines = firstWindow->listBox(IDC_CONTRACT_ONE);
     HWND list = GetDlgItem(first, IDC_CONTRACT_ONE);
-    HWND tips = tooltipsOf(first);
+    HWND tips = findWindow(nullptr, TOOLTIPS_CLASSW,
+                           [&](HWND tip) { return GetWindow(tip, GW_OWNER) == first; });
     const auto font = [](HWND window) {
         LOGFONTW made{};
         GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)), sizeof made,
@@ -293,11 +262,17 @@ TEST_F(WindowsAndBoxes, ALiveLabelIsReadOutWhenItChanges) {
     UnhookWinEvent(hook);
 }
 
-TEST_F(WindowsAndBoxes, BoxStandsAboveAWindowThatIsAlwaysVisible) {
+TEST_F(WindowsAndBoxes, BoxStandsAboveAWindowThatIsAlwaysVisibleAndUnderNoHourglass) {
     firstWindow->show();
     firstWindow->setTopmost(true);
     EXPECT_NE(GetWindowLongW(first, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
-    ask([](HWND box) { EXPECT_NE(GetWindowLongW(box, GWL_EXSTYLE) & WS_EX_TOPMOST, 0); });
+    Hourglass::set(true);
+    ask([](HWND box) {
+        EXPECT_NE(GetWindowLongW(box, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+        EXPECT_FALSE(Hourglass::shown());
+    });
+    EXPECT_TRUE(Hourglass::shown());
+    Hourglass::set(false);
     ShowWindow(first, SW_MINIMIZE);
     firstWindow->setTopmost(false);
     EXPECT_EQ(GetWindowLongW(first, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
@@ -309,11 +284,11 @@ TEST_F(WindowsAndBoxes, ItemsOfTheSystemMenuStandBelowASeparatorAndAreClicked) {
     const int count = GetMenuItemCount(menu);
     EXPECT_NE(GetMenuState(menu, static_cast<UINT>(count - 3), MF_BYPOSITION) & MF_SEPARATOR, 0U);
     EXPECT_EQ(GetMenuItemID(menu, count - 2), static_cast<UINT>(kItem));
-    firstWindow->setMenuMark(kItem, true);
-    EXPECT_EQ(GetMenuState(menu, kItem, MF_BYCOMMAND), MF_CHECKED);
-    EXPECT_EQ(GetMenuState(menu, kItem + 16, MF_BYCOMMAND), MF_UNCHECKED);
-    firstWindow->setMenuMark(kItem, false);
-    EXPECT_EQ(GetMenuState(menu, kItem, MF_BYCOMMAND), MF_UNCHECKED);
+    for (const auto& [marked, state] : {std::pair(true, MF_CHECKED), {false, MF_UNCHECKED}}) {
+        firstWindow->setMenuMark(kItem, marked);
+        EXPECT_EQ(GetMenuState(menu, kItem, MF_BYCOMMAND), state);
+        EXPECT_EQ(GetMenuState(menu, kItem + 16, MF_BYCOMMAND), MF_UNCHECKED);
+    }
     SendMessageW(first, WM_SYSCOMMAND, kItem + 16 + 3, 0);
     SendMessageW(first, WM_SYSCOMMAND, SC_MINIMIZE, 0);
     EXPECT_EQ(raised, (RaisedEvents{{kItem + 16, Event::Click}}));

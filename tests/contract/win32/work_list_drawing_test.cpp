@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kLines = 200;
 
-class WorkListDrawing : public testing::Test {
+class WorkListDrawing : public ContractTest {
  protected:
     /// A list drawn at depth 0 with some lines selected, scrolled, then changed in two lines.
     void prepare(int topLine) {
@@ -54,9 +54,8 @@ class WorkListDrawing : public testing::Test {
         return look;
     }
 
-    std::unique_ptr<Machine> machine = makeMachine();
     HWND handle = GetDlgItem(FindWindowW(L"#32770", L"Contract"), IDC_CONTRACT_SEVERAL);
-    ListBox& list = machine->window().listBox(IDC_CONTRACT_SEVERAL);
+    ListBox& list = window.listBox(IDC_CONTRACT_SEVERAL);
     WorkListView view{list};
     WorkList work;
 };
