@@ -6,8 +6,7 @@
 
 namespace {
 
-class BusyCad : public Scenario {
- protected:
+struct BusyCad : Scenario {
     /// Resumes a list of four documents in a session with these options.
     void Resume(const std::vector<std::string>& cadOptions) {
         WriteListOf({"a.SLDPRT", "b.SLDPRT", "c.SLDPRT", "d.SLDPRT"});

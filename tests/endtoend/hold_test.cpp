@@ -4,8 +4,7 @@
 
 namespace {
 
-class Hold : public Scenario {
- protected:
+struct Hold : Scenario {
     Hold() {
         WriteListOf({"a.SLDPRT", "b.SLDPRT"});
         cad.Start();

@@ -4,8 +4,7 @@
 
 namespace {
 
-class KeptMarks : public Scenario {
- protected:
+struct KeptMarks : Scenario {
     /// Starts again, says OUI, and says it again when so many marks are offered.
     void Resume(int count) {
         StartAndResume();

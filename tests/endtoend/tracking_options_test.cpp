@@ -6,8 +6,7 @@
 
 namespace {
 
-class TrackingOptions : public Scenario {
- protected:
+struct TrackingOptions : Scenario {
     void Resume(const std::vector<std::string>& cadOptions) {
         WriteListOf({"a.SLDPRT", "b;c.SLDPRT", "d.SLDPRT"});
         cad.Start(cadOptions);

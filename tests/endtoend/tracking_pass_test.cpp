@@ -8,8 +8,7 @@ using calls::Open;
 using calls::Save;
 using calls::Together;
 
-class TrackingPass : public Scenario {
- protected:
+struct TrackingPass : Scenario {
     TrackingPass() {
         WriteListOf({"Bâti\\Bride d'entrée.SLDPRT", "Bâti\\Ensemble bâti.SLDASM",
                      "Plans\\Bâti n° 1.SLDDRW", "déjà faite.SLDPRT", "Écrou [M8].SLDPRT",

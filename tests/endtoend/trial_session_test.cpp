@@ -6,25 +6,17 @@
 
 namespace {
 
-constexpr wchar_t kName[] = L"SldWorks.Application";
-
-class TrialSession : public Scenario {
- protected:
+struct TrialSession : Scenario {
     static bool IsRegistered() {
         CLSID classId;
-        return SUCCEEDED(CLSIDFromProgID(kName, &classId));
+        return SUCCEEDED(CLSIDFromProgID(L"SldWorks.Application", &classId));
     }
 
     /// Tries to make a key that stays below the session's own.
     static LSTATUS MakeStableKey() {
-        HKEY name = nullptr;
         HKEY made = nullptr;
-        RegOpenKeyExW(HKEY_CLASSES_ROOT, kName, 0, KEY_CREATE_SUB_KEY, &name);
-        const LSTATUS result =
-            RegCreateKeyExW(name, L"Test", 0, nullptr, 0, KEY_READ, nullptr, &made, nullptr);
-        RegCloseKey(made);
-        RegCloseKey(name);
-        return result;
+        return RegCreateKeyExW(HKEY_CLASSES_ROOT, L"SldWorks.Application\\Test", 0, nullptr, 0,
+                               KEY_READ, nullptr, &made, nullptr);
     }
 };
 

@@ -35,18 +35,9 @@ struct FakePlatform {
     FakeWindowFactory windows;
     NoWorkers workers;
     FakePatience patience;
-    Platform platform{automation,
-                      settings,
-                      files,
-                      records,
-                      listHolds,
-                      clock,
-                      boxes,
-                      fileDialogs,
-                      desktop,
-                      windows,
-                      {files, workers, patience},
-                      L"c:\\tarnwick"};
+    SearchServices search{files, workers, patience};
+    Platform platform{automation, settings,    files,   records, listHolds, clock,
+                      boxes,      fileDialogs, desktop, windows, search,    L"c:\\tarnwick"};
 
     FakePlatform() {
         automation.fileExists = [this](const auto& path) { return files.texts.contains(path); };

@@ -18,9 +18,8 @@ struct FakeMonitor {
 struct FakeWindow : Window {
     enum class State { Created, Shown, Hidden, Unloaded };
 
-    FakeWindow(int dialogId, EventSink& events) : dialog(dialogId), sink(events) {}
+    explicit FakeWindow(EventSink& events) : sink(events) {}
 
-    int dialog;
     EventSink& sink;
     State state = State::Created;
     Area area{0, 0, 600, 400};
@@ -97,7 +96,7 @@ struct FakeWindowFactory : WindowFactory {
 
     std::unique_ptr<Window> create(const WindowTemplate& windowTemplate,
                                    EventSink& events) override {
-        auto window = std::make_unique<FakeWindow>(windowTemplate.dialogId, events);
+        auto window = std::make_unique<FakeWindow>(events);
         made[windowTemplate.dialogId] = window.get();
         return window;
     }

@@ -68,6 +68,4 @@ TEST(FoundName, IsWhatItsAttributesAndTagSay) {
     found.dwFileAttributes = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
     found.dwReserved0 = IO_REPARSE_TAG_SYMLINK;
     EXPECT_TRUE(entryOf(found).isLink);
-    found.dwReserved0 = 0x9000001A;  // a directory in a cloud
-    EXPECT_FALSE(entryOf(found).isLink);
 }

@@ -7,10 +7,14 @@
 namespace {
 
 /// Lets its Nth call, and so many in all, fail with a given Windows error.
-class FailingCalls : public FileCalls {
- public:
-    FailingCalls(int failing, DWORD error, int times = 1)
-        : failing_(failing), error_(error), times_(times) {}
+struct FailingCalls : FileCalls {
+    FailingCalls(int which, DWORD itsError, int inAll = 1)
+        : failing(which), error(itsError), times(inAll) {}
+
+    const int failing;
+    const DWORD error;
+    const int times;
+    int calls = 0;
 
     HANDLE create(const std::wstring& path) override {
         return fails() ? INVALID_HANDLE_VALUE : FileCalls::create(path);
@@ -23,19 +27,11 @@ class FailingCalls : public FileCalls {
         return !fails() && FileCalls::move(from, to);
     }
 
-    int calls() const { return calls_; }
-
- private:
     bool fails() {
-        if (++calls_ < failing_ || calls_ >= failing_ + times_) return false;
-        SetLastError(error_);
+        if (++calls < failing || calls >= failing + times) return false;
+        SetLastError(error);
         return true;
     }
-
-    int failing_;
-    DWORD error_;
-    int times_;
-    int calls_ = 0;
 };
 
 const WriteContent kNew = [](const ByteSink& file) { file("nouveau"); };
@@ -53,7 +49,7 @@ TEST_F(FileReplacement, LeavesTheOldFileWhicheverCallFails) {
     for (;; ++failing) {
         FailingCalls calls(failing, failing == 1 ? ERROR_ACCESS_DENIED : ERROR_DISK_FULL);
         const int error = raised([&] { replaceFile(file, kNew, calls); });
-        if (calls.calls() < failing) break;
+        if (calls.calls < failing) break;
         EXPECT_EQ(error, 75) << "call " << failing;
         EXPECT_EQ(files.readText(file), L"ancien") << "call " << failing;
         EXPECT_EQ(namesIn(directory).size(), 1u) << "call " << failing;
@@ -67,5 +63,5 @@ TEST_F(FileReplacement, TriesAgainWhileAnotherProgramReadsTheFile) {
     FailingCalls calls(4, ERROR_SHARING_VIOLATION, 2);
     replaceFile(file, kNew, calls);
     EXPECT_EQ(files.readText(file), L"nouveau");
-    EXPECT_EQ(calls.calls(), 6);
+    EXPECT_EQ(calls.calls, 6);
 }

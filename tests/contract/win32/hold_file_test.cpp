@@ -2,51 +2,48 @@
 
 #include "platform/win32/process/hold_file.h"
 
-#include <gtest/gtest.h>
 #include <optional>
 
-#include "contract/win32/scratch_directory.h"
+#include "contract/machine.h"
 
 namespace {
 
 const ListHolder kJean{L"jean", L"PC-1"};
 const ListHolder kZoe{L"zoé", L"PC-2"};
 
-class HoldFileTest : public testing::Test {
- protected:
-    ScratchDirectory directory;
-    std::wstring path = directory.path() + L"\\liste.verrou";
+struct HoldFileTest : ContractTest {
+    std::wstring file = path(L"liste.verrou");
 };
 
 }  // namespace
 
 TEST_F(HoldFileTest, BelongsToOneAndGoesWithIt) {
-    std::optional<HoldFile> first(path);
+    std::optional<HoldFile> first(file);
     EXPECT_EQ(first->take(kJean), HoldFileState::Ours);
-    EXPECT_TRUE(GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_HIDDEN);
-    HoldFile second(path);
+    EXPECT_TRUE(GetFileAttributesW(file.c_str()) & FILE_ATTRIBUTE_HIDDEN);
+    HoldFile second(file);
     EXPECT_EQ(second.take(kZoe), HoldFileState::Theirs);
     EXPECT_EQ(second.holder(), kJean);
     first.reset();
-    EXPECT_EQ(GetFileAttributesW(path.c_str()), INVALID_FILE_ATTRIBUTES);
+    EXPECT_EQ(GetFileAttributesW(file.c_str()), INVALID_FILE_ATTRIBUTES);
     EXPECT_EQ(second.take(kZoe), HoldFileState::Ours);
 }
 
 TEST_F(HoldFileTest, LeftOverIsTakenOverOnceNobodyReadsIt) {
     const auto open = [&](DWORD access, DWORD how) {
         return UniqueHandle(
-            CreateFileW(path.c_str(), access, FILE_SHARE_READ, nullptr, how, 0, nullptr));
+            CreateFileW(file.c_str(), access, FILE_SHARE_READ, nullptr, how, 0, nullptr));
     };
     UniqueHandle other = open(GENERIC_READ | GENERIC_WRITE, CREATE_NEW);
     const std::string bytes = "\xFF\xFE" + std::string(5000, 'x');
     DWORD written = 0;
     WriteFile(other.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-    HoldFile file(path);
-    EXPECT_EQ(file.take(kJean), HoldFileState::Theirs);
-    EXPECT_FALSE(file.holder().user.empty()) << "whatever bytes it is named by";
+    HoldFile ours(file);
+    EXPECT_EQ(ours.take(kJean), HoldFileState::Theirs);
+    EXPECT_FALSE(ours.holder().user.empty()) << "whatever bytes it is named by";
     other.reset();
     other = open(GENERIC_READ, OPEN_EXISTING);
-    EXPECT_EQ(file.take(kJean), HoldFileState::Busy);
+    EXPECT_EQ(ours.take(kJean), HoldFileState::Busy);
     other.reset();
-    EXPECT_EQ(file.take(kJean), HoldFileState::Ours);
+    EXPECT_EQ(ours.take(kJean), HoldFileState::Ours);
 }

@@ -3,36 +3,25 @@
 #include <windows.h>
 
 #include "contract/machine.h"
-#include "platform/long_path.h"
 #include "platform/win32/process/unique.h"
 
 namespace {
 
-class WinFilesTest : public ContractTest {
- protected:
+struct WinFilesTest : ContractTest {
     void writeBytes(const std::wstring& file, std::string_view bytes) {
-        const UniqueHandle handle(open(file, GENERIC_WRITE, CREATE_ALWAYS, 0));
-        DWORD written = 0;
-        ASSERT_TRUE(WriteFile(handle.get(), bytes.data(), static_cast<DWORD>(bytes.size()),
-                              &written, nullptr));
+        files.replace(file, [&](const ByteSink& sink) { sink(bytes); });
     }
 
-    std::string readBytes(const std::wstring& file) {
-        const UniqueHandle handle(open(file, GENERIC_READ, OPEN_EXISTING, FILE_SHARE_READ));
-        char bytes[100];
-        DWORD got = 0;
-        EXPECT_TRUE(ReadFile(handle.get(), bytes, sizeof bytes, &got, nullptr));
-        return {bytes, got};
-    }
-
-    static HANDLE open(const std::wstring& file, DWORD access, DWORD how, DWORD sharing) {
-        return CreateFileW(longPath(file).c_str(), access, sharing, nullptr, how, 0, nullptr);
+    /// Another program reads the file and lets others read only.
+    static UniqueHandle heldByAReader(const std::wstring& file) {
+        return UniqueHandle(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                        OPEN_EXISTING, 0, nullptr));
     }
 
     /// Replacing the list file fails so, and nothing changes.
     void expectRefused(int number, const WriteContent& write) {
         EXPECT_EQ(raised([&] { files.replace(path(L"tarnwick.lst"), write); }), number);
-        EXPECT_EQ(readBytes(path(L"tarnwick.lst")), "ancien");
+        EXPECT_EQ(files.readBytes(path(L"tarnwick.lst")), "ancien");
         EXPECT_EQ(namesIn(directory), Texts{L"tarnwick.lst"});
     }
 };
@@ -50,7 +39,7 @@ TEST_F(WinFilesTest, LeavesAListThatCannotBeReplacedAsItIs) {
     SetFileAttributesW(list.c_str(), FILE_ATTRIBUTE_READONLY);
     expectRefused(75, write);
     SetFileAttributesW(list.c_str(), FILE_ATTRIBUTE_NORMAL);
-    const UniqueHandle held(open(list, GENERIC_READ, OPEN_EXISTING, FILE_SHARE_READ));
+    const UniqueHandle held = heldByAReader(list);
     expectRefused(70, write);
 }
 
@@ -64,11 +53,11 @@ TEST_F(WinFilesTest, KeepsACopyOfAnyBytesOverAReadOnlyFileAndRemovesOne) {
         SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
     }
     files.keepCopy(list, copy);
-    EXPECT_EQ(readBytes(copy), odd);
+    EXPECT_EQ(files.readBytes(copy), odd);
     files.remove(list);
     EXPECT_EQ(namesIn(directory), Texts{L"tarnwick-precedente.lst"});
 
-    const UniqueHandle held(open(copy, GENERIC_READ, OPEN_EXISTING, FILE_SHARE_READ));
+    const UniqueHandle held = heldByAReader(copy);
     EXPECT_EQ(raised([&] { files.remove(copy); }), 70);
 }
 

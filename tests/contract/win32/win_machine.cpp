@@ -4,12 +4,44 @@
 
 #include "contract/machine.h"
 #include "contract/win32/real_windows.h"
-#include "contract/win32/scratch_directory.h"
 #include "platform/long_path.h"
 #include "platform/win32/files/win_files.h"
 #include "platform/win32/process/registry_settings.h"
 
 namespace {
+
+std::wstring uniquePath() {
+    static int number = 0;
+    wchar_t temporary[MAX_PATH + 1] = {};
+    GetTempPathW(MAX_PATH + 1, temporary);
+    return temporary + (L"tarnwick-contract-" + std::to_wstring(GetCurrentProcessId())) + L'-' +
+           std::to_wstring(++number);
+}
+
+void removeTree(const std::wstring& directory) {
+    WinFiles().visit(directory, [&](const DirectoryEntry& entry) {
+        const std::wstring path = directory + L'\\' + std::wstring(entry.name);
+        if (entry.isDirectory && !entry.isLink) {
+            removeTree(path);
+            return;
+        }
+        SetFileAttributesW(longPath(path).c_str(), FILE_ATTRIBUTE_NORMAL);
+        entry.isDirectory ? RemoveDirectoryW(longPath(path).c_str())
+                          : DeleteFileW(longPath(path).c_str());
+    });
+    RemoveDirectoryW(longPath(directory).c_str());
+}
+
+/// A directory of its own among the temporary files, removed with all that is in it, whatever its
+/// names, lengths and attributes.
+struct ScratchDirectory {
+    ScratchDirectory() { CreateDirectoryW(path.c_str(), nullptr); }
+    ~ScratchDirectory() { removeTree(path); }
+    ScratchDirectory(const ScratchDirectory&) = delete;
+    ScratchDirectory& operator=(const ScratchDirectory&) = delete;
+
+    const std::wstring path = uniquePath();
+};
 
 class WinMachine : public Machine, private RealWindows, private EventSink {
  public:
@@ -21,7 +53,7 @@ class WinMachine : public Machine, private RealWindows, private EventSink {
     Window& window() override { return *window_; }
     Settings& settings() override { return settings_; }
     Files& files() override { return files_; }
-    std::wstring directory() override { return directory_.path(); }
+    std::wstring directory() override { return directory_.path; }
     void addDirectory(const std::wstring& path) override {
         CreateDirectoryW(longPath(path).c_str(), nullptr);
     }

@@ -17,8 +17,7 @@ namespace {
 
 constexpr int kLines = 200;
 
-class WorkListDrawing : public ContractTest {
- protected:
+struct WorkListDrawing : ContractTest {
     /// A list drawn at depth 0 with some lines selected, scrolled, then changed in two lines.
     void prepare(int topLine) {
         for (int i = 0; i < kLines; ++i) {

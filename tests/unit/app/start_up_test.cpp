@@ -9,8 +9,7 @@ namespace {
 
 using State = FakeWindow::State;
 
-class StartUp : public testing::Test {
- protected:
+struct StartUp : testing::Test {
     StartUp() { machine.files.directories.insert(L"c:\\plans"); }
 
     FakeWindow& about() { return machine.window(IDD_ABOUT); }

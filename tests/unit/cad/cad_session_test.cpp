@@ -1,5 +1,6 @@
 #include "cad/cad_session.h"
 
+#include "cad/release_name.h"
 #include "fakes/fake_automation.h"
 #include "fakes/fake_desktop.h"
 #include "unit/unit_test.h"
@@ -9,8 +10,7 @@ namespace {
 constexpr wchar_t kPath[] = L"c:\\été\\a.SLDPRT";
 using Rebuild = LoadingOptions::Rebuild;
 
-class CadSessionTest : public testing::Test {
- protected:
+struct CadSessionTest : testing::Test {
     void attach() {
         EXPECT_TRUE(session.attach(automation));
         session.identify();
@@ -60,4 +60,14 @@ TEST_F(CadSessionTest, FailuresNameTheDocument) {
         EXPECT_TRUE(error.text.ends_with(L"\r\nDocument : c:\\été\\a.SLDPRT"));
     }
     EXPECT_TRUE(desktop.broughtForward.empty());
+}
+
+TEST(ReleaseName, FollowsTheRevisionsFirstCharacters) {
+    const std::pair<const wchar_t*, const wchar_t*> cases[] = {
+        {L"9.0.0", L"2001"},  {L"99.1", L"2001"},   {L"10.0.0", L"2001Plus"},
+        {L"11.2.0", L"2003"}, {L"12.0.1", L"2004"}, {L"13.0.0", L""},
+        {L"1", L""},          {L" 12.0", L""}};
+    for (const auto& [revision, year] : cases)
+        EXPECT_EQ(releaseName(revision), *year ? std::wstring(L"SolidWorks ") + year : L"")
+            << revision;
 }

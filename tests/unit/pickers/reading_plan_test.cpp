@@ -18,8 +18,7 @@ TreeDirectory& next(ReadingPlan& plan, TreeDirectory* awaited = nullptr) {
 }
 
 /// A plan in which as many directories wait as may.
-class FullPlan : public testing::Test {
- protected:
+struct FullPlan : testing::Test {
     FullPlan() {
         read(plan, next(plan), std::vector<std::wstring>(3000, L"d"));
         plan.meet(plan.root());

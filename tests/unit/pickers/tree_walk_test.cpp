@@ -21,17 +21,6 @@ void note(Log& log, const std::wstring& directory, const Texts& names) {
     log.insert(log.end(), names.begin(), names.end());
 }
 
-template <class Walk>
-Log logOf(const Walk& walk) {
-    Log log;
-    try {
-        walk(log);
-    } catch (const RuntimeError& error) {
-        log.push_back(std::to_wstring(error.number) + error.text);
-    }
-    return log;
-}
-
 class RandomTree {
  public:
     explicit RandomTree(unsigned seed) : random_(seed) {
@@ -68,8 +57,7 @@ class RandomTree {
     std::mt19937 random_;
 };
 
-class TreeWalk : public testing::Test {
- protected:
+struct TreeWalk : testing::Test {
     /// All workers are waited for.
     WalkEnd walk(Workers& workers) {
         return walkTree(
@@ -95,12 +83,15 @@ TEST(TreeWalks, MeetWhatOneThreadMeetsAndFailWhereItFails) {
             };
         };
         const auto logWith = [&](Workers& workers) {
-            return logOf([&](Log& log) {
-                FakePatience patience;
+            Log log;
+            FakePatience patience;
+            const RuntimeError error = raisedError([&] {
                 EXPECT_EQ(
                     walkTree({tree.files, workers, patience}, L"c:\\r", true, isPart, visitor(log)),
                     WalkEnd::Complete);
             });
+            log.push_back(std::to_wstring(error.number) + error.text);
+            return log;
         };
         NoWorkers alone;
         const Log expected = logWith(alone);

@@ -8,12 +8,12 @@ namespace {
 
 using Answer = MessageBoxes::Answer;
 
+using Told = std::vector<std::pair<int, int>>;
+
 struct FakeButton : TaskbarButton {
-    std::vector<std::pair<int, int>> told;
+    Told told;
     void showProgress(int done, int total) override { told.emplace_back(done, total); }
 };
-
-using Told = std::vector<std::pair<int, int>>;
 
 }  // namespace
 

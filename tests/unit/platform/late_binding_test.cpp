@@ -108,9 +108,7 @@ TEST_F(LateBindingTest, WaitsForARunningObjectThatIsBusy) {
     servers.whenAsked = [] {};
     EXPECT_EQ(automation.attach(L"SldWorks.Application"), nullptr);
     EXPECT_TRUE(boxes.shown.empty());
-}
-
-TEST_F(LateBindingTest, TellsABusyObjectFromNoneWhenTheUserGivesUp) {
+    // A user who gives up waiting is told that it is there.
     servers.answer = call_result::kRetryLater;
     boxes.answers = {MessageBoxes::Answer::Cancel};
     EXPECT_EQ(raised([&] { automation.attach(L"SldWorks.Application"); }), 440);

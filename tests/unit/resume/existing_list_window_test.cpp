@@ -7,8 +7,7 @@
 
 namespace {
 
-class ExistingListPrompt : public testing::Test {
- protected:
+struct ExistingListPrompt : testing::Test {
     ExistingListPrompt() { machine.files.texts[machine.programFiles.list] = L"0  c:\\a\r\n"; }
 
     FakePlatform machine;

@@ -10,8 +10,7 @@ namespace {
 constexpr auto kTwo =
     L"Configuration:  A\r\n   c:\\a\r\nConfiguration:  B\r\n   c:\\b\r\n   d:\\b\r\n";
 
-class ConfigurationFixture : public testing::Test {
- protected:
+struct ConfigurationFixture : testing::Test {
     ConfigurationFixture() {
         cad.attach(machine.automation);
         machine.files.directories = {L"c:\\tarnwick", L"c:\\p\\1\\x", L"c:\\p\\2"};

@@ -2,8 +2,7 @@
 
 namespace {
 
-class SelectionChoosing : public SelectionFixture {
- protected:
+struct SelectionChoosing : SelectionFixture {
     /// The list holds, in this order, c:\plans\axe.slddrw, c:\plans\Zoe.SLDDRW and
     /// c:\plans\moteur\bielle.SLDDRW.
     SelectionChoosing() {

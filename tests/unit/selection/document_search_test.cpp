@@ -8,8 +8,7 @@
 
 namespace {
 
-class Search : public testing::Test {
- protected:
+struct Search : testing::Test {
     void addAll(std::initializer_list<const wchar_t*> paths) {
         for (const wchar_t* path : paths) files.add(path);
     }

@@ -2,8 +2,7 @@
 
 namespace {
 
-class SelectionLeaving : public SelectionFixture {
- protected:
+struct SelectionLeaving : SelectionFixture {
     std::wstring& listFile() { return machine.files.texts[machine.programFiles.list]; }
     std::wstring previousList() { return machine.files.texts[machine.programFiles.previousList()]; }
     /// What is saved of the window's place, which is 450, -75.

@@ -16,8 +16,7 @@
 ///   c:\plans\moteur      bielle.SLDDRW, piston.SLDPRT
 ///   d:\b.SLDDRW
 ///   d:\doc        d.SLDDRW; the current directory of its drive
-class SelectionFixture : public testing::Test {
- protected:
+struct SelectionFixture : testing::Test {
     SelectionFixture() {
         for (const wchar_t* path :
              {L"c:\\a.SLDDRW", L"c:\\plans\\axe.slddrw", L"c:\\plans\\Bras.SLDPRT",

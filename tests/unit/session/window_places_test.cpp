@@ -11,11 +11,10 @@ struct NoEvents : EventSink {
     void raise(int, Event) override {}
 };
 
-class WindowPlacesTest : public testing::Test {
- protected:
+struct WindowPlacesTest : testing::Test {
     /// Has the next run show the window on these monitors.
     Area restored(std::vector<FakeMonitor> monitors, Size size = {600, 400}) {
-        FakeWindow window(0, sink);
+        FakeWindow window(sink);
         window.monitors = std::move(monitors);
         window.area = areaAt({}, size);
         places.readAll();
@@ -23,7 +22,7 @@ class WindowPlacesTest : public testing::Test {
         return window.area;
     }
     void leave(const std::vector<FakeMonitor>& monitors, const Area& area) {
-        FakeWindow window(0, sink);
+        FakeWindow window(sink);
         window.monitors = monitors;
         window.area = area;
         places.save(PlacedWindow::Selection, window);
@@ -54,7 +53,7 @@ TEST_F(WindowPlacesTest, AreKeptUnderKeysOfTheirOwnWithinSixteenBits) {
         {PlacedWindow::Tracking, L"tarnwick", L"startup", L"toppos3", L"leftpos3"},
         {PlacedWindow::SearchFolders, L"mervale", L"listerepert", L"toppos4", L"leftpos4"},
     };
-    FakeWindow window(0, sink);
+    FakeWindow window(sink);
     const auto expectPlace = [&](PlacedWindow which, Point corner) {
         places.readAll();
         places.restore(which, window);

@@ -2,8 +2,7 @@
 
 namespace {
 
-class Resuming : public TrackingFixture {
- protected:
+struct Resuming : TrackingFixture {
     bool recordThere() { return !machine.records.contents.empty(); }
 
     /// Starts again as after a kill, with these answers; gives the boxes that came.

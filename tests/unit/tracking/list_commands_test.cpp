@@ -2,8 +2,7 @@
 
 namespace {
 
-class ListCommands : public TrackingFixture {
- protected:
+struct ListCommands : TrackingFixture {
     void select(const std::vector<int>& lines) {
         list().clearSelection();
         for (const int line : lines) list().select(line, true);

@@ -2,8 +2,7 @@
 
 namespace {
 
-class Options : public TrackingFixture {
- protected:
+struct Options : TrackingFixture {
     /// What is kept of each.
     std::wstring options() {
         std::wstring kept;

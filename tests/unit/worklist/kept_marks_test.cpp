@@ -9,13 +9,14 @@ namespace {
 constexpr wchar_t kRecord[] = L"c:\\liste.reprise";
 
 /// A pass whose marks are kept.
-class KeptMarks : public PassFixture {
- protected:
+struct KeptMarks : PassFixture {
+    /// Started on a list with this text.
     void begin(const std::string& text) {
         listFile = text;
         PassFixture::begin(text);
         keeper.emplace(files, L"c:\\liste.LST", clock);
         keeper->begin(ListIdentity(text), pass->list());
+        pass->start();
     }
 
     /// Opens the current line's document as the window does.
@@ -61,7 +62,6 @@ class KeptMarks : public PassFixture {
 
 TEST_F(KeptMarks, AreThereOnlyWhileThereIsSomethingToOffer) {
     begin(listOf("000"));
-    pass->start();
     open(false);
     EXPECT_EQ(read(record())->opening, 0);
     keeper->opened();
@@ -79,7 +79,6 @@ TEST_F(KeptMarks, AreThereOnlyWhileThereIsSomethingToOffer) {
 
 TEST_F(KeptMarks, GiveBackEveryCommandsWork) {
     begin(listOf(std::vector<std::string>{"0", "12", "x", "0", "3", "0", "0", "2"}));
-    pass->start();
     open();
     clock.seconds += 7;
     advance(state::kDone, Saved::Yes);
@@ -111,7 +110,6 @@ TEST_F(KeptMarks, GiveBackEveryCommandsWork) {
 
 TEST_F(KeptMarks, BelongToOneListOnly) {
     begin(listOf("00"));
-    pass->start();
     advance(state::kDone);
     listFile[4] = 'C';
     EXPECT_FALSE(read(record()));
@@ -121,7 +119,6 @@ TEST_F(KeptMarks, BelongToOneListOnly) {
 
 TEST_F(KeptMarks, OfATornOrSpoiledRecordAreThoseBefore) {
     begin(listOf("00000000"));
-    pass->start();
     std::vector<std::string> atEachStep;
     std::vector<std::size_t> ends;
     for (const auto mark : {state::kDone, state::kSeen, state::kDone, state::kToDo, state::kSeen}) {
@@ -160,7 +157,6 @@ TEST_F(KeptMarks, ThatCannotBeWrittenStopNoPass) {
         files.contents.clear();
         files.writesUntilFailure = writes;
         begin(listOf("0000"));
-        pass->start();
         open();
         int told = keeper->takeFailure();
         for (int i = 0; i < 3; ++i) {
@@ -177,7 +173,6 @@ TEST_F(KeptMarks, ThatCannotBeWrittenStopNoPass) {
 TEST_F(KeptMarks, OfALongPassTakeLessThanTwiceTheList) {
     constexpr int kLines = 1500;
     begin(listOf(std::string(kLines, '0')));
-    pass->start();
     open();
     std::size_t largest = 0;
     for (int i = 0; i < kLines; ++i) {
@@ -196,7 +191,6 @@ TEST_F(KeptMarks, OfALongPassTakeLessThanTwiceTheList) {
 
 TEST_F(KeptMarks, CostOneFlushACommand) {
     begin(listOf("00000"));
-    pass->start();
     advance(state::kDone);
     files.flushes = 0;
     advance(state::kDone);

@@ -65,13 +65,6 @@ TEST(ListFile, IsWrittenLineByLineWhateverOfItIsAsItWasRead) {
     EXPECT_EQ(saved(list, 0), "");
 }
 
-TEST(ListFile, AnEmptyTextLeavesTheListAlone) {
-    WorkList list;
-    list.last = 5;
-    EXPECT_FALSE(parseListFile("", list));
-    EXPECT_EQ(list.last, 5);
-}
-
 TEST(ListFile, ALineShorterThanItsCodeIsAnInvalidArgument) {
     for (const char* text : {"\r\n", "0 ", "0  a\r\n\r\n", "0  a\n\r1  b", "0  a\r\n\x1a"}) {
         WorkList list;

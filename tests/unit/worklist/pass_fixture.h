@@ -33,8 +33,7 @@ inline LineSelected only(std::vector<int> lines) {
 
 inline const LineSelected kAllLines = [](int) { return true; };
 
-class PassFixture : public testing::Test {
- protected:
+struct PassFixture : testing::Test {
     Pass& begin(const std::string& listFile) {
         pass.emplace(clock);
         pass->read(listFile);

@@ -121,15 +121,6 @@ TEST_F(Steps, SearchForTheCurrentLineReadsTheRowPastTheLastOne) {
     EXPECT_TRUE(search());
 }
 
-TEST_F(Steps, ShownNumberStaysAtTheEnd) {
-    started("00");
-    EXPECT_EQ(pass->shownNumber(), 1);
-    pass->advance(state::kDone);
-    pass->advance(state::kDone);
-    EXPECT_TRUE(pass->pastEnd());
-    EXPECT_EQ(pass->shownNumber(), 2);
-}
-
 TEST_F(Steps, NoteWhenADocumentWasMarkedAndHowLongItWasOpen) {
     started("000");
     pass->openCurrent();
