@@ -38,9 +38,7 @@ TEST_F(ListBoxContract, HoldsTheLinesThatItWasGivenLast) {
             EXPECT_EQ(list->mark(i), 0);
         }
     }
-}
-
-TEST_F(ListBoxContract, SelectsSeveralLines) {
+    // Several lines can be selected at once.
     fill(several, 6);
     for (const int line : {1, 4, 5}) several.select(line, true);
     several.select(5, false);

@@ -50,11 +50,10 @@ TEST_F(BusyCad, ImpatientPressesAreNotFurtherCommands) {
     // All at once, so that the first is still at work when the last are taken up.
     HWND button = app.Control(IDC_FORM3_CMDSUIV);
     for (int i = 0; i < 4; ++i) {
-        Post(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-        Post(button, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+        for (const UINT mouse : {WM_LBUTTONDOWN, WM_LBUTTONUP})
+            Post(button, mouse, 0, MAKELPARAM(5, 5));
     }
-    Post(button, WM_KEYDOWN, VK_SPACE, 1);
-    Post(button, WM_KEYUP, VK_SPACE, 1);
+    for (const UINT key : {WM_KEYDOWN, WM_KEYUP}) Post(button, key, VK_SPACE, 1);
     WaitForCall("b.SLDPRT.ViewZoomtofit2");
     // A command that comes after them shows that none of them still waits.
     app.Click(IDC_FORM3_CMDFICHIERLISTE);

@@ -1,5 +1,6 @@
 // What a window owes its user on any desktop: size, place, keyboard.
 
+#include "driver/keys.h"
 #include "scenario.h"
 
 namespace {
@@ -12,10 +13,8 @@ SIZE SizeOf(HWND window) {
 using Desktop = Scenario;
 
 bool IsFrame(HWND control) {
-    wchar_t name[20] = {};
-    GetClassNameW(control, name, ARRAYSIZE(name));
     const bool isGroup = (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
-    return name == std::wstring(L"SysTabControl32") || (name == std::wstring(L"Button") && isGroup);
+    return ClassOf(control) == "SysTabControl32" || (ClassOf(control) == "Button" && isGroup);
 }
 
 /// Makes a window as small as every window can be made; all its controls must be in sight then,
@@ -70,16 +69,8 @@ TEST_F(Desktop, ShortcutsReachTheListSelectItsLinesAndPressButtons) {
     StartInDocuments({"--hidden"});
     app.WaitForText(IDC_FORM1_CPTFICHIER, "1");
     HWND window = app.Window(kSelection);
-    WaitFor("the window in front", [&] {
-        SetForegroundWindow(window);
-        return GetForegroundWindow() == window;
-    });
-    for (const BYTE key : {'G', 'A', 'D'}) {
-        keybd_event(VK_CONTROL, 0, 0, 0);
-        keybd_event(key, 0, 0, 0);
-        keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
-        keybd_event(VK_CONTROL, 0, KEYEVENTF_KEYUP, 0);
-    }
+    BringForward(window);
+    for (const WORD key : {'G', 'A', 'D'}) PressKeys({VK_CONTROL, key});
     app.WaitForText(IDC_FORM1_NBFICH, "1");
     keybd_event(VK_F1, 0, 0, 0);
     keybd_event(VK_F1, 0, KEYEVENTF_KEYUP, 0);

@@ -1,5 +1,6 @@
 // One list, one program: what a start meets on a list that is open already, and lists of their own.
 
+#include "driver/keys.h"
 #include "scenario.h"
 
 namespace {
@@ -17,14 +18,6 @@ struct Hold : Scenario {
         return ReadFileBytes(sandbox.Directory() / Wide(name)).has_value();
     }
 
-    void WaitForFront(HWND window) const {
-        WaitFor("the window in front", [&] { return GetForegroundWindow() == window; });
-    }
-    /// Another program has the keyboard now.
-    void WorkElsewhere() const {
-        SetForegroundWindow(cad.Window());
-        WaitForFront(cad.Window());
-    }
     /// A second start that finds the list open ends at once.
     void ExpectSecondStartEnds(const std::string& list = ".\\Documents\\..\\TARNWICK.LST") {
         other.Start({list});
@@ -38,16 +31,16 @@ TEST_F(Hold, SecondStartBringsTheFirstForward) {
     app.Start();
     HWND prompt = app.Window(kPrompt);
     ShowWindow(prompt, SW_MINIMIZE);
-    WorkElsewhere();
+    BringForward(cad.Window());
     ExpectSecondStartEnds();
-    WaitForFront(prompt);
+    WaitFor("the window in front", [&] { return GetForegroundWindow() == prompt; });
     EXPECT_FALSE(IsIconic(prompt));
     ExpectCalls(calls::AtStartUp());
 
     std::filesystem::remove(sandbox.ListFile());
     app.Click(IDC_FORM2_CMDOK);
     app.Box();
-    WorkElsewhere();
+    BringForward(cad.Window());
     ExpectSecondStartEnds();
     WaitFor("the box in front", [] { return ClassOf(GetForegroundWindow()) == "#32770"; });
     ExpectFatalError(53);

@@ -4,7 +4,7 @@ namespace {
 
 using Selection = Scenario;
 
-TEST_F(Selection, FindsMarksFiltersAndLaunches) {
+TEST_F(Selection, FindsMarksAndLaunches) {
     const std::string nut = sandbox.AddDocument("Bâti\\Écrou [M8].SLDPRT");
     const std::string flange = sandbox.AddDocument("Bâti\\Brides\\Bride d'entrée.sldprt");
     const std::string frame = sandbox.AddDocument("Bâti\\Bâti.SLDASM");
@@ -20,11 +20,7 @@ TEST_F(Selection, FindsMarksFiltersAndLaunches) {
     ExpectLines(IDC_FORM1_LIST1, {kToDo + press, kToDo + frame, kToDo + nut, kToDo + flange});
     EXPECT_EQ(app.TextOf(IDC_FORM1_CPTFICHIER), "4");
 
-    app.Type(IDC_FORM1_N_FILTRE, "BRIDE");
-    app.WaitForText(IDC_FORM1_N_FILTRE, "BRIDE");
-    app.Click(IDC_FORM1_CMD_AJO);
-    app.WaitForText(IDC_FORM1_NBFICH, "1");
-    app.Select(IDC_FORM1_LIST1, {0, 2});
+    app.Select(IDC_FORM1_LIST1, {0, 2, 3});
     app.Click(IDC_FORM1_CMDCOCHE);
     app.WaitForText(IDC_FORM1_NBFICH, "3");
     ExpectLines(IDC_FORM1_LIST1, {kChosen + press, kToDo + frame, kChosen + nut, kChosen + flange});

@@ -9,19 +9,17 @@ namespace {
 
 class Soak : public Scenario {
  protected:
-    /// Goes on to this one-based line, saving all between; gives what the program holds there.
-    Resources AdvanceTo(int line) {
-        for (; current_ < line; ++current_) {
+    /// Goes on from one to another one-based line, saving all between; gives what the program holds
+    /// there.
+    Resources Advance(int from, int to) {
+        while (from++ < to) {
             app.Click(IDC_FORM3_CMDSUIV);
-            app.WaitForText(IDC_FORM3_NBFICH1, std::to_string(current_ + 1));
+            app.WaitForText(IDC_FORM3_NBFICH1, std::to_string(from));
         }
         const Resources held = app.ResourcesInUse();
         std::cout << held.Describe() << '\n';
         return held;
     }
-
- private:
-    int current_ = 1;
 };
 
 TEST_F(Soak, ResourcesStayFlat) {
@@ -35,10 +33,10 @@ TEST_F(Soak, ResourcesStayFlat) {
     StartAndResume();
     app.WaitForText(IDC_FORM3_NBFICH1, "1");
 
-    const Resources before = AdvanceTo(count > 200 ? 100 : 20);
-    const Resources after = AdvanceTo(count);
-    EXPECT_GT(before.kernelHandles, 0u);
-    EXPECT_GT(before.gdiObjects, 0u);
+    const int warm = count > 200 ? 100 : 20;
+    const Resources before = Advance(1, warm);
+    const Resources after = Advance(warm, count);
+    EXPECT_TRUE(before.kernelHandles > 0 && before.gdiObjects > 0);
     EXPECT_LE(after.kernelHandles, before.kernelHandles + 5);
     EXPECT_LE(after.gdiObjects, before.gdiObjects + 5);
     EXPECT_LE(after.windows, before.windows);

@@ -14,8 +14,7 @@ struct FakeDesktop : Desktop {
     std::wstring openable;
 
     WindowHandle findWindow(const std::wstring& title) override {
-        const auto window = windows.find(title);
-        return window == windows.end() ? 0 : window->second;
+        return windows.contains(title) ? windows[title] : 0;
     }
     WindowHandle findWindow(const std::function<bool(const std::wstring&)>& isTitle) override {
         for (const auto& [title, window] : windows) {

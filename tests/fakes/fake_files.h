@@ -20,8 +20,10 @@ struct FakeFiles : Files {
     /// Looks on, or is late, before a directory is visited or identified.
     std::function<void(const std::wstring&)> beforeEach = [](const std::wstring&) {};
 
-    /// An empty document, and its directories.
-    void add(const std::wstring& path) { texts[path]; }
+    /// Empty documents, and their directories.
+    void add(std::initializer_list<std::wstring> paths) {
+        for (const std::wstring& path : paths) texts[path];
+    }
 
     std::string readBytes(const std::wstring& path) override;
     void replace(const std::wstring& path, const WriteContent& write) override;

@@ -22,9 +22,8 @@ struct FakeRecordFiles : RecordFiles {
         std::wstring path;
 
         std::optional<std::string> read() override {
-            const auto found = files.contents.find(path);
-            if (found == files.contents.end()) return std::nullopt;
-            return found->second;
+            if (!files.contents.contains(path)) return std::nullopt;
+            return files.contents[path];
         }
         void replace(std::string_view bytes) override {
             requireWritable();

@@ -11,7 +11,7 @@ TEST(DirectoryPicker, ShowsAndOpensAncestorsAndSubdirectories) {
     FakeFiles files;
     files.directories = {L"c:\\plans\\moteur\\Bielle", L"c:\\plans\\moteur\\arbre",
                          L"c:\\plans\\Zone"};
-    files.add(L"c:\\plans\\moteur\\piece.SLDPRT");
+    files.add({L"c:\\plans\\moteur\\piece.SLDPRT"});
     FakeListBox list;
     list.severalSelectable = false;
     NoWorkers alone;

@@ -47,7 +47,7 @@ class RandomTree {
         const std::wstring path =
             somewhere() + L'\\' + (below(2) ? L"A" : L"b") + decimal(below(99));
         if (below(4) == 0) {
-            files.add(path + L".SLDPRT");
+            files.add({path + L".SLDPRT"});
         } else {
             files.directories.insert(path);
             if (below(9) == 0) files.attributes[path] = attribute::kHidden | attribute::kSystem;
@@ -105,10 +105,8 @@ TEST(TreeWalks, MeetWhatOneThreadMeetsAndFailWhereItFails) {
 }
 
 TEST_F(TreeWalk, EndsWhenItIsToldAlthoughAServerDoesNotAnswer) {
-    for (const wchar_t* name :
-         {L"a\\1.SLDPRT", L"b\\2.SLDPRT", L"mort\\3.SLDPRT", L"z\\4.SLDPRT"}) {
-        files.add(std::wstring(L"c:\\r\\") + name);
-    }
+    files.add({L"c:\\r\\a\\1.SLDPRT", L"c:\\r\\b\\2.SLDPRT", L"c:\\r\\mort\\3.SLDPRT",
+               L"c:\\r\\z\\4.SLDPRT"});
     for (const bool asLink : {false, true}) {
         files.links.clear();
         if (asLink) files.links[L"c:\\r\\mort"] = L"c:\\r\\z";
@@ -132,7 +130,7 @@ TEST_F(TreeWalk, EndsWhenItIsToldAlthoughAServerDoesNotAnswer) {
 }
 
 TEST_F(TreeWalk, LetsThroughWhatThePatienceRaises) {
-    files.add(L"c:\\r\\a.SLDPRT");
+    files.add({L"c:\\r\\a.SLDPRT"});
     patience.goesOn = []() -> bool { throw ProgramEnd{}; };
     files.beforeEach = [](const std::wstring&) {
         std::this_thread::sleep_for(std::chrono::milliseconds(1));

@@ -54,7 +54,7 @@ TEST_F(SelectionChoosing, FiltersTheLinesAsTheyAreDisplayed) {
         {{0, 1, 2}, 2, IDC_FORM1_CMD_ENL, L"moteur", L"111"},  // hidden by the depth
     };
     for (const auto& c : cases) {
-        chooseType(0);
+        choose(IDC_FORM1_TYPEF, 0);
         for (int i = 0; i < 9; ++i) click(IDC_FORM1_CMDMOINS);
         for (int i = 0; i < c.depth; ++i) click(IDC_FORM1_CMDPLUS);
         toggle(c.before);

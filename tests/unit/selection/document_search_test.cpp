@@ -9,10 +9,6 @@
 namespace {
 
 struct Search : testing::Test {
-    void addAll(std::initializer_list<const wchar_t*> paths) {
-        for (const wchar_t* path : paths) files.add(path);
-    }
-
     Texts run(const std::wstring& directory, bool withSubdirectories,
               const wchar_t* types = L"*.SLDPRT ; *.SLDASM ; *.SLDDRW") {
         found.restart(withSubdirectories);
@@ -35,10 +31,10 @@ struct Search : testing::Test {
 }  // namespace
 
 TEST_F(Search, ListsOneDirectoryByNameWhateverTheKind) {
-    addAll({L"c:\\plans\\Zoe.SLDPRT", L"c:\\plans\\bras.SLDASM", L"c:\\plans\\Axe.slddrw",
-            L"c:\\plans\\a.b.SldPrt", L"c:\\plans\\sans_extension", L"c:\\plans\\notes.txt",
-            L"c:\\plans\\~$bras.SLDASM", L"c:\\plans\\sous\\d.SLDPRT",
-            L"c:\\plans\\dossier.SLDPRT\\e.SLDPRT"});
+    files.add({L"c:\\plans\\Zoe.SLDPRT", L"c:\\plans\\bras.SLDASM", L"c:\\plans\\Axe.slddrw",
+               L"c:\\plans\\a.b.SldPrt", L"c:\\plans\\sans_extension", L"c:\\plans\\notes.txt",
+               L"c:\\plans\\~$bras.SLDASM", L"c:\\plans\\sous\\d.SLDPRT",
+               L"c:\\plans\\dossier.SLDPRT\\e.SLDPRT"});
     files.attributes[L"c:\\plans\\~$bras.SLDASM"] = attribute::kHidden;
     EXPECT_EQ(run(L"c:\\plans", false),
               (Texts{L"a.b.SldPrt", L"Axe.slddrw", L"bras.SLDASM", L"Zoe.SLDPRT"}));
@@ -49,10 +45,10 @@ TEST_F(Search, ListsOneDirectoryByNameWhateverTheKind) {
 }
 
 TEST_F(Search, WalksATreeDepthFirstReadingEachDirectoryOnce) {
-    addAll({L"c:\\plans\\z.SLDPRT", L"c:\\plans\\beta\\b.SLDASM", L"c:\\plans\\beta\\a.SLDPRT",
-            L"c:\\plans\\Alpha\\fond\\profond\\p.SLDDRW", L"c:\\plans\\Alpha\\fond\\f.SLDPRT",
-            L"c:\\plans\\Alpha\\x.SLDPRT", L"c:\\plans\\alpha2\\n.SLDPRT",
-            L"c:\\plans\\cache\\c.SLDPRT", L"c:\\plans\\systeme\\s.SLDPRT"});
+    files.add({L"c:\\plans\\z.SLDPRT", L"c:\\plans\\beta\\b.SLDASM", L"c:\\plans\\beta\\a.SLDPRT",
+               L"c:\\plans\\Alpha\\fond\\profond\\p.SLDDRW", L"c:\\plans\\Alpha\\fond\\f.SLDPRT",
+               L"c:\\plans\\Alpha\\x.SLDPRT", L"c:\\plans\\alpha2\\n.SLDPRT",
+               L"c:\\plans\\cache\\c.SLDPRT", L"c:\\plans\\systeme\\s.SLDPRT"});
     files.directories.insert(L"c:\\plans\\vide");
     files.attributes[L"c:\\plans\\cache"] = attribute::kHidden;
     files.attributes[L"c:\\plans\\systeme"] = attribute::kHidden | attribute::kSystem;
@@ -68,8 +64,8 @@ TEST_F(Search, WalksATreeDepthFirstReadingEachDirectoryOnce) {
 }
 
 TEST_F(Search, FollowsLinksButNotBackIntoDirectoriesThatAreOpen) {
-    addAll({L"c:\\plans\\a.SLDPRT", L"c:\\plans\\sous\\b.SLDPRT", L"d:\\autres\\c.SLDPRT",
-            L"d:\\autres\\bas\\d.SLDPRT"});
+    files.add({L"c:\\plans\\a.SLDPRT", L"c:\\plans\\sous\\b.SLDPRT", L"d:\\autres\\c.SLDPRT",
+               L"d:\\autres\\bas\\d.SLDPRT"});
     files.links = {
         {L"c:\\plans\\sous\\haut", L"c:\\plans"},          // up
         {L"c:\\plans\\sous\\ici", L"c:\\plans\\sous"},     // to itself

@@ -1,8 +1,48 @@
 #include "unit/selection/selection_window_fixture.h"
 
+using SelectionLoad = SelectionFixture;
 using SelectionSearch = SelectionFixture;
 constexpr auto kYes = MessageBoxes::Answer::Yes;
 constexpr auto kNo = MessageBoxes::Answer::No;
+
+TEST_F(SelectionLoad, ShowsTheDrawingsOfTheWorkingDirectory) {
+    load();
+    EXPECT_EQ(exits.taken, Texts{L"closeSplash"});
+    EXPECT_EQ(window().area.corner(), (Point{-40, 20}));
+    EXPECT_EQ(types().content, L"*.SLDDRW");
+    EXPECT_EQ(types().lines.back(), L"*.SLDPRT ; *.SLDASM ; *.SLDDRW");
+    EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).lines, (Texts{L"c:", L"d:"}));
+    EXPECT_EQ(window().listBox(IDC_FORM1_REPERT).texts(),
+              (Texts{L"c:\\", L"  plans", L"    moteur"}));
+    EXPECT_FALSE(ticked());
+    EXPECT_EQ(unchosen(), (Texts{L"axe.slddrw", L"Zoe.SLDDRW"}));
+    EXPECT_EQ(text(IDC_FORM1_NBFICH), L"0");
+    EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"2");
+    EXPECT_EQ(text(IDC_FORM1_NNIVEAU), L"0");
+    for (const int id :
+         {IDC_FORM1_FILE1, IDC_FORM1_REP, IDC_FORM1_CDMTEST, IDC_FORM1_S, IDC_FORM1_T}) {
+        EXPECT_FALSE(control(id).visible) << id;
+    }
+}
+
+TEST_F(SelectionLoad, StartsWhereverTheSessionWorks) {
+    machine.files.add({L"\\\\serveur\\part\\plans\\r.SLDDRW"});
+    const struct {
+        const wchar_t* workingDirectory;
+        const wchar_t* drive;
+        Texts found;
+    } cases[] = {
+        {L"d:\\doc\\", L"d:", {L"d.SLDDRW"}},
+        {L"\\\\serveur\\part\\plans", L"", {L"r.SLDDRW"}},
+        {L"c:", L"c:", {L"a.SLDDRW"}},
+        {L"", L"c:", {L"a.SLDDRW"}},
+    };
+    for (const auto& c : cases) {
+        load(c.workingDirectory);
+        EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).content, c.drive) << c.workingDirectory;
+        EXPECT_EQ(unchosen(), c.found) << c.workingDirectory;
+    }
+}
 
 TEST_F(SelectionSearch, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
     const struct {
@@ -11,11 +51,13 @@ TEST_F(SelectionSearch, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
         Texts found;
     } cases[] = {
         {"typing", [&] { type(L"xsldprt"); }, {L"Bras.SLDPRT"}},
-        {"choosing a kind", [&] { chooseType(3); }, {L"Bras.SLDPRT", L"corps.SLDASM"}},
-        {"the same kind again", [&] { chooseType(0); }, {L"axe.slddrw", L"Zoe.SLDDRW"}},
+        {"choosing a kind", [&] { choose(IDC_FORM1_TYPEF, 3); }, {L"Bras.SLDPRT", L"corps.SLDASM"}},
+        {"the same kind again",
+         [&] { choose(IDC_FORM1_TYPEF, 0); },
+         {L"axe.slddrw", L"Zoe.SLDDRW"}},
         {"opening below", [&] { openDirectory(L"moteur"); }, {L"bielle.SLDDRW"}},
         {"opening above", [&] { openDirectory(L"c:\\"); }, {L"a.SLDDRW"}},
-        {"another drive", [&] { chooseDrive(1); }, {L"d.SLDDRW"}},
+        {"another drive", [&] { choose(IDC_FORM1_UNITE, 1); }, {L"d.SLDDRW"}},
         {"sub-directories",
          [&] { tick(true); },
          {L"c:\\plans\\axe.slddrw", L"c:\\plans\\Zoe.SLDDRW", L"c:\\plans\\moteur\\bielle.SLDDRW"}},
@@ -37,7 +79,7 @@ TEST_F(SelectionSearch, LeavingTheKindsAsTheyAreKeepsWhatIsChosen) {
     tick(true);
     toggle({0, 2});
     machine.files.texts.erase(L"c:\\plans\\axe.slddrw");
-    machine.files.add(L"c:\\plans\\bague.SLDDRW");
+    machine.files.add({L"c:\\plans\\bague.SLDDRW"});
     leaveTypes();
     EXPECT_EQ(list().texts(), (Texts{L"              c:\\plans\\bague.SLDDRW",
                                      L"              c:\\plans\\Zoe.SLDDRW",
@@ -51,10 +93,11 @@ TEST_F(SelectionSearch, LeavingTheKindsAsTheyAreKeepsWhatIsChosen) {
 }
 
 TEST_F(SelectionSearch, FailsWhenThereAreTooManyDocuments) {
-    for (int i = 0; i < 8001; ++i) machine.files.add(L"c:\\n\\" + std::to_wstring(i) + L".slddrw");
+    for (int i = 0; i < 8001; ++i)
+        machine.files.add({L"c:\\n\\" + std::to_wstring(i) + L".slddrw"});
     load(L"c:\\n");
     EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"8001");
-    machine.files.add(L"c:\\n\\trop.SLDDRW");
+    machine.files.add({L"c:\\n\\trop.SLDDRW"});
     EXPECT_EQ(raised([&] { tick(true); }), 9);
 }
 
@@ -62,11 +105,11 @@ TEST_F(SelectionSearch, AsksBeforeAWholeDriveIsSearched) {
     machine.files.currentDirectories.clear();
     const auto nothing = [] {};
     const auto open = [&] { openDirectory(L"d:\\"); };
-    const auto changeDrive = [&] { chooseDrive(1); };
+    const auto changeDrive = [&] { choose(IDC_FORM1_UNITE, 1); };
     const auto rebuild = [&] {
         type(L"SLDDRW");
         leaveTypes();
-        chooseType(0);
+        choose(IDC_FORM1_TYPEF, 0);
     };
     const struct {
         const char* what;

@@ -18,12 +18,10 @@
 ///   d:\doc        d.SLDDRW; the current directory of its drive
 struct SelectionFixture : testing::Test {
     SelectionFixture() {
-        for (const wchar_t* path :
-             {L"c:\\a.SLDDRW", L"c:\\plans\\axe.slddrw", L"c:\\plans\\Bras.SLDPRT",
-              L"c:\\plans\\corps.SLDASM", L"c:\\plans\\Zoe.SLDDRW",
-              L"c:\\plans\\moteur\\bielle.SLDDRW", L"c:\\plans\\moteur\\piston.SLDPRT",
-              L"d:\\b.SLDDRW", L"d:\\doc\\d.SLDDRW"})
-            machine.files.add(path);
+        machine.files.add({L"c:\\a.SLDDRW", L"c:\\plans\\axe.slddrw", L"c:\\plans\\Bras.SLDPRT",
+                           L"c:\\plans\\corps.SLDASM", L"c:\\plans\\Zoe.SLDDRW",
+                           L"c:\\plans\\moteur\\bielle.SLDDRW", L"c:\\plans\\moteur\\piston.SLDPRT",
+                           L"d:\\b.SLDDRW", L"d:\\doc\\d.SLDDRW"});
         machine.files.presentDrives = {L'c', L'd'};
         machine.files.currentDirectories[L'd'] = L"d:\\doc";
         machine.leaveWindowAt(L"toppos", L"leftpos", 300, -600);
@@ -51,9 +49,7 @@ struct SelectionFixture : testing::Test {
         window().comboBox(comboBox).selectLine(line);
         click(comboBox);
     }
-    void chooseType(int line) { choose(IDC_FORM1_TYPEF, line); }
     void leaveTypes() { window().sink.raise(IDC_FORM1_TYPEF, Event::Validate); }
-    void chooseDrive(int line) { choose(IDC_FORM1_UNITE, line); }
     /// Double-clicks the line of the directory tree with this name.
     void openDirectory(const std::wstring& name) {
         FakeListBox& tree = window().listBox(IDC_FORM1_REPERT);

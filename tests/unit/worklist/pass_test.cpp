@@ -82,11 +82,9 @@ TEST_F(Steps, EditsFindTheCurrentLineAgain) {
     const auto resume = [](int line) { return [=](Pass& p) { return p.resumeAt(line); }; };
     check(
         {
-            {"10200", change({0, 1, 2, 3}), "23220", 1, true},
             {"x00", change({0}), "230", 1, true},
             {"10200", eliminate(kAllLines, Eliminate::DoneAndSeen), "300", 0, true},
             {"10200", eliminate(only({0, 1}), Eliminate::DoneAndSeen), "3200", 0, true},
-            {"10200", eliminate(kAllLines, Eliminate::Seen), "1300", 1, true},
             {"1122", eliminate(kAllLines, Eliminate::Seen), "11", 4, false},
             {"12", eliminate(kAllLines, Eliminate::DoneAndSeen), "", 2, false},
             {"10200", reset({0, 2}), "30000", 0, true},
