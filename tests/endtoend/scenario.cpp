@@ -39,14 +39,14 @@ void Scenario::StartInDocuments(std::vector<std::string> cadOptions) {
     app.Window(kSelection);
 }
 
-calls::Calls Scenario::NewCalls() const {
-    const calls::Calls all = cad.Calls();
-    const size_t seen = std::min(callsSeen_, all.size());
-    return {all.begin() + static_cast<std::ptrdiff_t>(seen), all.end()};
-}
-
 void Scenario::ExpectCalls(const calls::Calls& expected) {
-    EXPECT_EQ(Eventually<calls::Calls>(expected, [this] { return NewCalls(); }), expected);
+    const auto newCalls = [this] {
+        calls::Calls all = cad.Calls();
+        all.erase(all.begin(),
+                  all.begin() + static_cast<std::ptrdiff_t>(std::min(callsSeen_, all.size())));
+        return all;
+    };
+    EXPECT_EQ(Eventually<calls::Calls>(expected, newCalls), expected);
     callsSeen_ += expected.size();
 }
 

@@ -74,8 +74,6 @@ class Scenario : public testing::Test {
     std::vector<std::string> paths;  ///< of the documents that WriteListOf added
 
  private:
-    calls::Calls NewCalls() const;
-
     size_t callsSeen_ = 0;
 };
 

@@ -72,14 +72,13 @@ struct FakeWindow : Window {
  private:
     /// The one that most of it is on, or else the first.
     const FakeMonitor& monitor() const {
-        return *std::ranges::max_element(monitors, {}, [&](const FakeMonitor& monitor) {
-            const auto shared = [](int a, int b, int c, int d) {
-                return std::max(std::min(b, d) - std::max(a, c), 0);
-            };
-            return std::int64_t{
-                       shared(area.left, area.right, monitor.area.left, monitor.area.right)} *
-                   shared(area.top, area.bottom, monitor.area.top, monitor.area.bottom);
-        });
+        const auto shared = [&](const Area& on) {
+            const int across = std::min(area.right, on.right) - std::max(area.left, on.left);
+            const int down = std::min(area.bottom, on.bottom) - std::max(area.top, on.top);
+            return across > 0 && down > 0 ? std::int64_t{across} * down : 0;
+        };
+        return *std::ranges::max_element(monitors, {},
+                                         [&](const auto& monitor) { return shared(monitor.area); });
     }
 
     std::map<int, FakeControl> controls_;

@@ -2,11 +2,12 @@
 
 #include <atomic>
 #include <latch>
+#include <mutex>
 #include <random>
+#include <thread>
 
 #include "fakes/fake_files.h"
 #include "fakes/fake_patience.h"
-#include "fakes/joining_workers.h"
 #include "unit/unit_test.h"
 
 namespace {
@@ -20,6 +21,23 @@ void note(Log& log, const std::wstring& directory, const Texts& names) {
     log.push_back(directory);
     log.insert(log.end(), names.begin(), names.end());
 }
+
+/// A thread for each job; all are waited for in the end.
+struct JoiningWorkers : Workers {
+    bool start(std::function<void()> job) override {
+        const std::scoped_lock lock(mutex_);
+        if (++started_ % refusedEach == 0) return false;
+        threads_.emplace_back(std::move(job));
+        return true;
+    }
+
+    int refusedEach = 1 << 30;  ///< every so many starts there is no thread to be had
+
+ private:
+    std::mutex mutex_;
+    int started_ = 0;
+    std::vector<std::jthread> threads_;
+};
 
 class RandomTree {
  public:

@@ -7,14 +7,12 @@
 
 namespace {
 
-struct NoEvents : EventSink {
+struct WindowPlacesTest : testing::Test, EventSink {
     void raise(int, Event) override {}
-};
 
-struct WindowPlacesTest : testing::Test {
     /// Has the next run show the window on these monitors.
     Area restored(std::vector<FakeMonitor> monitors, Size size = {600, 400}) {
-        FakeWindow window(sink);
+        FakeWindow window(*this);
         window.monitors = std::move(monitors);
         window.area = areaAt({}, size);
         places.readAll();
@@ -22,7 +20,7 @@ struct WindowPlacesTest : testing::Test {
         return window.area;
     }
     void leave(const std::vector<FakeMonitor>& monitors, const Area& area) {
-        FakeWindow window(sink);
+        FakeWindow window(*this);
         window.monitors = monitors;
         window.area = area;
         places.save(PlacedWindow::Selection, window);
@@ -31,7 +29,6 @@ struct WindowPlacesTest : testing::Test {
         settings.write(L"tarnwick", L"startup", key, value);
     }
 
-    NoEvents sink;
     FakeSettings settings;
     WindowPlaces places{settings};
 };
@@ -53,7 +50,7 @@ TEST_F(WindowPlacesTest, AreKeptUnderKeysOfTheirOwnWithinSixteenBits) {
         {PlacedWindow::Tracking, L"tarnwick", L"startup", L"toppos3", L"leftpos3"},
         {PlacedWindow::SearchFolders, L"mervale", L"listerepert", L"toppos4", L"leftpos4"},
     };
-    FakeWindow window(sink);
+    FakeWindow window(*this);
     const auto expectPlace = [&](PlacedWindow which, Point corner) {
         places.readAll();
         places.restore(which, window);
