@@ -24,7 +24,7 @@ std::wstring textArgument(const Argument& argument) {
 }  // namespace
 
 struct FakeAutomation::Object : AutomationObject {
-    Object(FakeAutomation& all, std::wstring itsName = {})
+    explicit Object(FakeAutomation& all, std::wstring itsName = {})
         : server(all), name(std::move(itsName)) {}
 
     FakeAutomation& server;
