@@ -1,5 +1,7 @@
 // The configuration window's second tab: one configuration being edited.
 
+#include <optional>
+
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
@@ -72,6 +74,8 @@ void ConfigurationWindow::openDirectory(const std::function<void()>& opening) {
     try {
         opening();
     } catch (const RuntimeError& error) {
+        const bool tooMany = error.number == errors::subscriptOutOfRange().number;
+        if (tooMany) throw;
         problem = error.text;
     }
     Drive1.setDrive(Dir1.path());
@@ -104,7 +108,8 @@ void ConfigurationWindow::CmdAjo2_Click() {
     const int before = editedCount();
     int count = before;
     Configuration edited = configurations_.edited;
-    const WalkEnd end = addTree(edited, count);
+    std::optional<WalkEnd> end;
+    openDirectory([&] { end = addTree(edited, count); });
     if (end == WalkEnd::Complete) configurations_.edited = edited;
     showEditedCount(end == WalkEnd::Complete ? count : before);
     if (end == WalkEnd::Interrupted) platform_.messageBoxes.show(searchStoppedBox());

@@ -114,14 +114,16 @@ TEST_F(ConfigurationFixture, AddsATreeInThePickersOrderAndPassesOverLoops) {
     EXPECT_TRUE(machine.automation.takeJournal().empty());
 }
 
-TEST_F(ConfigurationFixture, AddsNothingOfATreeThatIsStopped) {
+TEST_F(ConfigurationFixture, AddsNothingOfATreeThatIsStoppedOrCantBeRead) {
     choose(1);
     click(IDC_FORM4_CMDMODIFIER);
     machine.files.currentDirectories[L'c'] = L"c:\\p";
     chooseDrive(0);
     machine.serveAfter(L"c:\\p\\1", [] { Searching::stop(); });
     click(IDC_FORM4_CMDAJO2);
-    EXPECT_EQ(machine.boxes.shown.size(), 1U);
+    machine.files.unreadable = {L"c:\\p\\2"};
+    click(IDC_FORM4_CMDAJO2);
+    EXPECT_EQ(machine.boxes.shown.size(), 2U);
     EXPECT_EQ(text(IDC_FORM4_CPT_REP), L"1");
     EXPECT_EQ(configurations.edited[2], L"");
 }
