@@ -23,11 +23,19 @@ bool PressJudge::isSecond(const Press& press) const {
            std::abs(press.y - mouse_->y) <= limits_.height;
 }
 
-void PressJudge::press(Time time, std::int32_t x, std::int32_t y) {
+PressJudge::Press PressJudge::judged(Time time, std::int32_t x, std::int32_t y) const {
     Press press{.time = time, .x = x, .y = y};
     press.second = isSecond(press);
     press.onNewWindow = press.second && shown_ && notAfter(mouse_->time, *shown_);
-    current_ = mouse_ = press;
+    return press;
+}
+
+void PressJudge::press(Time time, std::int32_t x, std::int32_t y) {
+    current_ = mouse_ = judged(time, x, y);
+}
+
+PressVerdict PressJudge::foreseen(Time time, std::int32_t x, std::int32_t y) const {
+    return verdictOf(judged(time, x, y));
 }
 
 void PressJudge::keyDown(Time time, int key, bool repeated) {
@@ -52,11 +60,14 @@ void PressJudge::keyUp(Time time, int key) {
     }
 }
 
-PressVerdict PressJudge::verdict() const {
-    if (!current_) return {};
+PressVerdict PressJudge::verdictOf(const Press& press) const {
     return {.pressed = true,
-            .late = worked_ && notAfter(current_->time, *worked_),
-            .repeated = current_->repeated,
-            .second = current_->second,
-            .onNewWindow = current_->onNewWindow};
+            .late = worked_ && notAfter(press.time, *worked_),
+            .repeated = press.repeated,
+            .second = press.second,
+            .onNewWindow = press.onNewWindow};
+}
+
+PressVerdict PressJudge::verdict() const {
+    return current_ ? verdictOf(*current_) : PressVerdict{};
 }

@@ -41,6 +41,8 @@ class PressJudge {
 
     /// A mouse button, a pen or a finger goes down at this place of the screen.
     void press(Time time, std::int32_t x, std::int32_t y);
+    /// What will be said of such a press.
+    PressVerdict foreseen(Time time, std::int32_t x, std::int32_t y) const;
     /// It goes up again.
     void release() { current_ = mouse_; }
     void keyDown(Time time, int key, bool repeated);
@@ -68,7 +70,9 @@ class PressJudge {
         bool onNewWindow = false;
     };
 
+    Press judged(Time time, std::int32_t x, std::int32_t y) const;
     bool isSecond(const Press& press) const;
+    PressVerdict verdictOf(const Press& press) const;
 
     Limits limits_;
     std::optional<Press> current_;

@@ -57,6 +57,7 @@ TEST_F(PressJudgeTest, ADoubleClickIsTwoPressesSoonAndNear) {
     judge.windowShown(2000);
     EXPECT_FALSE(pressed(2400, 105).onNewWindow);
     judge.windowShown(2450);
+    EXPECT_TRUE(judge.foreseen(2500, 105, 100).onNewWindow);
     EXPECT_TRUE(pressed(2500, 105).onNewWindow);
     EXPECT_FALSE(pressed(2600, 200).onNewWindow);
 }

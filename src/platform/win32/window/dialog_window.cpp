@@ -114,7 +114,7 @@ void DialogWindow::showProgress(int done, int total) { progress_.set(done, total
 void DialogWindow::show() {
     HWND window = window_.get();
     const bool wasVisible = IsWindowVisible(window);
-    if (!wasVisible) InputSieve::windowShown();
+    InputSieve::windowShown();
     noteUsed(window);
     ShowWindow(window, IsIconic(window) ? SW_RESTORE : SW_SHOW);
     takeForeground(window);

@@ -59,6 +59,7 @@ class DialogWindow : public Window, private EventSource {
     void onCommand(int id, WORD code, HWND control);
     INT_PTR onNotify(const NMHDR& header);
     INT_PTR onSetCursor(HWND control, int place, WORD mouseMessage);
+    INT_PTR onMouseActivate();
     void onComboBox(int id, WORD code, HWND comboBox);
     void onKey(int id);
     void onShortcut(HWND control);

@@ -95,6 +95,8 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SETCURSOR:
             return onSetCursor(reinterpret_cast<HWND>(wParam), static_cast<short>(LOWORD(lParam)),
                                HIWORD(lParam));
+        case WM_MOUSEACTIVATE:
+            return onMouseActivate();
         case WM_TIMER:
             if (wParam == kDeferredTimer) onDeferred();
             return TRUE;
@@ -129,6 +131,14 @@ INT_PTR DialogWindow::onSetCursor(HWND control, int place, WORD mouseMessage) {
     if (!Hourglass::shown()) return FALSE;
     Hourglass::show();
     SetWindowLongPtrW(window_.get(), DWLP_MSGRESULT, TRUE);
+    return TRUE;
+}
+
+// The second press of a double click would hide what the first one has opened.
+INT_PTR DialogWindow::onMouseActivate() {
+    HWND window = window_.get();
+    if (GetActiveWindow() == window || !InputSieve::secondPressComes()) return FALSE;
+    SetWindowLongPtrW(window, DWLP_MSGRESULT, MA_NOACTIVATEANDEAT);
     return TRUE;
 }
 

@@ -97,6 +97,12 @@ PressVerdict InputSieve::currentPress() {
     return sieve->judge_.verdict();
 }
 
+bool InputSieve::secondPressComes() {
+    POINT place{};
+    return sieve && GetCursorPos(&place) &&
+           sieve->judge_.foreseen(GetTickCount(), place.x, place.y).onNewWindow;
+}
+
 void InputSieve::messageHandled() {
     if (sieve) sieve->judge_.nothing();
 }

@@ -18,6 +18,9 @@ class InputSieve {
 
     /// What the event goes back to that is raised now.
     static PressVerdict currentPress();
+    /// Whether a press of the mouse that comes now is the second of a double click, and its first
+    /// one has brought up a window.
+    static bool secondPressComes();
 
     /// The message that was taken last has been handled.
     static void messageHandled();
