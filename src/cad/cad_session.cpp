@@ -55,7 +55,6 @@ bool CadSession::hasOpen(const std::wstring& path) const {
 }
 
 void CadSession::open(const std::wstring& path, const LoadingOptions& options) {
-    if (!openPath_.empty()) closeDocument();
     openPath_ = path;
     typeCode_ = documentType(path).value_or(typeCode_);
     with(path, [&] { load(path, options); });

@@ -30,8 +30,9 @@ class CadSession {
 
     /// Whether this is the document that counts as open, in any letter case.
     bool hasOpen(const std::wstring& path) const;
-    /// Closes the document that counts as open, if any, opens another, makes it the active one,
-    /// shows the application and rebuilds the document as wanted.
+    bool hasAnyOpen() const { return !openPath_.empty(); }
+    /// Opens a document, which counts as open from then on, makes it the active one, shows the
+    /// application and rebuilds the document as wanted.
     void open(const std::wstring& path, const LoadingOptions& options);
     /// Whether the application says that it saved the document; nothing when it does not say.
     std::optional<bool> save();

@@ -60,6 +60,8 @@ void TrackingWindow::load(Origin origin) {
         showAndOpen(allToDo ? Redraw::AllToDo : Redraw::Anew);
         cad_.bringForward();
     } else {
+        // What an earlier run kept is told as it holds now, or gone when it doesn't.
+        keepMarks();
         showNumbers();
         showEnd(Redraw::Anew);
     }
@@ -182,9 +184,16 @@ void TrackingWindow::openCurrent() {
     }
     // Shown now: the opening may take long.
     List1.repaint();
+    closeOther();
     pass_.openCurrent();
     keepMarks(pass_.list().lines[pass_.current()].fileLine);
     cad_.open(path, loadingOptions());
+}
+
+void TrackingWindow::closeOther() {
+    if (!cad_.hasAnyOpen()) return;
+    keepMarks();
+    cad_.closeDocument();
 }
 
 void TrackingWindow::showEnd(Redraw redraw) {

@@ -88,6 +88,9 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
     /// The current line is shown, selected, and its document opened unless it is open already.
     void showAndOpen(Redraw redraw);
     void openCurrent();
+    /// Closes the document that counts as open, if any. None is being opened yet: what goes wrong
+    /// now is not the next one's doing.
+    void closeOther();
     /// What the command did is on disk; a failure to put it there is told once.
     void keepMarks(std::optional<std::int32_t> opening = std::nullopt);
     /// The command has made its last call.

@@ -105,6 +105,15 @@ TEST_F(Resuming, GoesPastADocumentThatStopsTheProgramOrOpensItAgain) {
     EXPECT_EQ(states(), L"1 0 2");
     EXPECT_FALSE(canAdvance());
     EXPECT_EQ(text(IDC_FORM3_CPTFICHIER1), L"3");
+    // That has been asked; the program did not stop again.
+    EXPECT_FALSE(recordThere());
+    // Nor is a document being opened while the one before is closed.
+    loadStates(L"00");
+    machine.automation.overrides[L"closedoc"] = [](auto) -> Value { throw errors::emptyObject(); };
+    list().clearSelection();
+    list().select(1, true);
+    EXPECT_THROW(click(IDC_FORM3_CMDREPA), RuntimeError);
+    EXPECT_EQ(restart({}), Texts());
 }
 
 TEST_F(Resuming, TellsOnceThatMarksCannotBeKept) {
