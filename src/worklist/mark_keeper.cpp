@@ -96,6 +96,8 @@ void MarkKeeper::writeWhole(const std::vector<KeptLine>& now, std::optional<std:
     written_ = bytes.size();
 }
 
+bool MarkKeeper::keeps() const { return written_ > 0 && !allAsInFile(kept_); }
+
 bool MarkKeeper::takeFailure() {
     if (!trouble_ || told_) return false;
     return told_ = true;

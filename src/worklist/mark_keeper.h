@@ -33,8 +33,8 @@ class MarkKeeper {
     /// The document that was being opened is open.
     void opened();
 
-    /// Whether something will be offered at the next start.
-    bool keeps() const { return written_ > 0; }
+    /// Whether marks will be offered at the next start.
+    bool keeps() const;
     /// True once, when the record could not be written.
     bool takeFailure();
 
