@@ -93,8 +93,9 @@ std::vector<std::string> ListLines(HWND list) {
     const LRESULT count = Send(list, LB_GETCOUNT);
     for (WPARAM i = 0; i < static_cast<WPARAM>(count); ++i) {
         const LRESULT length = Send(list, LB_GETTEXTLEN, i);
-        if (length < 0) break;  // the list shrank meanwhile
-        std::wstring line(static_cast<size_t>(length) + 1, L'\0');
+        if (length < 0) break;             // the list shrank meanwhile
+        constexpr size_t kLongest = 4096;  // another line may stand there by now
+        std::wstring line(static_cast<size_t>(length) + kLongest, L'\0');
         Send(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(line.data()));
         lines.push_back(Utf8(line.c_str()));
     }
