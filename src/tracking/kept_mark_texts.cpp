@@ -27,6 +27,8 @@ MessageBoxContent interruptedOpeningBox(const std::wstring& path) {
 MessageBoxContent marksNotKeptBox() {
     return {.text =
                 L"Les marques ne peuvent plus être conservées à côté de la liste : enregistrez-la "
-                L"souvent par « Sauver Fichier LISTE ».\r\nLe passage continue.",
+                L"souvent par « Sauver Fichier LISTE ».\r\nSi son répertoire est en lecture seule, "
+                L"copiez-la d'abord ailleurs ; « Exporter le rapport... » garde l'état de chaque "
+                L"document.\r\nLe passage continue.",
             .title = kTitle};
 }
