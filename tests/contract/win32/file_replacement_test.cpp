@@ -1,14 +1,13 @@
-// Every call that a replacement makes fails in turn: the old file stays, nothing beside it.
-
-#include "platform/win32/files/file_replacement.h"
+// Every step that a replacement makes fails in turn: the old file stays, nothing beside it.
 
 #include "contract/machine.h"
+#include "platform/win32/files/win_file_replacement.h"
 
 namespace {
 
-/// Lets its Nth call, and so many in all, fail with a given Windows error.
-struct FailingCalls : FileCalls {
-    FailingCalls(int which, DWORD itsError, int inAll = 1)
+/// Lets its Nth step, and so many in all, fail with a given Windows error.
+struct FailingSteps : WinReplacementSteps {
+    FailingSteps(int which, DWORD itsError, int inAll = 1)
         : failing(which), error(itsError), times(inAll) {}
 
     const int failing;
@@ -16,22 +15,18 @@ struct FailingCalls : FileCalls {
     const int times;
     int calls = 0;
 
-    HANDLE create(const std::wstring& path) override {
-        return fails() ? INVALID_HANDLE_VALUE : FileCalls::create(path);
+    std::uint32_t create(const std::wstring& path) override {
+        return fails() ? error : WinReplacementSteps::create(path);
     }
-    bool write(HANDLE file, const char* bytes, DWORD count, DWORD& written) override {
-        return !fails() && FileCalls::write(file, bytes, count, written);
+    std::uint32_t write(std::string_view bytes) override {
+        return fails() ? error : WinReplacementSteps::write(bytes);
     }
-    bool flush(HANDLE file) override { return !fails() && FileCalls::flush(file); }
-    bool move(const std::wstring& from, const std::wstring& to) override {
-        return !fails() && FileCalls::move(from, to);
+    std::uint32_t flush() override { return fails() ? error : WinReplacementSteps::flush(); }
+    std::uint32_t move(const std::wstring& from, const std::wstring& to) override {
+        return fails() ? error : WinReplacementSteps::move(from, to);
     }
 
-    bool fails() {
-        if (++calls < failing || calls >= failing + times) return false;
-        SetLastError(error);
-        return true;
-    }
+    bool fails() { return ++calls >= failing && calls < failing + times; }
 };
 
 const WriteContent kNew = [](const ByteSink& file) { file("nouveau"); };
@@ -47,9 +42,9 @@ TEST_F(FileReplacement, LeavesTheOldFileWhicheverCallFails) {
     files.replaceText(file, L"ancien");
     int failing = 1;
     for (;; ++failing) {
-        FailingCalls calls(failing, failing == 1 ? ERROR_ACCESS_DENIED : ERROR_DISK_FULL);
-        const int error = raised([&] { replaceFile(file, kNew, calls); });
-        if (calls.calls < failing) break;
+        FailingSteps steps(failing, failing == 1 ? ERROR_ACCESS_DENIED : ERROR_DISK_FULL);
+        const int error = raised([&] { replaceFile(file, kNew, steps); });
+        if (steps.calls < failing) break;
         EXPECT_EQ(error, 75) << "call " << failing;
         EXPECT_EQ(files.readText(file), L"ancien") << "call " << failing;
         EXPECT_EQ(namesIn(directory).size(), 1u) << "call " << failing;
@@ -60,8 +55,8 @@ TEST_F(FileReplacement, LeavesTheOldFileWhicheverCallFails) {
 
 TEST_F(FileReplacement, TriesAgainWhileAnotherProgramReadsTheFile) {
     files.replaceText(file, L"ancien");
-    FailingCalls calls(4, ERROR_SHARING_VIOLATION, 2);
-    replaceFile(file, kNew, calls);
+    FailingSteps steps(4, ERROR_SHARING_VIOLATION, 2);
+    replaceFile(file, kNew, steps);
     EXPECT_EQ(files.readText(file), L"nouveau");
-    EXPECT_EQ(calls.calls, 6);
+    EXPECT_EQ(steps.calls, 6);
 }

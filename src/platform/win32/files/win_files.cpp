@@ -9,7 +9,7 @@
 #include "platform/file_error.h"
 #include "platform/long_path.h"
 #include "platform/win32/files/directory_identity.h"
-#include "platform/win32/files/file_replacement.h"
+#include "platform/win32/files/win_file_replacement.h"
 #include "platform/win32/process/unique.h"
 
 namespace {
@@ -66,7 +66,8 @@ std::string WinFiles::readBytes(const std::wstring& path) {
 }
 
 void WinFiles::replace(const std::wstring& path, const WriteContent& write) {
-    replaceFile(path, write);
+    WinReplacementSteps steps;
+    replaceFile(path, write, steps);
 }
 
 PathKind WinFiles::kindOf(const std::wstring& path) {
@@ -82,7 +83,7 @@ PathKind WinFiles::kindOf(const std::wstring& path) {
 void WinFiles::keepCopy(const std::wstring& file, const std::wstring& copy) {
     const std::string bytes = readBytes(file);
     makeWritable(copy);
-    replaceFile(copy, [&](const ByteSink& sink) { sink(bytes); });
+    replace(copy, [&](const ByteSink& sink) { sink(bytes); });
 }
 
 void WinFiles::remove(const std::wstring& file) {

@@ -5,7 +5,6 @@
 #include "common/runtime_error.h"
 #include "platform/file_error.h"
 #include "platform/long_path.h"
-#include "platform/win32/files/file_replacement.h"
 #include "platform/win32/files/win_files.h"
 #include "platform/win32/process/unique.h"
 
@@ -27,7 +26,7 @@ class WinRecordFile : public RecordFile {
 
     void replace(std::string_view bytes) override {
         file_.reset(INVALID_HANDLE_VALUE);
-        replaceFile(path_, [&](const ByteSink& file) { file(bytes); });
+        WinFiles().replace(path_, [&](const ByteSink& file) { file(bytes); });
         constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
         file_.reset(CreateFileW(longPath_.c_str(), FILE_APPEND_DATA | SYNCHRONIZE, kShareAll,
                                 nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
