@@ -36,11 +36,14 @@ void appendEntry(std::string& bytes, const KeptLine& line, std::size_t many, std
     }
 }
 
-std::size_t sameFrom(std::span<const KeptLine> before, std::span<const KeptLine> now,
-                     std::size_t first) {
-    std::size_t end = first + 1;
-    while (end < now.size() && now[end] == now[first] && now[end] != before[end]) ++end;
-    return end - first;
+/// How many of the changed lines stand one below the other in the file and have become the same.
+std::size_t sameFrom(std::span<const std::size_t> changed, std::span<const KeptLine> lines) {
+    const auto isLike = [&](std::size_t i) {
+        return changed[i] == changed[0] + i && lines[changed[i]] == lines[changed[0]];
+    };
+    std::size_t end = 1;
+    while (end < changed.size() && isLike(end)) ++end;
+    return end;
 }
 
 /// What one record tells. Reading gives false for bytes that make no sense.
@@ -154,20 +157,19 @@ KeptMarksWriter::KeptMarksWriter(const ListIdentity& list, std::size_t lineCount
                                  std::int64_t baseTime)
     : header_(headerOf(list, lineCount, baseTime)), seed_(crc32(header_, 0)), baseTime_(baseTime) {}
 
-std::string KeptMarksWriter::record(std::span<const KeptLine> before, std::span<const KeptLine> now,
+std::string KeptMarksWriter::record(std::span<const std::size_t> changed,
+                                    std::span<const KeptLine> lines,
                                     std::optional<std::int32_t> opening) const {
     std::string entries;
     appendPacked(entries, opening ? static_cast<std::uint64_t>(*opening) + 1 : 0);
     std::size_t told = 0;
-    for (std::size_t i = 0; i < now.size();) {
-        if (now[i] == before[i]) {
-            ++i;
-            continue;
-        }
-        const std::size_t many = sameFrom(before, now, i);
-        appendPacked(entries, i - told);
-        appendEntry(entries, now[i], many, baseTime_);
-        told = i += many;
+    while (!changed.empty()) {
+        const std::size_t first = changed[0];
+        const std::size_t many = sameFrom(changed, lines);
+        appendPacked(entries, first - told);
+        appendEntry(entries, lines[first], many, baseTime_);
+        told = first + many;
+        changed = changed.subspan(many);
     }
     std::string record;
     appendFixed<std::uint32_t>(record, static_cast<std::uint32_t>(entries.size()));

@@ -44,8 +44,8 @@ class KeptMarksWriter {
 
     const std::string& header() const { return header_; }
 
-    /// A record of all lines that are not as they were before.
-    std::string record(std::span<const KeptLine> before, std::span<const KeptLine> now,
+    /// A record of these lines of the file, in their order, and what they have become.
+    std::string record(std::span<const std::size_t> changed, std::span<const KeptLine> lines,
                        std::optional<std::int32_t> opening) const;
 
  private:

@@ -37,12 +37,16 @@ std::vector<std::string_view> codesOf(const WorkList& list) {
     return codes;
 }
 
+KeptLine keptLineOf(const WorkLine& line, std::string_view codeInFile) {
+    return {stateOf(line.code, codeInFile), line.history};
+}
+
 std::vector<KeptLine> keptLinesOf(const WorkList& list, std::span<const std::string_view> codes) {
     std::vector<KeptLine> kept(codes.size(), {.state = State::Eliminated, .history = {}});
     for (int i = 0; i <= list.last; ++i) {
         const WorkLine& line = list.lines[i];
         const auto at = static_cast<std::size_t>(line.fileLine);
-        if (at < kept.size()) kept[at] = {stateOf(line.code, codes[at]), line.history};
+        if (at < kept.size()) kept[at] = keptLineOf(line, codes[at]);
     }
     return kept;
 }

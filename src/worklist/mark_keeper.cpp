@@ -6,15 +6,6 @@
 #include "platform/clock.h"
 #include "worklist/beside_list.h"
 
-namespace {
-
-bool allAsInFile(const std::vector<KeptLine>& lines) {
-    return std::ranges::all_of(
-        lines, [](const KeptLine& line) { return line.state == KeptLine::State::AsInFile; });
-}
-
-}  // namespace
-
 std::wstring keptMarksFile(const std::wstring& listFile) {
     return besideList(listFile, L".reprise");
 }
@@ -24,8 +15,8 @@ MarkKeeper::MarkKeeper(RecordFiles& files, const std::wstring& listFile, const C
 
 void MarkKeeper::begin(const ListIdentity& listFile, const WorkList& list) {
     listFile_ = listFile;
-    codes_ = codesOf(list);
-    writer_.emplace(listFile, codes_.size(), clock_.now());
+    lines_ = KeptLines(list);
+    writer_.emplace(listFile, lines_.all().size(), clock_.now());
     written_ = 0;
     opening_ = false;
     trouble_ = false;
@@ -34,7 +25,7 @@ void MarkKeeper::begin(const ListIdentity& listFile, const WorkList& list) {
 std::optional<KeptState> MarkKeeper::find() const {
     const auto record = file_->read();
     if (!record) return std::nullopt;
-    return readKeptMarks(*record, listFile_, codes_.size());
+    return readKeptMarks(*record, listFile_, lines_.all().size());
 }
 
 void MarkKeeper::forget() {
@@ -43,35 +34,35 @@ void MarkKeeper::forget() {
 }
 
 void MarkKeeper::keep(const WorkList& list, std::optional<std::int32_t> opening) {
-    std::vector<KeptLine> now = keptLinesOf(list, codes_);
+    const std::vector<std::size_t> changed = lines_.follow(list);
     opening_ = opening.has_value();
-    if (!opening_ && allAsInFile(now)) {
+    if (!opening_ && lines_.allAsInFile()) {
         forget();
     } else {
-        guarded([&] { write(now, opening); });
+        guarded([&] { write(changed, opening); });
     }
-    kept_ = std::move(now);
 }
 
 void MarkKeeper::opened() {
     if (!opening_) return;
     opening_ = false;
-    if (allAsInFile(kept_)) {
+    if (lines_.allAsInFile()) {
         forget();
         return;
     }
     // What is on disk holds without this, too: the next start would ask once too often.
-    guarded([&] { append(writer_->record(kept_, kept_, std::nullopt), RecordFile::Flush::Later); });
+    guarded(
+        [&] { append(writer_->record({}, lines_.all(), std::nullopt), RecordFile::Flush::Later); });
 }
 
-void MarkKeeper::write(const std::vector<KeptLine>& now, std::optional<std::int32_t> opening) {
+void MarkKeeper::write(std::span<const std::size_t> changed, std::optional<std::int32_t> opening) {
     // A record that has grown past the list is written anew, without what is out of date.
     constexpr std::size_t kAlwaysEnough = 4096;
     const bool tooLong = written_ > std::max<std::size_t>(listFile_.length(), kAlwaysEnough);
     if (written_ == 0 || tooLong) {
-        writeWhole(now, opening);
+        writeWhole(opening);
     } else {
-        append(writer_->record(kept_, now, opening), RecordFile::Flush::Now);
+        append(writer_->record(changed, lines_.all(), opening), RecordFile::Flush::Now);
     }
 }
 
@@ -89,14 +80,12 @@ void MarkKeeper::guarded(const std::function<void()>& writing) {
     }
 }
 
-void MarkKeeper::writeWhole(const std::vector<KeptLine>& now, std::optional<std::int32_t> opening) {
-    const std::vector<KeptLine> nothing(now.size());
-    const std::string bytes = writer_->header() + writer_->record(nothing, now, opening);
+void MarkKeeper::writeWhole(std::optional<std::int32_t> opening) {
+    const std::string bytes =
+        writer_->header() + writer_->record(lines_.toTell(), lines_.all(), opening);
     file_->replace(bytes);
     written_ = bytes.size();
 }
-
-bool MarkKeeper::keeps() const { return written_ > 0 && !allAsInFile(kept_); }
 
 bool MarkKeeper::takeFailure() {
     if (!trouble_ || told_) return false;

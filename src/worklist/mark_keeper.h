@@ -3,11 +3,11 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
-#include <string_view>
-#include <vector>
 
 #include "platform/record_files.h"
+#include "worklist/kept_lines.h"
 #include "worklist/kept_marks.h"
 
 class Clock;
@@ -34,24 +34,23 @@ class MarkKeeper {
     void opened();
 
     /// Whether marks will be offered at the next start.
-    bool keeps() const;
+    bool keeps() const { return written_ > 0 && !lines_.allAsInFile(); }
     /// True once, when the record could not be written.
     bool takeFailure();
 
  private:
-    void write(const std::vector<KeptLine>& now, std::optional<std::int32_t> opening);
+    void write(std::span<const std::size_t> changed, std::optional<std::int32_t> opening);
     void append(const std::string& record, RecordFile::Flush flush);
     /// Does some writing, unless that has failed before.
     void guarded(const std::function<void()>& writing);
-    void writeWhole(const std::vector<KeptLine>& now, std::optional<std::int32_t> opening);
+    void writeWhole(std::optional<std::int32_t> opening);
 
     std::unique_ptr<RecordFile> file_;
     const Clock& clock_;
     ListIdentity listFile_;
-    std::vector<std::string_view> codes_;  ///< of the lines of the list file
+    KeptLines lines_;
     std::optional<KeptMarksWriter> writer_;
-    std::vector<KeptLine> kept_;  ///< as the record has them
-    std::size_t written_ = 0;     ///< bytes; 0 when there is no record of this run
+    std::size_t written_ = 0;  ///< bytes; 0 when there is no record of this run
     bool opening_ = false;
     bool trouble_ = false;  ///< the record could not be written
     bool told_ = false;     ///< the user knows

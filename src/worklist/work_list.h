@@ -1,10 +1,13 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "common/checked_table.h"
 
@@ -37,16 +40,45 @@ struct WorkLine {
     LineHistory history;
 };
 
+/// The lines of a list, in a table of fixed size. There is no way to change one but to reach for
+/// it here, which is remembered: who follows the list need not look at all lines each time.
+class WorkLines {
+ public:
+    static constexpr std::int32_t kCapacity = 8001;
+
+    WorkLine& operator[](int line) {
+        WorkLine& reached = table_[line];
+        recent_[reached_++ % recent_.size()] = line;
+        return reached;
+    }
+    const WorkLine& operator[](int line) const { return table_[line]; }
+
+    /// How often a line was reached for that it may be changed.
+    std::uint64_t reached() const { return reached_; }
+    /// The lines that were since `reached` was so many; nothing when they were too many to tell.
+    std::optional<std::vector<int>> reachedSince(std::uint64_t before) const {
+        if (reached_ - before > recent_.size()) return std::nullopt;
+        std::vector<int> lines;
+        for (; before != reached_; ++before) lines.push_back(recent_[before % recent_.size()]);
+        return lines;
+    }
+
+ private:
+    CheckedTable<WorkLine, kCapacity> table_;
+    std::array<int, 8> recent_{};
+    std::uint64_t reached_ = 0;
+};
+
 /// The ordered list of documents of a pass, each with its state.
 struct WorkList {
-    static constexpr std::int32_t kCapacity = 8001;
+    static constexpr std::int32_t kCapacity = WorkLines::kCapacity;
 
     WorkList() = default;
     /// Not copied: the copy's lines would stand in this one's texts.
     WorkList(WorkList&&) = default;
     WorkList& operator=(WorkList&&) = default;
 
-    CheckedTable<WorkLine, kCapacity> lines;
+    WorkLines lines;
     int last = -1;  ///< index of the last line in use; the lines above it are stale
 
     int lineCount() const { return last + 1; }

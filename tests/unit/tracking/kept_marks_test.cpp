@@ -55,9 +55,10 @@ TEST_F(Resuming, OffersTheMarksThatWereKept) {
     EXPECT_EQ(states(), L"3 0 0 0 0");
     clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDFICHIERLISTE});
     EXPECT_FALSE(recordThere());
-    clickAll({IDC_FORM3_CMDSUIVQUITTER, IDC_FORM3_CMDSUIVQUITTER});
+    machine.boxes.answers = {kYes};
+    clickAll({IDC_FORM3_CMDSUIVQUITTER, IDC_FORM3_CMDPURGE});
     EXPECT_EQ(restart({kYes}), Texts{kMarked});
-    EXPECT_EQ(states(), L"1 2 2 3 0");
+    EXPECT_EQ(states(), L"3 0 0");
 }
 
 TEST_F(Resuming, LeavesTheRecordAtEveryEndAndSaysSoWhenOneIsAnError) {

@@ -1,5 +1,8 @@
 #include "worklist/kept_marks.h"
 
+#include <array>
+#include <random>
+
 #include "fakes/fake_record_files.h"
 #include "unit/worklist/pass_fixture.h"
 #include "worklist/mark_keeper.h"
@@ -45,12 +48,30 @@ struct KeptMarks : PassFixture {
                              static_cast<std::size_t>(next.list().lineCount()));
     }
 
-    /// The codes of a next run that takes over what was kept, lines in progress as to do.
-    std::string resumed() {
+    /// A next run that takes over what was kept.
+    Pass nextRun() {
         Pass next(clock);
         next.read(listFile);
-        if (const auto kept = read(record())) next.restore(*kept);
-        return codesOf(next);
+        const auto kept = hasRecord() ? read(record()) : std::nullopt;
+        if (kept) next.restore(*kept);
+        return next;
+    }
+
+    /// Its codes, lines in progress as to do.
+    std::string resumed() { return codesOf(nextRun()); }
+
+    void expectNothingLost() {
+        const Pass next = nextRun();
+        const auto settled = [](std::string_view code) { return code == "3" ? "0" : code; };
+        ASSERT_EQ(next.list().last, pass->list().last);
+        for (int i = 0; i <= next.list().last; ++i) {
+            const WorkLine& line = pass->list().lines[i];
+            const WorkLine& again = next.list().lines[i];
+            EXPECT_EQ(settled(again.code), settled(line.code)) << i;
+            EXPECT_EQ(again.path, line.path) << i;
+            EXPECT_EQ(again.reload, line.reload) << i;
+            EXPECT_TRUE(!hasRecord() || again.history == line.history) << i;
+        }
     }
 
     FakeRecordFiles files;
@@ -72,40 +93,44 @@ TEST_F(KeptMarks, AreThereOnlyWhileThereIsSomethingToOffer) {
     EXPECT_TRUE(keeper->keeps());
     EXPECT_EQ(read(record())->opening, std::nullopt);
     EXPECT_EQ(resumed(), "010");
-    pass->reset(only({1}));
+    files.flushes = 0;
+    advance(state::kSeen);
+    EXPECT_EQ(files.flushes, 1);
+    pass->reset(only({1, 2}));
     keeper->keep(pass->list());
     EXPECT_FALSE(hasRecord() || keeper->keeps());
 }
 
-TEST_F(KeptMarks, GiveBackEveryCommandsWork) {
-    begin(listOf(std::vector<std::string>{"0", "12", "x", "0", "3", "0", "0", "2"}));
-    open();
-    clock.seconds += 7;
-    advance(state::kDone, Saved::Yes);
-    advance(state::kToDo);
-    pass->stepBack();
-    open();
-    pass->eliminate(only({0, 7}), Eliminate::DoneAndSeen);
-    open();
-    pass->change(only({1}), state::kDone);
-    open();
-    const std::string now = codesOf(*pass);
-    EXPECT_EQ(now, "213000");  // one eliminated at each end; "x" became "1"
-    Pass next(clock);
-    next.read(listFile);
-    const auto kept = read(record());
-    EXPECT_EQ(changedLines(next.list(), *kept), 3);
-    next.restore(*kept);
-    for (int i = 0; i <= pass->list().last; ++i) {
-        const WorkLine& line = pass->list().lines[i];
-        const WorkLine& again = next.list().lines[i];
-        const auto settled = [](std::string_view code) { return code == "3" ? "0" : code; };
-        EXPECT_EQ(settled(again.code), settled(line.code)) << i;
-        EXPECT_EQ(again.path, line.path) << i;
-        EXPECT_EQ(again.reload, line.reload) << i;
-        EXPECT_EQ(again.history.markedAt, line.history.markedAt) << i;
+TEST_F(KeptMarks, GiveBackTheWorkOfAnyCommands) {
+    std::mt19937 random(1);
+    const auto upTo = [&](int most) { return static_cast<int>(random() % (most + 1U)); };
+    const auto anyLine = [&] { return upTo(pass->list().lineCount()); };
+    const auto some = [&](int) { return upTo(3) == 0; };
+    const std::vector<std::function<void()>> commands{
+        [&] { pass->advance(upTo(3) ? state::kDone : state::kToDo, Saved::Yes); },
+        [&] { pass->current() < 0 || pass->stepBack(); },
+        [&] { pass->current() < 0 || pass->pastEnd() ? pass->closeOpen() : pass->openCurrent(); },
+        [&] { pass->moveTo(anyLine()); },
+        [&] { pass->startAt(anyLine()); },
+        [&] { pass->startAfter(anyLine()); },
+        [&] { pass->resumeAt(anyLine()); },
+        [&] { pass->eliminate(some, Eliminate::DoneAndSeen); },
+        [&] { pass->reset(some); },
+        [&] { pass->change(some, state::kDone); },
+    };
+    const std::array kinds{"3", "12", "x"};
+    for (int step = 0; step < 16000; ++step) {
+        if (step % 40 == 0) {
+            std::vector<std::string> codes;
+            for (int i = upTo(16); i >= 0; --i) codes.push_back(i % 4 ? "0" : kinds[upTo(2)]);
+            begin(listOf(codes));
+        }
+        clock.seconds += 7;
+        commands.at(std::min({upTo(9), upTo(9), upTo(9)}))();  // those of one line more often
+        if (upTo(2) != 0) continue;  // a call to the CAD application does not follow on each
+        keeper->keep(pass->list());
+        expectNothingLost();
     }
-    EXPECT_EQ(next.list().last, pass->list().last);
 }
 
 TEST_F(KeptMarks, BelongToOneListOnly) {
@@ -187,13 +212,4 @@ TEST_F(KeptMarks, OfALongPassTakeLessThanTwiceTheList) {
     }
     EXPECT_LT(largest, 2 * listFile.size());
     EXPECT_EQ(resumed(), codesOf(*pass));
-}
-
-TEST_F(KeptMarks, CostOneFlushACommand) {
-    begin(listOf("00000"));
-    advance(state::kDone);
-    files.flushes = 0;
-    advance(state::kDone);
-    advance(state::kSeen);
-    EXPECT_EQ(files.flushes, 2);
 }
