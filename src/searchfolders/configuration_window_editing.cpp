@@ -57,7 +57,9 @@ void ConfigurationWindow::editSelection() {
 
 void ConfigurationWindow::showEdited() {
     List2.setLines(editedCount(), [&](int line) {
-        return shownPath(configurations_.edited[line + 1], NNiv.levels());
+        std::wstring shown;
+        addShownPath(shown, configurations_.edited[line + 1], NNiv.levels());
+        return shown;
     });
 }
 

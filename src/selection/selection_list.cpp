@@ -35,7 +35,7 @@ void SelectionList::redraw(int depth) {
 
 void SelectionList::appendLine(std::wstring& text, int line, bool chosen) const {
     text += chosen ? label::kChosen : label::kToDo;
-    text += shownPath(found_.entry(line), depth_);
+    addShownPath(text, found_.entry(line), depth_);
 }
 
 std::wstring SelectionList::lineText(int line, bool chosen) const {

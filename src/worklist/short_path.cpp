@@ -38,6 +38,10 @@ std::wstring shortPath(int depth, std::wstring_view path) {
     return result;
 }
 
-std::wstring shownPath(std::wstring_view path, int depth) {
-    return depth > 0 ? shortPath(depth, path) : std::wstring(path);
+void addShownPath(std::wstring& line, std::wstring_view path, int depth) {
+    if (depth > 0) {
+        line += shortPath(depth, path);
+    } else {
+        line += path;
+    }
 }

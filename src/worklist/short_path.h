@@ -11,5 +11,6 @@ std::wstring upwards(int levels);
 /// Raises 9 when the path has more than 16 backslashes before its last character.
 std::wstring shortPath(int depth, std::wstring_view path);
 
-/// A path as the lists show it: whole at depth 0, otherwise shortened. Raises 9 as shortPath.
-std::wstring shownPath(std::wstring_view path, int depth);
+/// Adds a path to a line as the lists show it: whole at depth 0, otherwise shortened. Raises 9 as
+/// shortPath.
+void addShownPath(std::wstring& line, std::wstring_view path, int depth);

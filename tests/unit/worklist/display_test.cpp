@@ -10,8 +10,8 @@ TEST(DisplayLine, IsNumberLabelAndPath) {
     EXPECT_EQ(displayLine(0, L" X   ", L"c:\\f", 1), L"0001   X   ");
     EXPECT_EQ(displayLine(9999, L"", L"x", 0), L"10000  x");
     const std::wstring deep = L"c:" + std::wstring(40, L'\\') + L"f";
-    EXPECT_EQ(shownPath(deep, 0), deep);
-    EXPECT_EQ(raised([&] { shownPath(deep, 1); }), 9);
+    EXPECT_EQ(displayLine(0, L"", deep, 0), L"0001  " + deep);
+    EXPECT_EQ(raised([&] { displayLine(0, L"", deep, 1); }), 9);
 }
 
 TEST(StateLabels, BelongToExactCodes) {
