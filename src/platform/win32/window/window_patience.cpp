@@ -16,6 +16,8 @@ using Clock = std::chrono::steady_clock;
 constexpr Milliseconds kNoTime(50);
 /// How often windows are served at least.
 constexpr Milliseconds kServing(20);
+/// How long the clock that messages are dated by may stand still (the GetTickCount function).
+constexpr Milliseconds kTick(16);
 
 Milliseconds lasting() { return std::chrono::duration_cast<Milliseconds>(Searching::lasting()); }
 
@@ -48,8 +50,8 @@ bool isDropped(const MSG& message) {
 /// A press before the search began was not meant for it.
 bool stopsSearch(const MSG& message) {
     if (message.message != WM_KEYDOWN || message.wParam != VK_ESCAPE) return false;
-    const auto began = GetTickCount() - static_cast<DWORD>(lasting().count());
-    return static_cast<LONG>(message.time - began) >= 0;
+    const auto ago = GetTickCount() - message.time;
+    return static_cast<LONG>(ago) <= (lasting() + kTick).count();
 }
 
 void serveOne(const MSG& message) {
