@@ -1,10 +1,11 @@
 #include "platform/notifications.h"
 
-#include <gtest/gtest.h>
 #include <initializer_list>
 
 #include "platform/drop_down.h"
+#include "platform/first_letter.h"
 #include "platform/sign_key.h"
+#include "unit/unit_test.h"
 
 TEST(Notification, StandsForTheEventOfItsControl) {
     using namespace notification;
@@ -62,4 +63,20 @@ TEST(SignKey, IsTheOneThatBearsTheSignOnTheLayoutInUse) {
     EXPECT_FALSE(pressesSign({.key = kSix, .control = true, .alt = true}, kAzertyMinus));
     EXPECT_TRUE(pressesSign({.key = kPlus, .shift = true, .control = true}, kPlusAboveEquals));
     EXPECT_FALSE(pressesSign({.key = 0xFF, .control = true}, kNowhere));
+}
+
+TEST(FirstLetter, GoesRoundTheLinesThatBeginWithIt) {
+    const Texts lines = {L"C:\\", L"  plans", L"    éclatés", L"    Pièces", L""};
+    const auto next = [&](wchar_t letter, int from) {
+        return lineWithLetter(letter, from, 5,
+                              [&](int i) { return lines[static_cast<std::size_t>(i)]; })
+            .value_or(-1);
+    };
+    EXPECT_EQ(next(L'p', -1), 1);
+    EXPECT_EQ(next(L'p', 1), 3);
+    EXPECT_EQ(next(L'P', 3), 1);
+    EXPECT_EQ(next(L'É', 2), 2);
+    EXPECT_EQ(next(L'z', 0), -1);
+    EXPECT_EQ(next(L' ', 0), -1);
+    EXPECT_EQ(lineWithLetter(L'p', -1, 0, nullptr), std::nullopt);
 }

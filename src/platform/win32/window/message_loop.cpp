@@ -4,6 +4,7 @@
 
 #include "platform/win32/window/focus.h"
 #include "platform/win32/window/input_sieve.h"
+#include "platform/win32/window/list_keys.h"
 #include "platform/win32/window/shortcuts.h"
 
 namespace {
@@ -18,6 +19,7 @@ void handle(MSG& message) {
     HWND window = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
     if (window && usesKeyboard(message)) showFocusCues(window);
     if (window && translateShortcut(window, message)) return;
+    if (window && goToLetter(message)) return;
     if (window && IsDialogMessageW(window, &message)) return;
     TranslateMessage(&message);
     DispatchMessageW(&message);

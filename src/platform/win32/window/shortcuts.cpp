@@ -1,7 +1,7 @@
 #include "platform/win32/window/shortcuts.h"
 
 #include "platform/sign_key.h"
-#include "platform/win32/window/control_class.h"
+#include "platform/win32/window/list_keys.h"
 
 namespace {
 
@@ -32,15 +32,6 @@ std::vector<ACCEL> signsIn(HACCEL table) {
     CopyAcceleratorTableW(table, entries.data(), static_cast<int>(entries.size()));
     std::erase_if(entries, [](const ACCEL& entry) { return (entry.fVirt & FVIRTKEY) != 0; });
     return entries;
-}
-
-bool selectAllLines(HWND list) {
-    if (classOf(list) != ControlClass::ListBox) return false;
-    if ((GetWindowLongW(list, GWL_STYLE) & LBS_EXTENDEDSEL) == 0) return false;
-    SendMessageW(list, LB_SETSEL, TRUE, -1);
-    SendMessageW(GetParent(list), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), LBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(list));
-    return true;
 }
 
 }  // namespace

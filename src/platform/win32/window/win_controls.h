@@ -57,6 +57,7 @@ class WinCheckBox : public ControlOf<CheckBox> {
 class WinListBox : public ControlOf<ListBox> {
  public:
     using ControlOf::ControlOf;
+
     int count() const override;
     std::wstring line(int index) const override;
     bool selected(int index) const override;
@@ -70,11 +71,12 @@ class WinListBox : public ControlOf<ListBox> {
     void stopDrawing() override;
     void resumeDrawing() override;
 
+    /// Whether more than one line can be selected.
+    bool severalSelectable() const;
     /// The list has another font: it is scrolled sideways as far as its widest line reaches now.
     void measureLines();
 
  private:
-    bool severalSelectable() const;
     std::vector<int> selection() const;
     void setExtent(int pixels) { send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(pixels)); }
 
