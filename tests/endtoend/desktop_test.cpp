@@ -62,6 +62,12 @@ TEST_F(Desktop, WindowsStandWholeOnTheScreenAndCanBeMadeSmall) {
     EXPECT_EQ(SizeOf(list).cx, listBefore.cx + 90);
     EXPECT_EQ(SizeOf(list).cy, listBefore.cy - 50);
     ExpectAllInSightWhenSmall(window);
+
+    SetWindowPos(window, nullptr, work.right - 200, -50, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_GT(PlaceOf(window).right, work.right);
+    SendMessageW(window, WM_DISPLAYCHANGE, 32, MAKELPARAM(work.right, work.bottom));
+    EXPECT_EQ(PlaceOf(window).top, work.top);
+    EXPECT_EQ(PlaceOf(window).right, work.right);
 }
 
 TEST_F(Desktop, ShortcutsReachTheListSelectItsLinesAndPressButtons) {

@@ -76,6 +76,7 @@ class DialogWindow : public Window, private EventSource {
     void pressFromAfar(int id);
     bool isUnmeantCommand(int id, Event event) const;
     void changeResolution(const RECT& suggested);
+    void changeScreen();
     void chooseFonts();
     WindowFonts fittingFonts();
     void giveFonts(const WindowFonts& fonts);

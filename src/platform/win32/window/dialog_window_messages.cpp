@@ -86,6 +86,12 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_DPICHANGED:
             changeResolution(*reinterpret_cast<const RECT*>(lParam));
             return TRUE;
+        case WM_DISPLAYCHANGE:
+            changeScreen();
+            return TRUE;
+        case WM_SETTINGCHANGE:
+            if (wParam == SPI_SETWORKAREA) changeScreen();
+            return FALSE;
         case WM_CLOSE:
             raise(kTheWindow, Event::Close);
             return TRUE;

@@ -47,6 +47,7 @@ void DialogWindow::moveTo(const Area& place) {
 }
 
 void DialogWindow::standInSight() {
+    if (IsIconic(window_.get()) || IsZoomed(window_.get())) return;
     const Area whole = inSight(place(), workArea());
     if (whole != place()) moveTo(whole);
 }
@@ -69,6 +70,15 @@ void DialogWindow::changeResolution(const RECT& suggested) {
     chooseFonts();
     putAt(window_.get(), areaOfRect(suggested));
     layout_.arrange();
+}
+
+// Another resolution, another monitor, a taskbar that was moved: Windows leaves a window as large
+// as it was. One that is hidden is looked at when it is shown.
+void DialogWindow::changeScreen() {
+    if (!IsWindowVisible(window_.get())) return;
+    chooseFonts();
+    layout_.arrange();
+    standInSight();
 }
 
 /// The usual letters; smaller ones where not even the smallest size would stand whole on the
