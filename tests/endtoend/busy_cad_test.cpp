@@ -25,8 +25,8 @@ struct BusyCad : Scenario {
         WaitFor("the call " + text, [&] { return CallsWith(text) > 0; });
     }
 
-    void AnswerBusyBox(int answer) const {
-        const ModalBox box = app.Box();
+    static void AnswerBusyBox(const AppDriver& program, int answer) {
+        const ModalBox box = program.Box();
         EXPECT_EQ(box.Text().find("SolidWorks est occupé."), 0U);
         EXPECT_NE(box.Text().find("Annuler : Tarnwick s'arrête."), std::string::npos);
         EXPECT_EQ(box.Buttons(), (std::vector<int>{IDCANCEL, IDRETRY}));
@@ -34,14 +34,22 @@ struct BusyCad : Scenario {
     }
 };
 
+// Two programs at once, for each has to wait ten seconds.
 TEST_F(BusyCad, RepeatsRefusedCallsAndLookUpsAndAsksAfterTenSeconds) {
-    Resume({"--busy", "GetIDsOfNames:1500", "--busy", "OpenDoc6:12000", "--busy", "Save2:600000"});
-    AnswerBusyBox(IDRETRY);
-    WaitForCall("ViewZoomtofit2");
+    WriteListOf({"a.SLDPRT", "b.SLDPRT"});
+    cad.Start({"--busy", "GetIDsOfNames:1500", "--busy", "GetSearchFolders:12000", "--busy",
+               "Save2:600000"});
+    AppDriver other{sandbox};
+    other.Start({"autre.lst"});
+    other.Click(IDC_FORM1_CMDREPDEF);
+    StartAndResume();
+    app.WaitForText(IDC_FORM3_NBFICH1, "1");
     app.Click(IDC_FORM3_CMDSUIV);
-    AnswerBusyBox(IDCANCEL);
+    AnswerBusyBox(other, IDRETRY);
+    other.Window(kConfigurations);
+    AnswerBusyBox(app, IDCANCEL);
     ExpectFatalError(440);
-    EXPECT_EQ(sandbox.ReadList(), ListOf({"0", "0", "0", "0"}));
+    EXPECT_EQ(sandbox.ReadList(), ListOf({"0", "0"}));
 }
 
 TEST_F(BusyCad, ImpatientPressesAreNotFurtherCommands) {
