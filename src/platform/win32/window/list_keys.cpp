@@ -29,7 +29,7 @@ bool goToLetter(const MSG& message) {
     const auto current = static_cast<int>(SendMessageW(message.hwnd, LB_GETCURSEL, 0, 0));
     const auto line = lineWithLetter(static_cast<wchar_t>(message.wParam), current, list.count(),
                                      [&](int i) { return list.line(i); });
-    if (!line) return false;
+    if (!line || list.line(*line).front() != L' ') return false;
     list.select(*line, true);
     tellSelection(message.hwnd);
     return true;

@@ -5,6 +5,6 @@
 /// Ctrl+A: selects all lines of a list where several can be. False elsewhere.
 bool selectAllLines(HWND list);
 
-/// A letter typed in a list where one line can be selected goes to the next line with it, which
-/// Windows finds only where no blank stands before it. False for all other messages.
+/// A letter typed in a list where one line can be selected goes to the next line with it, if that
+/// one is indented: Windows finds the others itself. False for all other messages.
 bool goToLetter(const MSG& message);
