@@ -11,13 +11,14 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 } | awk '
 BEGIN {
     # From the top down; what stands in one row may include its neighbours, but not in a circle.
-    rows = split("app|resume selection tracking searchfolders about|cad session|worklist pickers|platform|common", row, "|")
+    rows = split("app|resume selection tracking searchfolders about|cad session|worklist pickers|input rules|ports|common", row, "|")
     for (i = 1; i <= rows; ++i) {
         count = split(row[i], names, " ")
         for (j = 1; j <= count; ++j) height[names[j]] = rows - i
     }
-    # What carries out the interfaces on a machine.
-    shell = "^platform/(win32|native)(/|$)"
+    # What carries out the interfaces on a machine: it may include what stands from here down, and app alone includes it.
+    shell = "^(win32|native)(/|$)"
+    height["win32"] = height["native"] = height["input"]
 }
 
 function complain(where, what) { print "src/" where ": " what; ++failures }
@@ -29,7 +30,7 @@ function isKnown(folder) { sub(/\/.*/, "", folder); return folder in height }
 function checkSystemHeader(file, where, header) {
     if (header !~ /\.h$/) return
     if (file ~ /\.rc$/ || file == "app/win_main.cpp" || file ~ shell) return
-    complain(where, "<" header "> is for src/platform/win32 and app/win_main.cpp")
+    complain(where, "<" header "> is for src/win32 and app/win_main.cpp")
 }
 
 # Beside the including file first, else from src; a header that the build makes stands there as its template.

@@ -6,7 +6,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 gcc_include="$(dirname "$(x86_64-w64-mingw32-g++ -print-libgcc-file-name)")/include"
 cmake --preset win -B build/tidy-win -DTARNWICK_EACH_FILE=ON -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
-if [[ $# -gt 0 ]]; then printf '%s\0' "$@"; else find src/platform/win32 src/app trialcad -name '*.cpp' -print0; fi |
+if [[ $# -gt 0 ]]; then printf '%s\0' "$@"; else find src/win32 src/app trialcad -name '*.cpp' -print0; fi |
     xargs -0 -n2 -P"$(nproc)" clang-tidy -p build/tidy-win --quiet \
         --extra-arg=--target=x86_64-w64-windows-gnu \
         --extra-arg=-isystem"$gcc_include/c++" \

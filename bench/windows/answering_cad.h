@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/automation.h"
+#include "ports/automation.h"
 
 /// An object that answers every call at once: a text to a question for one, else a document.
 struct AnsweringObject : AutomationObject {

@@ -9,14 +9,14 @@
 #include "driver/sandbox.h"
 #include "driver/text.h"
 #include "driver/trial_cad.h"
-#include "platform/late_bound_automation.h"
-#include "platform/patience.h"
-#include "platform/win32/com/message_filter.h"
-#include "platform/win32/com/win_objects.h"
-#include "platform/win32/window/input_sieve.h"
-#include "platform/win32/window/win_busy_waiting.h"
 #include "rows.h"
+#include "rules/late_bound_automation.h"
+#include "rules/patience.h"
 #include "stage.h"
+#include "win32/com/message_filter.h"
+#include "win32/com/win_objects.h"
+#include "win32/window/input_sieve.h"
+#include "win32/window/win_busy_waiting.h"
 
 namespace {
 

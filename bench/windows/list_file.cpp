@@ -6,9 +6,9 @@
 
 #include <memory>
 
-#include "platform/win32/files/win_files.h"
 #include "rows.h"
 #include "sample_tree.h"
+#include "win32/files/win_files.h"
 
 namespace {
 

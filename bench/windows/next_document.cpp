@@ -1,7 +1,7 @@
 // From one document of the pass to the next, drawing included, with a CAD application that
 // answers at once.
 
-#include "platform/files.h"
+#include "ports/files.h"
 #include "rows.h"
 #include "sample_tree.h"
 #include "stage.h"

@@ -4,14 +4,14 @@
 
 #include <algorithm>
 
-#include "platform/searching.h"
-#include "platform/win32/files/pool_workers.h"
-#include "platform/win32/files/win_files.h"
-#include "platform/win32/window/window_patience.h"
+#include "input/searching.h"
 #include "rows.h"
 #include "sample_tree.h"
 #include "selection/document_search.h"
 #include "selection/found_documents.h"
+#include "win32/files/pool_workers.h"
+#include "win32/files/win_files.h"
+#include "win32/window/window_patience.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/program_window.h"
+#include "input/program_window.h"
 
 /// The About window: name, version and date of the program. Enter, Escape or its frame close it.
 class AboutWindow : public ProgramWindow<AboutWindow> {

@@ -2,8 +2,8 @@
 
 #include "common/runtime_error.h"
 #include "common/text.h"
-#include "platform/files.h"
-#include "platform/platform.h"
+#include "ports/files.h"
+#include "ports/platform.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include "app/command_line.h"
 #include "app/program.h"
 #include "common/runtime_error.h"
-#include "platform/files.h"
-#include "platform/list_holds.h"
-#include "platform/message_boxes.h"
+#include "ports/files.h"
+#include "ports/list_holds.h"
+#include "ports/message_boxes.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/automation.h"
-#include "platform/desktop.h"
+#include "ports/automation.h"
+#include "ports/desktop.h"
 
 /// How a document is loaded.
 struct LoadingOptions {

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "common/letter_case.h"
-#include "platform/files.h"
+#include "ports/files.h"
 
 namespace {
 

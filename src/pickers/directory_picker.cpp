@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "platform/controls.h"
-#include "platform/searching.h"
+#include "input/searching.h"
+#include "ports/controls.h"
 
 namespace {
 

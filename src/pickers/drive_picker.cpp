@@ -4,8 +4,8 @@
 #include <string>
 
 #include "common/letter_case.h"
-#include "platform/controls.h"
-#include "platform/files.h"
+#include "ports/controls.h"
+#include "ports/files.h"
 
 void DrivePicker::fill() {
     letters_ = files_.drives();

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/files.h"
+#include "ports/files.h"
 
 /// The directories open on the way down a tree, so that a walk that follows junctions and
 /// symbolic links has an end.

@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "pickers/reading_plan.h"
-#include "platform/search_patience.h"
-#include "platform/search_services.h"
-#include "platform/workers.h"
+#include "ports/search_patience.h"
+#include "ports/search_services.h"
+#include "ports/workers.h"
 
 namespace {
 

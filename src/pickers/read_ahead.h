@@ -6,7 +6,7 @@
 #include <string>
 
 #include "pickers/directory_listing.h"
-#include "platform/files.h"
+#include "ports/files.h"
 
 class SearchPatience;
 struct SearchServices;

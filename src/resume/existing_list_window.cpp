@@ -1,8 +1,8 @@
 #include "resume/existing_list_window.h"
 
 #include "common/runtime_error.h"
-#include "platform/files.h"
-#include "platform/platform.h"
+#include "ports/files.h"
+#include "ports/platform.h"
 #include "resume/existing_list_tables.h"
 #include "session/previous_list.h"
 #include "session/program_files.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/program_window.h"
+#include "input/program_window.h"
 
 class WindowPlaces;
 struct Platform;

@@ -3,8 +3,8 @@
 #include "common/letter_case.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
-#include "platform/file_system_object.h"
-#include "platform/files.h"
+#include "ports/files.h"
+#include "session/file_system_object.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "searchfolders/configuration_window.h"
 
 #include "cad/cad_session.h"
-#include "platform/files.h"
-#include "platform/message_boxes.h"
-#include "platform/platform.h"
+#include "ports/files.h"
+#include "ports/message_boxes.h"
+#include "ports/platform.h"
 #include "searchfolders/configuration_file.h"
 #include "searchfolders/configuration_tables.h"
 #include "searchfolders/folder_list.h"

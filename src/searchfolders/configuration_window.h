@@ -3,9 +3,9 @@
 #include <functional>
 #include <string>
 
+#include "input/program_window.h"
 #include "pickers/directory_picker.h"
 #include "pickers/drive_picker.h"
-#include "platform/program_window.h"
 #include "searchfolders/configuration_editing.h"
 #include "worklist/display_depth.h"
 

@@ -3,7 +3,7 @@
 #include <numeric>
 
 #include "common/letter_case.h"
-#include "platform/controls.h"
+#include "ports/controls.h"
 #include "selection/found_documents.h"
 #include "worklist/short_path.h"
 #include "worklist/state_labels.h"

@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "input/program_window.h"
 #include "pickers/directory_picker.h"
 #include "pickers/drive_picker.h"
-#include "platform/program_window.h"
 #include "selection/found_documents.h"
 #include "selection/selection_list.h"
 #include "worklist/display_depth.h"

@@ -1,12 +1,12 @@
 // The selection window's search: from drive, directory, kinds and sub-directories box to the list.
 
 #include "common/numbers.h"
+#include "input/searching.h"
 #include "pickers/directory_listing.h"
 #include "pickers/pulse.h"
-#include "platform/files.h"
-#include "platform/message_boxes.h"
-#include "platform/platform.h"
-#include "platform/searching.h"
+#include "ports/files.h"
+#include "ports/message_boxes.h"
+#include "ports/platform.h"
 #include "selection/document_search.h"
 #include "selection/selection_window.h"
 

@@ -1,6 +1,6 @@
 #include "session/previous_list.h"
 
-#include "platform/files.h"
+#include "ports/files.h"
 #include "session/program_files.h"
 
 void keepPreviousList(Files& files, const ProgramFiles& programFiles) {

@@ -2,7 +2,7 @@
 
 #include "common/numbers.h"
 #include "common/runtime_error.h"
-#include "platform/settings.h"
+#include "ports/settings.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 
 #include "common/numbers.h"
 #include "common/runtime_error.h"
-#include "platform/in_sight.h"
-#include "platform/window.h"
+#include "ports/window.h"
+#include "rules/in_sight.h"
 #include "session/setting_values.h"
 
 namespace {

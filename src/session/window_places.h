@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "platform/area.h"
+#include "ports/area.h"
 
 class Settings;
 class Window;

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/message_boxes.h"
+#include "ports/message_boxes.h"
 
 /// What the box of an error says when marks were kept.
 inline constexpr wchar_t kMarksAreKept[] =

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/message_boxes.h"
+#include "ports/message_boxes.h"
 
 /// What a list command asks before it changes anything.
 struct Question {

@@ -3,8 +3,8 @@
 #include <span>
 #include <string>
 
-#include "platform/file_dialogs.h"
-#include "platform/message_boxes.h"
+#include "ports/file_dialogs.h"
+#include "ports/message_boxes.h"
 
 /// That these keys belong to another program, and that none is active therefore.
 MessageBoxContent takenKeysBox(std::span<const std::wstring> keys);

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/program_window.h"
+#include "input/program_window.h"
 #include "tracking/work_list_view.h"
 #include "worklist/display_depth.h"
 #include "worklist/mark_keeper.h"

@@ -2,7 +2,7 @@
 
 #include "cad/cad_session.h"
 #include "common/numbers.h"
-#include "platform/platform.h"
+#include "ports/platform.h"
 #include "tracking/list_command_texts.h"
 #include "tracking/tracking_window.h"
 

@@ -2,7 +2,7 @@
 
 #include "common/numbers.h"
 #include "common/runtime_error.h"
-#include "platform/platform.h"
+#include "ports/platform.h"
 #include "tracking/kept_mark_texts.h"
 #include "tracking/tracking_window.h"
 

@@ -3,9 +3,9 @@
 
 #include "cad/cad_session.h"
 #include "common/text.h"
-#include "platform/file_dialogs.h"
-#include "platform/files.h"
-#include "platform/platform.h"
+#include "ports/file_dialogs.h"
+#include "ports/files.h"
+#include "ports/platform.h"
 #include "session/program_files.h"
 #include "session/setting_values.h"
 #include "tracking/option_texts.h"

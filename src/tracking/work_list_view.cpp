@@ -1,7 +1,7 @@
 #include "tracking/work_list_view.h"
 
 #include "common/utf8.h"
-#include "platform/controls.h"
+#include "ports/controls.h"
 #include "worklist/display_line.h"
 #include "worklist/state_labels.h"
 #include "worklist/work_list.h"

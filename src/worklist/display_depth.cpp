@@ -1,7 +1,7 @@
 #include "worklist/display_depth.h"
 
 #include "common/numbers.h"
-#include "platform/controls.h"
+#include "ports/controls.h"
 
 bool DisplayDepth::hideOneMore() { return set(levels_ + 1); }
 

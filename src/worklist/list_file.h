@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/files.h"
+#include "ports/files.h"
 #include "worklist/work_list.h"
 
 // The list file: one line per document, its state code, two blanks, its full path, CR LF.

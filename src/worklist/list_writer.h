@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/files.h"
+#include "ports/files.h"
 
 /// Hands texts on to a file. What stands side by side in memory, as unchanged lines do in the list
 /// file that was read, goes together; short pieces are gathered.

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "common/runtime_error.h"
-#include "platform/clock.h"
+#include "ports/clock.h"
 #include "worklist/beside_list.h"
 
 std::wstring keptMarksFile(const std::wstring& listFile) {

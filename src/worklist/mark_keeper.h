@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-#include "platform/record_files.h"
+#include "ports/record_files.h"
 #include "worklist/kept_lines.h"
 #include "worklist/kept_marks.h"
 

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "common/utf8.h"
-#include "platform/clock.h"
+#include "ports/clock.h"
 #include "worklist/kept_state.h"
 #include "worklist/list_file.h"
 

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/clock.h"
+#include "ports/clock.h"
 #include "worklist/work_list.h"
 
 namespace {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <memory>
 
-#include "platform/files.h"
-#include "platform/settings.h"
-#include "platform/window.h"
+#include "ports/files.h"
+#include "ports/settings.h"
+#include "ports/window.h"
 #include "unit/unit_test.h"
 
 /// A platform, real or fake, on which the same checks are run: what they find on both, the tests

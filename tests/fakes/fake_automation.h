@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/automation.h"
+#include "ports/automation.h"
 
 /// The calls received by all fake objects, in order, as texts: `name(argument, …)`, texts in
 /// quotes, numbers with their type, by-reference arguments marked &; a document's calls carry its

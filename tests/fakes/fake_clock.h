@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/clock.h"
+#include "ports/clock.h"
 
 /// Stands still until a test moves it.
 struct FakeClock : Clock {

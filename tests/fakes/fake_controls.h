@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/controls.h"
+#include "ports/controls.h"
 
 /// What every fake control can do; what a test looks at is public.
 template <class Interface>

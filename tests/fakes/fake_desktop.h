@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/desktop.h"
+#include "ports/desktop.h"
 
 /// Knows windows by their titles and records what is brought forward.
 struct FakeDesktop : Desktop {

@@ -4,7 +4,7 @@
 #include <mutex>
 #include <set>
 
-#include "platform/files.h"
+#include "ports/files.h"
 
 /// A file system in memory: texts by path, and directories that come into being with their files.
 struct FakeFiles : Files {

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/list_holds.h"
+#include "ports/list_holds.h"
 
 /// Notes which lists are asked for, by the files that tell of the holds, and answers as told.
 struct FakeListHolds : ListHolds {

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "platform/message_boxes.h"
+#include "ports/message_boxes.h"
 
 /// Records every box and answers from a queue; a Yes/No box without an answer fails the test.
 struct FakeMessageBoxes : MessageBoxes {

@@ -3,7 +3,7 @@
 #include <map>
 
 #include "common/runtime_error.h"
-#include "platform/record_files.h"
+#include "ports/record_files.h"
 
 /// Record files in memory, by path.
 struct FakeRecordFiles : RecordFiles {

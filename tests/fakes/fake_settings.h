@@ -4,7 +4,7 @@
 #include <tuple>
 
 #include "common/letter_case.h"
-#include "platform/settings.h"
+#include "ports/settings.h"
 
 /// Settings in memory, by application, section and key, keys without regard to case.
 struct FakeSettings : Settings {

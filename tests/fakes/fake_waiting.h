@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/patience.h"
+#include "rules/patience.h"
 
 /// Time that passes by waiting, and as the test says.
 struct FakeWaiting : BusyWaiting {

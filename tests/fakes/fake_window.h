@@ -6,7 +6,7 @@
 #include <set>
 
 #include "fakes/fake_controls.h"
-#include "platform/window.h"
+#include "ports/window.h"
 
 struct FakeMonitor {
     Area area;

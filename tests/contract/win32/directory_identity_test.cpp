@@ -1,12 +1,12 @@
 // How directories are told apart, on file systems as Windows describes them.
 
-#include "platform/win32/files/directory_identity.h"
+#include "win32/files/directory_identity.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <optional>
 
-#include "platform/win32/files/win_files.h"
+#include "win32/files/win_files.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // The file that tells who has a list open, as several programs meet it.
 
-#include "platform/win32/process/hold_file.h"
+#include "win32/process/hold_file.h"
 
 #include <optional>
 

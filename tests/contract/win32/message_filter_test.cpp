@@ -1,13 +1,13 @@
 // What the message filter answers when a busy program refused a call. Wine never asks it.
 
-#include "platform/win32/com/message_filter.h"
+#include "win32/com/message_filter.h"
 
 #include <gtest/gtest.h>
 #include <objbase.h>
 
 #include "fakes/fake_message_boxes.h"
 #include "fakes/fake_waiting.h"
-#include "platform/patience.h"
+#include "rules/patience.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // The system's thread pool as readers of directories.
 
-#include "platform/win32/files/pool_workers.h"
+#include "win32/files/pool_workers.h"
 
 #include <atomic>
 #include <future>

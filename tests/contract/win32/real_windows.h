@@ -1,11 +1,11 @@
 #pragma once
 
 #include "contract/contract_ids.h"
-#include "platform/win32/window/dialog_window.h"
-#include "platform/win32/window/own_windows.h"
-#include "platform/win32/window/win_gate_keeper.h"
-#include "platform/win32/window/win_message_boxes.h"
 #include "unit/unit_test.h"
+#include "win32/window/dialog_window.h"
+#include "win32/window/own_windows.h"
+#include "win32/window/win_gate_keeper.h"
+#include "win32/window/win_message_boxes.h"
 
 /// What makes the program's windows.
 struct RealWindows {

@@ -4,9 +4,9 @@
 
 #include "contract/machine.h"
 #include "contract/win32/real_windows.h"
-#include "platform/long_path.h"
-#include "platform/win32/files/win_files.h"
-#include "platform/win32/process/registry_settings.h"
+#include "rules/long_path.h"
+#include "win32/files/win_files.h"
+#include "win32/process/registry_settings.h"
 
 namespace {
 

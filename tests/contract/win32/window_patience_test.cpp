@@ -1,15 +1,15 @@
 // How the program's windows live while the main thread searches.
 
-#include "platform/win32/window/window_patience.h"
+#include "win32/window/window_patience.h"
 
 #include <set>
 #include <thread>
 
 #include "contract/win32/real_windows.h"
+#include "input/searching.h"
 #include "pickers/tree_walk.h"
-#include "platform/searching.h"
-#include "platform/win32/files/pool_workers.h"
-#include "platform/win32/files/win_files.h"
+#include "win32/files/pool_workers.h"
+#include "win32/files/win_files.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <thread>
 
 #include "contract/win32/real_windows.h"
-#include "platform/win32/process/message_pump.h"
-#include "platform/win32/window/hourglass.h"
+#include "win32/process/message_pump.h"
+#include "win32/window/hourglass.h"
 
 namespace {
 

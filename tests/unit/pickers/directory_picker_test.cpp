@@ -4,7 +4,7 @@
 #include "fakes/fake_files.h"
 #include "fakes/fake_patience.h"
 #include "pickers/drive_picker.h"
-#include "platform/workers.h"
+#include "ports/workers.h"
 #include "unit/unit_test.h"
 
 TEST(DirectoryPicker, ShowsAndOpensAncestorsAndSubdirectories) {

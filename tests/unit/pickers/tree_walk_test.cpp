@@ -8,7 +8,7 @@
 
 #include "fakes/fake_files.h"
 #include "fakes/fake_patience.h"
-#include "platform/workers.h"
+#include "ports/workers.h"
 #include "unit/unit_test.h"
 
 namespace {

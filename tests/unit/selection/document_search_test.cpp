@@ -1,8 +1,8 @@
 #include "selection/document_search.h"
 
 #include "fakes/fake_files.h"
-#include "platform/search_patience.h"
-#include "platform/workers.h"
+#include "ports/search_patience.h"
+#include "ports/workers.h"
 #include "selection/found_documents.h"
 #include "unit/unit_test.h"
 

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <vector>
+
+#include "ports/events.h"
+
+class MessageBoxes;
+struct MessageBoxContent;
+struct RuntimeError;
+
+/// What tells the user why a run-time error ends the program.
+MessageBoxContent fatalErrorBox(const RuntimeError& error);
+
+/// The window that an event comes from, as the gate asks about it.
+class EventSource {
+ public:
+    virtual ~EventSource() = default;
+
+    virtual bool isShown() const = 0;
+    /// Whether the user may use the control, which is to be seen and enabled; true when the window
+    /// has none of this id.
+    virtual bool canUse(int controlId) const = 0;
+};
+
+/// What the gate has the machine do.
+class GateKeeper {
+ public:
+    virtual ~GateKeeper() = default;
+
+    virtual void setHourglass(bool shown) = 0;
+    /// Lets the message loop end.
+    virtual void quit(int exitCode) = 0;
+};
+
+/// The one door through which events reach the windows' handlers, and where errors end the
+/// program: whatever is thrown behind it becomes a box. One handler runs at a time: an event that
+/// arrives meanwhile waits until it has ended.
+class EventGate {
+ public:
+    EventGate(GateKeeper& keeper, MessageBoxes& boxes) : keeper_(keeper), boxes_(boxes) {}
+
+    /// Runs the handler of an event now, or after the one that runs; then only if the user could
+    /// still do what it stands for. While that one searches, only what Searching keeps.
+    void deliver(EventSink& sink, int controlId, Event event, const EventSource& source) noexcept;
+
+    /// Runs what is no event's handler but may take as long, and then the events that waited.
+    void run(const std::function<void()>& action) noexcept;
+
+    /// Runs the rest of what a window does with its messages. An error there ends the program, too,
+    /// after the handler that runs, if one does.
+    template <class Action>
+    void guard(const Action& action) noexcept {
+        try {
+            action();
+        } catch (...) {
+            if (!failure_) failure_ = std::current_exception();
+        }
+        if (!running_) endIfFailed();
+    }
+
+    /// Drops the waiting events of a window that is gone.
+    void forget(const EventSource& source);
+
+    /// Whether a handler runs.
+    bool busy() const { return running_; }
+    bool ended() const { return ended_; }
+    int exitCode() const { return exitCode_; }
+
+ private:
+    struct Delivery {
+        EventSink* sink;
+        int controlId;
+        Event event;
+        const EventSource* source;
+        bool waited;  ///< while another handler ran
+    };
+
+    static bool isRefused(const Delivery& delivery);
+
+    void serve();
+    template <class Action>
+    void runOne(const Action& action);
+    void endIfFailed() noexcept;
+    void tellWhy();
+
+    GateKeeper& keeper_;
+    MessageBoxes& boxes_;
+    std::vector<Delivery> deliveries_;
+    std::exception_ptr failure_;
+    bool running_ = false;
+    bool ended_ = false;
+    int exitCode_ = 0;
+};

@@ -1,0 +1,50 @@
+#include "input/notifications.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr struct {
+    std::wstring_view name;
+    ControlClass kind;
+} kClasses[] = {{L"Button", ControlClass::Button},
+                {L"ListBox", ControlClass::ListBox},
+                {L"ComboBox", ControlClass::ComboBox},
+                {L"Edit", ControlClass::Edit},
+                {L"SysTabControl32", ControlClass::TabStrip}};
+
+constexpr struct {
+    ControlClass control;
+    unsigned code;
+    Event event;
+} kEvents[] = {
+    {ControlClass::Button, notification::kButtonClicked, Event::Click},
+    {ControlClass::ListBox, notification::kListSelectionChanged, Event::Click},
+    {ControlClass::ListBox, notification::kListDoubleClicked, Event::DoubleClick},
+    {ControlClass::ComboBox, notification::kComboTextEdited, Event::Change},
+    {ControlClass::ComboBox, notification::kComboFocusLost, Event::Validate},
+};
+
+/// Windows' own classes have plain letters only.
+bool isNamed(std::wstring_view className, std::wstring_view name) {
+    const auto lower = [](wchar_t c) { return c >= L'A' && c <= L'Z' ? c - L'A' + L'a' : c; };
+    return std::ranges::equal(className, name, {}, lower, lower);
+}
+
+}  // namespace
+
+ControlClass controlClass(std::wstring_view className) {
+    for (const auto& known : kClasses) {
+        if (isNamed(className, known.name)) return known.kind;
+    }
+    return ControlClass::Other;
+}
+
+std::optional<Event> eventOf(ControlClass control, unsigned code, bool focusStaysInWindow) {
+    for (const auto& known : kEvents) {
+        if (known.control != control || known.code != code) continue;
+        if (known.event == Event::Validate && !focusStaysInWindow) return std::nullopt;
+        return known.event;
+    }
+    return std::nullopt;
+}

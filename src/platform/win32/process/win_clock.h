@@ -1,9 +1,0 @@
-#pragma once
-
-#include "platform/clock.h"
-
-class WinClock : public Clock {
- public:
-    std::int64_t now() const override;
-    LocalTime local(std::int64_t time) const override;
-};

@@ -1,7 +1,0 @@
-#pragma once
-
-#include <windows.h>
-
-#include "platform/notifications.h"
-
-ControlClass classOf(HWND control);

@@ -1,9 +1,0 @@
-#pragma once
-
-#include "platform/patience.h"
-
-class WinBusyWaiting : public BusyWaiting {
- public:
-    std::uint64_t now() const override;
-    void wait(unsigned milliseconds) override;
-};

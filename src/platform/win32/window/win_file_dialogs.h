@@ -1,9 +1,0 @@
-#pragma once
-
-#include "platform/file_dialogs.h"
-
-/// The dialogs of the shell, above the program's active window.
-class WinFileDialogs : public FileDialogs {
- public:
-    std::optional<std::wstring> askWhereToSave(const SaveQuestion& question) override;
-};

@@ -1,0 +1,14 @@
+#include "ports/files.h"
+
+#include "common/text_decoding.h"
+#include "common/utf8.h"
+
+std::string Files::read(const std::wstring& path) { return textInUtf8(readBytes(path)); }
+
+std::wstring Files::readText(const std::wstring& path) { return wideText(read(path)); }
+
+void Files::replaceText(const std::wstring& path, std::wstring_view text) {
+    std::string utf8;
+    appendUtf8(utf8, text);
+    replace(path, [&](const ByteSink& file) { file(utf8); });
+}

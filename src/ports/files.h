@@ -1,0 +1,69 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ports/directory_entry.h"
+
+/// What tells one directory from all others, whatever path leads to it. Where the file system does
+/// not tell its directories apart, all of a volume are alike.
+struct DirectoryId {
+    std::uint64_t volume;
+    std::array<std::uint8_t, 16> file;
+    bool operator==(const DirectoryId&) const = default;
+};
+
+/// What a path leads to.
+enum class PathKind { Nothing, File, Directory };
+
+/// Takes the bytes of a file piece by piece.
+using ByteSink = std::function<void(std::string_view piece)>;
+using WriteContent = std::function<void(const ByteSink& file)>;
+
+/// The file system. Paths are full paths; long ones need no prefix.
+class Files {
+ public:
+    virtual ~Files() = default;
+
+    /// The bytes of a file. Raises 53, 70, 75 or 76.
+    virtual std::string readBytes(const std::wstring& path) = 0;
+    /// The text of a file, in UTF-8, whatever it was written in (textInUtf8).
+    std::string read(const std::wstring& path);
+    std::wstring readText(const std::wstring& path);
+
+    /// Creates or replaces a file whole with what `write` puts into its sink: an interrupted write
+    /// leaves the old one. Raises 70, 75 or 76.
+    virtual void replace(const std::wstring& path, const WriteContent& write) = 0;
+    /// The same with a text, written in UTF-8. Raises 5 for text that can't be encoded.
+    void replaceText(const std::wstring& path, std::wstring_view text);
+
+    /// Raises 70, 75 or 76 when it can't be told.
+    virtual PathKind kindOf(const std::wstring& path) = 0;
+
+    /// Keeps a copy of a file, byte for byte. What stood in its place, even a read-only file, is
+    /// replaced as by `replace`. Raises 53, 70, 75 or 76.
+    virtual void keepCopy(const std::wstring& file, const std::wstring& copy) = 0;
+
+    /// Deletes a file, even a read-only one. Raises 53, 70, 75 or 76.
+    virtual void remove(const std::wstring& file) = 0;
+
+    // The next two may be called by several threads at once, and by threads that outlive their
+    // caller: the object stands until the program ends.
+
+    /// Visits every entry of a directory but "." and "..", in no order. Raises 70 or 76.
+    virtual void visit(const std::wstring& directory,
+                       const std::function<void(const DirectoryEntry&)>& visitor) = 0;
+
+    /// Raises 70 or 76 when the directory can't be opened.
+    virtual DirectoryId identify(const std::wstring& directory) = 0;
+
+    /// The drives present, as lower-case letters in order.
+    virtual std::vector<wchar_t> drives() = 0;
+
+    /// The program's current directory on a drive, the drive's root when it has none of its own.
+    virtual std::wstring currentDirectory(wchar_t drive) = 0;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "ports/search_services.h"
+
+class Automation;
+class Settings;
+class Clock;
+class FileDialogs;
+class Files;
+class ListHolds;
+class MessageBoxes;
+class Desktop;
+class RecordFiles;
+class WindowFactory;
+
+/// All that the program needs from the machine it runs on.
+struct Platform {
+    Automation& automation;
+    Settings& settings;
+    Files& files;
+    RecordFiles& records;
+    ListHolds& listHolds;
+    const Clock& clock;
+    MessageBoxes& messageBoxes;
+    FileDialogs& fileDialogs;
+    Desktop& desktop;
+    WindowFactory& windows;
+    SearchServices search;
+    std::wstring programDirectory;              ///< without a trailing backslash
+    std::vector<std::wstring> namedFiles = {};  ///< on the command line, by their full paths
+};

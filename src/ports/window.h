@@ -1,0 +1,111 @@
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "ports/area.h"
+#include "ports/controls.h"
+#include "ports/events.h"
+
+/// A window of the program. Places are pixels of the virtual screen.
+class Window {
+ public:
+    virtual ~Window() = default;
+
+    // The controls, by the ids of the form's *_ids.h.
+    virtual Control& control(int id) = 0;
+    virtual CheckBox& checkBox(int id) = 0;
+    virtual ListBox& listBox(int id) = 0;
+    virtual ComboBox& comboBox(int id) = 0;
+    virtual TabStrip& tabStrip(int id) = 0;
+
+    /// Where it stands while it is neither minimised nor maximised.
+    virtual Area place() const = 0;
+    /// The controls grow and shrink with it. On a monitor of another resolution it has another
+    /// size afterwards.
+    virtual void moveTo(const Area& place) = 0;
+    /// Pixels to an inch, where it stands.
+    virtual int dpi() const = 0;
+    /// The monitor it stands on, or next to, without the taskbar.
+    virtual Area workArea() const = 0;
+    /// How far the work has come, for the taskbar to show: steps done of all. 0 of 0: none.
+    virtual void showProgress(int done, int total) = 0;
+    /// The check mark of an item of the system menu.
+    virtual void setMenuMark(int itemId, bool marked) = 0;
+    /// Above the windows of all programs, or among them.
+    virtual void setTopmost(bool topmost) = 0;
+    /// From now on the template's hot keys act, whichever program has the keyboard. Gives the names
+    /// of those that another program has taken: then none acts.
+    virtual std::vector<std::wstring> takeHotKeys() = 0;
+    virtual void releaseHotKeys() = 0;
+    virtual void show() = 0;
+    virtual void hide() = 0;
+    /// Closes the window for good: its controls are gone.
+    virtual void unload() = 0;
+};
+
+/// The hint shown while the pointer rests on a control.
+struct Tooltip {
+    int controlId;
+    const wchar_t* text;
+};
+
+/// The name by which a screen reader announces a control that shows none, or one that is hard to
+/// understand when it is heard.
+struct AccessibleName {
+    int controlId;
+    const wchar_t* text;
+};
+
+/// What a control does, in one direction, when its window is larger than its template.
+enum class Growth { Stay, Move, Stretch };
+
+/// How a control follows the edges of its window. One without an anchor stays where it is.
+struct Anchor {
+    int controlId;
+    Growth across;
+    Growth down;
+};
+
+/// An item that a window adds to its system menu, below a separator. Chosen, it is clicked. The
+/// four lowest bits of its id are 0 (the WM_SYSCOMMAND message).
+struct SystemMenuItem {
+    int id;
+    const wchar_t* text;
+};
+
+/// A key of the digit row that acts with Ctrl and Shift as a button of the window does, whichever
+/// program has the keyboard.
+struct HotKey {
+    int controlId;
+    int place;  ///< in the row, from 1, whatever the keyboard writes on it
+    const wchar_t* name;
+};
+
+/// What a window is made from: a dialog resource, whose id and texts are the form's own, with the
+/// accelerator resource of the same id as its shortcuts.
+struct WindowTemplate {
+    int dialogId;
+    std::span<const Tooltip> tooltips = {};
+    int headingId = 0;     ///< the label shown as the window's heading
+    int focusId = 0;       ///< the control that has the focus first; 0: the first one
+    int fixedPitchId = 0;  ///< the list whose lines are aligned by their number of characters
+    int liveId = 0;        ///< the label that a screen reader reads out whenever it changes
+    std::span<const Anchor> anchors = {};
+    std::span<const AccessibleName> names = {};
+    /// How much smaller than there it can be made, in dialog units.
+    Size shrinks = {};
+    std::span<const SystemMenuItem> systemMenu = {};
+    std::span<const HotKey> hotKeys = {};
+};
+
+class WindowFactory {
+ public:
+    virtual ~WindowFactory() = default;
+
+    /// A new window, not yet shown; its events go to `events`, which must outlive it.
+    virtual std::unique_ptr<Window> create(const WindowTemplate& windowTemplate,
+                                           EventSink& events) = 0;
+};

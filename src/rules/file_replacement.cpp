@@ -1,0 +1,71 @@
+#include "rules/file_replacement.h"
+
+#include "rules/file_error.h"
+#include "rules/long_path.h"
+
+namespace {
+
+// Virus scanners, indexers and backups hold a file for a moment.
+constexpr int kReplacementPauses = 2000 / kReplacementPause;
+
+/// The file written beside the old one. Removed unless it took the old one's place.
+class TemporaryFile {
+ public:
+    TemporaryFile(const std::wstring& path, ReplacementSteps& steps)
+        : steps_(steps), path_(path), created_(steps.create(path)), stays_(created_ == 0) {}
+
+    ~TemporaryFile() {
+        if (created_ == 0) steps_.close();
+        if (stays_) steps_.remove(path_);
+    }
+
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    std::uint32_t created() const { return created_; }
+
+    std::uint32_t moveOver(const std::wstring& target) {
+        if (const std::uint32_t error = steps_.flush()) return error;
+        steps_.close();
+        const std::uint32_t error = moveWithPatience(target);
+        stays_ = error != 0;
+        return error;
+    }
+
+ private:
+    std::uint32_t moveWithPatience(const std::wstring& target) {
+        for (int pauses = 0;; ++pauses) {
+            const std::uint32_t error = steps_.move(path_, target);
+            if (error == 0 || !isHeld(target, error)) return error;
+            if (pauses == kReplacementPauses) return windows_error::kSharingViolation;
+            steps_.pause();
+        }
+    }
+
+    /// Whether a file was not replaced because another program has it open. Windows then speaks of
+    /// denied access as often as of sharing (the MoveFileEx function): opening it tells which.
+    bool isHeld(const std::wstring& file, std::uint32_t error) {
+        if (error == windows_error::kAccessDenied) error = steps_.openAlone(file);
+        // What can be opened now was let go of in the meantime.
+        return error == 0 || error == windows_error::kSharingViolation;
+    }
+
+    ReplacementSteps& steps_;
+    std::wstring path_;
+    std::uint32_t created_;
+    bool stays_;
+};
+
+}  // namespace
+
+void replaceFile(const std::wstring& path, const WriteContent& write, ReplacementSteps& steps) {
+    const auto require = [&](std::uint32_t error) {
+        if (error != 0) throw fileError(error, path);
+    };
+    const std::wstring target = longPath(path);
+    if (steps.isProtected(target)) throw errors::fileAccess(path);
+    TemporaryFile file(steps.nameBeside(target), steps);
+    require(file.created());
+    write([&](std::string_view bytes) { require(steps.write(bytes)); });
+    require(file.moveOver(target));
+}

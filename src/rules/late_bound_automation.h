@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "rules/late_bound_object.h"
+
+/// Where objects of other programs are found.
+class ObjectServers {
+ public:
+    virtual ~ObjectServers() = default;
+
+    /// The running object registered for a class; leaves `object` empty when there is none, or when
+    /// it is too busy to be had now.
+    virtual CallResult running(const std::wstring& progId,
+                               std::shared_ptr<ServedObject>& object) = 0;
+    /// A new object, null when none can be made.
+    virtual std::shared_ptr<ServedObject> make(const std::wstring& progId) = 0;
+};
+
+/// Late-bound objects of those servers. Must outlive the objects.
+class LateBoundAutomation : public Automation {
+ public:
+    LateBoundAutomation(ObjectServers& servers, Patience& patience)
+        : servers_(servers), binding_{patience} {}
+
+    ObjectPtr attach(const std::wstring& progId) override;
+    ObjectPtr create(const std::wstring& progId) override;
+
+ private:
+    ObjectServers& servers_;
+    LateBinding binding_;
+};

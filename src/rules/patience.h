@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+#include "rules/call_error.h"
+
+class MessageBoxes;
+
+/// What waiting for a busy application needs of the machine.
+class BusyWaiting {
+ public:
+    virtual ~BusyWaiting() = default;
+
+    /// Milliseconds since some moment.
+    virtual std::uint64_t now() const = 0;
+    /// Lets this time pass; the windows draw meanwhile.
+    virtual void wait(unsigned milliseconds) = 0;
+};
+
+/// When a call that a busy application refused is tried again. A refused call never ran, so it
+/// can be repeated safely: at once, then at growing intervals up to a second; ten seconds after the
+/// first refusal the user is asked. One clock serves all who see a refusal.
+class Patience {
+ public:
+    Patience(BusyWaiting& machine, MessageBoxes& boxes) : machine_(machine), boxes_(boxes) {}
+
+    /// Makes a call, again and again while it is refused. Gives the last answer, which is a refusal
+    /// when the user gave up.
+    CallResult call(const std::function<CallResult()>& attempt);
+
+    /// The call that is out was refused: how many milliseconds to wait before it is tried again,
+    /// or nothing when the user is to be asked.
+    std::optional<unsigned> afterRefusal();
+
+ private:
+    bool userGoesOn();
+
+    BusyWaiting& machine_;
+    MessageBoxes& boxes_;
+    std::optional<std::uint64_t> refusedSince_;
+};

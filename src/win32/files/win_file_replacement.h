@@ -1,0 +1,24 @@
+#pragma once
+
+#include <windows.h>
+
+#include "rules/file_replacement.h"
+#include "win32/process/unique.h"
+
+/// The steps as Windows takes them; a test makes them fail.
+class WinReplacementSteps : public ReplacementSteps {
+ public:
+    bool isProtected(const std::wstring& path) override;
+    std::wstring nameBeside(const std::wstring& path) override;
+    std::uint32_t create(const std::wstring& path) override;
+    std::uint32_t write(std::string_view bytes) override;
+    std::uint32_t flush() override;
+    void close() override { file_.reset(INVALID_HANDLE_VALUE); }
+    std::uint32_t move(const std::wstring& from, const std::wstring& to) override;
+    std::uint32_t openAlone(const std::wstring& path) override;
+    void remove(const std::wstring& path) override { DeleteFileW(path.c_str()); }
+    void pause() override { Sleep(kReplacementPause); }
+
+ private:
+    UniqueHandle file_{INVALID_HANDLE_VALUE};
+};

@@ -1,0 +1,140 @@
+#include "win32/files/win_files.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+
+#include "rules/file_error.h"
+#include "rules/long_path.h"
+#include "win32/files/directory_identity.h"
+#include "win32/files/win_file_replacement.h"
+#include "win32/process/unique.h"
+
+namespace {
+
+struct FindCloser {
+    using pointer = HANDLE;
+    void operator()(HANDLE handle) const {
+        if (handle != INVALID_HANDLE_VALUE) FindClose(handle);
+    }
+};
+using FindHandle = std::unique_ptr<HANDLE, FindCloser>;
+
+static_assert(attribute::kHidden == FILE_ATTRIBUTE_HIDDEN &&
+              attribute::kSystem == FILE_ATTRIBUTE_SYSTEM &&
+              attribute::kDirectory == FILE_ATTRIBUTE_DIRECTORY &&
+              attribute::kReparsePoint == FILE_ATTRIBUTE_REPARSE_POINT &&
+              kMountPointTag == IO_REPARSE_TAG_MOUNT_POINT);
+
+/// A read-only file can be neither replaced nor deleted (the DeleteFile function). What can't be
+/// changed here is told by the call that follows.
+void makeWritable(const std::wstring& file) {
+    const DWORD attributes = GetFileAttributesW(longPath(file).c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_READONLY)) return;
+    SetFileAttributesW(longPath(file).c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
+}
+
+bool isDotEntry(const wchar_t* name) {
+    return name[0] == L'.' && (name[1] == 0 || (name[1] == L'.' && name[2] == 0));
+}
+
+}  // namespace
+
+DirectoryEntry entryOf(const WIN32_FIND_DATAW& found) {
+    return directoryEntry(found.cFileName, found.dwFileAttributes, found.dwReserved0);
+}
+
+std::string WinFiles::readBytes(const std::wstring& path) {
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const UniqueHandle file(CreateFileW(longPath(path).c_str(), GENERIC_READ, kShareAll, nullptr,
+                                        OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!isValid(file)) throw fileError(GetLastError(), path);
+    LARGE_INTEGER size{};
+    if (!GetFileSizeEx(file.get(), &size)) throw fileError(GetLastError(), path);
+    std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
+    std::size_t have = 0;
+    for (DWORD got = 1; got != 0 && have < bytes.size(); have += got) {
+        const auto wanted = std::min<std::size_t>(bytes.size() - have, 1U << 30);
+        if (!ReadFile(file.get(), bytes.data() + have, static_cast<DWORD>(wanted), &got, nullptr)) {
+            throw fileError(GetLastError(), path);
+        }
+    }
+    bytes.resize(have);
+    return bytes;
+}
+
+void WinFiles::replace(const std::wstring& path, const WriteContent& write) {
+    WinReplacementSteps steps;
+    replaceFile(path, write, steps);
+}
+
+PathKind WinFiles::kindOf(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(longPath(path).c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES) {
+        return (attributes & FILE_ATTRIBUTE_DIRECTORY) ? PathKind::Directory : PathKind::File;
+    }
+    const DWORD error = GetLastError();
+    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) return PathKind::Nothing;
+    throw fileError(error, path);
+}
+
+void WinFiles::keepCopy(const std::wstring& file, const std::wstring& copy) {
+    const std::string bytes = readBytes(file);
+    makeWritable(copy);
+    replace(copy, [&](const ByteSink& sink) { sink(bytes); });
+}
+
+void WinFiles::remove(const std::wstring& file) {
+    makeWritable(file);
+    if (!DeleteFileW(longPath(file).c_str())) throw fileError(GetLastError(), file);
+}
+
+void WinFiles::visit(const std::wstring& directory,
+                     const std::function<void(const DirectoryEntry&)>& visitor) {
+    const std::wstring pattern = longPath(directory + L"\\*");
+    WIN32_FIND_DATAW found;
+    const FindHandle search(FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &found,
+                                             FindExSearchNameMatch, nullptr,
+                                             FIND_FIRST_EX_LARGE_FETCH));
+    if (search.get() == INVALID_HANDLE_VALUE) {
+        // An empty drive root has no entry at all, not even its own.
+        if (GetLastError() == ERROR_FILE_NOT_FOUND) return;
+        throw directoryError(GetLastError(), directory);
+    }
+    do {
+        if (!isDotEntry(found.cFileName)) visitor(entryOf(found));
+    } while (FindNextFileW(search.get(), &found));
+    if (GetLastError() != ERROR_NO_MORE_FILES) throw directoryError(GetLastError(), directory);
+}
+
+DirectoryId WinFiles::identify(const std::wstring& directory) {
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const UniqueHandle handle(CreateFileW(longPath(directory).c_str(), FILE_READ_ATTRIBUTES,
+                                          kShareAll, nullptr, OPEN_EXISTING,
+                                          FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    DirectoryId id{};
+    IdentityCalls calls;
+    if (!isValid(handle) || !::identify(handle.get(), id, calls)) {
+        throw directoryError(GetLastError(), directory);
+    }
+    return id;
+}
+
+std::vector<wchar_t> WinFiles::drives() {
+    std::vector<wchar_t> letters;
+    const DWORD present = GetLogicalDrives();
+    for (int i = 0; i < 26; ++i) {
+        if (present & (1U << i)) letters.push_back(static_cast<wchar_t>(L'a' + i));
+    }
+    return letters;
+}
+
+std::wstring WinFiles::currentDirectory(wchar_t drive) {
+    const wchar_t relative[] = {drive, L':', 0};
+    wchar_t path[MAX_PATH] = {};
+    const DWORD length = GetFullPathNameW(relative, MAX_PATH, path, nullptr);
+    if (length == 0 || length >= MAX_PATH) return std::wstring(relative) + L"\\";
+    return path;
+}

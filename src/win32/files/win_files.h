@@ -1,0 +1,22 @@
+#pragma once
+
+#include <windows.h>
+
+#include "ports/files.h"
+
+class WinFiles : public Files {
+ public:
+    std::string readBytes(const std::wstring& path) override;
+    void replace(const std::wstring& path, const WriteContent& write) override;
+    PathKind kindOf(const std::wstring& path) override;
+    void keepCopy(const std::wstring& file, const std::wstring& copy) override;
+    void remove(const std::wstring& file) override;
+    void visit(const std::wstring& directory,
+               const std::function<void(const DirectoryEntry&)>& visitor) override;
+    DirectoryId identify(const std::wstring& directory) override;
+    std::vector<wchar_t> drives() override;
+    std::wstring currentDirectory(wchar_t drive) override;
+};
+
+/// What Windows says of a name in a directory.
+DirectoryEntry entryOf(const WIN32_FIND_DATAW& found);

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "ports/record_files.h"
+
+class WinRecordFiles : public RecordFiles {
+ public:
+    std::unique_ptr<RecordFile> at(const std::wstring& path) override;
+};

@@ -1,0 +1,61 @@
+#include "win32/process/hold_file.h"
+
+#include "common/text.h"
+#include "common/utf8.h"
+#include "rules/long_path.h"
+
+namespace {
+
+// Two names, of at most 256 and 63 characters.
+constexpr DWORD kMostBytes = 2000;
+
+/// Reading and writing both, although nothing is read: a file server may otherwise refuse a write
+/// now and then (the CreateFile function).
+UniqueHandle create(const std::wstring& path) {
+    return UniqueHandle(CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ,
+                                    nullptr, CREATE_ALWAYS,
+                                    FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+}
+
+/// A file that is to be deleted can be opened by those only who share its deletion.
+UniqueHandle open(const std::wstring& path, DWORD alsoShared) {
+    return UniqueHandle(CreateFileW(path.c_str(), GENERIC_READ,
+                                    FILE_SHARE_READ | FILE_SHARE_DELETE | alsoShared, nullptr,
+                                    OPEN_EXISTING, 0, nullptr));
+}
+
+DWORD errorOf(const UniqueHandle& file) { return isValid(file) ? 0 : GetLastError(); }
+
+/// What can't be written is missing in what others are told, no more.
+void write(HANDLE file, const ListHolder& names) {
+    std::string bytes;
+    appendUtf8(bytes, names.user + L"\r\n" + names.machine + L"\r\n");
+    DWORD written = 0;
+    WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    FlushFileBuffers(file);
+}
+
+}  // namespace
+
+HoldFile::HoldFile(const std::wstring& path) : path_(longPath(path)) {}
+
+HoldFileState HoldFile::take(const ListHolder& us) {
+    file_ = create(path_);
+    const DWORD creating = errorOf(file_);
+    if (creating == 0) {
+        write(file_.get(), us);
+        return HoldFileState::Ours;
+    }
+    const UniqueHandle found = open(path_, 0);
+    return holdFileState(creating, errorOf(found));
+}
+
+ListHolder HoldFile::holder() const {
+    const UniqueHandle file = open(path_, FILE_SHARE_WRITE);
+    std::string bytes(kMostBytes, '\0');
+    DWORD got = 0;
+    if (!isValid(file) || !ReadFile(file.get(), bytes.data(), kMostBytes, &got, nullptr)) return {};
+    std::string_view rest(bytes.data(), got);
+    const std::wstring user = wideText(takeLine(rest));
+    return {user, wideText(takeLine(rest))};
+}

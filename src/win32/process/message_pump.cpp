@@ -1,0 +1,13 @@
+#include "win32/process/message_pump.h"
+
+void handleWaitingMessages(UINT first, UINT last) {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, first, last, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}

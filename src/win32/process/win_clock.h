@@ -1,0 +1,9 @@
+#pragma once
+
+#include "ports/clock.h"
+
+class WinClock : public Clock {
+ public:
+    std::int64_t now() const override;
+    LocalTime local(std::int64_t time) const override;
+};

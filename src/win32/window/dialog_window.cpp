@@ -1,0 +1,158 @@
+#include "win32/window/dialog_window.h"
+
+#include <commctrl.h>
+#include <uxtheme.h>
+
+#include "win32/process/require.h"
+#include "win32/window/focus.h"
+#include "win32/window/foreground.h"
+#include "win32/window/hourglass.h"
+#include "win32/window/input_sieve.h"
+#include "win32/window/own_windows.h"
+#include "win32/window/screen_reader.h"
+#include "win32/window/system_menu.h"
+#include "win32/window/tooltips.h"
+#include "win32/window/win_controls.h"
+
+namespace {
+
+// A class of our own tells our windows from the system's message boxes.
+void registerWindowClass() {
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = DefDlgProcW;
+    windowClass.cbWndExtra = DLGWINDOWEXTRA;
+    windowClass.hInstance = GetModuleHandleW(nullptr);
+    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    windowClass.lpszClassName = L"TarnwickWindow";
+    RegisterClassExW(&windowClass);
+}
+
+HWND firstControl(HWND window) { return GetNextDlgTabItem(window, nullptr, FALSE); }
+
+/// Pages are no windows of their own: on a window of another colour than the tab strip's they would
+/// stand out of its frame. So the window has that colour all over.
+void colourAsTabPages(HWND window) {
+    if (!FindWindowExW(window, nullptr, WC_TABCONTROLW, nullptr)) return;
+    EnableThemeDialogTexture(window, ETDT_ENABLETAB);
+}
+
+HWND makeDialog(int dialogId, DLGPROC procedure) {
+    return require(
+        CreateDialogW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(dialogId), nullptr, procedure),
+        L"une fenêtre");
+}
+
+/// Windows would resize the window and its controls, too, and undo what we do. A function of 1703,
+/// which Wine lacks.
+void leaveResolutionToUs(HWND window) {
+    using SetBehavior =
+        BOOL(WINAPI*)(HWND, DIALOG_DPI_CHANGE_BEHAVIORS, DIALOG_DPI_CHANGE_BEHAVIORS);
+    const FARPROC function =
+        GetProcAddress(GetModuleHandleW(L"user32"), "SetDialogDpiChangeBehavior");
+    if (!function) return;
+    reinterpret_cast<SetBehavior>(reinterpret_cast<void*>(function))(window, DDC_DISABLE_ALL,
+                                                                     DDC_DISABLE_ALL);
+}
+
+}  // namespace
+
+DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& events, EventGate& gate,
+                           const std::function<void()>& help)
+    : events_(events),
+      gate_(gate),
+      help_(help),
+      headingId_(windowTemplate.headingId),
+      focusId_(windowTemplate.focusId),
+      fixedPitchId_(windowTemplate.fixedPitchId),
+      liveId_(windowTemplate.liveId),
+      window_(makeDialog(windowTemplate.dialogId, procedure)),
+      layout_(window_.get(), windowTemplate),
+      tips_(addTooltips(window_.get(), windowTemplate.tooltips)),
+      hotKeys_(windowTemplate.hotKeys),
+      taskbarButton_(window_.get()),
+      progress_(taskbarButton_) {
+    noteUsed(window_.get());
+    leaveResolutionToUs(window_.get());
+    SetWindowLongPtrW(window_.get(), DWLP_USER, reinterpret_cast<LONG_PTR>(this));
+    chooseFonts();
+    takeTemplateSize();
+    tellScreenReaders(window_.get(), windowTemplate.names, liveId_);
+    shortcuts_.emplace(window_.get(), windowTemplate.dialogId);
+    colourAsTabPages(window_.get());
+    addToSystemMenu(window_.get(), windowTemplate.systemMenu);
+}
+
+DialogWindow::~DialogWindow() { destroy(); }
+
+bool DialogWindow::isShown() const { return IsWindowVisible(window_.get()); }
+
+bool DialogWindow::canUse(int controlId) const {
+    HWND control = item(controlId);
+    return !control || (IsWindowVisible(control) && IsWindowEnabled(control));
+}
+
+template <class Kind>
+Kind& DialogWindow::find(int id) {
+    auto& entry = controls_[{id, typeid(Kind)}];
+    if (!entry) entry = std::make_unique<Kind>(item(id));
+    return static_cast<Kind&>(*entry);
+}
+
+Control& DialogWindow::control(int id) {
+    if (id == liveId_ && id != 0) return find<WinLiveLabel>(id);
+    return find<WinControl>(id);
+}
+CheckBox& DialogWindow::checkBox(int id) { return find<WinCheckBox>(id); }
+ListBox& DialogWindow::listBox(int id) { return find<WinListBox>(id); }
+ComboBox& DialogWindow::comboBox(int id) { return find<WinComboBox>(id); }
+TabStrip& DialogWindow::tabStrip(int id) { return find<WinTabStrip>(id); }
+
+void DialogWindow::showProgress(int done, int total) { progress_.set(done, total); }
+
+void DialogWindow::show() {
+    HWND window = window_.get();
+    const bool wasVisible = IsWindowVisible(window);
+    InputSieve::windowShown();
+    noteUsed(window);
+    ShowWindow(window, IsIconic(window) ? SW_RESTORE : SW_SHOW);
+    takeForeground(window);
+    if (!wasVisible) {
+        // Windows may tell a window only now which monitor it is on.
+        standInSight();
+        focusOn(window, focusId_ != 0 ? item(focusId_) : firstControl(window));
+    }
+    // The splash is shown before the program serves any messages.
+    UpdateWindow(window);
+}
+
+void DialogWindow::hide() {
+    keepForeground(window_.get());
+    ShowWindow(window_.get(), SW_HIDE);
+}
+
+void DialogWindow::unload() {
+    keepForeground(window_.get());
+    destroy();
+}
+
+void DialogWindow::destroy() {
+    if (!window_) return;
+    SetWindowLongPtrW(window_.get(), DWLP_USER, 0);
+    gate_.forget(*this);
+    noteGone(window_.get());
+    shortcuts_.reset();
+    hotKeys_.release();
+    window_.reset();
+}
+
+DialogFactory::DialogFactory(EventGate& gate, std::function<void()> help)
+    : gate_(gate), help_(std::move(help)) {
+    registerWindowClass();
+}
+
+std::unique_ptr<Window> DialogFactory::create(const WindowTemplate& windowTemplate,
+                                              EventSink& events) {
+    return std::make_unique<DialogWindow>(windowTemplate, events, gate_, help_);
+}

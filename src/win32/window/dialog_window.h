@@ -1,0 +1,125 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <typeindex>
+#include <utility>
+#include <vector>
+
+#include "input/event_gate.h"
+#include "ports/window.h"
+#include "win32/window/combo_lists.h"
+#include "win32/window/shortcuts.h"
+#include "win32/window/win_hot_keys.h"
+#include "win32/window/win_taskbar_button.h"
+#include "win32/window/window_fonts.h"
+#include "win32/window/window_icons.h"
+#include "win32/window/window_layout.h"
+
+/// A window of the program, made from a dialog resource. One procedure serves all of them: it
+/// turns notifications into events and sends those through the gate.
+class DialogWindow : public Window, private EventSource {
+ public:
+    DialogWindow(const WindowTemplate& windowTemplate, EventSink& events, EventGate& gate,
+                 const std::function<void()>& help);
+    ~DialogWindow() override;
+    DialogWindow(const DialogWindow&) = delete;
+    DialogWindow& operator=(const DialogWindow&) = delete;
+
+    Control& control(int id) override;
+    CheckBox& checkBox(int id) override;
+    ListBox& listBox(int id) override;
+    ComboBox& comboBox(int id) override;
+    TabStrip& tabStrip(int id) override;
+
+    Area place() const override;
+    void moveTo(const Area& place) override;
+    int dpi() const override;
+    Area workArea() const override;
+    void showProgress(int done, int total) override;
+    void setMenuMark(int itemId, bool marked) override;
+    void setTopmost(bool topmost) override;
+    std::vector<std::wstring> takeHotKeys() override;
+    void releaseHotKeys() override;
+    void show() override;
+    void hide() override;
+    void unload() override;
+
+ private:
+    bool isShown() const override;
+    bool canUse(int controlId) const override;
+
+    static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam,
+                                      LPARAM lParam) noexcept;
+    INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam);
+    void onCommand(int id, WORD code, HWND control);
+    INT_PTR onNotify(const NMHDR& header);
+    INT_PTR onSetCursor(HWND control, int place, WORD mouseMessage);
+    INT_PTR onMouseActivate();
+    void onComboBox(int id, WORD code, HWND comboBox);
+    void onKey(int id);
+    void onShortcut(HWND control);
+    void raise(int id, Event event);
+    /// Raises an event once the message that is being handled is done with, yet before any other.
+    void defer(int id, Event event);
+    void onDeferred();
+    void serveDeferred();
+    bool serveFirst(int id);
+    INT_PTR onSystemCommand(WPARAM command);
+    void onHotKey(int id, UINT key);
+    void onHelp();
+    /// Its button is pressed while another program may have the keyboard.
+    void pressFromAfar(int id);
+    bool isUnmeantCommand(int id, Event event) const;
+    void changeResolution(const RECT& suggested);
+    void changeScreen();
+    void chooseFonts();
+    WindowFonts fittingFonts();
+    void giveFonts(const WindowFonts& fonts);
+    void takeTemplateSize();
+    Size smallestSize() const;
+    void standInSight();
+    void destroy();
+    HWND item(int id) const { return GetDlgItem(window_.get(), id); }
+    template <class Kind>
+    Kind& find(int id);
+
+    EventSink& events_;
+    EventGate& gate_;
+    const std::function<void()>& help_;
+    const int headingId_;
+    const int focusId_;
+    const int fixedPitchId_;
+    const int liveId_;
+    UniqueWindow window_;
+    WindowLayout layout_;
+    std::optional<WindowShortcuts> shortcuts_;
+    std::optional<WindowFonts> fonts_;
+    std::optional<WindowIcons> icons_;
+    HWND tips_;
+    /// By id and kind: any control may also be asked for as a plain one.
+    std::map<std::pair<int, std::type_index>, std::unique_ptr<Control>> controls_;
+    ComboLists comboLists_;
+    std::vector<std::pair<int, Event>> deferred_;
+    WinHotKeys hotKeys_;
+    WinTaskbarButton taskbarButton_;
+    TaskbarProgress progress_;
+};
+
+/// Makes the program's windows.
+class DialogFactory : public WindowFactory {
+ public:
+    /// `help`: what F1 does in every window.
+    explicit DialogFactory(
+        EventGate& gate, std::function<void()> help = [] {});
+    std::unique_ptr<Window> create(const WindowTemplate& windowTemplate,
+                                   EventSink& events) override;
+
+ private:
+    EventGate& gate_;
+    std::function<void()> help_;
+};

@@ -1,0 +1,69 @@
+// What a window does while another program is in front.
+
+#include "win32/window/dialog_window.h"
+#include "win32/window/input_sieve.h"
+#include "win32/window/system_menu.h"
+
+namespace {
+
+bool isOurs(HWND window) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process == GetCurrentProcessId();
+}
+
+/// What the command asked on its way came to the front: the program that had the keyboard has it
+/// again.
+void giveKeyboardBack(HWND before) {
+    if (!isOurs(before) && isOurs(GetForegroundWindow())) SetForegroundWindow(before);
+}
+
+/// One of the topmost windows that is never shown.
+UniqueWindow hiddenTopmost() {
+    return UniqueWindow(CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, L"Static", nullptr,
+                                        WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr));
+}
+
+}  // namespace
+
+void DialogWindow::setMenuMark(int itemId, bool marked) {
+    CheckMenuItem(GetSystemMenu(window_.get(), FALSE), static_cast<UINT>(itemId),
+                  MF_BYCOMMAND | (marked ? MF_CHECKED : MF_UNCHECKED));
+}
+
+INT_PTR DialogWindow::onSystemCommand(WPARAM command) {
+    if (isAddedItem(command)) {
+        raise(itemOf(command), Event::Click);
+        return TRUE;
+    }
+    // What was pressed next, while a command was at work, would choose in a menu that nobody saw.
+    return itemOf(command) == SC_MOUSEMENU && InputSieve::currentPress().late;
+}
+
+// Minimised it stays minimised.
+void DialogWindow::setTopmost(bool topmost) {
+    // Wine puts a window below its tooltips, and there it is topmost only if such a one follows it.
+    const UniqueWindow follower = topmost ? hiddenTopmost() : nullptr;
+    SetWindowPos(window_.get(), topmost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+std::vector<std::wstring> DialogWindow::takeHotKeys() { return hotKeys_.take(window_.get()); }
+
+void DialogWindow::releaseHotKeys() { hotKeys_.release(); }
+
+void DialogWindow::onHotKey(int id, UINT key) {
+    if (hotKeys_.has(id) && !hotKeys_.isHeld(key)) pressFromAfar(id);
+}
+
+void DialogWindow::pressFromAfar(int id) {
+    if (gate_.busy() || !canUse(id) || isUnmeantCommand(id, Event::Click)) {
+        MessageBeep(MB_OK);
+        return;
+    }
+    // While a menu of ours is open, it would take what is pressed during the command.
+    EndMenu();
+    HWND before = GetForegroundWindow();
+    raise(id, Event::Click);
+    giveKeyboardBack(before);
+}

@@ -1,0 +1,253 @@
+// What a window makes of its messages.
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "win32/window/control_class.h"
+#include "win32/window/dialog_window.h"
+#include "win32/window/focus.h"
+#include "win32/window/hourglass.h"
+#include "win32/window/input_messages.h"
+#include "win32/window/input_sieve.h"
+#include "win32/window/own_windows.h"
+#include "win32/window/system_menu.h"
+#include "win32/window/tooltips.h"
+
+namespace {
+
+/// A window's own timers.
+constexpr UINT_PTR kDeferredTimer = 1;
+
+/// A handler closed the window for good.
+bool isOver(HWND window) { return GetWindowLongPtrW(window, DWLP_USER) == 0; }
+
+bool focusStaysInWindow(HWND window) {
+    HWND focus = GetFocus();
+    return focus && GetAncestor(focus, GA_ROOT) == window;
+}
+
+bool isButton(HWND control) { return classOf(control) == ControlClass::Button; }
+
+/// A press on a window that is disabled is meant for the box that waits. Windows itself knows only
+/// the box's owner, and beeps.
+void bringBoxForward() {
+    for (HWND window : ownWindows()) {
+        HWND box = GetLastActivePopup(window);
+        if (box != window) SetForegroundWindow(box);
+    }
+}
+
+/// Round and round; backwards with the Shift key.
+void showNextTab(HWND tabStrip) {
+    const LRESULT count = SendMessageW(tabStrip, TCM_GETITEMCOUNT, 0, 0);
+    const LRESULT step = GetKeyState(VK_SHIFT) < 0 ? count - 1 : 1;
+    const LRESULT next = SendMessageW(tabStrip, TCM_GETCURSEL, 0, 0) + step;
+    SendMessageW(tabStrip, TCM_SETCURSEL, static_cast<WPARAM>(next % count), 0);
+}
+
+}  // namespace
+
+// Nothing that is thrown gets out: Windows would swallow it, or end the program without a word.
+INT_PTR CALLBACK DialogWindow::procedure(HWND window, UINT message, WPARAM wParam,
+                                         LPARAM lParam) noexcept {
+    // WM_INITDIALOG, too: the focus on a window that is not shown yet would activate it.
+    auto* self = reinterpret_cast<DialogWindow*>(GetWindowLongPtrW(window, DWLP_USER));
+    if (!self) return FALSE;
+    INT_PTR answer = FALSE;
+    self->gate_.guard([&] { answer = self->handle(message, wParam, lParam); });
+    return answer;
+}
+
+INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WinTaskbarButton::madeMessage()) progress_.onButtonMade();
+    switch (message) {
+        case WM_COMMAND:
+            onCommand(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
+            return TRUE;
+        case WM_NOTIFY:
+            return onNotify(*reinterpret_cast<const NMHDR*>(lParam));
+        case WM_SYSCOMMAND:
+            return onSystemCommand(wParam);
+        case WM_HOTKEY:
+            onHotKey(static_cast<int>(wParam), HIWORD(lParam));
+            return TRUE;
+        case WM_HELP:
+            onHelp();
+            return TRUE;
+        case WM_SIZE:
+            if (wParam != SIZE_MINIMIZED) layout_.arrange();
+            return TRUE;
+        case WM_GETMINMAXINFO: {
+            const Size size = smallestSize();
+            reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {size.width, size.height};
+            return TRUE;
+        }
+        case WM_DPICHANGED:
+            changeResolution(*reinterpret_cast<const RECT*>(lParam));
+            return TRUE;
+        case WM_DISPLAYCHANGE:
+            changeScreen();
+            return TRUE;
+        case WM_SETTINGCHANGE:
+            if (wParam == SPI_SETWORKAREA) changeScreen();
+            return FALSE;
+        case WM_CLOSE:
+            raise(kTheWindow, Event::Close);
+            return TRUE;
+        case WM_ENDSESSION:
+            if (wParam) raise(kTheWindow, Event::Close);
+            return TRUE;
+        case WM_SETCURSOR:
+            return onSetCursor(reinterpret_cast<HWND>(wParam), static_cast<short>(LOWORD(lParam)),
+                               HIWORD(lParam));
+        case WM_MOUSEACTIVATE:
+            return onMouseActivate();
+        case WM_TIMER:
+            if (wParam == kDeferredTimer) onDeferred();
+            return TRUE;
+        case WM_ACTIVATE:
+            if (LOWORD(wParam) != WA_INACTIVE) noteUsed(window_.get());
+            return FALSE;
+        default:
+            return FALSE;
+    }
+}
+
+// A box asks its owner for help, too: while one is up the gate is busy.
+void DialogWindow::onHelp() {
+    if (startsCommand(InputSieve::currentPress(), false, gate_.busy()) && !gate_.busy()) {
+        gate_.run(help_);
+    }
+}
+
+INT_PTR DialogWindow::onNotify(const NMHDR& header) {
+    if (header.code != static_cast<UINT>(TCN_SELCHANGE)) return FALSE;
+    raise(static_cast<int>(header.idFrom), Event::Click);
+    return TRUE;
+}
+
+// Sent before each mouse message of a control.
+INT_PTR DialogWindow::onSetCursor(HWND control, int place, WORD mouseMessage) {
+    if (place == HTERROR) {
+        if (isMousePress(mouseMessage)) bringBoxForward();
+        return FALSE;
+    }
+    relayToTooltips(tips_, control, mouseMessage);
+    if (!Hourglass::shown()) return FALSE;
+    Hourglass::show();
+    SetWindowLongPtrW(window_.get(), DWLP_MSGRESULT, TRUE);
+    return TRUE;
+}
+
+// The second press of a double click would hide what the first one has opened.
+INT_PTR DialogWindow::onMouseActivate() {
+    HWND window = window_.get();
+    if (GetActiveWindow() == window || !InputSieve::secondPressComes()) return FALSE;
+    SetWindowLongPtrW(window, DWLP_MSGRESULT, MA_NOACTIVATEANDEAT);
+    return TRUE;
+}
+
+void DialogWindow::onCommand(int id, WORD code, HWND control) {
+    if (id == kEnterKey || id == kEscapeKey) {
+        onKey(id);
+        return;
+    }
+    constexpr WORD kFromShortcut = 1;
+    if (!control && code == kFromShortcut) onShortcut(item(id));
+    if (!control) return;
+    if (classOf(control) == ControlClass::ComboBox) return onComboBox(id, code, control);
+    const auto event = eventOf(classOf(control), code, focusStaysInWindow(window_.get()));
+    if (!event) return;
+    // Windows lets Enter follow a press of the mouse, not one that another program posts.
+    if (control == GetFocus() && isPushButton(control)) focusOn(window_.get(), control);
+    raise(id, *event);
+}
+
+void DialogWindow::onComboBox(int id, WORD code, HWND comboBox) {
+    const auto step = comboLists_.notified(comboBox, code);
+    if (step == DropDown::Step::Act || step == DropDown::Step::ActLater) {
+        showChosenLine(comboBox);
+        return step == DropDown::Step::Act ? raise(id, Event::Click) : defer(id, Event::Click);
+    }
+    const auto event = eventOf(ControlClass::ComboBox, code, focusStaysInWindow(window_.get()));
+    if (!event) return;
+    // A box in the midst of a change of the focus would take it from who is getting it.
+    *event == Event::Validate ? defer(id, *event) : raise(id, *event);
+}
+
+void DialogWindow::defer(int id, Event event) {
+    deferred_.emplace_back(id, event);
+    SetTimer(window_.get(), kDeferredTimer, USER_TIMER_MINIMUM, nullptr);
+}
+
+// The end of a press that took the focus elsewhere has them served first, and is still this press.
+void DialogWindow::onDeferred() {
+    if (GetKeyState(VK_LBUTTON) >= 0) serveDeferred();
+}
+
+void DialogWindow::serveDeferred() {
+    HWND window = window_.get();
+    KillTimer(window, kDeferredTimer);
+    // A handler may end this object.
+    for (const auto& [id, event] : std::exchange(deferred_, {})) {
+        if (isOver(window)) return;
+        gate_.deliver(events_, id, event, *this);
+    }
+}
+
+/// What a person types or chooses meanwhile is kept; what a press would start is not.
+bool DialogWindow::isUnmeantCommand(int id, Event event) const {
+    const bool isClick = event == Event::Click && (!item(id) || isButton(item(id)));
+    if (!isClick && event != Event::DoubleClick && event != Event::Enter) return false;
+    return !startsCommand(InputSieve::currentPress(), events_.takesSecondPress(id, event),
+                          gate_.busy());
+}
+
+/// Whether this control's event is still meant after those that came before it.
+bool DialogWindow::serveFirst(int id) {
+    HWND window = window_.get();
+    const int shown = InputSieve::windowsShown();
+    serveDeferred();
+    // Who was asked something meanwhile may think otherwise now.
+    return !isOver(window) && canUse(id) && InputSieve::windowsShown() == shown;
+}
+
+void DialogWindow::raise(int id, Event event) {
+    if (isUnmeantCommand(id, event)) return;
+    HWND window = window_.get();
+    const int focusId = focusId_;
+    std::erase(deferred_, std::pair(id, event));
+    if (!deferred_.empty() && event != Event::Close && !serveFirst(id)) return;
+    gate_.deliver(events_, id, event, *this);
+    if (GetActiveWindow() == window) keepKeyboard(window, GetDlgItem(window, focusId));
+}
+
+void DialogWindow::onKey(int id) {
+    HWND focus = GetFocus();
+    const auto kind = id == kEnterKey && focus ? classOf(focus) : ControlClass::Other;
+    // Enter in a list is a double click on its line.
+    if (kind == ControlClass::ListBox) {
+        raise(GetDlgCtrlID(focus), Event::DoubleClick);
+    } else if (kind == ControlClass::Edit && GetParent(focus) == window_.get()) {
+        raise(GetDlgCtrlID(focus), Event::Enter);
+    } else if (id == kEnterKey && isPushButton(focus) && GetDlgCtrlID(focus) != kEnterKey) {
+        SendMessageW(focus, BM_CLICK, 0, 0);
+    } else {
+        raise(id, Event::Click);
+    }
+}
+
+void DialogWindow::onShortcut(HWND control) {
+    if (!canBeUsed(control)) return;
+    // As a click would: leaving a field ends what was typed in it, which may change what can be
+    // used.
+    focusOn(window_.get(), control);
+    if (!canBeUsed(control)) return;
+    if (classOf(control) == ControlClass::Button) {
+        SendMessageW(control, BM_CLICK, 0, 0);
+    } else if (classOf(control) == ControlClass::TabStrip) {
+        showNextTab(control);
+        raise(GetDlgCtrlID(control), Event::Click);
+    }
+}

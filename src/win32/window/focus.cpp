@@ -1,0 +1,28 @@
+#include "win32/window/focus.h"
+
+#include "win32/window/control_class.h"
+
+bool canBeUsed(HWND control) {
+    return control && IsWindowVisible(control) && IsWindowEnabled(control);
+}
+
+bool isPushButton(HWND control) {
+    if (classOf(control) != ControlClass::Button) return false;
+    const LONG kind = GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK;
+    return kind == BS_PUSHBUTTON || kind == BS_DEFPUSHBUTTON;
+}
+
+void focusOn(HWND window, HWND control) {
+    if (!control) return;
+    SendMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+}
+
+void keepKeyboard(HWND window, HWND home) {
+    if (canBeUsed(GetFocus())) return;
+    focusOn(window, canBeUsed(home) ? home : GetNextDlgTabItem(window, nullptr, FALSE));
+}
+
+void showFocusCues(HWND window) {
+    SendMessageW(window, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS | UISF_HIDEACCEL),
+                 0);
+}

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <windows.h>
+
+#include "ports/controls.h"
+
+/// What every control can do, for each of the control interfaces.
+template <class Interface>
+class ControlOf : public Interface {
+ public:
+    explicit ControlOf(HWND control) : control_(control) {}
+
+    std::wstring text() const override {
+        std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(control_)), L'\0');
+        const int length = GetWindowTextW(control_, text.data(), static_cast<int>(text.size()) + 1);
+        text.resize(static_cast<std::size_t>(length));
+        return text;
+    }
+    void setText(const std::wstring& text) override {
+        if (this->text() != text) SetWindowTextW(control_, text.c_str());
+    }
+    void setEnabled(bool enabled) override { EnableWindow(control_, enabled); }
+    void setVisible(bool visible) override { ShowWindow(control_, visible ? SW_SHOWNA : SW_HIDE); }
+    void repaint() override {
+        RedrawWindow(control_, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
+    }
+
+ protected:
+    LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return SendMessageW(control_, message, wParam, lParam);
+    }
+    int sendForInt(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return static_cast<int>(send(message, wParam, lParam));
+    }
+    HWND handle() const { return control_; }
+
+ private:
+    HWND control_;
+};
+
+using WinControl = ControlOf<Control>;
+
+/// A label that screen readers read out when it changes.
+class WinLiveLabel : public WinControl {
+ public:
+    using WinControl::WinControl;
+    void setText(const std::wstring& text) override;
+};
+
+class WinCheckBox : public ControlOf<CheckBox> {
+ public:
+    using ControlOf::ControlOf;
+    bool checked() const override;
+    void setChecked(bool checked) override;
+};
+
+class WinListBox : public ControlOf<ListBox> {
+ public:
+    using ControlOf::ControlOf;
+
+    int count() const override;
+    std::wstring line(int index) const override;
+    bool selected(int index) const override;
+    void select(int index, bool selected) override;
+    void clearSelection() override;
+    int mark(int index) const override;
+    void setMark(int index, int mark) override;
+    void setLines(int count, const std::function<std::wstring(int)>& line) override;
+    void changeText(int index, const std::wstring& line) override;
+    void changeTexts(const std::function<std::wstring(int)>& line) override;
+    void stopDrawing() override;
+    void resumeDrawing() override;
+
+    /// Whether more than one line can be selected.
+    bool severalSelectable() const;
+    /// The list has another font: it is scrolled sideways as far as its widest line reaches now.
+    void measureLines();
+
+ private:
+    std::vector<int> selection() const;
+    void setExtent(int pixels) { send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(pixels)); }
+
+    int pauses_ = 0;
+    bool paused_ = false;  ///< whether the control knows of it
+};
+
+class WinComboBox : public ControlOf<ComboBox> {
+ public:
+    using ControlOf::ControlOf;
+    void setLines(std::span<const std::wstring> lines) override;
+    int selectedLine() const override;
+    void selectLine(int index) override;
+};
+
+class WinTabStrip : public ControlOf<TabStrip> {
+ public:
+    using ControlOf::ControlOf;
+    void addTab(const std::wstring& text) override;
+    int selectedTab() const override;
+    void selectTab(int index) override;
+};

@@ -1,0 +1,76 @@
+#include "win32/window/win_desktop.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+#include <string>
+
+namespace {
+
+std::string inAnsiCodePage(const std::wstring& text) {
+    const int size = WideCharToMultiByte(CP_ACP, 0, text.c_str(), static_cast<int>(text.size()),
+                                         nullptr, 0, nullptr, nullptr);
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(CP_ACP, 0, text.c_str(), static_cast<int>(text.size()), bytes.data(), size,
+                        nullptr, nullptr);
+    return bytes;
+}
+
+HWND handleOf(Desktop::WindowHandle window) { return reinterpret_cast<HWND>(window); }
+
+struct TitleSearch {
+    const std::function<bool(const std::wstring&)>& isTitle;
+    HWND found = nullptr;
+};
+
+/// As Windows keeps it: a window that does not answer need not be asked.
+std::wstring titleOf(HWND window) {
+    std::wstring title(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    const int length = GetWindowTextW(window, title.data(), static_cast<int>(title.size()));
+    title.resize(static_cast<std::size_t>(length));
+    return title;
+}
+
+bool isOtherProgramsMainWindow(HWND window) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process != GetCurrentProcessId() && IsWindowVisible(window) &&
+           !GetWindow(window, GW_OWNER);
+}
+
+// From the uppermost window down.
+BOOL CALLBACK look(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<TitleSearch*>(parameter);
+    if (isOtherProgramsMainWindow(window) && search.isTitle(titleOf(window))) search.found = window;
+    return search.found == nullptr;
+}
+
+}  // namespace
+
+Desktop::WindowHandle WinDesktop::findWindow(const std::wstring& title) {
+    return reinterpret_cast<WindowHandle>(FindWindowA(nullptr, inAnsiCodePage(title).c_str()));
+}
+
+Desktop::WindowHandle WinDesktop::findWindow(
+    const std::function<bool(const std::wstring&)>& isTitle) {
+    TitleSearch search{isTitle};
+    EnumWindows(look, reinterpret_cast<LPARAM>(&search));
+    return reinterpret_cast<WindowHandle>(search.found);
+}
+
+// Posted: the other program may be waiting for something.
+void WinDesktop::restore(WindowHandle window) {
+    if (IsIconic(handleOf(window))) ShowWindowAsync(handleOf(window), SW_RESTORE);
+}
+
+void WinDesktop::bringToFront(WindowHandle window) { SetForegroundWindow(handleOf(window)); }
+
+bool WinDesktop::open(const std::wstring& document) {
+    SHELLEXECUTEINFOW info{};
+    info.cbSize = sizeof info;
+    // What went wrong we tell ourselves.
+    info.fMask = SEE_MASK_FLAG_NO_UI;
+    info.lpFile = document.c_str();
+    info.nShow = SW_SHOWNORMAL;
+    return ShellExecuteExW(&info) != FALSE;
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "ports/file_dialogs.h"
+
+/// The dialogs of the shell, above the program's active window.
+class WinFileDialogs : public FileDialogs {
+ public:
+    std::optional<std::wstring> askWhereToSave(const SaveQuestion& question) override;
+};

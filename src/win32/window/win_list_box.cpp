@@ -1,0 +1,130 @@
+#include <algorithm>
+#include <utility>
+
+#include "win32/window/widest_line.h"
+#include "win32/window/win_controls.h"
+
+namespace {
+
+WPARAM position(int index) { return static_cast<WPARAM>(index); }
+
+LPARAM asLparam(const std::wstring& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
+
+}  // namespace
+
+int WinListBox::count() const { return sendForInt(LB_GETCOUNT); }
+
+std::wstring WinListBox::line(int index) const {
+    const int length = sendForInt(LB_GETTEXTLEN, position(index));
+    if (length <= 0) return {};
+    std::wstring text(static_cast<std::size_t>(length), L'\0');
+    send(LB_GETTEXT, position(index), reinterpret_cast<LPARAM>(text.data()));
+    return text;
+}
+
+bool WinListBox::selected(int index) const { return send(LB_GETSEL, position(index)) > 0; }
+
+bool WinListBox::severalSelectable() const {
+    return (GetWindowLongW(handle(), GWL_STYLE) & (LBS_EXTENDEDSEL | LBS_MULTIPLESEL)) != 0;
+}
+
+void WinListBox::select(int index, bool selected) {
+    if (severalSelectable()) {
+        send(LB_SETSEL, selected, index);
+    } else if (selected) {
+        send(LB_SETCURSEL, position(index));
+    }
+}
+
+void WinListBox::clearSelection() {
+    if (severalSelectable()) {
+        send(LB_SETSEL, FALSE, -1);
+    } else {
+        send(LB_SETCURSEL, static_cast<WPARAM>(-1));
+    }
+}
+
+int WinListBox::mark(int index) const { return sendForInt(LB_GETITEMDATA, position(index)); }
+
+void WinListBox::setMark(int index, int mark) { send(LB_SETITEMDATA, position(index), mark); }
+
+void WinListBox::setLines(int count, const std::function<std::wstring(int)>& line) {
+    DrawingPause pause(*this);
+    send(LB_RESETCONTENT);
+    constexpr LPARAM kBytesPerLine = 200;
+    send(LB_INITSTORAGE, position(count), count * kBytesPerLine);
+    WidestLine widest(handle(), count);
+    for (int i = 0; i < count; ++i) {
+        const std::wstring text = line(i);
+        widest.add(text);
+        send(LB_ADDSTRING, 0, asLparam(text));
+    }
+    setExtent(widest.extent());
+}
+
+void WinListBox::changeText(int index, const std::wstring& line) {
+    const LRESULT top = send(LB_GETTOPINDEX);
+    const bool wasSelected = selected(index);
+    const LRESULT data = send(LB_GETITEMDATA, position(index));
+    send(LB_DELETESTRING, position(index));
+    send(LB_INSERTSTRING, position(index), asLparam(line));
+    send(LB_SETITEMDATA, position(index), data);
+    if (wasSelected && severalSelectable()) {
+        send(LB_SELITEMRANGEEX, position(index), index);
+    } else if (wasSelected) {
+        send(LB_SETCURSEL, position(index));
+    }
+    if (send(LB_GETTOPINDEX) != top) send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
+    WidestLine widest(handle(), 1);
+    widest.add(line);
+    if (widest.extent() > sendForInt(LB_GETHORIZONTALEXTENT)) setExtent(widest.extent());
+}
+
+std::vector<int> WinListBox::selection() const {
+    if (!severalSelectable()) return {sendForInt(LB_GETCURSEL)};
+    const int count = std::max(0, sendForInt(LB_GETSELCOUNT));
+    std::vector<int> lines(static_cast<std::size_t>(count));
+    send(LB_GETSELITEMS, position(count), reinterpret_cast<LPARAM>(lines.data()));
+    return lines;
+}
+
+void WinListBox::changeTexts(const std::function<std::wstring(int)>& line) {
+    DrawingPause pause(*this);
+    const auto lines = static_cast<std::size_t>(count());
+    const LRESULT top = send(LB_GETTOPINDEX);
+    const LRESULT caret = send(LB_GETCARETINDEX);
+    const std::vector<int> selected = selection();
+    std::vector<std::pair<std::wstring, int>> changed(lines);
+    for (std::size_t i = 0; i < lines; ++i) {
+        const int index = static_cast<int>(i);
+        changed[i] = {line(index), mark(index)};
+    }
+    setLines(count(), [&](int i) { return changed[static_cast<std::size_t>(i)].first; });
+    for (std::size_t i = 0; i < lines; ++i) {
+        if (changed[i].second != 0) setMark(static_cast<int>(i), changed[i].second);
+    }
+    for (const int index : selected) select(index, true);
+    constexpr LPARAM kEvenHalfSeen = TRUE;  // not to be scrolled to
+    if (severalSelectable()) send(LB_SETCARETINDEX, static_cast<WPARAM>(caret), kEvenHalfSeen);
+    send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
+}
+
+void WinListBox::measureLines() {
+    WidestLine widest(handle(), count());
+    for (int i = 0; i < count(); ++i) widest.add(line(i));
+    setExtent(widest.extent());
+}
+
+// Windows shows a hidden window whose drawing is switched on: it is left alone.
+void WinListBox::stopDrawing() {
+    if (pauses_++ != 0) return;
+    paused_ = (GetWindowLongW(handle(), GWL_STYLE) & WS_VISIBLE) != 0;
+    if (paused_) send(WM_SETREDRAW, FALSE);
+}
+
+void WinListBox::resumeDrawing() {
+    if (--pauses_ != 0 || !paused_) return;
+    send(WM_SETREDRAW, TRUE);
+    RedrawWindow(handle(), nullptr, nullptr,
+                 RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
+}

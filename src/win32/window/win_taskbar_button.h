@@ -1,0 +1,22 @@
+#pragma once
+
+#include <windows.h>
+
+#include <shobjidl.h>
+
+#include "rules/taskbar_progress.h"
+#include "win32/com/com_ptr.h"
+
+/// A window's button on the taskbar. A shell that has no such thing shows nothing.
+class WinTaskbarButton : public TaskbarButton {
+ public:
+    explicit WinTaskbarButton(HWND window);
+    void showProgress(int done, int total) override;
+
+    /// The message by which the taskbar says that it has made the button.
+    static UINT madeMessage();
+
+ private:
+    HWND window_;
+    ComPtr<ITaskbarList3> taskbar_;
+};

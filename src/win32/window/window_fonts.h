@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ports/area.h"
+#include "win32/window/handles.h"
+
+/// The fonts of a window at one resolution, made from the one the system uses in its own boxes,
+/// `percent` of its size.
+class WindowFonts {
+ public:
+    WindowFonts(int dpi, int percent);
+
+    HFONT text() const { return text_.get(); }
+    HFONT heading() const { return heading_.get(); }
+    HFONT fixedPitch() const { return fixedPitch_.get(); }
+
+ private:
+    UniqueFont text_;
+    UniqueFont heading_;
+    UniqueFont fixedPitch_;
+};
+
+/// The size of a font's average character, by which dialog templates measure: 4 units across and
+/// 8 down.
+Size averageCharacter(HFONT font);

@@ -1,0 +1,40 @@
+// What the system shows for us: its message boxes, and a window's button on its taskbar.
+
+#include "ports/message_boxes.h"
+#include "rules/taskbar_progress.h"
+#include "unit/unit_test.h"
+
+namespace {
+
+using Answer = MessageBoxes::Answer;
+
+using Told = std::vector<std::pair<int, int>>;
+
+struct FakeButton : TaskbarButton {
+    Told told;
+    void showProgress(int done, int total) override { told.emplace_back(done, total); }
+};
+
+}  // namespace
+
+TEST(MessageBoxButtons, AreFrenchAndALoneOneStaysOk) {
+    EXPECT_STREQ(frenchCaption(Answer::Yes, false), L"&Oui");
+    EXPECT_STREQ(frenchCaption(Answer::No, false), L"&Non");
+    EXPECT_STREQ(frenchCaption(Answer::Retry, true), L"&Réessayer");
+    EXPECT_STREQ(frenchCaption(Answer::Cancel, true), L"Annuler");
+    EXPECT_EQ(frenchCaption(Answer::Cancel, false), nullptr) << "the lone button, on Windows";
+    EXPECT_EQ(frenchCaption(Answer::Ok, false), nullptr) << "the lone button, elsewhere";
+}
+
+TEST(TaskbarProgress, IsToldOnceTheButtonIsThere) {
+    FakeButton button;
+    TaskbarProgress progress(button);
+    progress.set(1, 3);
+    EXPECT_EQ(button.told, Told{});
+    progress.onButtonMade();
+    progress.set(2, 3);
+    progress.set(2, 3);
+    progress.onButtonMade();  // the Explorer was started again
+    progress.set(0, 0);
+    EXPECT_EQ(button.told, (Told{{1, 3}, {2, 3}, {2, 3}, {0, 0}}));
+}

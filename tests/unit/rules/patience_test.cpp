@@ -1,0 +1,67 @@
+#include "rules/patience.h"
+
+#include "fakes/fake_message_boxes.h"
+#include "fakes/fake_waiting.h"
+#include "unit/unit_test.h"
+
+namespace {
+
+using Answer = MessageBoxes::Answer;
+
+struct PatienceTest : testing::Test {
+    FakeWaiting machine;
+    FakeMessageBoxes boxes;
+    Patience patience{machine, boxes};
+
+    /// A call that is refused for so long from the first attempt on; each answer takes its time.
+    CallResult callRefusedFor(std::uint64_t refused, std::uint64_t answerTime = 10) {
+        const std::uint64_t end = machine.time + refused;
+        return patience.call([&, end] {
+            machine.time += answerTime;
+            return machine.time < end ? call_result::kRejected : 0;
+        });
+    }
+};
+
+}  // namespace
+
+TEST_F(PatienceTest, RetriesAtOnceThenAtGrowingIntervals) {
+    EXPECT_EQ(callRefusedFor(9'000), 0);
+    EXPECT_EQ(std::vector(machine.waits.begin(), machine.waits.begin() + 7),
+              (std::vector<unsigned>{50, 70, 150, 310, 630, 1000, 1000}));
+    EXPECT_EQ(boxes.shown.size(), 0U);
+}
+
+TEST_F(PatienceTest, AsksTheUserTenSecondsAfterTheFirstRefusal) {
+    for (unsigned retries = 0; retries < 3; ++retries) {
+        boxes.shown.clear();
+        boxes.answers.assign(retries, Answer::Retry);
+        boxes.answers.push_back(Answer::Cancel);
+        const std::uint64_t start = machine.time;
+        EXPECT_EQ(callRefusedFor(600'000), call_result::kRejected);
+        EXPECT_EQ(boxes.shown.size(), retries + 1);
+        EXPECT_GE(machine.time - start, 10'000U * (retries + 1));
+        EXPECT_LT(machine.time - start, 12'000U * (retries + 1));
+    }
+}
+
+// The application hangs for twelve seconds before it refuses: that time doesn't count.
+TEST_F(PatienceTest, CountsFromTheFirstRefusalNotFromTheCall) {
+    machine.time += 12'000;
+    EXPECT_EQ(patience.afterRefusal(), 0U);
+    EXPECT_EQ(callRefusedFor(20'000, 12'000), 0);
+    EXPECT_EQ(boxes.shown.size(), 0U);
+}
+
+// Where COM asks its filter, the same clock serves the filter and then the caller.
+TEST_F(PatienceTest, SharesOneClockWithTheMessageFilter) {
+    boxes.answers = {Answer::Cancel};
+    const CallResult result = patience.call([&] {
+        machine.time += 12'000;
+        while (const auto wait = patience.afterRefusal()) machine.time += *wait + 10;
+        return call_result::kRetryLater;
+    });
+    EXPECT_EQ(result, call_result::kRetryLater);
+    EXPECT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(machine.waits.size(), 0U) << "the caller waited once more";
+}
