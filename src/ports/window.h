@@ -34,6 +34,8 @@ class Window {
     virtual void showProgress(int done, int total) = 0;
     /// The check mark of an item of the system menu.
     virtual void setMenuMark(int itemId, bool marked) = 0;
+    /// Whether an item of the system menu can be chosen; at first all can.
+    virtual void setMenuItemEnabled(int itemId, bool enabled) = 0;
     /// Above the windows of all programs, or among them.
     virtual void setTopmost(bool topmost) = 0;
     /// From now on the template's hot keys act, whichever program has the keyboard. Gives the names
@@ -69,11 +71,14 @@ struct Anchor {
     Growth down;
 };
 
-/// An item that a window adds to its system menu, below a separator. Chosen, it is clicked. The
-/// four lowest bits of its id are 0 (the WM_SYSCOMMAND message).
+/// An item that a window adds to its system menu, below a separator, and that it also shows in a
+/// shortcut menu of its own. Chosen, it is clicked. The four lowest bits of its id are 0 (the
+/// WM_SYSCOMMAND message).
 struct SystemMenuItem {
     int id;
-    const wchar_t* text;
+    const wchar_t* text;  ///< behind a tab, the name of the key that chooses it
+    bool startsGroup =
+        false;  ///< a separator stands above it; above the first item one always does
 };
 
 /// A key of the digit row that acts with Ctrl and Shift as a button of the window does, whichever

@@ -27,6 +27,7 @@ struct FakeWindow : Window {
     int progressDone = 0;
     int progressTotal = 0;
     std::set<int> menuMarks;
+    std::set<int> greyedItems;
     bool topmost = false;
     bool hasHotKeys = false;
     std::vector<std::wstring> keysOfOthers;  ///< among the hot keys
@@ -54,6 +55,9 @@ struct FakeWindow : Window {
     void setMenuMark(int itemId, bool marked) override {
         marked ? void(menuMarks.insert(itemId)) : void(menuMarks.erase(itemId));
     }
+    void setMenuItemEnabled(int itemId, bool enabled) override {
+        enabled ? void(greyedItems.erase(itemId)) : void(greyedItems.insert(itemId));
+    }
     void setTopmost(bool value) override { topmost = value; }
     std::vector<std::wstring> takeHotKeys() override {
         hasHotKeys = keysOfOthers.empty();
@@ -66,7 +70,9 @@ struct FakeWindow : Window {
 
     /// The user's own deeds.
     void leaveAt(int left, int top) { area = areaAt({left, top}, area.size()); }
-    void click(int id) { sink.raise(id, Event::Click); }
+    void click(int id) {
+        if (!greyedItems.contains(id)) sink.raise(id, Event::Click);
+    }
     void close() { sink.raise(kTheWindow, Event::Close); }
 
  private:

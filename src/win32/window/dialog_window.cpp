@@ -67,6 +67,7 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
       focusId_(windowTemplate.focusId),
       fixedPitchId_(windowTemplate.fixedPitchId),
       liveId_(windowTemplate.liveId),
+      menuItems_(windowTemplate.systemMenu),
       window_(makeDialog(windowTemplate.dialogId, procedure)),
       layout_(window_.get(), windowTemplate),
       tips_(addTooltips(window_.get(), windowTemplate.tooltips)),
@@ -81,7 +82,7 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
     tellScreenReaders(window_.get(), windowTemplate.names, liveId_);
     shortcuts_.emplace(window_.get(), windowTemplate.dialogId);
     colourAsTabPages(window_.get());
-    addToSystemMenu(window_.get(), windowTemplate.systemMenu);
+    addToSystemMenu(window_.get(), menuItems_);
 }
 
 DialogWindow::~DialogWindow() { destroy(); }
@@ -90,7 +91,8 @@ bool DialogWindow::isShown() const { return IsWindowVisible(window_.get()); }
 
 bool DialogWindow::canUse(int controlId) const {
     HWND control = item(controlId);
-    return !control || (IsWindowVisible(control) && IsWindowEnabled(control));
+    if (!control) return !isGreyed(window_.get(), controlId);
+    return IsWindowVisible(control) && IsWindowEnabled(control);
 }
 
 template <class Kind>

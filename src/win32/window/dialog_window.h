@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <typeindex>
 #include <utility>
 #include <vector>
@@ -42,6 +43,7 @@ class DialogWindow : public Window, private EventSource {
     Area workArea() const override;
     void showProgress(int done, int total) override;
     void setMenuMark(int itemId, bool marked) override;
+    void setMenuItemEnabled(int itemId, bool enabled) override;
     void setTopmost(bool topmost) override;
     std::vector<std::wstring> takeHotKeys() override;
     void releaseHotKeys() override;
@@ -70,6 +72,7 @@ class DialogWindow : public Window, private EventSource {
     void serveDeferred();
     bool serveFirst(int id);
     INT_PTR onSystemCommand(WPARAM command);
+    INT_PTR onContextMenu(HWND control, LPARAM place);
     void onHotKey(int id, UINT key);
     void onHelp();
     /// Its button is pressed while another program may have the keyboard.
@@ -95,6 +98,7 @@ class DialogWindow : public Window, private EventSource {
     const int focusId_;
     const int fixedPitchId_;
     const int liveId_;
+    const std::span<const SystemMenuItem> menuItems_;
     UniqueWindow window_;
     WindowLayout layout_;
     std::optional<WindowShortcuts> shortcuts_;

@@ -31,13 +31,28 @@ void DialogWindow::setMenuMark(int itemId, bool marked) {
                   MF_BYCOMMAND | (marked ? MF_CHECKED : MF_UNCHECKED));
 }
 
+void DialogWindow::setMenuItemEnabled(int itemId, bool enabled) {
+    EnableMenuItem(GetSystemMenu(window_.get(), FALSE), static_cast<UINT>(itemId),
+                   MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
+}
+
 INT_PTR DialogWindow::onSystemCommand(WPARAM command) {
     if (isAddedItem(command)) {
-        raise(itemOf(command), Event::Click);
+        // Other programs may choose what the user can't.
+        if (canUse(itemOf(command))) raise(itemOf(command), Event::Click);
         return TRUE;
     }
     // What was pressed next, while a command was at work, would choose in a menu that nobody saw.
     return itemOf(command) == SC_MOUSEMENU && InputSieve::currentPress().late;
+}
+
+// Edit fields take the message for a menu of their own, and Windows' own menu belongs to the frame.
+INT_PTR DialogWindow::onContextMenu(HWND control, LPARAM place) {
+    HWND window = window_.get();
+    if (menuItems_.empty() || isOnFrame(window, place)) return FALSE;
+    if (gate_.busy() || !startsCommand(InputSieve::currentPress(), true, false)) return TRUE;
+    showShortcutMenu(window, menuItems_, shortcutMenuPlace(control, place));
+    return TRUE;
 }
 
 // Minimised it stays minimised.

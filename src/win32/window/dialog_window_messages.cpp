@@ -69,6 +69,8 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return onNotify(*reinterpret_cast<const NMHDR*>(lParam));
         case WM_SYSCOMMAND:
             return onSystemCommand(wParam);
+        case WM_CONTEXTMENU:
+            return onContextMenu(reinterpret_cast<HWND>(wParam), lParam);
         case WM_HOTKEY:
             onHotKey(static_cast<int>(wParam), HIWORD(lParam));
             return TRUE;

@@ -5,6 +5,7 @@
 using UniqueWindow = Unique<HWND, DestroyWindow>;
 using UniqueFont = Unique<HFONT, DeleteObject>;
 using UniqueIcon = Unique<HICON, DestroyIcon>;
+using UniqueMenu = Unique<HMENU, DestroyMenu>;
 using UniqueShortcuts = Unique<HACCEL, DestroyAcceleratorTable>;
 
 /// The device context of a window (null: of the screen) with a font selected into it.

@@ -32,7 +32,8 @@ constexpr bool isPress(UINT message) {
 }
 
 constexpr bool isRelease(UINT message) {
-    return message == WM_LBUTTONUP || message == WM_NCLBUTTONUP || message == WM_POINTERUP;
+    return message == WM_LBUTTONUP || message == WM_NCLBUTTONUP || message == WM_RBUTTONUP ||
+           message == WM_POINTERUP;
 }
 
 constexpr bool isKeyDown(UINT message) { return message == WM_KEYDOWN || message == WM_SYSKEYDOWN; }

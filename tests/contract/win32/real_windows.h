@@ -2,10 +2,22 @@
 
 #include "contract/contract_ids.h"
 #include "unit/unit_test.h"
+#include "win32/process/message_pump.h"
 #include "win32/window/dialog_window.h"
 #include "win32/window/own_windows.h"
 #include "win32/window/win_gate_keeper.h"
 #include "win32/window/win_message_boxes.h"
+
+using RaisedEvents = std::vector<std::pair<int, Event>>;
+
+/// Serves this thread's windows until something is so, or far too long.
+inline bool eventually(const std::function<bool()>& isSo) {
+    for (int i = 0; i < 1000 && !isSo(); ++i) {
+        MsgWaitForMultipleObjectsEx(0, nullptr, 10, QS_ALLINPUT, 0);
+        handleWaitingMessages();
+    }
+    return isSo();
+}
 
 /// What makes the program's windows.
 struct RealWindows {

@@ -8,21 +8,11 @@
 #include <thread>
 
 #include "contract/win32/real_windows.h"
-#include "win32/process/message_pump.h"
 #include "win32/window/hourglass.h"
 
 namespace {
 
 constexpr wchar_t kTitle[] = L"Une question";
-
-/// Serves this thread's windows until something is so, or far too long.
-bool eventually(const std::function<bool()>& isSo) {
-    for (int i = 0; i < 1000 && !isSo(); ++i) {
-        MsgWaitForMultipleObjectsEx(0, nullptr, 10, QS_ALLINPUT, 0);
-        handleWaitingMessages();
-    }
-    return isSo();
-}
 
 /// A window of another thread, which is to ours what another program is.
 class OtherProgram {
@@ -88,8 +78,6 @@ LRESULT CALLBACK completing(HWND box, UINT message, WPARAM wParam, LPARAM lParam
     return result;
 }
 
-using RaisedEvents = std::vector<std::pair<int, Event>>;
-
 int labelsReadOut = 0;
 
 void CALLBACK onLiveRegion(HWINEVENTHOOK, DWORD, HWND label, LONG, LONG, DWORD, DWORD) {
@@ -101,13 +89,11 @@ class WindowsAndBoxes : public testing::Test, protected RealWindows, private Eve
     void raise(int id, Event event) override { raised.emplace_back(id, event); }
 
     std::unique_ptr<Window> makeWindow(HWND& handle) {
-        static constexpr SystemMenuItem kItems[] = {{kItem, L"Un"}, {kItem + 16, L"Deux"}};
         auto window = factory.create({.dialogId = IDD_CONTRACT,
                                       .tooltips = kTips,
                                       .liveId = IDC_CONTRACT_LABEL,
                                       .anchors = kWide,
-                                      .shrinks = {40, 40},
-                                      .systemMenu = kItems},
+                                      .shrinks = {40, 40}},
                                      *this);
         handle = ownWindows().front();
         return window;
@@ -120,7 +106,6 @@ class WindowsAndBoxes : public testing::Test, protected RealWindows, private Eve
     }
 
     RaisedEvents raised;
-    static constexpr int kItem = 1344;
     HWND first = nullptr;
     HWND second = nullptr;
     std::unique_ptr<Window> firstWindow = makeWindow(first);
@@ -277,19 +262,4 @@ TEST_F(WindowsAndBoxes, BoxStandsAboveAWindowThatIsAlwaysVisibleAndUnderNoHourgl
     firstWindow->setTopmost(false);
     EXPECT_EQ(GetWindowLongW(first, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
     EXPECT_TRUE(IsIconic(first));
-}
-
-TEST_F(WindowsAndBoxes, ItemsOfTheSystemMenuStandBelowASeparatorAndAreClicked) {
-    HMENU menu = GetSystemMenu(first, FALSE);
-    const int count = GetMenuItemCount(menu);
-    EXPECT_NE(GetMenuState(menu, static_cast<UINT>(count - 3), MF_BYPOSITION) & MF_SEPARATOR, 0U);
-    EXPECT_EQ(GetMenuItemID(menu, count - 2), static_cast<UINT>(kItem));
-    for (const auto& [marked, state] : {std::pair(true, MF_CHECKED), {false, MF_UNCHECKED}}) {
-        firstWindow->setMenuMark(kItem, marked);
-        EXPECT_EQ(GetMenuState(menu, kItem, MF_BYCOMMAND), state);
-        EXPECT_EQ(GetMenuState(menu, kItem + 16, MF_BYCOMMAND), MF_UNCHECKED);
-    }
-    SendMessageW(first, WM_SYSCOMMAND, kItem + 16 + 3, 0);
-    SendMessageW(first, WM_SYSCOMMAND, SC_MINIMIZE, 0);
-    EXPECT_EQ(raised, (RaisedEvents{{kItem + 16, Event::Click}}));
 }

@@ -1,0 +1,77 @@
+// The items that a window adds to its system menu.
+
+#include "contract/win32/real_windows.h"
+#include "win32/window/system_menu.h"
+
+namespace {
+
+constexpr int kItem = 1344;
+constexpr SystemMenuItem kItems[] = {{kItem, L"Un"}, {kItem + 16, L"Deux\tCtrl+Z", true}};
+
+/// From a position on; 0 for a separator.
+std::vector<UINT> idsIn(HMENU menu, int from) {
+    std::vector<UINT> ids;
+    for (int i = from; i < GetMenuItemCount(menu); ++i) ids.push_back(GetMenuItemID(menu, i));
+    return ids;
+}
+
+class Menus : public testing::Test, protected RealWindows, private EventSink {
+ protected:
+    HWND dialog() const { return ownWindows().front(); }
+
+    std::unique_ptr<Window> window_ =
+        factory.create({.dialogId = IDD_CONTRACT, .systemMenu = kItems}, *this);
+    RaisedEvents raised;
+
+ private:
+    void raise(int id, Event event) override { raised.emplace_back(id, event); }
+};
+
+}  // namespace
+
+TEST_F(Menus, StandBelowSeparatorsAndAreClickedUnlessGreyed) {
+    HMENU menu = GetSystemMenu(dialog(), FALSE);
+    const int count = GetMenuItemCount(menu);
+    EXPECT_EQ(idsIn(menu, count - 4), (std::vector<UINT>{0, kItem, 0, kItem + 16}));
+    for (const auto& [marked, state] : {std::pair(true, MF_CHECKED), {false, MF_UNCHECKED}}) {
+        window_->setMenuMark(kItem, marked);
+        EXPECT_EQ(GetMenuState(menu, kItem, MF_BYCOMMAND), state);
+        EXPECT_EQ(GetMenuState(menu, kItem + 16, MF_BYCOMMAND), MF_UNCHECKED);
+    }
+    // As when it is chosen, and as when a key of the accelerators stands for it.
+    for (const bool enabled : {false, true}) {
+        window_->setMenuItemEnabled(kItem + 16, enabled);
+        SendMessageW(dialog(), WM_SYSCOMMAND, kItem + 16 + 3, 0);
+        SendMessageW(dialog(), WM_SYSCOMMAND, MAKEWPARAM(kItem + 16, 1), 0);
+        SendMessageW(dialog(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    }
+    EXPECT_EQ(raised, RaisedEvents(2, {kItem + 16, Event::Click}));
+}
+
+TEST_F(Menus, AlsoComeUpByThemselves) {
+    window_->show();
+    window_->setMenuMark(kItem, true);
+    window_->setMenuItemEnabled(kItem + 16, false);
+    static std::vector<UINT> items;
+    static UINT states = 0;
+    SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        HWND popup = FindWindowW(L"#32768", nullptr);
+        if (!popup || !IsWindowVisible(popup)) return;
+        KillTimer(nullptr, timer);
+        const auto menu = reinterpret_cast<HMENU>(SendMessageW(popup, MN_GETHMENU, 0, 0));
+        items = idsIn(menu, 0);
+        states = GetMenuState(menu, 0, MF_BYPOSITION) | GetMenuState(menu, 2, MF_BYPOSITION);
+        for (const WPARAM key : {VK_DOWN, VK_RETURN}) PostMessageW(popup, WM_KEYDOWN, key, 1);
+    });
+    // The frame has Windows' own.
+    RECT frame{};
+    GetWindowRect(dialog(), &frame);
+    EXPECT_FALSE(isOnFrame(dialog(), -1));
+    EXPECT_TRUE(isOnFrame(dialog(), MAKELPARAM(frame.left + 20, frame.top + 5)));
+    SendMessageW(GetDlgItem(dialog(), IDC_CONTRACT_ONE), WM_CONTEXTMENU,
+                 reinterpret_cast<WPARAM>(GetDlgItem(dialog(), IDC_CONTRACT_ONE)), -1);
+    EXPECT_EQ(items, (std::vector<UINT>{kItem, 0, kItem + 16}));
+    EXPECT_EQ(states, static_cast<UINT>(MF_CHECKED | MF_GRAYED));
+    EXPECT_TRUE(eventually([&] { return !raised.empty(); }));
+    EXPECT_EQ(raised, (RaisedEvents{{kItem, Event::Click}}));
+}
