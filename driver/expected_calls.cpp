@@ -7,12 +7,12 @@ std::string Title(const std::string& path) { return path.substr(path.rfind('\\')
 
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 
-std::string TypeCode(const std::string& path) {
-    if (path.ends_with("PRT")) return "1";
-    return path.ends_with("ASM") ? "2" : "3";
-}
-
 }  // namespace
+
+long TypeCode(const std::string& path) {
+    if (path.ends_with("PRT")) return 1;
+    return path.ends_with("ASM") ? 2 : 3;
+}
 
 Calls AtStartUp() { return {"RevisionNumber()", "GetCurrentWorkingDirectory()"}; }
 
@@ -21,7 +21,7 @@ std::string Close(const std::string& path) { return "closedoc(" + Quoted(path) +
 std::string Save(const std::string& path) { return Title(path) + ".save2(True)"; }
 
 Calls Open(const std::string& path, bool silent, Rebuild rebuild) {
-    Calls calls{"OpenDoc6(&" + Quoted(path) + ", &" + TypeCode(path) + ":i2, " +
+    Calls calls{"OpenDoc6(&" + Quoted(path) + ", &" + std::to_string(TypeCode(path)) + ":i2, " +
                     (silent ? "1" : "0") + ":i4, \"\", &0:i4, &0:i4)",
                 "ActivateDoc2(&" + Quoted(path) + ", True, &0:i4)", "Visible = True"};
     const std::string document = Title(path);

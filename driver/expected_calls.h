@@ -10,6 +10,9 @@ using Calls = std::vector<std::string>;
 
 enum class Rebuild { None, TopLevel, AllLevels };
 
+/// The type by which a document is opened.
+long TypeCode(const std::string& path);
+
 /// What start-up asks of the session.
 Calls AtStartUp();
 

@@ -13,17 +13,33 @@ std::wstring Quoted(const std::wstring& argument) {
     return quoted + L"\"";
 }
 
+/// A handle to an emptied file, for a process to inherit; null when no file is named.
+HANDLE InheritableFile(const std::wstring& file) {
+    SECURITY_ATTRIBUTES inheritable{sizeof inheritable, nullptr, TRUE};
+    return file.empty() ? nullptr
+                        : CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inheritable,
+                                      CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
 }  // namespace
 
 Process::Process(const std::wstring& program, const std::vector<std::wstring>& arguments,
-                 const std::wstring& directory) {
+                 const std::wstring& directory, const std::wstring& errorFile) {
     std::wstring commandLine = Quoted(program);
     for (const std::wstring& argument : arguments) commandLine += L" " + Quoted(argument);
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
+    const HANDLE errors = InheritableFile(errorFile);
+    if (errors) {
+        startup.dwFlags = STARTF_USESTDHANDLES;
+        startup.hStdError = errors;
+    }
     PROCESS_INFORMATION information{};
-    if (!CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                        directory.c_str(), &startup, &information))
+    const BOOL started =
+        CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, errors != nullptr, 0,
+                       nullptr, directory.c_str(), &startup, &information);
+    if (errors) CloseHandle(errors);
+    if (!started)
         throw std::runtime_error("could not start " + Utf8(commandLine) + ": error " +
                                  std::to_string(GetLastError()));
     CloseHandle(information.hThread);

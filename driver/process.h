@@ -12,8 +12,9 @@ namespace driver {
 /// A process that we started; ended, if it still runs, when this object goes.
 class Process {
  public:
+    /// What it writes to its error output goes into a file, if one is named.
     Process(const std::wstring& program, const std::vector<std::wstring>& arguments,
-            const std::wstring& directory);
+            const std::wstring& directory, const std::wstring& errorFile = {});
     ~Process();
     Process(const Process&) = delete;
     Process& operator=(const Process&) = delete;

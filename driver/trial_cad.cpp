@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include <oleauto.h>
+#include <objbase.h>
 #include <sstream>
 
 #include "driver/text.h"
@@ -10,26 +10,14 @@
 #include "driver/winapi.h"
 
 namespace driver {
-namespace {
-
-bool ProgramsCanAttach() {
-    CLSID id;
-    if (FAILED(CLSIDFromProgID(L"SldWorks.Application", &id))) return false;
-    IUnknown* session = nullptr;
-    if (FAILED(GetActiveObject(id, nullptr, &session))) return false;
-    session->Release();
-    return true;
-}
-
-}  // namespace
-
 void TrialCad::Start(const std::vector<std::string>& options) {
     std::vector<std::wstring> arguments{L"--journal", Journal()};
     for (const std::string& option : options) arguments.push_back(Wide(option));
     CoInitializeEx(nullptr, COINIT_MULTITHREADED);
     process_ = std::make_unique<Process>(Sandbox::BuiltPrograms() / "tarnwick-trialcad.exe",
                                          arguments, sandbox_.Directory());
-    WaitFor("the trial CAD session to be registered", ProgramsCanAttach);
+    WaitFor("the trial CAD session to be registered",
+            [this] { return static_cast<bool>(Application()); });
 }
 
 void TrialCad::Close() {

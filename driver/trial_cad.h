@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "driver/cad_client.h"
 #include "driver/process.h"
 #include "driver/sandbox.h"
 
@@ -23,6 +24,9 @@ class TrialCad {
     void Kill() const { process_->Kill(); }
 
     HWND Window() const;
+
+    /// The session itself, for what other programs than ours do with it.
+    ComPtr<IDispatch> Application() const { return SessionOfProcess(process_->Id()); }
 
     /// Every call received so far, as the journal tells it.
     std::vector<std::string> Calls() const;

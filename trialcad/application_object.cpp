@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "document_file.h"
 #include "session.h"
 
 namespace {
@@ -12,6 +13,7 @@ constexpr long kActivateError = 1;
 constexpr Member kApplicationMembers[] = {
     {L"RevisionNumber", 0, perform<&ApplicationObject::revisionNumber>},
     {L"GetCurrentWorkingDirectory", 0, perform<&ApplicationObject::getCurrentWorkingDirectory>},
+    {L"SetCurrentWorkingDirectory", 1, perform<&ApplicationObject::setCurrentWorkingDirectory>},
     {L"OpenDoc6", 6, perform<&ApplicationObject::openDoc6>},
     {L"ActivateDoc2", 3, perform<&ApplicationObject::activateDoc2>},
     {L"CloseDoc", 1, perform<&ApplicationObject::closeDoc>},
@@ -23,9 +25,11 @@ constexpr Member kApplicationMembers[] = {
      true},
 };
 
-void answerDocument(Call& call, DocumentObject* document) {
-    if (!document) call.setOutcome(L" -> no document");
-    call.answer(document);
+std::wstring newsOfOpening(const OpenCodes& codes) {
+    std::wstring news;
+    if (codes.error != 0) news += L", erreur " + std::to_wstring(codes.error);
+    if (codes.warning != 0) news += L", avertissement " + std::to_wstring(codes.warning);
+    return news;
 }
 
 }  // namespace
@@ -42,24 +46,43 @@ void ApplicationObject::getCurrentWorkingDirectory(Call& call) {
     call.answer(session_.workingDirectory());
 }
 
+void ApplicationObject::setCurrentWorkingDirectory(Call& call) {
+    const bool set = session_.setWorkingDirectory(call.text(0));
+    if (!set) call.tell(L"ce répertoire n'existe pas");
+    call.answer(set);
+}
+
 void ApplicationObject::openDoc6(Call& call) {
     const bool silent = call.integer(2) & kSilentOption;
-    long error = 0;
+    OpenCodes codes;
     DocumentObject* document =
-        session_.open({call.text(0), call.integer(1), silent, call.text(3)}, error);
-    call.giveBack(4, error);
-    call.giveBack(5, 0);
-    answerDocument(call, document);
+        session_.open({call.text(0), call.integer(1), silent, call.text(3)}, codes);
+    call.giveBack(4, codes.error);
+    call.giveBack(5, codes.warning);
+    const std::wstring news = newsOfOpening(codes);
+    if (!document)
+        call.tell(fileNameOf(call.text(0)) + L" ne s'ouvre pas" + news, L" -> no document");
+    else if (!news.empty())
+        call.tell(fileNameOf(call.text(0)) + L" s'ouvre" + news);
+    call.answer(document);
 }
 
 void ApplicationObject::activateDoc2(Call& call) {
     call.boolean(1);  // refuses an argument that is no Boolean, though no dialog is ever shown
     DocumentObject* document = session_.activate(call.text(0));
     call.giveBack(2, document ? 0 : kActivateError);
-    answerDocument(call, document);
+    if (!document) call.tell(L"aucun document de ce nom n'est ouvert", L" -> no document");
+    call.answer(document);
 }
 
-void ApplicationObject::closeDoc(Call& call) { session_.close(call.text(0)); }
+void ApplicationObject::closeDoc(Call& call) {
+    const std::wstring name = call.text(0);
+    const Closing closing = session_.close(name);
+    if (closing == Closing::ChangesLost)
+        call.tell(fileNameOf(name) + L" est fermé, ses modifications sont perdues");
+    if (closing == Closing::NotOpen && !name.empty())
+        call.tell(L"aucun document de ce nom n'est ouvert");
+}
 
 void ApplicationObject::getSearchFolders(Call& call) {
     call.answer(session_.searchFolders(call.integer(0)));

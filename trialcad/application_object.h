@@ -16,6 +16,7 @@ class ApplicationObject : public AutomationObject {
 
     void revisionNumber(Call& call);
     void getCurrentWorkingDirectory(Call& call);
+    void setCurrentWorkingDirectory(Call& call);
     void openDoc6(Call& call);
     void activateDoc2(Call& call);
     void closeDoc(Call& call);

@@ -45,6 +45,7 @@ HRESULT AutomationObject::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
 
 HRESULT AutomationObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
     if (!names || !ids || count == 0) return E_INVALIDARG;
+    if (!isConnected()) return RPC_E_DISCONNECTED;
     if (const auto refusal = desk_.refuseLookUp(names[0])) return *refusal;
     // Further names would be those of arguments, which have none here.
     for (UINT i = 0; i < count; ++i) ids[i] = DISPID_UNKNOWN;

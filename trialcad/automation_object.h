@@ -27,6 +27,9 @@ class AutomationObject : public IDispatch {
                                      DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
                                      UINT* badArgument) override;
 
+    /// False when nobody answers behind the object any more.
+    virtual bool isConnected() const { return true; }
+
  protected:
     virtual ~AutomationObject() = default;
 

@@ -72,6 +72,11 @@ void Call::answer(IDispatch* object) {
     if (object) object->AddRef();
 }
 
+void Call::tell(std::wstring news, const wchar_t* outcome) {
+    news_ = std::move(news);
+    outcome_ = outcome;
+}
+
 void Call::deliver(VARIANT* result) {
     if (result) *result = std::exchange(answer_, VARIANT{});
 }

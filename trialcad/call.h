@@ -35,8 +35,10 @@ class Call {
     void answer(bool yes);
     void answer(IDispatch* object);  ///< null: an empty object
 
-    /// How the journal tells that a call that did return brought nothing about.
-    void setOutcome(const wchar_t* outcome) { outcome_ = outcome; }
+    /// What came of a call that did return: in French for the window and, when it brought nothing
+    /// about, for the journal.
+    void tell(std::wstring news, const wchar_t* outcome = L"");
+    const std::wstring& news() const { return news_; }
     const wchar_t* outcome() const { return outcome_; }
 
     /// Hands the answer over to the caller's variant, if there is one.
@@ -47,5 +49,6 @@ class Call {
 
     const DISPPARAMS& parameters_;
     VARIANT answer_{};
+    std::wstring news_;
     const wchar_t* outcome_ = L"";
 };

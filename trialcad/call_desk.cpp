@@ -1,5 +1,6 @@
 #include "call_desk.h"
 
+#include "automation_object.h"
 #include "call_text.h"
 #include "wait.h"
 
@@ -19,6 +20,12 @@ bool isRefusal(HRESULT code) {
 const wchar_t* outcomeOf(const Reply& reply, const Call& call) {
     if (isRefusal(reply.code)) return L" -> rejected";
     return FAILED(reply.code) ? L" -> failed" : call.outcome();
+}
+
+std::wstring newsOf(const Reply& reply, const Call& call) {
+    if (isRefusal(reply.code)) return L"occupé : appel rejeté";
+    if (reply.code == RPC_E_DISCONNECTED) return L"document fermé : l'objet ne répond plus";
+    return FAILED(reply.code) ? L"échec" : call.news();
 }
 
 /// The action that the member has for this use of it; throws CallError when it has none.
@@ -43,7 +50,7 @@ Reply CallDesk::receive(const Request& request, Call& call) {
     // The line shows the arguments as sent, so it is made before any is written back.
     const std::wstring line = lineOf(request, call);
     Reply reply = perform(request, call);
-    record(line + outcomeOf(reply, call));
+    record(line, reply, call);
     if (!request.member || isRefusal(reply.code)) return reply;
     if (!waitWithMessages(faults_.delayOf(request.member->name))) return {RPC_E_DISCONNECTED};
     return reply;
@@ -51,6 +58,7 @@ Reply CallDesk::receive(const Request& request, Call& call) {
 
 Reply CallDesk::perform(const Request& request, Call& call) {
     if (!request.member) return {DISP_E_MEMBERNOTFOUND};
+    if (!request.object.isConnected()) return {RPC_E_DISCONNECTED};
     if (const auto refusal = faults_.refuseCall(request.member->name)) return {*refusal};
     if (faults_.mustFail(request.member->name))
         return {DISP_E_EXCEPTION, 0,
@@ -64,7 +72,9 @@ Reply CallDesk::perform(const Request& request, Call& call) {
     return {S_OK};
 }
 
-void CallDesk::record(const std::wstring& line) {
-    journal_.write(line);
-    if (watcher_) watcher_(line);
+void CallDesk::record(const std::wstring& line, const Reply& reply, const Call& call) {
+    journal_.write(line + outcomeOf(reply, call));
+    if (!watcher_) return;
+    watcher_(line);
+    if (const std::wstring news = newsOf(reply, call); !news.empty()) watcher_(L"      → " + news);
 }

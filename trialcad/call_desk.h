@@ -34,7 +34,7 @@ class CallDesk {
 
     CallDesk(Faults& faults, Journal& journal) : faults_(faults), journal_(journal) {}
 
-    /// Has each journalled line told as well to the given watcher.
+    /// Has each call told to the given watcher, and in a line of its own what came of it.
     void watch(Watcher watcher) { watcher_ = std::move(watcher); }
 
     std::optional<HRESULT> refuseLookUp(std::wstring_view name) {
@@ -45,7 +45,7 @@ class CallDesk {
 
  private:
     Reply perform(const Request& request, Call& call);
-    void record(const std::wstring& line);
+    void record(const std::wstring& line, const Reply& reply, const Call& call);
 
     Faults& faults_;
     Journal& journal_;

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "win32/process/unique.h"
+
 namespace {
 
 bool isAbsolute(const std::wstring& path) {
@@ -13,6 +15,14 @@ std::wstring verbatim(const std::wstring& path) {
     if (path.starts_with(L"\\\\?\\") || !isAbsolute(path)) return path;
     if (path.starts_with(L"\\\\")) return L"\\\\?\\UNC" + path.substr(1);
     return L"\\\\?\\" + path;
+}
+
+DWORD attributesOf(const std::wstring& path) { return GetFileAttributesW(verbatim(path).c_str()); }
+
+UniqueHandle openFile(const std::wstring& path, DWORD access) {
+    return UniqueHandle(CreateFileW(verbatim(path).c_str(), access,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, 0, nullptr));
 }
 
 bool hasSteps(const std::wstring& path) {
@@ -44,22 +54,35 @@ std::wstring directoryOf(const std::wstring& path) {
 }
 
 bool fileExists(const std::wstring& path) {
-    const DWORD attributes = GetFileAttributesW(verbatim(path).c_str());
+    const DWORD attributes = attributesOf(path);
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
+bool directoryExists(const std::wstring& path) {
+    const DWORD attributes = attributesOf(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+bool isReadOnly(const std::wstring& path) {
+    return fileExists(path) && (attributesOf(path) & FILE_ATTRIBUTE_READONLY);
+}
+
+std::optional<std::string> readFile(const std::wstring& path) {
+    const UniqueHandle file = openFile(path, GENERIC_READ);
+    LARGE_INTEGER size{};
+    if (!isValid(file) || !GetFileSizeEx(file.get(), &size)) return std::nullopt;
+    std::string bytes(static_cast<size_t>(size.QuadPart), '\0');
+    DWORD got = 0;
+    if (!ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &got, nullptr))
+        return std::nullopt;
+    bytes.resize(got);
+    return bytes;
+}
+
 bool touchFile(const std::wstring& path) {
-    const std::wstring name = verbatim(path);
-    const DWORD attributes = GetFileAttributesW(name.c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY))
-        return false;
-    const HANDLE file = CreateFileW(name.c_str(), FILE_WRITE_ATTRIBUTES,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                    OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return false;
+    if (!fileExists(path) || isReadOnly(path)) return false;
+    const UniqueHandle file = openFile(path, FILE_WRITE_ATTRIBUTES);
     FILETIME now;
     GetSystemTimeAsFileTime(&now);
-    const BOOL dated = SetFileTime(file, nullptr, nullptr, &now);
-    CloseHandle(file);
-    return dated;
+    return isValid(file) && SetFileTime(file.get(), nullptr, nullptr, &now);
 }

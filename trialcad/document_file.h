@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 /// A path made absolute from the given directory. One that is absolute already stays as it is.
@@ -10,6 +11,14 @@ std::wstring directoryOf(const std::wstring& path);
 
 /// Whether there is such a file; a directory is none. Long paths are understood.
 bool fileExists(const std::wstring& path);
+
+bool directoryExists(const std::wstring& path);
+
+/// A file's bytes; nothing when it can't be read.
+std::optional<std::string> readFile(const std::wstring& path);
+
+/// Whether the file has the attribute that forbids writing.
+bool isReadOnly(const std::wstring& path);
 
 /// Sets the file's modification date to now, its content untouched; false when that can't be.
 bool touchFile(const std::wstring& path);

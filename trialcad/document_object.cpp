@@ -6,8 +6,10 @@
 
 namespace {
 
+// Of swFileSaveError_e.
 constexpr long kSaved = 0;
 constexpr long kNotSaved = 1;
+constexpr long kReadOnlyFile = 2;
 
 constexpr Member kDocumentMembers[] = {
     {L"GetTitle", 0, perform<&DocumentObject::getTitle>},
@@ -25,7 +27,7 @@ DocumentObject::DocumentObject(Document document, MemberNames& names, CallDesk& 
 
 std::span<const Member> DocumentObject::members() { return kDocumentMembers; }
 
-std::wstring DocumentObject::title() const { return fileNameOf(document_.path); }
+std::wstring DocumentObject::journalPrefix() const { return fileNameOf(document_.path) + L"."; }
 
 void DocumentObject::getTitle(Call& call) { call.answer(title()); }
 
@@ -34,15 +36,27 @@ void DocumentObject::getPathName(Call& call) { call.answer(document_.path); }
 void DocumentObject::getType(Call& call) { call.answer(static_cast<long>(document_.kind)); }
 
 void DocumentObject::forceRebuild3(Call& call) {
-    call.boolean(0);  // refuses an argument that is no Boolean, though a rebuild changes nothing
-    call.answer(open_);
+    call.boolean(0);  // refuses an argument that is no Boolean
+    modify();
+    call.answer(true);
 }
 
 void DocumentObject::save2(Call& call) {
     call.boolean(0);
-    const bool saved = open_ && touchFile(document_.path);
-    if (!saved) call.setOutcome(L" -> not saved");
-    call.answer(saved ? kSaved : kNotSaved);
+    const long code = save();
+    if (code == kSaved)
+        modified_ = false;
+    else
+        call.tell(title() + L" n'est pas enregistré (" + std::to_wstring(code) + L")",
+                  L" -> not saved");
+    call.answer(code);
+}
+
+long DocumentObject::save() const {
+    const long scripted = document_.save ? document_.save->next().value_or(kSaved) : kSaved;
+    if (scripted != kSaved) return scripted;
+    if (touchFile(document_.path)) return kSaved;
+    return isReadOnly(document_.path) ? kReadOnlyFile : kNotSaved;
 }
 
 void DocumentObject::viewZoomtofit2(Call&) {}

@@ -5,13 +5,16 @@
 
 #include "automation_object.h"
 #include "document_kind.h"
+#include "document_script.h"
 
 /// A document and how it was opened.
 struct Document {
     std::wstring path;
     DocumentKind kind;
-    bool silent;
-    std::wstring configuration;
+    std::wstring title = {};
+    bool silent = false;
+    std::wstring configuration = {};
+    ScriptedCode* save = nullptr;  ///< what its saves answer; null: as usual
 };
 
 /// The automation object of an open document.
@@ -22,10 +25,15 @@ class DocumentObject : public AutomationObject {
     static std::span<const Member> members();
 
     const Document& document() const { return document_; }
-    std::wstring title() const;
+    const std::wstring& title() const { return document_.title; }
 
-    /// From now on the object only tells who it was: it rebuilds and saves nothing.
+    /// Whether closing it loses something.
+    bool isModified() const { return modified_; }
+    void modify() { modified_ = true; }
+
+    /// From now on the object does not answer any more.
     void close() { open_ = false; }
+    bool isConnected() const override { return open_; }
 
     void getTitle(Call& call);
     void getPathName(Call& call);
@@ -35,9 +43,13 @@ class DocumentObject : public AutomationObject {
     void viewZoomtofit2(Call& call);
 
  protected:
-    std::wstring journalPrefix() const override { return title() + L"."; }
+    std::wstring journalPrefix() const override;
 
  private:
+    /// What Save2 answers, having saved the document when that is 0.
+    long save() const;
+
     Document document_;
     bool open_ = true;
+    bool modified_ = false;
 };

@@ -57,12 +57,30 @@ void readJournal(Options& options, const std::wstring& value) {
     options.journal = value;
 }
 
+struct Flag {
+    const wchar_t* name;
+    bool Options::*value;
+};
+
+constexpr Flag kFlags[] = {
+    {L"--hidden", &Options::hidden},
+    {L"--hide-endings", &Options::endingsHidden},
+    {L"--pid-only", &Options::processNameOnly},
+};
+
+bool setFlag(Options& options, const std::wstring& name) {
+    for (const Flag& flag : kFlags)
+        if (name == flag.name) return options.*flag.value = true;
+    return false;
+}
+
 constexpr OptionKind kOptions[] = {
     {L"--journal", readJournal},
     {L"--working-directory", [](Options& o, const std::wstring& v) { o.workingDirectory = v; }},
     {L"--revision", [](Options& o, const std::wstring& v) { o.revision = v; }},
     {L"--search-folders", [](Options& o, const std::wstring& v) { o.searchFolders = v; }},
     {L"--title", readTitle},
+    {L"--documents", [](Options& o, const std::wstring& v) { o.documents = v; }},
     {L"--fail", readFail},
     {L"--busy",
      [](Options& o, const std::wstring& v) { o.busy.push_back(milliseconds(L"--busy", v)); }},
@@ -81,10 +99,7 @@ const OptionKind& optionNamed(const std::wstring& name) {
 Options parseOptions(const std::vector<std::wstring>& arguments) {
     Options options;
     for (size_t i = 0; i < arguments.size(); ++i) {
-        if (arguments[i] == L"--hidden") {
-            options.hidden = true;
-            continue;
-        }
+        if (setFlag(options, arguments[i])) continue;
         const OptionKind& option = optionNamed(arguments[i]);
         if (++i == arguments.size())
             throw OptionError{L"L'option " + std::wstring(option.name) + L" attend une valeur."};

@@ -22,7 +22,10 @@ struct Options {
     std::vector<MethodRule> fail;
     std::vector<MethodRule> busy;
     std::vector<MethodRule> delay;
+    std::wstring documents;  ///< the file that says what single documents do; empty: none does
     bool hidden = false;
+    bool endingsHidden = false;    ///< titles without the file's ending
+    bool processNameOnly = false;  ///< not registered as SldWorks.Application
 };
 
 /// A command line that can't be obeyed, with the French text that says why.

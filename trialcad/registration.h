@@ -10,11 +10,15 @@ struct RegistrationError {
     std::wstring text;
 };
 
-/// Presence in the running object table as SldWorks.Application, for the life of this object.
+/// Presence in the running object table for the life of this object: as SldWorks.Application, and
+/// as SolidWorks_PID_<process id>, by which several sessions can be told apart.
 class Registration {
  public:
-    /// Throws RegistrationError when another session is running or Windows refuses.
-    explicit Registration(IUnknown& application);
+    enum class Names { Both, ProcessOnly };
+
+    /// Throws RegistrationError when Windows refuses or another session bears the name that all
+    /// share.
+    Registration(IUnknown& application, Names names);
     ~Registration();
     Registration(const Registration&) = delete;
     Registration& operator=(const Registration&) = delete;
@@ -23,7 +27,11 @@ class Registration {
     void withdraw();
 
  private:
+    void registerClass();
+    void registerProcess();
+
     IUnknown& application_;
-    DWORD cookie_ = 0;
+    DWORD classCookie_ = 0;
+    DWORD processCookie_ = 0;
     bool withdrawn_ = false;
 };

@@ -8,43 +8,90 @@
 
 namespace {
 
-constexpr long kNoError = 0;
+// Of swFileLoadError_e and swFileLoadWarning_e.
 constexpr long kFileNotFound = 2;
 constexpr long kInvalidFileType = 1024;
+constexpr long kSameTitleIsOpen = 65536;
+constexpr long kReadOnlyDocument = 2;
+constexpr long kAlreadyOpen = 128;
 
 // Each kind has DISPIDs of its own, so that a client that mixes them up is found out here.
 constexpr DISPID kFirstOfParts = 0x10001;
 constexpr DISPID kFirstOfAssemblies = 0x20001;
 constexpr DISPID kFirstOfDrawings = 0x30001;
 
-long openingError(const std::wstring& path, long type) {
-    if (!fileExists(path)) return kFileNotFound;
+bool isOfType(const std::wstring& path, long type) {
     const auto kind = kindOfFile(path);
-    return kind && static_cast<long>(*kind) == type ? kNoError : kInvalidFileType;
+    return kind && static_cast<long>(*kind) == type;
+}
+
+std::wstring titleOf(const std::wstring& path, bool endingHidden) {
+    const std::wstring name = fileNameOf(path);
+    return endingHidden ? name.substr(0, name.rfind(L'.')) : name;
 }
 
 }  // namespace
 
-Session::Session(std::wstring workingDirectory, CallDesk& desk)
-    : workingDirectory_(std::move(workingDirectory)),
+Session::Session(SessionStart start, CallDesk& desk)
+    : workingDirectory_(std::move(start.workingDirectory)),
+      script_(std::move(start.script)),
+      endingsHidden_(start.endingsHidden),
       desk_(desk),
       names_{MemberNames(DocumentObject::members(), kFirstOfParts),
              MemberNames(DocumentObject::members(), kFirstOfAssemblies),
-             MemberNames(DocumentObject::members(), kFirstOfDrawings)} {}
+             MemberNames(DocumentObject::members(), kFirstOfDrawings)} {
+    for (ScriptedDocument& document : script_) openUsersOwn(document, document.path);
+}
 
-DocumentObject* Session::open(const OpenRequest& request, long& error) {
-    const std::wstring path = absolutePath(request.path, workingDirectory_);
-    error = openingError(path, request.type);
-    if (error != kNoError) return nullptr;
-    DocumentPointer document = find(path);
-    if (!document) {
-        const auto kind = static_cast<DocumentKind>(request.type);
-        document.Attach(new DocumentObject({path, kind, request.silent, request.configuration},
-                                           namesOf(kind), desk_));
-        documents_.push_back(document);
+void Session::openUsersOwn(ScriptedDocument& script, const std::wstring& path) {
+    const auto kind = kindOfFile(path);
+    if (!script.usersOwn || !kind || !fileExists(path) || namesake(path)) return;
+    script.usersOwn = false;  // when it is closed it stays closed
+    add({.path = path, .kind = *kind}, &script)->modify();
+}
+
+DocumentObject* Session::open(OpenRequest request, OpenCodes& codes) {
+    const std::wstring& path = request.path = absolutePath(request.path, workingDirectory_);
+    ScriptedDocument* script = scriptedDocument(script_, path);
+    // A line with a file name alone tells only now which document the user has open.
+    if (script) openUsersOwn(*script, path);
+    if (const auto refusal = refusalOf(request, script)) {
+        codes = {.error = *refusal};
+        return nullptr;
     }
+    if (script) codes = {script->error.next().value_or(0), script->warning.next().value_or(0)};
+    if (isReadOnly(path)) codes.warning |= kReadOnlyDocument;
+    DocumentPointer document = namesake(path);
+    if (document) codes.warning |= kAlreadyOpen;
+    if (!document)
+        document = add({.path = path,
+                        .kind = static_cast<DocumentKind>(request.type),
+                        .silent = request.silent,
+                        .configuration = request.configuration},
+                       script);
     setActive(document);
     return document.Get();
+}
+
+std::optional<long> Session::refusalOf(const OpenRequest& request, ScriptedDocument* script) const {
+    if (script)
+        if (const auto refusal = script->refuse.next()) return refusal;
+    const DocumentPointer other = namesake(request.path);
+    const bool isOpen = other && sameText(other->document().path, request.path);
+    if (!isOpen && !fileExists(request.path)) return kFileNotFound;
+    if (!isOfType(request.path, request.type)) return kInvalidFileType;
+    if (other && !isOpen) return kSameTitleIsOpen;
+    return std::nullopt;
+}
+
+DocumentPointer Session::add(Document document, ScriptedDocument* script) {
+    document.title = titleOf(document.path, endingsHidden_);
+    if (script) document.save = &script->save;
+    MemberNames& names = namesOf(document.kind);
+    DocumentPointer added;
+    added.Attach(new DocumentObject(std::move(document), names, desk_));
+    documents_.push_back(added);
+    return added;
 }
 
 DocumentObject* Session::activate(const std::wstring& name) {
@@ -53,23 +100,38 @@ DocumentObject* Session::activate(const std::wstring& name) {
     return document.Get();
 }
 
-void Session::close(const std::wstring& name) {
+Closing Session::close(const std::wstring& name) {
     const DocumentPointer document = find(name);
-    if (!document) return;
+    if (!document) return Closing::NotOpen;
     document->close();
     documents_.erase(std::find(documents_.begin(), documents_.end(), document));
     const bool wasActive = document == active_;
     setActive(!wasActive ? active_ : documents_.empty() ? nullptr : documents_.back());
+    return document->isModified() ? Closing::ChangesLost : Closing::Closed;
+}
+
+bool Session::setWorkingDirectory(const std::wstring& directory) {
+    if (!directoryExists(directory)) return false;
+    workingDirectory_ = directory;
+    changed();
+    return true;
+}
+
+DocumentPointer Session::namesake(const std::wstring& path) const {
+    const auto found = std::ranges::find_if(documents_, [&](const DocumentPointer& document) {
+        return sameText(fileNameOf(document->document().path), fileNameOf(path));
+    });
+    return found == documents_.end() ? nullptr : *found;
 }
 
 DocumentPointer Session::find(const std::wstring& name) const {
-    if (name.empty()) return nullptr;
     const std::wstring path = absolutePath(name, workingDirectory_);
-    for (const DocumentPointer& document : documents_)
-        if (sameText(document->document().path, path)) return document;
-    for (const DocumentPointer& document : documents_)
-        if (sameText(document->title(), name)) return document;
-    return nullptr;
+    const auto found = std::ranges::find_if(documents_, [&](const DocumentPointer& document) {
+        const std::wstring& own = document->document().path;
+        return sameText(own, path) || sameText(fileNameOf(own), name) ||
+               sameText(document->title(), name);
+    });
+    return found == documents_.end() ? nullptr : *found;
 }
 
 MemberNames& Session::namesOf(DocumentKind kind) {

@@ -3,6 +3,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 #include <wrl/client.h>
@@ -19,30 +20,50 @@ struct OpenRequest {
     std::wstring configuration;
 };
 
+/// What OpenDoc6 says of an opening: bits of swFileLoadError_e and of swFileLoadWarning_e.
+struct OpenCodes {
+    long error = 0;
+    long warning = 0;
+};
+
+/// What became of a document that was to be closed.
+enum class Closing { NotOpen, Closed, ChangesLost };
+
+/// How a session begins.
+struct SessionStart {
+    std::wstring workingDirectory;
+    DocumentScript script;
+    bool endingsHidden = false;  ///< as the Explorer's setting has it, which titles follow
+};
+
 /// The session's state: its open documents, its search folders, whether it is to be seen.
 class Session {
  public:
     /// Search folders for referenced documents, the type that the window shows.
     static constexpr long kReferencedDocuments = 0;
 
-    Session(std::wstring workingDirectory, CallDesk& desk);
+    Session(SessionStart start, CallDesk& desk);
 
     /// Has every change of the state told to the given watcher.
     void watch(std::function<void()> watcher) { watcher_ = std::move(watcher); }
 
-    /// Opens and activates a document, or the one already open under that path.
-    /// Null, with a non-zero error code, when the file is missing or its ending is another type's.
-    DocumentObject* open(const OpenRequest& request, long& error);
+    /// Opens and activates a document, or the one already open under that path. Null when the
+    /// script says so, the file is missing, its ending is another type's, or a document of the same
+    /// name is open.
+    DocumentObject* open(OpenRequest request, OpenCodes& codes);
 
     /// Makes an open document the active one; the name is its path or title. Null when none is.
     DocumentObject* activate(const std::wstring& name);
 
-    /// Closes the document of that path or title; no such document is no error.
-    void close(const std::wstring& name);
+    /// Closes the document of that path or title, without saving it.
+    Closing close(const std::wstring& name);
 
     const std::vector<DocumentPointer>& documents() const { return documents_; }
     DocumentObject* active() const { return active_.Get(); }
     const std::wstring& workingDirectory() const { return workingDirectory_; }
+    /// False when there is no such directory.
+    bool setWorkingDirectory(const std::wstring& directory);
+    size_t scriptedDocuments() const { return script_.size(); }
 
     /// Folders joined by ";".
     std::wstring searchFolders(long type) const;
@@ -52,12 +73,19 @@ class Session {
     void setVisible(bool visible);
 
  private:
+    std::optional<long> refusalOf(const OpenRequest& request, ScriptedDocument* script) const;
+    void openUsersOwn(ScriptedDocument& script, const std::wstring& path);
+    DocumentPointer add(Document document, ScriptedDocument* script);
+    /// The open document of that file name: there is never more than one.
+    DocumentPointer namesake(const std::wstring& path) const;
     DocumentPointer find(const std::wstring& name) const;
     MemberNames& namesOf(DocumentKind kind);
     void setActive(DocumentPointer document);
     void changed() const;
 
     std::wstring workingDirectory_;
+    DocumentScript script_;
+    const bool endingsHidden_;
     CallDesk& desk_;
     std::array<MemberNames, 3> names_;
     std::vector<DocumentPointer> documents_;

@@ -49,8 +49,7 @@ SessionWindow::SessionWindow(HINSTANCE instance, const Options& options, const S
     : session_(session),
       titleStyle_(options.title),
       release_(releaseName(options.revision)),
-      facts_(L"Révision " + options.revision + L" – répertoire de travail : " +
-             session.workingDirectory()),
+      revision_(options.revision),
       hidden_(options.hidden) {
     registerClass(instance, procedure);
     CreateWindowExW(0, kClass, release_.c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
@@ -69,6 +68,7 @@ void SessionWindow::refresh() {
     SetWindowTextW(window_,
                    windowTitle(titleStyle_, release_, active ? active->title() : L"").c_str());
     if (hidden_) return;
+    showFacts();
     fillDocumentList(documents_, session_);
     fillTextList(folders_, session_.searchFolders(Session::kReferencedDocuments));
     showAsAsked();
@@ -165,6 +165,14 @@ void SessionWindow::paint() const {
     const HDC context = BeginPaint(window_, &painting);
     drawNameBar(context, layOutSession(clientArea(window_), dpi()).nameBar, *fonts_, dpi(), facts_);
     EndPaint(window_, &painting);
+}
+
+void SessionWindow::showFacts() {
+    facts_ =
+        L"Révision " + revision_ + L" – répertoire de travail : " + session_.workingDirectory();
+    if (const size_t scripted = session_.scriptedDocuments())
+        facts_ += L" – documents joués : " + std::to_wstring(scripted);
+    InvalidateRect(window_, nullptr, FALSE);
 }
 
 void SessionWindow::showAsAsked() const {

@@ -39,13 +39,15 @@ class SessionWindow {
     void applyFonts();
     void layOut() const;
     void paint() const;
+    void showFacts();
     void showAsAsked() const;
     UINT dpi() const { return GetDpiForWindow(window_); }
 
     const Session& session_;
     const TitleStyle titleStyle_;
     const std::wstring release_;
-    const std::wstring facts_;
+    const std::wstring revision_;
+    std::wstring facts_;
     const bool hidden_;
     std::function<void()> last_;
     std::unique_ptr<WindowFonts> fonts_;

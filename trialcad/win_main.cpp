@@ -14,6 +14,7 @@
 #include "registration.h"
 #include "session.h"
 #include "session_window.h"
+#include "text.h"
 
 namespace {
 
@@ -25,7 +26,8 @@ constexpr wchar_t kOptionHelp[] =
     L"\n\nOptions :\n"
     L"--journal FICHIER\n--working-directory RÉPERTOIRE\n--revision TEXTE\n"
     L"--search-folders \"A;B\"\n--title plain|bracket|none\n--fail MÉTHODE[:N]\n"
-    L"--busy MÉTHODE:MS\n--delay MÉTHODE:MS\n--hidden";
+    L"--busy MÉTHODE:MS\n--delay MÉTHODE:MS\n--documents "
+    L"FICHIER\n--hidden\n--hide-endings\n--pid-only";
 
 /// COM on this thread, for the life of this object.
 struct Apartment {
@@ -58,8 +60,22 @@ void openJournal(Journal& journal, const std::wstring& path) {
         throw OptionError{L"Le journal « " + path + L" » ne peut pas être créé."};
 }
 
+DocumentScript readScript(const Options& options) {
+    if (options.documents.empty()) return {};
+    return readDocumentScript(options.documents, options.workingDirectory);
+}
+
 void complain(const std::wstring& text) {
     MessageBoxW(nullptr, text.c_str(), L"Session d'essai", MB_OK | MB_ICONERROR);
+}
+
+/// For whoever started the session: a line on the error output or, without one, a box.
+void complainToStarter(const std::wstring& text) {
+    const std::string line = toUtf8(text) + '\n';
+    DWORD written = 0;
+    if (!WriteFile(GetStdHandle(STD_ERROR_HANDLE), line.data(), static_cast<DWORD>(line.size()),
+                   &written, nullptr))
+        complain(text);
 }
 
 void runMessageLoop(HWND window) {
@@ -82,7 +98,7 @@ void runSession(HINSTANCE instance, const Options& options) {
     Journal journal;
     openJournal(journal, options.journal);
     CallDesk desk(faults, journal);
-    Session session(options.workingDirectory, desk);
+    Session session({options.workingDirectory, readScript(options), options.endingsHidden}, desk);
     session.setSearchFolders(Session::kReferencedDocuments, options.searchFolders);
     MemberNames names(ApplicationObject::members(), kFirstOfApplication);
 
@@ -92,7 +108,9 @@ void runSession(HINSTANCE instance, const Options& options) {
     SessionWindow window(instance, options, session);
     session.watch([&window] { window.refresh(); });
     desk.watch([&window](const std::wstring& line) { window.showCall(line); });
-    Registration registration(*application.Get());
+    Registration registration(*application.Get(), options.processNameOnly
+                                                      ? Registration::Names::ProcessOnly
+                                                      : Registration::Names::Both);
     window.atEndOfWindowsSession([&registration] { registration.withdraw(); });
     session.setVisible(!options.hidden);
     runMessageLoop(window.handle());
@@ -109,6 +127,9 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
         return kNormalEnd;
     } catch (const OptionError& error) {
         complain(error.text + kOptionHelp);
+        return kWrongOptions;
+    } catch (const ScriptError& error) {
+        complainToStarter(error.text);
         return kWrongOptions;
     } catch (const RegistrationError& error) {
         complain(error.text);

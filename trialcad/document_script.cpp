@@ -1,0 +1,91 @@
+#include "document_script.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "common/text_decoding.h"
+#include "common/utf8.h"
+#include "document_file.h"
+#include "text.h"
+
+namespace {
+
+constexpr std::wstring_view kBlanks = L" \t\r";
+
+std::wstring_view trimmed(std::wstring_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
+}
+
+/// Takes what stands before the separator off the front of a text.
+std::wstring_view takePart(std::wstring_view& text, wchar_t separator) {
+    const std::wstring_view part = text.substr(0, text.find(separator));
+    text.remove_prefix(std::min(part.size() + 1, text.size()));
+    return trimmed(part);
+}
+
+ScriptedCode ScriptedDocument::*codeNamed(std::wstring_view name) {
+    if (sameText(name, L"refuse")) return &ScriptedDocument::refuse;
+    if (sameText(name, L"error")) return &ScriptedDocument::error;
+    if (sameText(name, L"warning")) return &ScriptedDocument::warning;
+    if (sameText(name, L"save")) return &ScriptedDocument::save;
+    return nullptr;
+}
+
+/// Reads one of the things that a document does; false when it is none.
+bool readAct(ScriptedDocument& document, std::wstring_view act) {
+    if (sameText(act, L"open")) return document.usersOwn = true;
+    const auto code = codeNamed(takePart(act, L'='));
+    const bool counted = act.find(L':') != act.npos;
+    const long number = parseNumber(takePart(act, L':'));
+    const long times = counted ? parseNumber(trimmed(act)) : 1;
+    if (!code || number < 0 || times < 1) return false;
+    document.*code = {number, counted ? std::optional(times) : std::nullopt};
+    return true;
+}
+
+[[noreturn]] void refuseLine(const std::wstring& file, size_t line, std::wstring_view what) {
+    throw ScriptError{file + L", ligne " + std::to_wstring(line) + L" : « " + std::wstring(what) +
+                      L" » n'est pas compris (refuse=N, error=N, warning=N, save=N ou open)."};
+}
+
+ScriptedDocument readLine(const std::wstring& file, size_t number, std::wstring_view line) {
+    std::wstring_view rest = line;
+    ScriptedDocument document;
+    document.name = takePart(rest, L';');
+    if (document.name.empty()) refuseLine(file, number, line);
+    while (!rest.empty()) {
+        const std::wstring_view act = takePart(rest, L';');
+        if (!act.empty() && !readAct(document, act)) refuseLine(file, number, act);
+    }
+    return document;
+}
+
+}  // namespace
+
+std::optional<long> ScriptedCode::next() {
+    if (left_ && (*left_)-- <= 0) return std::nullopt;
+    return code_;
+}
+
+DocumentScript readDocumentScript(const std::wstring& file, const std::wstring& directory) {
+    const std::optional<std::string> bytes = readFile(file);
+    if (!bytes) throw ScriptError{L"Le fichier « " + file + L" » ne peut pas être lu."};
+    const std::wstring text = wideText(textInUtf8(*bytes));
+    DocumentScript script;
+    std::wstring_view rest = text;
+    for (size_t number = 1; !rest.empty(); ++number) {
+        const std::wstring_view line = takePart(rest, L'\n');
+        if (line.empty()) continue;
+        script.push_back(readLine(file, number, line));
+        script.back().path = absolutePath(script.back().name, directory);
+    }
+    return script;
+}
+
+ScriptedDocument* scriptedDocument(DocumentScript& script, const std::wstring& path) {
+    const auto found = std::ranges::find_if(script, [&](const ScriptedDocument& document) {
+        return sameText(document.path, path) || sameText(document.name, fileNameOf(path));
+    });
+    return found == script.end() ? nullptr : &*found;
+}
