@@ -24,6 +24,9 @@ class Program : public ExistingListExits, public SelectionExits {
     /// Raises 70 when someone else has it open.
     void start();
 
+    /// Whether a pass runs all of whose marks will be offered at the next start.
+    bool keepsMarks() const { return tracking_ && tracking_->keepsMarks(); }
+
  private:
     void takeList();
     void attachToCad();

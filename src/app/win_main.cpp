@@ -58,7 +58,9 @@ struct RunningProgram {
     RunningProgram(EventGate& gate, MessageBoxes& boxes)
         : messageBoxes(boxes),
           patience(waiting, boxes),
-          windows(gate, [this] { showGuide(desktop, messageBoxes, programDirectory()); }) {}
+          windows(gate, [this] { showGuide(desktop, messageBoxes, programDirectory()); }) {
+        patience.promiseMarksWhen([this] { return program.keepsMarks(); });
+    }
 
     Apartment apartment;
     MessageBoxes& messageBoxes;

@@ -17,9 +17,12 @@ class RecordFile {
 
     enum class Flush { Now, Later };
     /// Adds bytes at the end of what was replaced last; with Now they are on the disk when this
-    /// returns. Raises 70 or 75.
+    /// returns. Raises 53, 70 or 75, also when somebody has taken the file away.
     virtual void append(std::string_view bytes, Flush flush) = 0;
 
+    /// Leaves nothing in it: one that was replaced is emptied, any other is removed, if it is
+    /// there. False when it may still hold something.
+    virtual bool clear() = 0;
     /// Removes it, if it is there. One that can't be removed is emptied or stays.
     virtual void remove() = 0;
 };

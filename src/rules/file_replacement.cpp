@@ -58,6 +58,18 @@ class TemporaryFile {
 
 }  // namespace
 
+std::uint32_t openPatiently(const std::function<std::uint32_t()>& open,
+                            const std::function<void()>& pause) {
+    for (int pauses = 0;; ++pauses) {
+        const std::uint32_t error = open();
+        const bool held = error == windows_error::kSharingViolation ||
+                          error == windows_error::kLockViolation ||
+                          error == windows_error::kAccessDenied;
+        if (!held || pauses == kReplacementPauses) return error;
+        pause();
+    }
+}
+
 void replaceFile(const std::wstring& path, const WriteContent& write, ReplacementSteps& steps) {
     const auto require = [&](std::uint32_t error) {
         if (error != 0) throw fileError(error, path);

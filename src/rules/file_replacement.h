@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -33,6 +34,13 @@ class ReplacementSteps {
 };
 
 inline constexpr int kReplacementPause = 50;  ///< milliseconds
+
+/// Opens a file as soon as no other program is in the way, for two seconds at most: a scanner has
+/// it open, or it is about to go (Windows then denies access until its last user lets go of it).
+/// `open` and this return Windows' error number, 0 for success. `pause` lets kReplacementPause
+/// pass.
+std::uint32_t openPatiently(const std::function<std::uint32_t()>& open,
+                            const std::function<void()>& pause);
 
 /// Replaces a file whole: written beside it, flushed, then moved over it, so that at any moment
 /// the path holds all of the old bytes or all of the new. A file that another program has open is

@@ -10,8 +10,9 @@ namespace {
 constexpr wchar_t kBusy[] =
     L"SolidWorks est occupé.\r\n\r\n"
     L"Réessayer : Tarnwick attend encore.\r\n"
-    L"Annuler : Tarnwick s'arrête. Les marques du travail en cours sont gardées et seront "
-    L"proposées au prochain démarrage.";
+    L"Annuler : Tarnwick s'arrête.";
+constexpr wchar_t kMarksKept[] =
+    L" Les marques du travail en cours sont gardées et seront proposées au prochain démarrage.";
 
 CallResult tryOnce(const std::function<CallResult()>& attempt) {
     const CallOut out;
@@ -36,7 +37,8 @@ std::optional<unsigned> Patience::afterRefusal() {
 }
 
 bool Patience::userGoesOn() {
-    return boxes_.show({.text = kBusy,
+    const bool marksKept = marksKept_ && marksKept_();
+    return boxes_.show({.text = std::wstring(kBusy) + (marksKept ? kMarksKept : L""),
                         .title = L"Tarnwick",
                         .buttons = MessageBoxContent::Buttons::RetryCancel,
                         .icon = MessageBoxContent::Icon::Warning}) == MessageBoxes::Answer::Retry;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include "rules/call_error.h"
 
@@ -30,6 +31,9 @@ class Patience {
     /// when the user gave up.
     CallResult call(const std::function<CallResult()>& attempt);
 
+    /// How the box that asks the user finds out whether marks are kept, which it then promises.
+    void promiseMarksWhen(std::function<bool()> kept) { marksKept_ = std::move(kept); }
+
     /// The call that is out was refused: how many milliseconds to wait before it is tried again,
     /// or nothing when the user is to be asked.
     std::optional<unsigned> afterRefusal();
@@ -39,5 +43,6 @@ class Patience {
 
     BusyWaiting& machine_;
     MessageBoxes& boxes_;
+    std::function<bool()> marksKept_;
     std::optional<std::uint64_t> refusedSince_;
 };

@@ -26,9 +26,11 @@ MessageBoxContent interruptedOpeningBox(const std::wstring& path) {
 
 MessageBoxContent marksNotKeptBox() {
     return {.text =
-                L"Les marques ne peuvent plus être conservées à côté de la liste : enregistrez-la "
-                L"souvent par « Sauver Fichier LISTE ».\r\nSi son répertoire est en lecture seule, "
-                L"copiez-la d'abord ailleurs ; « Exporter le rapport... » garde l'état de chaque "
-                L"document.\r\nLe passage continue.",
+                L"Libérez de la place sur le disque de la liste : les marques ne peuvent plus être "
+                L"conservées à côté d'elle. Tarnwick réessaie à chaque marque.\r\nN'enregistrez "
+                L"pas la liste avant : un enregistrement qui échoue arrête Tarnwick. Si son "
+                L"répertoire est en lecture seule, ou ne répond plus, « Exporter le "
+                L"rapport... » garde ailleurs l'état de chaque document.\r\nLe passage "
+                L"continue.",
             .title = kTitle};
 }

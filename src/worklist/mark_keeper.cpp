@@ -1,6 +1,7 @@
 #include "worklist/mark_keeper.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "common/runtime_error.h"
 #include "ports/clock.h"
@@ -13,13 +14,18 @@ std::wstring keptMarksFile(const std::wstring& listFile) {
 MarkKeeper::MarkKeeper(RecordFiles& files, const std::wstring& listFile, const Clock& clock)
     : file_(files.at(keptMarksFile(listFile))), clock_(clock) {}
 
+MarkKeeper::~MarkKeeper() {
+    if (written_ == 0 && !behind_) file_->remove();
+}
+
 void MarkKeeper::begin(const ListIdentity& listFile, const WorkList& list) {
     listFile_ = listFile;
     lines_ = KeptLines(list);
     writer_.emplace(listFile, lines_.all().size(), clock_.now());
-    written_ = 0;
+    behind_ = behind_ || written_ > 0;  // that was of another list file
     opening_ = false;
     trouble_ = false;
+    told_ = false;
 }
 
 std::optional<KeptState> MarkKeeper::find() const {
@@ -29,7 +35,8 @@ std::optional<KeptState> MarkKeeper::find() const {
 }
 
 void MarkKeeper::forget() {
-    file_->remove();
+    if (!behind_ && written_ == 0) return;
+    behind_ = !file_->clear();
     written_ = 0;
 }
 
@@ -39,58 +46,61 @@ void MarkKeeper::keep(const WorkList& list, std::optional<std::int32_t> opening)
     if (!opening_ && lines_.allAsInFile()) {
         forget();
     } else {
-        guarded([&] { write(changed, opening); });
+        put(changed, opening, RecordFile::Flush::Now);
     }
 }
 
 void MarkKeeper::opened() {
-    if (!opening_) return;
-    opening_ = false;
+    if (!std::exchange(opening_, false) || trouble_) return;
     if (lines_.allAsInFile()) {
         forget();
-        return;
+    } else {
+        // What is on disk holds without this, too: the next start would ask once too often.
+        put({}, std::nullopt, RecordFile::Flush::Later);
     }
-    // What is on disk holds without this, too: the next start would ask once too often.
-    guarded(
-        [&] { append(writer_->record({}, lines_.all(), std::nullopt), RecordFile::Flush::Later); });
 }
 
-void MarkKeeper::write(std::span<const std::size_t> changed, std::optional<std::int32_t> opening) {
+void MarkKeeper::put(Lines changed, std::optional<std::int32_t> opening, RecordFile::Flush flush) {
+    const auto added = [&] {
+        return written_ == 0 ? whole(opening) : writer_->record(changed, lines_.all(), opening);
+    };
+    // Half of it may be there when it failed: then only a whole record can be read again.
+    trouble_ = !(canAppend() && append(added(), flush)) && !replace(whole(opening));
+    behind_ = trouble_;
+    told_ = told_ && trouble_;
+}
+
+bool MarkKeeper::canAppend() const {
     // A record that has grown past the list is written anew, without what is out of date.
     constexpr std::size_t kAlwaysEnough = 4096;
-    const bool tooLong = written_ > std::max<std::size_t>(listFile_.length(), kAlwaysEnough);
-    if (written_ == 0 || tooLong) {
-        writeWhole(opening);
-    } else {
-        append(writer_->record(changed, lines_.all(), opening), RecordFile::Flush::Now);
-    }
+    return !behind_ && written_ <= std::max<std::size_t>(listFile_.length(), kAlwaysEnough);
 }
 
-void MarkKeeper::append(const std::string& record, RecordFile::Flush flush) {
-    file_->append(record, flush);
-    written_ += record.size();
-}
-
-void MarkKeeper::guarded(const std::function<void()>& writing) {
-    if (trouble_) return;
+bool MarkKeeper::append(const std::string& bytes, RecordFile::Flush flush) {
     try {
-        writing();
+        file_->append(bytes, flush);
     } catch (const RuntimeError&) {
-        trouble_ = true;
+        return false;
     }
+    written_ += bytes.size();
+    return true;
 }
 
-void MarkKeeper::writeWhole(std::optional<std::int32_t> opening) {
-    const std::string bytes =
-        writer_->header() + writer_->record(lines_.toTell(), lines_.all(), opening);
-    file_->replace(bytes);
+bool MarkKeeper::replace(const std::string& bytes) {
+    try {
+        file_->replace(bytes);
+    } catch (const RuntimeError&) {
+        return false;
+    }
     written_ = bytes.size();
+    return true;
 }
 
-bool MarkKeeper::takeFailure() {
-    if (!trouble_ || told_) return false;
-    return told_ = true;
+std::string MarkKeeper::whole(std::optional<std::int32_t> opening) const {
+    return writer_->header() + writer_->record(lines_.toTell(), lines_.all(), opening);
 }
+
+bool MarkKeeper::takeFailure() { return trouble_ && !std::exchange(told_, true); }
 
 void removeKeptMarks(RecordFiles& files, const std::wstring& listFile) {
     files.at(keptMarksFile(listFile))->remove();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -13,18 +12,21 @@
 class Clock;
 
 /// Keeps on disk, beside a list file, what has changed since that was written, so that no mark is
-/// lost whatever dies. While there is nothing to offer at the next start there is no such file.
-/// When it can't be written the pass goes on without: see takeFailure.
+/// lost whatever dies. While there is nothing to offer at the next start the file is empty, and at
+/// the end it goes. When it can't be written the pass goes on without, and each change tries again.
 class MarkKeeper {
  public:
     MarkKeeper(RecordFiles& files, const std::wstring& listFile, const Clock& clock);
+    ~MarkKeeper();
+    MarkKeeper(const MarkKeeper&) = delete;
+    MarkKeeper& operator=(const MarkKeeper&) = delete;
 
     /// From now on keeps what changes against a list file with these bytes, whose lines are these.
     void begin(const ListIdentity& listFile, const WorkList& list);
 
     /// What an earlier run kept of this list, if it is its record.
     std::optional<KeptState> find() const;
-    /// Removes what was kept.
+    /// Nothing that was kept is offered any more.
     void forget();
 
     /// Puts on disk what has changed, and which line's document is about to be opened. To be
@@ -33,27 +35,30 @@ class MarkKeeper {
     /// The document that was being opened is open.
     void opened();
 
-    /// Whether marks will be offered at the next start.
-    bool keeps() const { return written_ > 0 && !lines_.allAsInFile(); }
-    /// True once, when the record could not be written.
+    /// Whether there are marks, and all of them are on disk, to be offered at the next start.
+    bool keeps() const { return written_ > 0 && !behind_ && !lines_.allAsInFile(); }
+    /// True once for each time that the record could be written no longer.
     bool takeFailure();
 
  private:
-    void write(std::span<const std::size_t> changed, std::optional<std::int32_t> opening);
-    void append(const std::string& record, RecordFile::Flush flush);
-    /// Does some writing, unless that has failed before.
-    void guarded(const std::function<void()>& writing);
-    void writeWhole(std::optional<std::int32_t> opening);
+    using Lines = std::span<const std::size_t>;
+
+    void put(Lines changed, std::optional<std::int32_t> opening, RecordFile::Flush flush);
+    bool canAppend() const;
+    bool append(const std::string& bytes, RecordFile::Flush flush);
+    bool replace(const std::string& bytes);
+    std::string whole(std::optional<std::int32_t> opening) const;
 
     std::unique_ptr<RecordFile> file_;
     const Clock& clock_;
     ListIdentity listFile_;
     KeptLines lines_;
     std::optional<KeptMarksWriter> writer_;
-    std::size_t written_ = 0;  ///< bytes; 0 when there is no record of this run
+    std::size_t written_ = 0;  ///< bytes on the disk
+    bool behind_ = true;       ///< what is on the disk is something else
     bool opening_ = false;
-    bool trouble_ = false;  ///< the record could not be written
-    bool told_ = false;     ///< the user knows
+    bool trouble_ = false;  ///< the last attempt to write failed …
+    bool told_ = false;     ///< … and the user knows
 };
 
 /// Where the marks of a list are kept.

@@ -38,6 +38,12 @@ TEST_F(KeptMarks, AreOfferedAfterAKillAndAfterTheSessionDied) {
     StartAndResume();
     app.Click(IDC_FORM3_CMDSUIV);
     WaitUntilOpen(paths[1]);
+    // As the Explorer would: nobody takes the record away while marks are added to it.
+    const auto record = sandbox.Directory() / "tarnwick.reprise";
+    std::error_code refused;
+    EXPECT_FALSE(std::filesystem::remove(record, refused));
+    std::filesystem::rename(record, sandbox.Directory() / "autre", refused);
+    EXPECT_TRUE(refused);
     app.Kill();
     EXPECT_EQ(sandbox.ReadList(), ListOf({"0", "0", "0", "0"}));
 
@@ -56,10 +62,10 @@ TEST_F(KeptMarks, AreOfferedAfterAKillAndAfterTheSessionDied) {
     app.WaitForText(IDC_FORM3_TXTETAT, paths[2]);
     app.Click(IDC_FORM3_CMDFICHIERLISTE);
     ExpectList(ListOf({"1", "2", "3", "0"}));
-    WaitFor("the marks to be forgotten",
-            [&] { return !std::filesystem::exists(sandbox.Directory() / "tarnwick.reprise"); });
+    WaitFor("the marks to be forgotten", [&] { return std::filesystem::file_size(record) == 0; });
     app.Click(IDC_FORM3_CMDSUIV);
     ExpectInFatalError("Save2");  // the session's own description
+    EXPECT_FALSE(std::filesystem::exists(record));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "common/runtime_error.h"
 #include "rules/file_error.h"
+#include "rules/file_replacement.h"
 #include "rules/long_path.h"
 #include "win32/files/win_files.h"
 #include "win32/process/unique.h"
@@ -11,12 +12,16 @@
 namespace {
 
 /// Open as long as records are added, so that each costs no more than its own bytes. Others may
-/// read, move or delete it meanwhile.
+/// read it meanwhile, but neither write, move nor delete it: later marks would go with it.
 class WinRecordFile : public RecordFile {
  public:
     explicit WinRecordFile(const std::wstring& path) : path_(path), longPath_(longPath(path)) {}
 
     std::optional<std::string> read() override {
+        constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+        // A scanner that holds it for a moment must not make it look absent.
+        if (openNow(GENERIC_READ, kShareAll) != 0) return std::nullopt;
+        file_.reset(INVALID_HANDLE_VALUE);
         try {
             return WinFiles().readBytes(path_);
         } catch (const RuntimeError&) {
@@ -27,28 +32,51 @@ class WinRecordFile : public RecordFile {
     void replace(std::string_view bytes) override {
         file_.reset(INVALID_HANDLE_VALUE);
         WinFiles().replace(path_, [&](const ByteSink& file) { file(bytes); });
-        constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-        file_.reset(CreateFileW(longPath_.c_str(), FILE_APPEND_DATA | SYNCHRONIZE, kShareAll,
-                                nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-        require(isValid(file_));
+        // For reading as well: a file server may otherwise refuse a write now and then (the
+        // CreateFile function).
+        const DWORD error = openNow(GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ);
+        if (error != 0) throw fileError(error, path_);
+        require(SetFilePointerEx(file_.get(), {}, nullptr, FILE_END));
     }
 
     void append(std::string_view bytes, Flush flush) override {
+        // Programs of other systems, on the server that keeps it, take it away all the same.
+        require(GetFileAttributesW(longPath_.c_str()) != INVALID_FILE_ATTRIBUTES);
         DWORD written = 0;
         const auto size = static_cast<DWORD>(bytes.size());
         require(WriteFile(file_.get(), bytes.data(), size, &written, nullptr) && written == size);
         if (flush == Flush::Now) require(FlushFileBuffers(file_.get()));
     }
 
-    void remove() override {
-        file_.reset(INVALID_HANDLE_VALUE);
-        if (DeleteFileW(longPath_.c_str()) || GetLastError() == ERROR_FILE_NOT_FOUND) return;
+    bool clear() override {
+        if (isValid(file_)) return empty(file_.get());
+        if (DeleteFileW(longPath_.c_str()) || GetLastError() == ERROR_FILE_NOT_FOUND) return true;
         // Held by another program for the moment: an empty record offers nothing, either.
-        const UniqueHandle emptied(CreateFileW(longPath_.c_str(), GENERIC_WRITE, FILE_SHARE_READ,
-                                               nullptr, TRUNCATE_EXISTING, 0, nullptr));
+        return isValid(UniqueHandle(CreateFileW(longPath_.c_str(), GENERIC_WRITE, FILE_SHARE_READ,
+                                                nullptr, TRUNCATE_EXISTING, 0, nullptr)));
+    }
+
+    void remove() override {
+        if (isValid(file_)) empty(file_.get());
+        file_.reset(INVALID_HANDLE_VALUE);
+        clear();
     }
 
  private:
+    static bool empty(HANDLE file) {
+        return SetFilePointerEx(file, {}, nullptr, FILE_BEGIN) && SetEndOfFile(file);
+    }
+
+    /// As Windows' error number.
+    DWORD openNow(DWORD access, DWORD shared) {
+        const auto open = [&]() -> DWORD {
+            file_.reset(CreateFileW(longPath_.c_str(), access, shared, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+            return isValid(file_) ? 0 : GetLastError();
+        };
+        return openPatiently(open, [] { Sleep(kReplacementPause); });
+    }
+
     void require(bool succeeded) const {
         if (!succeeded) throw fileError(GetLastError(), path_);
     }

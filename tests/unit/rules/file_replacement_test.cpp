@@ -41,6 +41,23 @@ struct HeldFile : ReplacementSteps {
 
 }  // namespace
 
+TEST(FileReplacement, OpensAFileOnceNobodyIsInTheWay) {
+    const struct {
+        std::uint32_t error;
+        int failing, pauses;
+    } cases[] = {{kSharingViolation, 3, 3},
+                 {kAccessDenied, 3, 3},  // it is about to go
+                 {kLockViolation, 1000, 2000 / kReplacementPause},
+                 {kFileNotFound, 1, 0}};
+    for (const auto& c : cases) {
+        int opened = 0, pauses = 0;
+        const auto open = [&] { return opened++ < c.failing ? c.error : 0; };
+        const bool gone = c.error == kFileNotFound || c.failing == 1000;
+        EXPECT_EQ(openPatiently(open, [&] { ++pauses; }), gone ? c.error : 0);
+        EXPECT_EQ(pauses, c.pauses);
+    }
+}
+
 TEST(FileReplacement, WaitsTwoSecondsForAnotherProgramAndNotForARefusal) {
     const struct {
         int moving, opening, failing, error, pauses;

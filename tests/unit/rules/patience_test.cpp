@@ -35,11 +35,14 @@ TEST_F(PatienceTest, RetriesAtOnceThenAtGrowingIntervals) {
 TEST_F(PatienceTest, AsksTheUserTenSecondsAfterTheFirstRefusal) {
     for (unsigned retries = 0; retries < 3; ++retries) {
         boxes.shown.clear();
+        patience.promiseMarksWhen([&] { return retries == 1; });
         boxes.answers.assign(retries, Answer::Retry);
         boxes.answers.push_back(Answer::Cancel);
         const std::uint64_t start = machine.time;
         EXPECT_EQ(callRefusedFor(600'000), call_result::kRejected);
         EXPECT_EQ(boxes.shown.size(), retries + 1);
+        const bool promised = boxes.shown.back().text.find(L"marques") != std::wstring::npos;
+        EXPECT_EQ(promised, retries == 1);
         EXPECT_GE(machine.time - start, 10'000U * (retries + 1));
         EXPECT_LT(machine.time - start, 12'000U * (retries + 1));
     }
