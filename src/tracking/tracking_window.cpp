@@ -133,7 +133,7 @@ void TrackingWindow::advance(std::string_view mark) {
     const Saved saved = mark == state::kDone ? savedOf(cad_.save()) : Saved::Unknown;
     cad_.closeDocument();
     cad_.forgetDocument();
-    if (!pass_.advance(mark, saved)) {
+    if (!advancePass(mark, saved)) {
         keepMarks();
         showNumbers();
         showEnd(Redraw::InPlace);
@@ -143,6 +143,15 @@ void TrackingWindow::advance(std::string_view mark) {
     enableStepBack(true);
     cad_.bringForward();
     settle();
+}
+
+bool TrackingWindow::advancePass(std::string_view mark, Saved saved) {
+    try {
+        return pass_.advance(mark, saved);
+    } catch (const RuntimeError&) {
+        keepMarks();
+        throw;
+    }
 }
 
 void TrackingWindow::CmdPrecedent_Click() {

@@ -65,6 +65,8 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
     void Rapport_Click();
 
     const Pass& pass() const { return pass_; }
+    /// Whether all marks of the pass will be offered at the next start.
+    bool keepsMarks() const { return marks_.keeps(); }
 
  private:
     enum class Redraw { InPlace, Anew, AllToDo };
@@ -85,6 +87,8 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
     /// 6 outside 16 bits.
     void takePointer();
     void advance(std::string_view mark);
+    /// The mark is kept even when the list can't go on.
+    bool advancePass(std::string_view mark, Saved saved);
     /// The current line is shown, selected, and its document opened unless it is open already.
     void showAndOpen(Redraw redraw);
     void openCurrent();

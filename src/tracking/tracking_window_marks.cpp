@@ -17,8 +17,8 @@ bool TrackingWindow::resume() {
 bool TrackingWindow::offerMarks(KeptState& kept) {
     const int changed = changedLines(pass_.list(), kept);
     if (changed == 0) return true;
-    if (platform_.messageBoxes.show(keptMarksBox(changed)) == MessageBoxes::Answer::Yes)
-        return true;
+    // Only an explicit No: a box that could not be shown must not cost the marks.
+    if (platform_.messageBoxes.show(keptMarksBox(changed)) != MessageBoxes::Answer::No) return true;
     marks_.forget();
     return false;
 }
@@ -28,7 +28,7 @@ bool TrackingWindow::startBeside(std::int32_t fileLine) {
     if (!line) return pass_.start();
     const std::wstring path = pass_.pathOf(*line);
     const auto answer = platform_.messageBoxes.show(interruptedOpeningBox(path));
-    return answer == MessageBoxes::Answer::Yes ? pass_.startAfter(*line) : pass_.startAt(*line);
+    return answer == MessageBoxes::Answer::No ? pass_.startAt(*line) : pass_.startAfter(*line);
 }
 
 void TrackingWindow::keepMarks(std::optional<std::int32_t> opening) {

@@ -74,6 +74,7 @@ void TrackingWindow::Rapport_Click() {
 
 void TrackingWindow::writeReport(const std::wstring& path) {
     if (files_.owns(path)) throw errors::permissionDenied(path);
+    pass_.countOpenTime();
     platform_.files.replace(
         path, [&](const ByteSink& file) { file(reportOf(pass_.list(), platform_.clock)); });
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "common/utf8.h"
 #include "ports/clock.h"
@@ -55,7 +56,11 @@ bool Pass::startHere(int line) {
 bool Pass::advance(std::string_view code, Saved saved) {
     closeOpen();
     if (current_ >= 0) mark(current_, code, saved);
-    return startHere(nextToDo(list_, current_));
+    const int next = nextToDo(list_, current_);
+    // The search reads the row that it stops at, past the last one, too: at the end of a list that
+    // fills the table that raises 9.
+    static_cast<void>(std::as_const(list_).lines[next]);
+    return startHere(next);
 }
 
 bool Pass::stepBack() {
@@ -112,14 +117,20 @@ void Pass::openCurrent() {
 }
 
 void Pass::closeOpen() {
+    countOpenTime();
+    open_.reset();
+}
+
+void Pass::countOpenTime() {
     if (!open_) return;
+    const std::int64_t now = clock_.now();
     if (const auto line = lineOfFile(open_->fileLine)) {
         constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
         std::int32_t& seconds = list_.lines[*line].history.secondsOpen;
-        const std::int64_t open = std::max<std::int64_t>(clock_.now() - open_->since, 0);
+        const std::int64_t open = std::max<std::int64_t>(now - open_->since, 0);
         seconds = static_cast<std::int32_t>(std::min(std::max(seconds, 0) + open, kMost));
     }
-    open_.reset();
+    open_->since = now;
 }
 
 void Pass::write(std::int32_t lineCount, const std::function<void(std::string_view)>& file) {
@@ -129,7 +140,8 @@ void Pass::write(std::int32_t lineCount, const std::function<void(std::string_vi
 void Pass::takeAsSaved() {
     const auto open = open_ ? lineOfFile(open_->fileLine) : std::nullopt;
     for (int i = 0; i <= list_.last; ++i) list_.lines[i].fileLine = i;
-    if (open) open_->fileLine = *open;
+    // The line of a document that is open may have been eliminated.
+    open ? void(open_->fileLine = *open) : open_.reset();
 }
 
 void Pass::show(int line) {

@@ -53,7 +53,8 @@ class Pass {
 
     // Each of these gives whether there is a line in progress now, whose document is to be opened.
 
-    /// Gives the current line this state and goes to the next line to do, or to the end.
+    /// Gives the current line this state and goes to the next line to do, or to the end. Raises 9
+    /// at the end of a list that fills the table; the line has its state then.
     bool advance(std::string_view code, Saved saved = Saved::Unknown);
     /// Takes the current line back to do and goes to the nearest line to do above; past the end
     /// the search begins at the last line. Without one there is no current line.
@@ -71,6 +72,8 @@ class Pass {
     void openCurrent();
     /// The document that is open is closed: how long it was open is noted.
     void closeOpen();
+    /// Notes how long the document that is open has been so by now.
+    void countOpenTime();
 
     /// The text of the list file for the first `lineCount` lines, piece by piece; flagged lines
     /// get a leading 1, once more at each call. Raises 9 past the table.

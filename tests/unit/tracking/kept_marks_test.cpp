@@ -3,7 +3,10 @@
 namespace {
 
 struct Resuming : TrackingFixture {
-    bool recordThere() { return !machine.records.contents.empty(); }
+    bool recordThere() {
+        return std::ranges::any_of(machine.records.contents,
+                                   [](const auto& record) { return !record.second.empty(); });
+    }
 
     /// Starts again as after a kill, with these answers; gives the boxes that came.
     Texts restart(std::deque<MessageBoxes::Answer> answers) {
@@ -44,6 +47,9 @@ TEST_F(Resuming, OffersTheMarksThatWereKept) {
     EXPECT_EQ(restart({kYes}), Texts{kMarked});
     EXPECT_EQ(states(), L"1 2 3 0 0");
     EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\c");
+    // A box that could not be shown is no No.
+    EXPECT_EQ(restart({MessageBoxes::Answer{}}), Texts{kMarked});
+    EXPECT_EQ(states(), L"1 2 3 0 0");
     EXPECT_EQ(restart({kNo}), Texts{kMarked});
     EXPECT_EQ(states(), L"3 0 0 0 0");
     EXPECT_FALSE(recordThere());
@@ -119,10 +125,25 @@ TEST_F(Resuming, GoesPastADocumentThatStopsTheProgramOrOpensItAgain) {
 }
 
 TEST_F(Resuming, TellsOnceThatMarksCannotBeKept) {
-    machine.records.writesUntilFailure = 0;
+    machine.records.fails = [](int) { return true; };
     loadStates(L"0000");
     EXPECT_EQ(machine.boxes.shown.size(), 1U);
     clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIV});
     EXPECT_EQ(machine.boxes.shown.size(), 1U);
     EXPECT_EQ(states(), L"1 1 3 0");
+    EXPECT_FALSE(form->keepsMarks());
+    machine.records.fails = [](int) { return false; };
+    click(IDC_FORM3_CMDSUIVQUITTER);
+    EXPECT_TRUE(form->keepsMarks());
+    EXPECT_EQ(restart({kYes}).size(), 1U);
+    EXPECT_EQ(states(), L"1 1 2 3");
+}
+
+// Its end is an error; the last mark is not lost.
+TEST_F(Resuming, AFullListEndsPastTheTable) {
+    loadStates(std::wstring(8000, L'1') + L"0");
+    window().control(IDC_FORM3_NUMFICHCOUR).content = L"8000";
+    EXPECT_EQ(raised([&] { click(IDC_FORM3_CMDSUIVQUITTER); }), 9);
+    EXPECT_EQ(restart({kYes}).size(), 1U);
+    EXPECT_EQ(work().lines[8000].code, "2");
 }

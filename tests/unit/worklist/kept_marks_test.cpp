@@ -37,8 +37,8 @@ struct KeptMarks : PassFixture {
         }
     }
 
-    std::string record() { return files.contents.at(kRecord); }
-    bool hasRecord() { return files.contents.contains(kRecord); }
+    std::string record() { return files.contents[kRecord]; }
+    bool hasRecord() { return !record().empty(); }
 
     /// What a next run reads of these bytes.
     std::optional<KeptState> read(const std::string& bytes) {
@@ -99,6 +99,14 @@ TEST_F(KeptMarks, AreThereOnlyWhileThereIsSomethingToOffer) {
     pass->reset(only({1, 2}));
     keeper->keep(pass->list());
     EXPECT_FALSE(hasRecord() || keeper->keeps());
+    EXPECT_TRUE(files.contents.contains(kRecord));  // not made anew by the next one
+    keeper.reset();
+    EXPECT_TRUE(files.contents.empty());
+    // Nor is what an earlier run kept removed by one that did not come to offer it.
+    files.contents[kRecord] = "…";
+    begin(listOf("000"));
+    keeper.reset();
+    EXPECT_TRUE(hasRecord());
 }
 
 TEST_F(KeptMarks, GiveBackTheWorkOfAnyCommands) {
@@ -177,22 +185,51 @@ TEST_F(KeptMarks, OfATornOrSpoiledRecordAreThoseBefore) {
     }
 }
 
-TEST_F(KeptMarks, ThatCannotBeWrittenStopNoPass) {
-    for (int writes = 0; writes < 8; ++writes) {
-        files.contents.clear();
-        files.writesUntilFailure = writes;
-        begin(listOf("0000"));
-        open();
-        int told = keeper->takeFailure();
-        for (int i = 0; i < 3; ++i) {
-            advance(state::kDone);
-            told += keeper->takeFailure();
+TEST_F(KeptMarks, ThatCannotBeWrittenStopNoPassAndAreTriedAgainAtEachMark) {
+    constexpr int kMarks = 5;
+    // Which writes fail: none, one of each kind in turn, several, all from one on.
+    for (int first = 0; first < 14; ++first) {
+        for (const int many : {1, 2, 3, 1000}) {
+            SCOPED_TRACE(std::to_string(first) + " " + std::to_string(many));
+            files = {};
+            files.fails = [=](int write) { return write >= first && write < first + many; };
+            begin(listOf(std::string(kMarks + 1, '0')));
+            open();
+            bool failedBefore = keeper->takeFailure();
+            for (int i = 0; i < kMarks; ++i) {
+                clock.seconds += 60;
+                advance(state::kDone);
+                // What is promised is on the disk; a failure is told when it begins, and once.
+                if (keeper->keeps()) expectNothingLost();
+                const bool failed = !keeper->keeps();
+                EXPECT_EQ(keeper->takeFailure(), failed && !failedBefore) << i;
+                EXPECT_FALSE(keeper->takeFailure());
+                failedBefore = failed;
+            }
+            EXPECT_EQ(codesOf(*pass), "111113");
+            const bool wellAtLast = files.writes <= first || files.writes > first + many;
+            EXPECT_EQ(keeper->keeps(), wellAtLast);
         }
-        EXPECT_EQ(codesOf(*pass), "1113");
-        // The first opening leaves no record, each mark but the first is one write and one more
-        // tells that the next document is open.
-        EXPECT_EQ(told, writes < 7 ? 1 : 0) << writes;
     }
+    // After a save the next failure is a new one.
+    files.fails = [](int) { return true; };
+    begin(listOf("000"));
+    for (int saves = 0; saves < 2; ++saves) {
+        advance(state::kDone);
+        EXPECT_TRUE(keeper->takeFailure());
+        pass->takeAsSaved();
+        keeper->forget();
+        keeper->begin(ListIdentity(listFile), pass->list());
+    }
+}
+
+TEST_F(KeptMarks, OutliveTheFileThatSomebodyTakesAway) {
+    begin(listOf("0000"));
+    advance(state::kDone);
+    files.contents.clear();
+    advance(state::kSeen);
+    EXPECT_EQ(resumed(), "1200");
+    EXPECT_FALSE(keeper->takeFailure());
 }
 
 TEST_F(KeptMarks, OfALongPassTakeLessThanTwiceTheList) {
