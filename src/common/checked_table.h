@@ -7,9 +7,10 @@
 
 #include "common/runtime_error.h"
 
-/// A table of fixed size. Reaching past it raises subscript out of range (9). Room for its entries
-/// is made as they are written to, a page at a time; an entry stays where it is.
-template <class Entry, std::size_t Size>
+/// A table of fixed size. Reaching past it raises subscript out of range (9) with `limit`, which
+/// tells the user what the table has room for. Room for its entries is made as they are written to,
+/// a page at a time; an entry stays where it is.
+template <class Entry, std::size_t Size, const wchar_t* limit>
 class CheckedTable {
  public:
     Entry& operator[](std::int64_t index) {
@@ -38,7 +39,7 @@ class CheckedTable {
 
     static std::size_t checked(std::int64_t index) {
         if (index < 0 || static_cast<std::size_t>(index) >= Size) {
-            throw errors::subscriptOutOfRange();
+            throw errors::subscriptOutOfRange(limit);
         }
         return static_cast<std::size_t>(index);
     }

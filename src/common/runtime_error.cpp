@@ -27,8 +27,11 @@ RuntimeError overflow() { return {6, L"Dépassement de capacité : le nombre est
 
 RuntimeError outOfMemory() { return {7, L"Mémoire insuffisante."}; }
 
-RuntimeError subscriptOutOfRange() {
-    return {9, L"L'indice n'appartient pas à la sélection : la capacité d'une table est dépassée."};
+RuntimeError subscriptOutOfRange(const std::wstring& limit) {
+    RuntimeError error{
+        9, L"L'indice n'appartient pas à la sélection : la capacité d'une table est dépassée."};
+    if (!limit.empty()) error.addLine(limit);
+    return error;
 }
 
 RuntimeError typeMismatch(const std::wstring& expected) {

@@ -19,12 +19,12 @@ struct ProgramEnd {};
 
 /// The run-time errors that rules of the program raise. Their numbers are part of the interface.
 namespace errors {
-RuntimeError invalidArgument();                            ///< 5
-RuntimeError unwritableText();                             ///< 5, for a text no file can hold
-RuntimeError overflow();                                   ///< 6
-RuntimeError outOfMemory();                                ///< 7
-RuntimeError subscriptOutOfRange();                        ///< 9
-RuntimeError typeMismatch(const std::wstring& expected);   ///< 13, "... était attendu"
+RuntimeError invalidArgument();  ///< 5
+RuntimeError unwritableText();   ///< 5, for a text no file can hold
+RuntimeError overflow();         ///< 6
+RuntimeError outOfMemory();      ///< 7
+RuntimeError subscriptOutOfRange(const std::wstring& limit = {});  ///< 9; what there is room for
+RuntimeError typeMismatch(const std::wstring& expected);           ///< 13, "... était attendu"
 RuntimeError unexpected();                                 ///< 51, for what nobody thought of
 RuntimeError system(const std::wstring& what);             ///< 51, Windows gave nothing
 RuntimeError fileNotFound(const std::wstring& path);       ///< 53

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "common/runtime_error.h"
-#include "ports/message_boxes.h"
 
 Searching::Duration Searching::lasting() {
     return any() ? std::chrono::steady_clock::now() - current_->began_ : Duration::zero();
@@ -26,10 +25,4 @@ bool Searching::goesOn() {
     if (!any()) return true;
     if (current_->wish_ == Wish::EndProgram) throw ProgramEnd{};
     return current_->wish_ == Wish::None;
-}
-
-MessageBoxContent searchStoppedBox() {
-    return {.text = L"Recherche interrompue : la liste est incomplète.",
-            .title = L"Tarnwick",
-            .icon = MessageBoxContent::Icon::Warning};
 }

@@ -5,8 +5,6 @@
 #include "input/long_work.h"
 #include "ports/events.h"
 
-struct MessageBoxContent;
-
 /// Marks that a command searches, before its user's eyes and while the program's windows live. What
 /// the user does meanwhile is no command: it stops the search, has it begin again, ends the
 /// program, or is dropped.
@@ -46,6 +44,3 @@ class Searching : private LongWork {
     Wish wish_ = Wish::None;
     std::chrono::steady_clock::time_point began_ = std::chrono::steady_clock::now();
 };
-
-/// Tells the user who stopped a search what has become of it.
-MessageBoxContent searchStoppedBox();

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "input/searching.h"
+#include "pickers/search_sign.h"
 #include "ports/controls.h"
 
 namespace {
@@ -27,26 +28,26 @@ std::wstring indented(std::size_t level, const std::wstring& name) {
 
 }  // namespace
 
-bool DirectoryPicker::setPath(const std::wstring& path) {
+Opening DirectoryPicker::open(const std::wstring& path) {
     std::wstring wanted = reportedPath(path);
-    // Read first: a directory that can't be read leaves the picker as it was.
     const Searching opening;
+    const SearchSign sign(label_);
     auto subdirectories = readSubdirectories(services_, wanted);
-    if (!subdirectories) return false;
-    subdirectories_ = std::move(*subdirectories);
-    const bool changed = wanted != path_;
-    path_ = std::move(wanted);
-    ancestors_ = lineage(path_);
-    show();
-    return changed;
+    if (!subdirectories) return Opening::GivenUp;
+    const bool another = wanted != path_;
+    show(std::move(wanted), std::move(*subdirectories));
+    return another ? Opening::Another : Opening::Same;
 }
 
-bool DirectoryPicker::openSelected() {
+void DirectoryPicker::openOr(const std::wstring& path, const std::wstring& refuge) {
+    if (open(path) == Opening::GivenUp) show(reportedPath(refuge), {});
+}
+
+Opening DirectoryPicker::openSelected() {
     for (int i = 0; i < list_.count(); ++i) {
-        if (!list_.selected(i)) continue;
-        return setPath(pathOf(static_cast<std::size_t>(i)));
+        if (list_.selected(i)) return open(pathOf(static_cast<std::size_t>(i)));
     }
-    return false;
+    return Opening::Same;
 }
 
 std::wstring DirectoryPicker::pathOf(std::size_t line) const {
@@ -55,7 +56,10 @@ std::wstring DirectoryPicker::pathOf(std::size_t line) const {
                         : childPath(path_, subdirectories_.at(line - above).name);
 }
 
-void DirectoryPicker::show() {
+void DirectoryPicker::show(std::wstring path, std::vector<Subdirectory> subdirectories) {
+    path_ = std::move(path);
+    subdirectories_ = std::move(subdirectories);
+    ancestors_ = lineage(path_);
     const std::size_t above = ancestors_.size();
     list_.setLines(static_cast<int>(above + subdirectories_.size()), [&](int line) {
         const auto i = static_cast<std::size_t>(line);

@@ -5,30 +5,44 @@
 
 #include "pickers/tree_walk.h"
 
+class Control;
 class ListBox;
+
+/// What came of the opening of a directory.
+enum class Opening {
+    Another,  ///< than the one before
+    Same,
+    GivenUp  ///< by its user, who stopped it or asked for something newer
+};
 
 /// A list of the open directory's ancestors, the directory itself, and its sub-directories, each
 /// level indented under the one above. The user opens another by a double click or Enter.
 class DirectoryPicker {
  public:
-    DirectoryPicker(ListBox& list, const SearchServices& services)
-        : list_(list), services_(services) {}
+    /// `label` says so while a directory is being opened.
+    DirectoryPicker(ListBox& list, Control& label, const SearchServices& services)
+        : list_(list), label_(label), services_(services) {}
 
     /// The open directory: a drive root with its trailing backslash, any other without one.
     const std::wstring& path() const { return path_; }
 
-    /// Opens a directory. True when it is another one than before; not when its user gave up
-    /// waiting for it. Raises 70 or 76.
-    bool setPath(const std::wstring& path);
+    /// Opens a directory. One that is given up, or can't be read, leaves the picker as it was.
+    /// Raises 70 or 76.
+    Opening open(const std::wstring& path);
 
-    /// Opens the directory of the selected line. True when it is another one than before.
-    bool openSelected();
+    /// The same, but when it is given up the picker stands on `refuge`, a directory that is there,
+    /// of which nothing is read.
+    void openOr(const std::wstring& path, const std::wstring& refuge);
+
+    /// Opens the directory of the selected line.
+    Opening openSelected();
 
  private:
     std::wstring pathOf(std::size_t line) const;
-    void show();
+    void show(std::wstring path, std::vector<Subdirectory> subdirectories);
 
     ListBox& list_;
+    Control& label_;
     SearchServices services_;
     std::wstring path_;
     std::vector<std::wstring> ancestors_;  // full paths, from the root to the open directory

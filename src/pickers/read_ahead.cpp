@@ -13,6 +13,8 @@ namespace {
 
 /// As many as keep a server busy that answers each after some milliseconds.
 constexpr int kMostReaders = 8;
+/// Should all of them hang, what the walk waits for is read by one more.
+constexpr int kMostWithAwaited = kMostReaders + 1;
 
 using Lock = std::unique_lock<std::mutex>;
 
@@ -57,7 +59,8 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
 
     /// Lets one more worker read if there is something to be read. Each calls the next one.
     void callReader() {
-        if (ended || readers == kMostReaders || !plan.hasNext(awaited)) return;
+        if (ended || readers == kMostWithAwaited) return;
+        if (!plan.hasNext(awaited, readers < kMostReaders)) return;
         if (workers->start([desk = shared_from_this()] { desk->work(); })) ++readers;
     }
 
@@ -76,7 +79,7 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
 
     /// Reads one directory, unlocked meanwhile. False when there was none to be read.
     bool readNext(Lock& lock) {
-        TreeDirectory* directory = ended ? nullptr : plan.next(awaited);
+        TreeDirectory* directory = ended ? nullptr : plan.next(awaited, readers <= kMostReaders);
         if (!directory) return false;
         callReader();
         lock.unlock();
@@ -158,8 +161,8 @@ DirectoryId ReadAhead::identify(const std::wstring& directory) {
         *answer = std::move(found);
         if (!desk->ended) desk->patience->wake();
     };
-    Lock lock(desk_->mutex);
     if (!desk_->workers->start(ask)) return desk_->files.identify(directory);
+    Lock lock(desk_->mutex);
     while (!answer->given) wait(lock);
     if (answer->error) throw *answer->error;
     return answer->id;

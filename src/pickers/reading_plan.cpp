@@ -36,12 +36,12 @@ bool ReadingPlan::mayReadAhead() const {
     return !catchingUp_ || isMetBefore(*planned_.begin(), *waiting_.begin());
 }
 
-bool ReadingPlan::hasNext(const TreeDirectory* awaited) const {
-    return (awaited && awaited->state == TreeDirectory::State::Unread) || mayReadAhead();
+bool ReadingPlan::hasNext(const TreeDirectory* awaited, bool ahead) const {
+    return (awaited && awaited->state == TreeDirectory::State::Unread) || (ahead && mayReadAhead());
 }
 
-TreeDirectory* ReadingPlan::next(TreeDirectory* awaited) {
-    if (!hasNext(awaited)) return nullptr;
+TreeDirectory* ReadingPlan::next(TreeDirectory* awaited, bool ahead) {
+    if (!hasNext(awaited, ahead)) return nullptr;
     const bool isAwaited = awaited && awaited->state == TreeDirectory::State::Unread;
     TreeDirectory* directory = isAwaited ? awaited : *planned_.begin();
     directory->state = TreeDirectory::State::Reading;

@@ -39,13 +39,13 @@ class ReadingPlan {
 
     TreeDirectory& root() { return *root_; }
 
-    /// The directory that the walk waits for, if nobody reads it yet, else the next to be read
-    /// ahead; null when there is none, or when so many wait for the walk that it shall catch up
-    /// first. It counts as being read.
-    TreeDirectory* next(TreeDirectory* awaited);
+    /// The directory that the walk waits for, if nobody reads it yet, else, if wanted, the next to
+    /// be read ahead; null when there is none, or when so many wait for the walk that it shall
+    /// catch up first. It counts as being read.
+    TreeDirectory* next(TreeDirectory* awaited, bool ahead = true);
 
     /// Whether next() would give one.
-    bool hasNext(const TreeDirectory* awaited) const;
+    bool hasNext(const TreeDirectory* awaited, bool ahead = true) const;
 
     /// A directory has been read: it waits for the walk, and those below it can be read.
     void finish(TreeDirectory& directory);

@@ -14,3 +14,12 @@ const wchar_t* frenchCaption(MessageBoxes::Answer button, bool besideRetry) {
             return nullptr;
     }
 }
+
+std::wstring withBoundQuotes(std::wstring text) {
+    constexpr wchar_t kNoBreak = L'\u00A0';
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        if (text[i - 1] == L'«' && text[i] == L' ') text[i] = kNoBreak;
+        if (text[i - 1] == L' ' && text[i] == L'»') text[i - 1] = kNoBreak;
+    }
+    return text;
+}

@@ -30,3 +30,6 @@ class MessageBoxes {
 /// A button's French caption, whatever the language of the system; nullptr: it keeps its own. A
 /// lone button has the id of Cancel, but is an OK button.
 const wchar_t* frenchCaption(MessageBoxes::Answer button, bool besideRetry);
+
+/// A box's text with no-break blanks inside « » in place of plain ones, at which a line may end.
+std::wstring withBoundQuotes(std::wstring text);

@@ -34,6 +34,18 @@ bool addDirectory(Configuration& edited, int count, const std::wstring& path) {
     return true;
 }
 
+bool canBeSearchFolder(std::wstring_view path) {
+    return path.find(L';') == std::wstring_view::npos;
+}
+
+void TreeAddition::add(const std::wstring& path) {
+    if (!canBeSearchFolder(path)) {
+        leftOut.push_back(path);
+    } else if (addDirectory(edited, count, path)) {
+        ++count;
+    }
+}
+
 int removeDirectories(Configuration& edited, int count, const std::function<bool(int)>& selected,
                       Removal removal) {
     Configuration left;

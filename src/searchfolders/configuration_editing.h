@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "searchfolders/configurations.h"
 
@@ -11,6 +12,22 @@
 /// Adds a directory behind the `count` first ones, unless one of them is spelled alike, case
 /// included. True when it was added. Raises 9 for the 201st.
 bool addDirectory(Configuration& edited, int count, const std::wstring& path);
+
+/// Whether the CAD application can have it among its search folders: it takes them as one text,
+/// with semicolons between.
+bool canBeSearchFolder(std::wstring_view path);
+
+/// A copy of the directories being edited, to which those of a tree are added one by one.
+struct TreeAddition {
+    Configuration edited;
+    int count;
+    std::vector<std::wstring> leftOut = {};  ///< that can't be search folders
+    bool complete = false;                   ///< all of the tree was met
+    bool stopped = false;                    ///< by its user
+
+    /// Raises 9 for the 201st.
+    void add(const std::wstring& path);
+};
 
 enum class Removal {
     Selected,      ///< the selected directories only

@@ -70,9 +70,10 @@ ConfigurationWindow::ConfigurationWindow(Platform& platform, WindowPlaces& place
       List3(window_->listBox(IDC_FORM4_LIST3)),
       NomDeLaConf(window_->control(IDC_FORM4_NOMDELACONF)),
       Cpt_Rep(window_->control(IDC_FORM4_CPT_REP)),
+      Label5(window_->control(IDC_FORM4_LABEL5)),
       NNiv(window_->control(IDC_FORM4_NNIV)),
       Drive1(window_->comboBox(IDC_FORM4_DRIVE1), platform.files),
-      Dir1(window_->listBox(IDC_FORM4_DIR1), platform.search) {}
+      Dir1(window_->listBox(IDC_FORM4_DIR1), Label5, platform.search) {}
 
 void ConfigurationWindow::Form_Load() {
     const int dpi = window_->dpi();

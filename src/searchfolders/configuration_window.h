@@ -12,7 +12,6 @@
 class CadSession;
 class FileSystemObject;
 class WindowPlaces;
-enum class WalkEnd;
 struct Platform;
 struct ProgramFiles;
 
@@ -78,9 +77,9 @@ class ConfigurationWindow : public ProgramWindow<ConfigurationWindow> {
     /// Lets the user open a directory in Dir1. When it can't be read Dir1 stays where it was and
     /// the user is told: what is being edited is worth more than a drive that isn't ready.
     void openDirectory(const std::function<void()>& opening);
-    void addDirectoryOf(const std::wstring& path);
     /// Adds Dir1's directory and all below to a copy of what is edited, which its user may stop.
-    WalkEnd addTree(Configuration& edited, int& count);
+    void addTree(TreeAddition& tree);
+    void tellLeftOut(const std::vector<std::wstring>& directories);
     void remove(Removal removal);
     /// How many directories are being edited: what Cpt_Rep shows.
     int editedCount() const;
@@ -96,7 +95,7 @@ class ConfigurationWindow : public ProgramWindow<ConfigurationWindow> {
 
     TabStrip& TabStrip1;
     ListBox &List1, &List2, &List3;
-    Control &NomDeLaConf, &Cpt_Rep;
+    Control &NomDeLaConf, &Cpt_Rep, &Label5;
     DisplayDepth NNiv;
     DrivePicker Drive1;
     DirectoryPicker Dir1;

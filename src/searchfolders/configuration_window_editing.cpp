@@ -1,12 +1,13 @@
 // The configuration window's second tab: one configuration being edited.
 
-#include <optional>
+#include <algorithm>
 
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
 #include "input/searching.h"
 #include "pickers/pulse.h"
+#include "pickers/search_sign.h"
 #include "pickers/tree_walk.h"
 #include "ports/files.h"
 #include "ports/message_boxes.h"
@@ -16,9 +17,35 @@
 #include "session/window_places.h"
 #include "worklist/short_path.h"
 
+namespace {
+
+MessageBoxContent nothingAddedBox() {
+    return {.text = L"Recherche interrompue : rien n'a été ajouté.",
+            .title = L"Tarnwick",
+            .icon = MessageBoxContent::Icon::Warning};
+}
+
+MessageBoxContent leftOutBox(const std::vector<std::wstring>& directories) {
+    constexpr std::size_t kNamed = 5;
+    std::wstring text =
+        L"Un répertoire dont le chemin contient « ; » ne peut pas être un répertoire de recherche "
+        L"de SolidWorks. Laissé de côté :";
+    for (std::size_t i = 0; i < std::min(kNamed, directories.size()); ++i) {
+        text += L"\r\n" + directories[i];
+    }
+    if (directories.size() > kNamed) {
+        text += L"\r\net " + decimal(static_cast<int>(directories.size() - kNamed)) + L" de plus";
+    }
+    return {.text = text,
+            .title = L"Gestion des répertoires de recherche",
+            .icon = MessageBoxContent::Icon::Warning};
+}
+
+}  // namespace
+
 void ConfigurationWindow::prepareDirectories() {
     Drive1.fill();
-    Dir1.setPath(files_.directory);
+    Dir1.openOr(files_.directory, files_.directory);
     Drive1.setDrive(Dir1.path());
 }
 
@@ -72,6 +99,7 @@ void ConfigurationWindow::CmdMoins1_Click() {
 }
 
 void ConfigurationWindow::openDirectory(const std::function<void()>& opening) {
+    const wchar_t drive = Drive1.drive();
     std::wstring problem;
     try {
         opening();
@@ -80,7 +108,8 @@ void ConfigurationWindow::openDirectory(const std::function<void()>& opening) {
         if (tooMany) throw;
         problem = error.text;
     }
-    Drive1.setDrive(Dir1.path());
+    // Unless another one was chosen meanwhile.
+    if (Drive1.drive() == drive) Drive1.setDrive(Dir1.path());
     if (problem.empty()) return;
     platform_.messageBoxes.show({.text = L"Ce répertoire ne peut pas être ouvert.\r\n" + problem,
                                  .title = L"Gestion des répertoires de recherche",
@@ -90,44 +119,51 @@ void ConfigurationWindow::openDirectory(const std::function<void()>& opening) {
 void ConfigurationWindow::Drive1_Change() {
     const wchar_t drive = Drive1.drive();
     if (drive == 0) return;
-    openDirectory([&] { Dir1.setPath(platform_.files.currentDirectory(drive)); });
+    openDirectory([&] { Dir1.open(platform_.files.currentDirectory(drive)); });
 }
 
 void ConfigurationWindow::Dir1_DblClick() {
     openDirectory([&] { Dir1.openSelected(); });
 }
 
-void ConfigurationWindow::addDirectoryOf(const std::wstring& path) {
+void ConfigurationWindow::CmdAjo1_Click() {
+    const std::wstring& path = Dir1.path();
     const int count = editedCount();
+    if (!canBeSearchFolder(path)) return tellLeftOut({path});
     if (!addDirectory(configurations_.edited, count, path)) return;
     showEditedCount(count + 1);
     showEdited();
 }
 
-void ConfigurationWindow::CmdAjo1_Click() { addDirectoryOf(Dir1.path()); }
-
 void ConfigurationWindow::CmdAjo2_Click() {
     const int before = editedCount();
-    int count = before;
-    Configuration edited = configurations_.edited;
-    std::optional<WalkEnd> end;
-    openDirectory([&] { end = addTree(edited, count); });
-    if (end == WalkEnd::Complete) configurations_.edited = edited;
-    showEditedCount(end == WalkEnd::Complete ? count : before);
-    if (end == WalkEnd::Interrupted) platform_.messageBoxes.show(searchStoppedBox());
+    TreeAddition tree{configurations_.edited, before};
+    openDirectory([&] { addTree(tree); });
+    if (tree.complete) configurations_.edited = tree.edited;
+    showEditedCount(tree.complete ? tree.count : before);
     if (editedCount() != before) showEdited();
+    if (tree.stopped) platform_.messageBoxes.show(nothingAddedBox());
+    if (tree.complete && !tree.leftOut.empty()) tellLeftOut(tree.leftOut);
 }
 
-WalkEnd ConfigurationWindow::addTree(Configuration& edited, int& count) {
+void ConfigurationWindow::addTree(TreeAddition& tree) {
     const Searching searching;
+    const SearchSign sign(Label5);
     Pulse pulse;
-    return walkTree(platform_.search, Dir1.path(), true, noFile,
-                    [&](const std::wstring& directory, const std::vector<std::wstring>&) {
-                        if (addDirectory(edited, count, directory)) ++count;
-                        if (!pulse.due()) return;
-                        showEditedCount(count);
-                        Cpt_Rep.repaint();
-                    });
+    const WalkEnd end =
+        walkTree(platform_.search, Dir1.path(), true, noFile,
+                 [&](const std::wstring& directory, const std::vector<std::wstring>&) {
+                     tree.add(directory);
+                     if (!pulse.due()) return;
+                     showEditedCount(tree.count);
+                     Cpt_Rep.repaint();
+                 });
+    tree.complete = end == WalkEnd::Complete;
+    tree.stopped = searching.stopped();
+}
+
+void ConfigurationWindow::tellLeftOut(const std::vector<std::wstring>& directories) {
+    platform_.messageBoxes.show(leftOutBox(directories));
 }
 
 void ConfigurationWindow::CmdRetir1_Click() { remove(Removal::Selected); }

@@ -6,15 +6,17 @@
 
 inline constexpr int kMostConfigurations = 50;
 inline constexpr int kMostDirectories = 200;
+inline constexpr wchar_t kConfigurationsLimit[] = L"Configurations : 50 au plus.";
+inline constexpr wchar_t kDirectoriesLimit[] = L"Répertoires d'une configuration : 200 au plus.";
 
 /// A configuration: entry 0 its name, entries 1 to 200 its directories. An empty one ends them.
-using Configuration = CheckedTable<std::wstring, kMostDirectories + 1>;
+using Configuration = CheckedTable<std::wstring, kMostDirectories + 1, kDirectoriesLimit>;
 
 /// The named lists of directories that can become the CAD application's search folders. They
 /// outlive the window that edits them. Reaching past a table raises 9.
 struct Configurations {
     /// Row 0 mirrors the CAD application's own setting, "En Cours"; a row without a name is free.
-    CheckedTable<Configuration, kMostConfigurations + 1> rows;
+    CheckedTable<Configuration, kMostConfigurations + 1, kConfigurationsLimit> rows;
     int last = 0;      ///< the last row in use
     int selected = 0;  ///< the row last found selected
 

@@ -12,7 +12,6 @@ DocumentSearch::DocumentSearch(const SearchServices& services, FoundDocuments& f
       progress_(std::move(progress)) {}
 
 WalkEnd DocumentSearch::run(const std::wstring& directory, bool withSubdirectories) {
-    append_ = false;
     // With no kind to look for there is nothing to find further down.
     const bool deep = withSubdirectories && !kinds_.pattern().empty();
     return walkTree(
@@ -25,8 +24,7 @@ WalkEnd DocumentSearch::run(const std::wstring& directory, bool withSubdirectori
 
 void DocumentSearch::collect(const std::wstring& directory,
                              const std::vector<std::wstring>& documents) {
-    found_.beginPass(append_);
-    append_ = true;
+    found_.beginPass(true);
     progress_(static_cast<int>(documents.size()));
     for (const std::wstring& name : documents) found_.store(directory, name);
 }

@@ -18,7 +18,7 @@ class DocumentSearch {
     DocumentSearch(const SearchServices& services, FoundDocuments& found, DocumentKinds kinds,
                    Progress progress);
 
-    /// Puts the directory's documents into the table, in ascending name order; then, if wanted,
+    /// Adds the directory's documents to the table, in ascending name order; then, if wanted,
     /// those of its sub-directories as walkTree meets them. Interrupted leaves there what was found
     /// so far. Raises 70 or 76 for a directory that can't be read, 9 when the table is full.
     WalkEnd run(const std::wstring& directory, bool withSubdirectories);
@@ -30,5 +30,4 @@ class DocumentSearch {
     FoundDocuments& found_;
     DocumentKinds kinds_;
     Progress progress_;
-    bool append_ = false;
 };

@@ -10,6 +10,7 @@
 class FoundDocuments {
  public:
     static constexpr int kCapacity = 8001;
+    static constexpr wchar_t kLimit[] = L"Documents trouvés : 8001 au plus.";
 
     int count() const { return count_; }
     /// A bare file name or, when sub-directories are included, a full path.
@@ -32,7 +33,7 @@ class FoundDocuments {
  private:
     bool presentInPass(const std::wstring& entry) const;
 
-    CheckedTable<std::wstring, kCapacity> entries_;
+    CheckedTable<std::wstring, kCapacity, kLimit> entries_;
     std::unordered_set<std::wstring> pass_;  ///< the bare names of the current pass
     int count_ = 0;
     bool fullPaths_ = false;

@@ -36,10 +36,11 @@ SelectionWindow::SelectionWindow(Platform& platform, WindowPlaces& places, const
       sousrep(window_->checkBox(IDC_FORM1_SOUSREP)),
       nbfich(window_->control(IDC_FORM1_NBFICH)),
       cptfichier(window_->control(IDC_FORM1_CPTFICHIER)),
+      Label4(window_->control(IDC_FORM1_LABEL4)),
       n_filtre(window_->control(IDC_FORM1_N_FILTRE)),
       NNiveau(window_->control(IDC_FORM1_NNIVEAU)),
       unite(window_->comboBox(IDC_FORM1_UNITE), platform.files),
-      repert(window_->listBox(IDC_FORM1_REPERT), platform.search),
+      repert(window_->listBox(IDC_FORM1_REPERT), Label4, platform.search),
       List1(window_->listBox(IDC_FORM1_LIST1), found_) {}
 
 void SelectionWindow::Form_Load() {
@@ -60,7 +61,8 @@ void SelectionWindow::openWorkingDirectory() {
     const std::wstring directory = working.size() >= kDriveLength ? working : L"c:\\";
     unite.fill();
     unite.setDrive(directory);
-    repert.setPath(directory);
+    repert.openOr(directory, files_.directory);
+    unite.setDrive(repert.path());
     repert_Change();
 }
 

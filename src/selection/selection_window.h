@@ -68,9 +68,12 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     /// Asks whether a whole drive is to be searched. True for Yes.
     bool confirmWholeDrive();
     void leaveOutSubdirectories();
-    void rebuild(const SelectionList::Entries& chosen);
-    /// True when the user stopped it.
-    bool search();
+    enum class SearchEnd { Complete, Stopped, Superseded };
+
+    /// True when nobody ended it before its end.
+    bool rebuild(const SelectionList::Entries& chosen);
+    SearchEnd search();
+    void showCounts(int filesListed);
     void writeList();
     std::wstring fullPath(int index) const;
 
@@ -82,7 +85,7 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
 
     ComboBox& typef;
     CheckBox& sousrep;
-    Control &nbfich, &cptfichier, &n_filtre;
+    Control &nbfich, &cptfichier, &Label4, &n_filtre;
     DisplayDepth NNiveau;
     DrivePicker unite;
     DirectoryPicker repert;

@@ -4,23 +4,40 @@
 #include "input/searching.h"
 #include "pickers/directory_listing.h"
 #include "pickers/pulse.h"
+#include "pickers/search_sign.h"
 #include "ports/files.h"
 #include "ports/message_boxes.h"
 #include "ports/platform.h"
 #include "selection/document_search.h"
 #include "selection/selection_window.h"
 
+namespace {
+
+MessageBoxContent incompleteListBox() {
+    return {.text = L"Recherche interrompue : la liste est incomplète.",
+            .title = L"Tarnwick",
+            .icon = MessageBoxContent::Icon::Warning};
+}
+
+}  // namespace
+
 void SelectionWindow::repert_DblClick() {
-    if (repert.openSelected()) repert_Change();
+    if (repert.openSelected() == Opening::Another) repert_Change();
 }
 
 void SelectionWindow::unite_Change() {
-    if (unite.drive() == 0) return;
-    const bool elsewhere = repert.setPath(platform_.files.currentDirectory(unite.drive()));
-    repert_Change();
+    const wchar_t drive = unite.drive();
+    if (drive == 0) return;
+    const Opening opening = repert.open(platform_.files.currentDirectory(drive));
+    if (opening == Opening::GivenUp) {
+        // Unless it was for another one, the choice of before stands again.
+        if (unite.drive() == drive) unite.setDrive(repert.path());
+        return;
+    }
+    const bool complete = rebuild({});
     // Another directory and the drive each ask for a rebuild. The second finds the same again, so
     // it is spared unless it has a question to repeat.
-    if (elsewhere && searchesWholeDrive()) repert_Change();
+    if (complete && opening == Opening::Another && searchesWholeDrive()) repert_Change();
 }
 
 bool SelectionWindow::searchesWholeDrive() const {
@@ -60,27 +77,39 @@ void SelectionWindow::typef_Validate() {
     rebuild(asSearched ? List1.chosenEntries() : SelectionList::Entries());
 }
 
-void SelectionWindow::rebuild(const SelectionList::Entries& chosen) {
-    if (searchesWholeDrive() && !confirmWholeDrive()) leaveOutSubdirectories();
+bool SelectionWindow::rebuild(const SelectionList::Entries& chosen) {
+    if (searchesWholeDrive() && !confirmWholeDrive()) {
+        leaveOutSubdirectories();
+        return true;
+    }
     searched_ = repert.path();
     searchedKinds_ = typef.text();
-    const bool stopped = search();
+    const SearchEnd end = search();
     cptfichier.setText(decimal(found_.count()));
     List1.fill(NNiveau.levels(), chosen);
     List1_Click();
-    if (stopped) platform_.messageBoxes.show(searchStoppedBox());
+    if (end == SearchEnd::Stopped) platform_.messageBoxes.show(incompleteListBox());
+    return end == SearchEnd::Complete;
 }
 
-bool SelectionWindow::search() {
+SelectionWindow::SearchEnd SelectionWindow::search() {
     const Searching searching;
+    const SearchSign sign(Label4);
+    found_.beginPass(false);
+    showCounts(0);
     Pulse pulse;
-    const auto showProgress = [&](int filesListed) {
-        if (!pulse.due()) return;
-        nbfich.setText(decimal(filesListed));
-        cptfichier.setText(decimal(found_.count()));
-        nbfich.repaint();
-        cptfichier.repaint();
-    };
-    DocumentSearch search(platform_.search, found_, DocumentKinds(searchedKinds_), showProgress);
-    return search.run(searched_, sousrep.checked()) == WalkEnd::Interrupted && searching.stopped();
+    DocumentSearch search(platform_.search, found_, DocumentKinds(searchedKinds_),
+                          [&](int filesListed) {
+                              if (pulse.due()) showCounts(filesListed);
+                          });
+    const WalkEnd end = search.run(searched_, sousrep.checked());
+    if (end == WalkEnd::Complete) return SearchEnd::Complete;
+    return searching.stopped() ? SearchEnd::Stopped : SearchEnd::Superseded;
+}
+
+void SelectionWindow::showCounts(int filesListed) {
+    nbfich.setText(decimal(filesListed));
+    cptfichier.setText(decimal(found_.count()));
+    nbfich.repaint();
+    cptfichier.repaint();
 }

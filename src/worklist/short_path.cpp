@@ -28,7 +28,9 @@ std::wstring shortPath(int depth, std::wstring_view path) {
     // The last character is never examined: a trailing backslash hides no level.
     const std::wstring_view examined = path.substr(0, path.empty() ? 0 : path.size() - 1);
     const auto backslashes = std::ranges::count(examined, L'\\');
-    if (backslashes > kMostBackslashes) throw errors::subscriptOutOfRange();
+    if (backslashes > kMostBackslashes) {
+        throw errors::subscriptOutOfRange(L"Niveaux d'un chemin raccourci : 16 au plus.");
+    }
 
     const int levels = std::min(static_cast<int>(backslashes) - 1, depth);
     if (levels < 1) return {};

@@ -45,6 +45,7 @@ struct WorkLine {
 class WorkLines {
  public:
     static constexpr std::int32_t kCapacity = 8001;
+    static constexpr wchar_t kLimit[] = L"Lignes de la liste : 8001 au plus.";
 
     WorkLine& operator[](int line) {
         WorkLine& reached = table_[line];
@@ -64,7 +65,7 @@ class WorkLines {
     }
 
  private:
-    CheckedTable<WorkLine, kCapacity> table_;
+    CheckedTable<WorkLine, kCapacity, kLimit> table_;
     std::array<int, 8> recent_{};
     std::uint64_t reached_ = 0;
 };

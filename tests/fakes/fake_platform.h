@@ -14,9 +14,9 @@
 #include "fakes/fake_record_files.h"
 #include "fakes/fake_settings.h"
 #include "fakes/fake_window.h"
+#include "fakes/fake_workers.h"
 #include "input/searching.h"
 #include "ports/platform.h"
-#include "ports/workers.h"
 #include "session/file_system_object.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
@@ -33,7 +33,7 @@ struct FakePlatform {
     FakeListHolds listHolds;
     FakeClock clock;
     FakeWindowFactory windows;
-    NoWorkers workers;
+    FakeWorkers workers;
     FakePatience patience;
     SearchServices search{files, workers, patience};
     Platform platform{automation, settings,    files,   records, listHolds, clock,
@@ -65,6 +65,17 @@ struct FakePlatform {
         };
         patience.goesOn = [=] {
             if (std::exchange(*here, false)) deed();
+            return Searching::goesOn();
+        };
+    }
+
+    /// From now on no directory answers; Escape is pressed while one is waited for, and each time
+    /// this is done.
+    void hangUntilEscape(const std::function<void()>& deed = [] {}) {
+        workers.hang = true;
+        patience.goesOn = [=] {
+            deed();
+            Searching::stop();
             return Searching::goesOn();
         };
     }

@@ -44,10 +44,11 @@ DWORD styleOf(const MessageBoxContent& box) {
 
 MessageBoxes::Answer WinMessageBoxes::show(const MessageBoxContent& box) {
     const ModalQuestion question;
+    const std::wstring text = withBoundQuotes(box.text);
     MSGBOXPARAMSW parameters{};
     parameters.cbSize = sizeof parameters;
     parameters.hwndOwner = question.owner();
-    parameters.lpszText = box.text.c_str();
+    parameters.lpszText = text.c_str();
     parameters.lpszCaption = box.title.c_str();
     parameters.dwStyle = styleOf(box) | (question.topmost() ? MB_TOPMOST : 0);
     parameters.dwContextHelpId = static_cast<DWORD>(box.helpContext);

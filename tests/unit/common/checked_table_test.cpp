@@ -2,8 +2,10 @@
 
 #include "unit/unit_test.h"
 
+constexpr wchar_t kLimit[] = L"Essais : 1000 au plus.";
+
 TEST(CheckedTable, HasAllItsEntriesFromTheBeginningAndNoMore) {
-    CheckedTable<std::string, 1000> table;
+    CheckedTable<std::string, 1000, kLimit> table;
     const auto& view = table;
     EXPECT_EQ(view[999], "");
     std::string& last = table[999];

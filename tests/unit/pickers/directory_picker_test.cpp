@@ -14,29 +14,30 @@ TEST(DirectoryPicker, ShowsAndOpensAncestorsAndSubdirectories) {
     files.add({L"c:\\plans\\moteur\\piece.SLDPRT"});
     FakeListBox list;
     list.severalSelectable = false;
+    FakeControl label;
     NoWorkers alone;
     FakePatience patience;
-    DirectoryPicker picker(list, {files, alone, patience});
+    DirectoryPicker picker(list, label, {files, alone, patience});
     const auto open = [&](int line) {
         list.select(line, true);
         return picker.openSelected();
     };
 
-    EXPECT_TRUE(picker.setPath(L"c:\\plans\\moteur\\"));
+    EXPECT_EQ(picker.open(L"c:\\plans\\moteur\\"), Opening::Another);
     EXPECT_EQ(picker.path(), L"c:\\plans\\moteur");
     EXPECT_EQ(list.texts(),
               (Texts{L"c:\\", L"  plans", L"    moteur", L"      arbre", L"      Bielle"}));
     EXPECT_EQ(list.selection(), std::vector{2});
-    EXPECT_FALSE(picker.setPath(L"c:\\plans\\moteur"));
+    EXPECT_EQ(picker.open(L"c:\\plans\\moteur"), Opening::Same);
 
-    EXPECT_TRUE(open(3));
+    EXPECT_EQ(open(3), Opening::Another);
     EXPECT_EQ(picker.path(), L"c:\\plans\\moteur\\arbre");
-    EXPECT_FALSE(open(3));
-    EXPECT_TRUE(open(1));
+    EXPECT_EQ(open(3), Opening::Same);
+    EXPECT_EQ(open(1), Opening::Another);
     EXPECT_EQ(list.texts(), (Texts{L"c:\\", L"  plans", L"    moteur", L"    Zone"}));
-    EXPECT_TRUE(open(0));
+    EXPECT_EQ(open(0), Opening::Another);
     list.clearSelection();
-    EXPECT_FALSE(picker.openSelected());
+    EXPECT_EQ(picker.openSelected(), Opening::Same);
     EXPECT_EQ(picker.path(), L"c:\\");
 }
 

@@ -27,12 +27,13 @@ void note(Log& log, const std::wstring& directory, const Texts& names) {
 struct JoiningWorkers : Workers {
     bool start(std::function<void()> job) override {
         const std::scoped_lock lock(mutex_);
-        if (++started_ % refusedEach == 0) return false;
+        if (++started_ % refusedEach == 0 || started_ > most) return false;
         threads_.emplace_back(std::move(job));
         return true;
     }
 
     int refusedEach = 1 << 30;  ///< every so many starts there is no thread to be had
+    int most = 1 << 30;
 
  private:
     std::mutex mutex_;
@@ -75,6 +76,14 @@ class RandomTree {
 
     std::mt19937 random_;
 };
+
+/// Polls with a generous limit; whether it came.
+bool comes(const std::function<bool()>& what) {
+    for (int i = 0; i < 10'000 && !what(); ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return what();
+}
 
 struct TreeWalk : testing::Test {
     /// All workers are waited for.
@@ -146,6 +155,46 @@ TEST_F(TreeWalk, EndsWhenItIsToldAlthoughAServerDoesNotAnswer) {
         ASSERT_LE(log.size(), all.size());
         EXPECT_TRUE(std::equal(log.begin(), log.end(), all.begin()));
     }
+}
+
+TEST_F(TreeWalk, ReadsWhatItWaitsForThoughAllThatReadAheadHang) {
+    files.links[L"c:\\r\\lien"] = L"c:\\vif";
+    files.add({L"c:\\vif\\1.SLDPRT"});
+    for (int i = 0; i < 20; ++i) files.directories.insert(L"c:\\r\\mort" + std::to_wstring(i));
+    std::latch answer(1);
+    std::atomic<int> hanging = 0;
+    files.beforeEach = [&](const std::wstring& directory) {
+        if (directory.find(L"mort") != std::wstring::npos) {
+            ++hanging;
+            answer.wait();
+        } else if (directory.ends_with(L"lien")) {
+            comes([&] { return hanging >= 8; });
+        }
+    };
+    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    patience.goesOn = [&] { return log.size() < 3 && std::chrono::steady_clock::now() < limit; };
+    JoiningWorkers workers;
+    EXPECT_EQ(walk(workers), WalkEnd::Interrupted);
+    answer.count_down();
+    EXPECT_EQ(log, (Log{L"c:\\r", L"c:\\r\\lien", L"1.SLDPRT"}));
+}
+
+TEST_F(TreeWalk, LetsOthersReadWhileItIdentifiesALinkItself) {
+    files.links[L"c:\\r\\lien"] = L"c:\\vif";
+    files.add({L"c:\\vif\\1.SLDPRT", L"c:\\r\\z1\\2.SLDPRT", L"c:\\r\\z2\\3.SLDPRT"});
+    std::atomic<bool> identifying = false;
+    std::atomic<bool> bothRead = false;
+    bool wentOn = false;
+    files.beforeEach = [&](const std::wstring& directory) {
+        if (directory.ends_with(L"z1")) comes([&] { return identifying.load(); });
+        if (directory.ends_with(L"z2")) bothRead = true;
+        if (!directory.ends_with(L"lien") || identifying.exchange(true)) return;
+        wentOn = comes([&] { return bothRead.load(); });
+    };
+    JoiningWorkers workers;
+    workers.most = 1;
+    EXPECT_EQ(walk(workers), WalkEnd::Complete);
+    EXPECT_TRUE(wentOn);
 }
 
 TEST_F(TreeWalk, LetsThroughWhatThePatienceRaises) {

@@ -26,6 +26,10 @@ TEST(MessageBoxButtons, AreFrenchAndALoneOneStaysOk) {
     EXPECT_EQ(frenchCaption(Answer::Ok, false), nullptr) << "the lone button, elsewhere";
 }
 
+TEST(MessageBoxTexts, KeepQuotesOnTheLineOfWhatTheyQuote) {
+    EXPECT_EQ(withBoundQuotes(L"« Oui » « Non »« "), L"«\u00A0Oui\u00A0» «\u00A0Non\u00A0»«\u00A0");
+}
+
 TEST(TaskbarProgress, IsToldOnceTheButtonIsThere) {
     FakeButton button;
     TaskbarProgress progress(button);

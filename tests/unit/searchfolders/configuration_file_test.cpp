@@ -33,9 +33,12 @@ TEST(ConfigurationFile, HoldsAsMuchAsTheTableAndNamesTheLineThatIsTooMuch) {
     };
     EXPECT_EQ(errorFor(50, 200).number, 0);
     EXPECT_EQ(errorFor(51, 1).number, 9);
+    EXPECT_NE(errorFor(51, 1).text.find(L"\r\nConfigurations : 50 au plus."), std::wstring::npos);
     const RuntimeError error = errorFor(1, 201);
     EXPECT_EQ(error.number, 9);
-    EXPECT_TRUE(error.text.ends_with(L"\r\nLigne 202 de c:\\x.cfg")) << error.text;
+    EXPECT_TRUE(error.text.ends_with(
+        L"\r\nRépertoires d'une configuration : 200 au plus.\r\nLigne 202 de c:\\x.cfg"))
+        << error.text;
 }
 
 TEST(ConfigurationFile, IsWrittenBackWithItsHolesClosed) {

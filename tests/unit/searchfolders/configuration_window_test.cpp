@@ -123,9 +123,40 @@ TEST_F(ConfigurationFixture, AddsNothingOfATreeThatIsStoppedOrCantBeRead) {
     click(IDC_FORM4_CMDAJO2);
     machine.files.unreadable = {L"c:\\p\\2"};
     click(IDC_FORM4_CMDAJO2);
-    EXPECT_EQ(machine.boxes.shown.size(), 2U);
+    ASSERT_EQ(machine.boxes.shown.size(), 2U);
+    EXPECT_EQ(machine.boxes.shown[0].text, L"Recherche interrompue : rien n'a été ajouté.");
     EXPECT_EQ(text(IDC_FORM4_CPT_REP), L"1");
     EXPECT_EQ(configurations.edited[2], L"");
+}
+
+TEST_F(ConfigurationFixture, LeavesOutDirectoriesThatAListOfFoldersCantHold) {
+    machine.files.directories = {L"c:\\p\\1;2\\x", L"c:\\p\\3"};
+    machine.files.currentDirectories[L'c'] = L"c:\\p";
+    click(IDC_FORM4_CMDCREER);
+    chooseDrive(0);
+    click(IDC_FORM4_CMDAJO2);
+    EXPECT_EQ(list(IDC_FORM4_LIST2).texts(), (Texts{L"c:\\p", L"c:\\p\\3"}));
+    ASSERT_EQ(machine.boxes.shown.size(), 1U);
+    EXPECT_TRUE(machine.boxes.shown[0].text.ends_with(L"\r\nc:\\p\\1;2\r\nc:\\p\\1;2\\x"));
+    list(IDC_FORM4_DIR1).clearSelection();
+    list(IDC_FORM4_DIR1).select(2, true);
+    window.sink.raise(IDC_FORM4_DIR1, Event::DoubleClick);
+    click(IDC_FORM4_CMDAJO1);
+    EXPECT_EQ(text(IDC_FORM4_CPT_REP), L"2");
+    EXPECT_EQ(machine.boxes.shown.size(), 2U);
+}
+
+TEST_F(ConfigurationFixture, StandsSomewhereThoughNothingAnswersWhenItIsLoaded) {
+    machine.hangUntilEscape();
+    ConfigurationWindow another(machine.platform, machine.places, cad, fileSystem,
+                                machine.programFiles, configurations);
+    another.Form_Load();
+    FakeWindow& shown = machine.window(IDD_FORM4);
+    EXPECT_EQ(shown.listBox(IDC_FORM4_DIR1).texts(), (Texts{L"c:\\", L"  tarnwick"}));
+    shown.comboBox(IDC_FORM4_DRIVE1).chosen = 1;
+    shown.click(IDC_FORM4_DRIVE1);
+    EXPECT_EQ(shown.comboBox(IDC_FORM4_DRIVE1).chosen, 0);
+    EXPECT_TRUE(machine.boxes.shown.empty());
 }
 
 TEST_F(ConfigurationFixture, ModifyingTheFoldersInForceAppliesThemAtOnce) {

@@ -98,7 +98,9 @@ TEST_F(SelectionSearch, FailsWhenThereAreTooManyDocuments) {
     load(L"c:\\n");
     EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"8001");
     machine.files.add({L"c:\\n\\trop.SLDDRW"});
-    EXPECT_EQ(raised([&] { tick(true); }), 9);
+    const RuntimeError error = raisedError([&] { tick(true); });
+    EXPECT_EQ(error.number, 9);
+    EXPECT_TRUE(error.text.ends_with(L"\r\nDocuments trouvés : 8001 au plus.")) << error.text;
 }
 
 TEST_F(SelectionSearch, AsksBeforeAWholeDriveIsSearched) {
@@ -168,4 +170,42 @@ TEST_F(SelectionSearch, ListsWhatWasFoundWhenItIsStoppedOrBegunAgain) {
     type(L"*.SLDDRW");
     EXPECT_EQ(unchosen(), found);
     EXPECT_EQ(machine.boxes.shown.size(), 1U);
+}
+
+TEST_F(SelectionSearch, ListsNothingOlderWhenItIsStoppedBeforeItHasReadAnything) {
+    load();
+    control(IDC_FORM1_LABEL4).content = L"Fichiers";
+    std::wstring shown;
+    machine.hangUntilEscape([&] {
+        shown = text(IDC_FORM1_NBFICH) + L"/" + text(IDC_FORM1_CPTFICHIER) + L" " +
+                text(IDC_FORM1_LABEL4);
+    });
+    type(L"*.SLDPRT");
+    EXPECT_EQ(shown, L"0/0 Recherche…");
+    EXPECT_EQ(text(IDC_FORM1_LABEL4), L"Fichiers");
+    EXPECT_EQ(list().count(), 0);
+    EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"0");
+    EXPECT_EQ(machine.boxes.shown.size(), 1U);
+}
+
+TEST_F(SelectionSearch, StaysWhereItIsWhenTheOpeningOfADriveIsGivenUp) {
+    load();
+    toggle({0});
+    machine.hangUntilEscape();
+    const auto expectAsBefore = [&] {
+        EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).content, L"c:");
+        EXPECT_EQ(marks(), L"10");
+        EXPECT_TRUE(machine.boxes.shown.empty());
+    };
+    choose(IDC_FORM1_UNITE, 1);
+    expectAsBefore();
+    openDirectory(L"moteur");
+    expectAsBefore();
+}
+
+TEST_F(SelectionLoad, StandsOnTheProgramsDirectoryWhenTheWorkingDirectoryDoesNotAnswer) {
+    machine.hangUntilEscape();
+    load();
+    EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).content, L"c:");
+    EXPECT_EQ(window().listBox(IDC_FORM1_REPERT).texts(), (Texts{L"c:\\", L"  tarnwick"}));
 }

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "ports/workers.h"
+
+/// There is no thread to be had, so that all is done at once; or there are threads which wait for a
+/// server that does not answer.
+struct FakeWorkers : Workers {
+    bool hang = false;
+
+    bool start(std::function<void()>) override { return hang; }
+};
