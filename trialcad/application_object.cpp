@@ -77,9 +77,10 @@ void ApplicationObject::activateDoc2(Call& call) {
 
 void ApplicationObject::closeDoc(Call& call) {
     const std::wstring name = call.text(0);
+    const std::wstring whose = name.empty() ? L"le document actif" : fileNameOf(name);
     const Closing closing = session_.close(name);
     if (closing == Closing::ChangesLost)
-        call.tell(fileNameOf(name) + L" est fermé, ses modifications sont perdues");
+        call.tell(whose + L" est fermé, ses modifications sont perdues");
     if (closing == Closing::NotOpen && !name.empty())
         call.tell(L"aucun document de ce nom n'est ouvert");
 }

@@ -47,7 +47,8 @@ void Session::openUsersOwn(ScriptedDocument& script, const std::wstring& path) {
     const auto kind = kindOfFile(path);
     if (!script.usersOwn || !kind || !fileExists(path) || namesake(path)) return;
     script.usersOwn = false;  // when it is closed it stays closed
-    add({.path = path, .kind = *kind}, &script)->modify();
+    active_ = add({.path = path, .kind = *kind}, &script);
+    active_->modify();
 }
 
 DocumentObject* Session::open(OpenRequest request, OpenCodes& codes) {
@@ -101,7 +102,7 @@ DocumentObject* Session::activate(const std::wstring& name) {
 }
 
 Closing Session::close(const std::wstring& name) {
-    const DocumentPointer document = find(name);
+    const DocumentPointer document = name.empty() ? active_ : find(name);
     if (!document) return Closing::NotOpen;
     document->close();
     documents_.erase(std::find(documents_.begin(), documents_.end(), document));

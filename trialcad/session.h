@@ -55,7 +55,7 @@ class Session {
     /// Makes an open document the active one; the name is its path or title. Null when none is.
     DocumentObject* activate(const std::wstring& name);
 
-    /// Closes the document of that path or title, without saving it.
+    /// Closes the document of that path or title, without a name the active one, without saving it.
     Closing close(const std::wstring& name);
 
     const std::vector<DocumentPointer>& documents() const { return documents_; }

@@ -101,6 +101,8 @@ TEST_F(ScriptedSession, ClosingEndsTheDocumentAndKnowsNoOther) {
     EXPECT_EQ(Call(L"GetDocumentCount").number, 0);
     EXPECT_EQ(CallByName(document.get(), L"save2", {true}).code, RPC_E_DISCONNECTED);
     EXPECT_EQ(OpenDocument(session.get(), users).warning, 0) << "it is not the user's any more";
+    EXPECT_EQ(Call(L"closedoc", {""}).code, S_OK);
+    EXPECT_EQ(Call(L"GetDocumentCount").number, 0) << "without a name the active one is closed";
 }
 
 TEST_F(ScriptedSession, KeepsAWorkingDirectoryAndMayBearTheNameOfItsProcessAlone) {
