@@ -1,8 +1,7 @@
 #include "automation_object.h"
 
-#include <wrl/client.h>
-
 #include "call_desk.h"
+#include "win32/com/com_ptr.h"
 
 namespace {
 
@@ -58,7 +57,7 @@ HRESULT AutomationObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS
                                  VARIANT* result, EXCEPINFO* exception, UINT* badArgument) {
     if (!parameters) return E_INVALIDARG;
     // A slow call handles messages, one of which may release the caller's last reference.
-    const Microsoft::WRL::ComPtr<IDispatch> alive(this);
+    const ComPtr<IDispatch> alive(this);
     const Member* member = names_.find(id);
     const bool put = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
     if (put && !bearsTheNameOfAValue(*parameters)) return DISP_E_PARAMNOTFOUND;

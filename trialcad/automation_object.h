@@ -5,7 +5,7 @@
 #include <oaidl.h>
 #include <string>
 
-#include "member_names.h"
+#include "members.h"
 
 class CallDesk;
 
@@ -39,5 +39,5 @@ class AutomationObject : public IDispatch {
  private:
     MemberNames& names_;
     CallDesk& desk_;
-    ULONG references_ = 1;
+    ULONG references_ = 0;
 };

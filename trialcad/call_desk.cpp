@@ -2,7 +2,7 @@
 
 #include "automation_object.h"
 #include "call_text.h"
-#include "wait.h"
+#include "win32/process/message_pump.h"
 
 namespace {
 
@@ -26,6 +26,18 @@ std::wstring newsOf(const Reply& reply, const Call& call) {
     if (isRefusal(reply.code)) return L"occupé : appel rejeté";
     if (reply.code == RPC_E_DISCONNECTED) return L"document fermé : l'objet ne répond plus";
     return FAILED(reply.code) ? L"échec" : call.news();
+}
+
+/// Lets the given time pass while this thread's messages, and so other calls, go on being handled.
+/// False when the session ended meanwhile.
+bool waitWithMessages(DWORD milliseconds) {
+    const ULONGLONG end = GetTickCount64() + milliseconds;
+    for (ULONGLONG now = GetTickCount64(); now < end; now = GetTickCount64()) {
+        if (!handleWaitingMessages()) return false;
+        MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(end - now), QS_ALLINPUT,
+                                    MWMO_INPUTAVAILABLE);
+    }
+    return true;
 }
 
 /// The action that the member has for this use of it; throws CallError when it has none.

@@ -7,7 +7,7 @@
 
 #include "faults.h"
 #include "journal.h"
-#include "member.h"
+#include "members.h"
 
 /// What a call is about: the object, its member and the name to journal.
 struct Request {

@@ -3,7 +3,11 @@
 #include <objbase.h>
 #include <string>
 
+#include "win32/process/unique.h"
+
 namespace {
+
+using UniqueKey = Unique<HKEY, RegCloseKey>;
 
 constexpr wchar_t kProgId[] = L"SldWorks.Application";
 constexpr wchar_t kProgIdKey[] = L"Software\\Classes\\SldWorks.Application";
@@ -15,31 +19,24 @@ constexpr CLSID kOwnClass = {
     0x6e1b5b0a, 0x3c0f, 0x4c58, {0x9c, 0x57, 0x2a, 0x7d, 0x8f, 0x1e, 0x40, 0xb3}};
 
 /// A key below this root, made where it is missing; null when that is not allowed.
-HKEY openKey(HKEY root, const wchar_t* key, DWORD lifetime) {
+UniqueKey openKey(HKEY root, const wchar_t* key, DWORD lifetime) {
     HKEY opened = nullptr;
-    return RegCreateKeyExW(root, key, 0, nullptr, lifetime, KEY_SET_VALUE, nullptr, &opened,
-                           nullptr) == ERROR_SUCCESS
-               ? opened
-               : nullptr;
+    RegCreateKeyExW(root, key, 0, nullptr, lifetime, KEY_SET_VALUE, nullptr, &opened, nullptr);
+    return UniqueKey(opened);
 }
 
 /// Writes a key's default text. The key goes when its part of the registry is unloaded: the user's
 /// at log-off, even when the session could not remove it.
 bool writeDefault(HKEY root, const std::wstring& key, const std::wstring& text) {
-    const HKEY opened = openKey(root, key.c_str(), REG_OPTION_VOLATILE);
-    if (!opened) return false;
+    const UniqueKey opened = openKey(root, key.c_str(), REG_OPTION_VOLATILE);
     const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-    const LSTATUS written = RegSetValueExW(opened, nullptr, 0, REG_SZ,
-                                           reinterpret_cast<const BYTE*>(text.c_str()), size);
-    RegCloseKey(opened);
-    return written == ERROR_SUCCESS;
+    return opened &&
+           RegSetValueExW(opened.get(), nullptr, 0, REG_SZ,
+                          reinterpret_cast<const BYTE*>(text.c_str()), size) == ERROR_SUCCESS;
 }
 
 /// Other programs' classes stay, and could not be registered below a key that does not.
-void keepKeyOfAllClasses(HKEY root) {
-    if (const HKEY opened = openKey(root, kClassesKey, REG_OPTION_NON_VOLATILE))
-        RegCloseKey(opened);
-}
+void keepKeyOfAllClasses(HKEY root) { openKey(root, kClassesKey, REG_OPTION_NON_VOLATILE); }
 
 void removeKeys(HKEY root) {
     RegDeleteTreeW(root, kProgIdKey);

@@ -2,28 +2,32 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <iterator>
+
+#include "common/text.h"
+#include "rules/long_path.h"
 #include "win32/process/unique.h"
 
 namespace {
+
+struct Kind {
+    DocumentKind kind;
+    const wchar_t* ending;
+    const wchar_t* name;
+};
+
+constexpr Kind kKinds[] = {
+    {DocumentKind::Part, L".sldprt", L"pièce"},
+    {DocumentKind::Assembly, L".sldasm", L"assemblage"},
+    {DocumentKind::Drawing, L".slddrw", L"mise en plan"},
+};
 
 bool isAbsolute(const std::wstring& path) {
     return path.starts_with(L"\\\\") || (path.size() > 2 && path[1] == L':' && path[2] == L'\\');
 }
 
-/// The form that has no limit of length and in which a name may end with a dot.
-std::wstring verbatim(const std::wstring& path) {
-    if (path.starts_with(L"\\\\?\\") || !isAbsolute(path)) return path;
-    if (path.starts_with(L"\\\\")) return L"\\\\?\\UNC" + path.substr(1);
-    return L"\\\\?\\" + path;
-}
-
-DWORD attributesOf(const std::wstring& path) { return GetFileAttributesW(verbatim(path).c_str()); }
-
-UniqueHandle openFile(const std::wstring& path, DWORD access) {
-    return UniqueHandle(CreateFileW(verbatim(path).c_str(), access,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                    OPEN_EXISTING, 0, nullptr));
-}
+DWORD attributesOf(const std::wstring& path) { return GetFileAttributesW(longPath(path).c_str()); }
 
 bool hasSteps(const std::wstring& path) {
     return path.find(L'/') != path.npos || path.find(L"\\.\\") != path.npos ||
@@ -67,22 +71,26 @@ bool isReadOnly(const std::wstring& path) {
     return fileExists(path) && (attributesOf(path) & FILE_ATTRIBUTE_READONLY);
 }
 
-std::optional<std::string> readFile(const std::wstring& path) {
-    const UniqueHandle file = openFile(path, GENERIC_READ);
-    LARGE_INTEGER size{};
-    if (!isValid(file) || !GetFileSizeEx(file.get(), &size)) return std::nullopt;
-    std::string bytes(static_cast<size_t>(size.QuadPart), '\0');
-    DWORD got = 0;
-    if (!ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &got, nullptr))
-        return std::nullopt;
-    bytes.resize(got);
-    return bytes;
-}
-
 bool touchFile(const std::wstring& path) {
     if (!fileExists(path) || isReadOnly(path)) return false;
-    const UniqueHandle file = openFile(path, FILE_WRITE_ATTRIBUTES);
+    const UniqueHandle file(CreateFileW(longPath(path).c_str(), FILE_WRITE_ATTRIBUTES,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                        nullptr, OPEN_EXISTING, 0, nullptr));
     FILETIME now;
     GetSystemTimeAsFileTime(&now);
     return isValid(file) && SetFileTime(file.get(), nullptr, nullptr, &now);
+}
+
+std::optional<DocumentKind> kindOfFile(std::wstring_view path) {
+    const size_t dot = path.rfind(L'.');
+    if (dot == path.npos) return std::nullopt;
+    for (const Kind& kind : kKinds)
+        if (equalIgnoringCase(path.substr(dot), kind.ending)) return kind.kind;
+    return std::nullopt;
+}
+
+const wchar_t* kindName(DocumentKind kind) {
+    for (const Kind& known : kKinds)
+        if (known.kind == kind) return known.name;
+    return L"";
 }

@@ -61,7 +61,7 @@ void fillDocumentList(HWND list, const Session& session) {
     SendMessageW(list, LVM_DELETEALLITEMS, 0, 0);
     int row = 0;
     for (const DocumentPointer& document : session.documents())
-        addRow(list, row++, *document.Get(), document.Get() == session.active());
+        addRow(list, row++, *document.get(), document.get() == session.active());
     SendMessageW(list, WM_SETREDRAW, TRUE, 0);
 }
 

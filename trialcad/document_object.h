@@ -4,7 +4,7 @@
 #include <string>
 
 #include "automation_object.h"
-#include "document_kind.h"
+#include "document_file.h"
 #include "document_script.h"
 
 /// A document and how it was opened.

@@ -3,19 +3,13 @@
 #include <algorithm>
 #include <string_view>
 
-#include "common/text_decoding.h"
-#include "common/utf8.h"
+#include "common/runtime_error.h"
+#include "common/text.h"
 #include "document_file.h"
 #include "text.h"
+#include "win32/files/win_files.h"
 
 namespace {
-
-constexpr std::wstring_view kBlanks = L" \t\r";
-
-std::wstring_view trimmed(std::wstring_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
 
 /// Takes what stands before the separator off the front of a text.
 std::wstring_view takePart(std::wstring_view& text, wchar_t separator) {
@@ -25,16 +19,16 @@ std::wstring_view takePart(std::wstring_view& text, wchar_t separator) {
 }
 
 ScriptedCode ScriptedDocument::*codeNamed(std::wstring_view name) {
-    if (sameText(name, L"refuse")) return &ScriptedDocument::refuse;
-    if (sameText(name, L"error")) return &ScriptedDocument::error;
-    if (sameText(name, L"warning")) return &ScriptedDocument::warning;
-    if (sameText(name, L"save")) return &ScriptedDocument::save;
+    if (equalIgnoringCase(name, L"refuse")) return &ScriptedDocument::refuse;
+    if (equalIgnoringCase(name, L"error")) return &ScriptedDocument::error;
+    if (equalIgnoringCase(name, L"warning")) return &ScriptedDocument::warning;
+    if (equalIgnoringCase(name, L"save")) return &ScriptedDocument::save;
     return nullptr;
 }
 
 /// Reads one of the things that a document does; false when it is none.
 bool readAct(ScriptedDocument& document, std::wstring_view act) {
-    if (sameText(act, L"open")) return document.usersOwn = true;
+    if (equalIgnoringCase(act, L"open")) return document.usersOwn = true;
     const auto code = codeNamed(takePart(act, L'='));
     const bool counted = act.find(L':') != act.npos;
     const long number = parseNumber(takePart(act, L':'));
@@ -42,6 +36,14 @@ bool readAct(ScriptedDocument& document, std::wstring_view act) {
     if (!code || number < 0 || times < 1) return false;
     document.*code = {number, counted ? std::optional(times) : std::nullopt};
     return true;
+}
+
+std::wstring textOf(const std::wstring& file) {
+    try {
+        return WinFiles().readText(file);
+    } catch (const RuntimeError&) {
+        throw ScriptError{L"Le fichier « " + file + L" » ne peut pas être lu."};
+    }
 }
 
 [[noreturn]] void refuseLine(const std::wstring& file, size_t line, std::wstring_view what) {
@@ -69,13 +71,11 @@ std::optional<long> ScriptedCode::next() {
 }
 
 DocumentScript readDocumentScript(const std::wstring& file, const std::wstring& directory) {
-    const std::optional<std::string> bytes = readFile(file);
-    if (!bytes) throw ScriptError{L"Le fichier « " + file + L" » ne peut pas être lu."};
-    const std::wstring text = wideText(textInUtf8(*bytes));
+    const std::wstring text = textOf(file);
     DocumentScript script;
     std::wstring_view rest = text;
     for (size_t number = 1; !rest.empty(); ++number) {
-        const std::wstring_view line = takePart(rest, L'\n');
+        const std::wstring_view line = trimmed(takeLine(rest));
         if (line.empty()) continue;
         script.push_back(readLine(file, number, line));
         script.back().path = absolutePath(script.back().name, directory);
@@ -85,7 +85,8 @@ DocumentScript readDocumentScript(const std::wstring& file, const std::wstring& 
 
 ScriptedDocument* scriptedDocument(DocumentScript& script, const std::wstring& path) {
     const auto found = std::ranges::find_if(script, [&](const ScriptedDocument& document) {
-        return sameText(document.path, path) || sameText(document.name, fileNameOf(path));
+        return equalIgnoringCase(document.path, path) ||
+               equalIgnoringCase(document.name, fileNameOf(path));
     });
     return found == script.end() ? nullptr : &*found;
 }

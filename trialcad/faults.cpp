@@ -2,8 +2,7 @@
 
 #include <utility>
 
-#include "known_methods.h"
-#include "text.h"
+#include "common/text.h"
 
 namespace {
 
@@ -33,7 +32,7 @@ std::optional<HRESULT> Faults::refuseLookUp(std::wstring_view method) {
 bool Faults::isBusy(std::wstring_view method, bool mayStart) {
     const ULONGLONG now = GetTickCount64();
     for (Busy& busy : busy_) {
-        if (!sameText(busy.rule.method, method)) continue;
+        if (!equalIgnoringCase(busy.rule.method, method)) continue;
         if (!busy.start && mayStart) busy.start = now;
         if (busy.start && now - *busy.start < busy.rule.number) return true;
     }
@@ -43,7 +42,8 @@ bool Faults::isBusy(std::wstring_view method, bool mayStart) {
 bool Faults::mustFail(std::wstring_view method) {
     bool fails = false;
     for (Failure& failure : failures_)
-        if (sameText(failure.rule.method, method) && ++failure.calls == failure.rule.number)
+        if (equalIgnoringCase(failure.rule.method, method) &&
+            ++failure.calls == failure.rule.number)
             fails = true;
     return fails;
 }
@@ -51,6 +51,6 @@ bool Faults::mustFail(std::wstring_view method) {
 DWORD Faults::delayOf(std::wstring_view method) const {
     DWORD total = 0;
     for (const MethodRule& rule : delays_)
-        if (sameText(rule.method, method)) total += rule.number;
+        if (equalIgnoringCase(rule.method, method)) total += rule.number;
     return total;
 }

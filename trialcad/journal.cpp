@@ -2,21 +2,17 @@
 
 #include "text.h"
 
-Journal::~Journal() {
-    if (file_ != INVALID_HANDLE_VALUE) CloseHandle(file_);
-}
-
 bool Journal::open(const std::wstring& path) {
-    file_ = CreateFileW(path.c_str(), GENERIC_WRITE,
-                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                        CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    return file_ != INVALID_HANDLE_VALUE;
+    file_.reset(CreateFileW(path.c_str(), GENERIC_WRITE,
+                            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                            CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return isValid(file_);
 }
 
 void Journal::write(const std::wstring& line) {
-    if (file_ == INVALID_HANDLE_VALUE) return;
+    if (!isValid(file_)) return;
     // One write per line: a reader never sees half of one, and none is lost if we are killed.
     const std::string bytes = toUtf8(line) + '\n';
     DWORD written = 0;
-    WriteFile(file_, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    WriteFile(file_.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
 }

@@ -1,17 +1,12 @@
 #pragma once
 
-#include <windows.h>
-
 #include <string>
+
+#include "win32/process/unique.h"
 
 /// The file that records the calls received, one UTF-8 line each, readable while it is written.
 class Journal {
  public:
-    Journal() = default;
-    ~Journal();
-    Journal(const Journal&) = delete;
-    Journal& operator=(const Journal&) = delete;
-
     /// Starts the file afresh; false when it can't be created.
     bool open(const std::wstring& path);
 
@@ -19,5 +14,5 @@ class Journal {
     void write(const std::wstring& line);
 
  private:
-    HANDLE file_ = INVALID_HANDLE_VALUE;
+    UniqueHandle file_;
 };

@@ -10,9 +10,8 @@ constexpr wchar_t kNote[] =
     L"Elle remplace SolidWorks pour les essais, sans licence. Aucun document n'est modifié.";
 
 void fill(HDC context, const RECT& area, COLORREF color) {
-    const HBRUSH brush = CreateSolidBrush(color);
-    FillRect(context, &area, brush);
-    DeleteObject(brush);
+    const Unique<HBRUSH, DeleteObject> brush(CreateSolidBrush(color));
+    FillRect(context, &area, brush.get());
 }
 
 /// Draws one line and moves the area down below it.

@@ -1,8 +1,11 @@
 #include "options.h"
 
+#include <algorithm>
 #include <string_view>
 
-#include "known_methods.h"
+#include "application_object.h"
+#include "common/text.h"
+#include "document_object.h"
 #include "text.h"
 
 namespace {
@@ -19,9 +22,18 @@ struct OptionKind {
                       value + L" »."};
 }
 
+bool isOneOf(std::span<const Member> members, std::wstring_view name) {
+    return std::ranges::any_of(
+        members, [&](const Member& member) { return equalIgnoringCase(member.name, name); });
+}
+
+bool isKnownMethod(std::wstring_view name) {
+    return isOneOf(ApplicationObject::members(), name) || isOneOf(DocumentObject::members(), name);
+}
+
 std::wstring knownMethod(std::wstring_view option, const std::wstring& value,
                          const std::wstring& method) {
-    const bool lookUp = option == L"--busy" && sameText(method, kNameLookUp);
+    const bool lookUp = option == L"--busy" && equalIgnoringCase(method, kNameLookUp);
     if (!lookUp && !isKnownMethod(method)) refuse(option, value);
     return method;
 }

@@ -1,7 +1,11 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
+
+/// What --busy calls the look-up of names.
+inline constexpr std::wstring_view kNameLookUp = L"GetIDsOfNames";
 
 /// How the window's title shows the active document.
 enum class TitleStyle { Plain, Bracket, None };

@@ -2,30 +2,31 @@
 
 #include <oleauto.h>
 #include <utility>
-#include <wrl/client.h>
 
 #include "class_keys.h"
+#include "win32/com/com_ptr.h"
 
 namespace {
 
 /// Whether the object registered under that class, if any, still lives in its process.
 bool isRunning(REFCLSID classId) {
-    Microsoft::WRL::ComPtr<IUnknown> other;
-    Microsoft::WRL::ComPtr<IDispatch> dispatch;
-    return SUCCEEDED(GetActiveObject(classId, nullptr, &other)) && SUCCEEDED(other.As(&dispatch));
+    ComPtr<IUnknown> other;
+    ComPtr<IDispatch> dispatch;
+    return SUCCEEDED(GetActiveObject(classId, nullptr, other.put())) &&
+           SUCCEEDED(other->QueryInterface(IID_IDispatch, dispatch.putVoid()));
 }
 
-Microsoft::WRL::ComPtr<IRunningObjectTable> runningObjects() {
-    Microsoft::WRL::ComPtr<IRunningObjectTable> table;
-    GetRunningObjectTable(0, &table);
+ComPtr<IRunningObjectTable> runningObjects() {
+    ComPtr<IRunningObjectTable> table;
+    GetRunningObjectTable(0, table.put());
     return table;
 }
 
 /// The name of this process's session, which is displayed without any delimiter.
-Microsoft::WRL::ComPtr<IMoniker> processName() {
+ComPtr<IMoniker> processName() {
     const std::wstring name = L"SolidWorks_PID_" + std::to_wstring(GetCurrentProcessId());
-    Microsoft::WRL::ComPtr<IMoniker> moniker;
-    CreateItemMoniker(L"", name.c_str(), &moniker);
+    ComPtr<IMoniker> moniker;
+    CreateItemMoniker(L"", name.c_str(), moniker.put());
     return moniker;
 }
 
@@ -64,7 +65,7 @@ void Registration::registerClass() {
 
 void Registration::registerProcess() {
     require(runningObjects()->Register(ROTFLAGS_REGISTRATIONKEEPSALIVE, &application_,
-                                       processName().Get(), &processCookie_));
+                                       processName().get(), &processCookie_));
 }
 
 Registration::~Registration() { withdraw(); }

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "common/text.h"
 #include "document_file.h"
-#include "text.h"
 
 namespace {
 
@@ -71,14 +71,14 @@ DocumentObject* Session::open(OpenRequest request, OpenCodes& codes) {
                         .configuration = request.configuration},
                        script);
     setActive(document);
-    return document.Get();
+    return document.get();
 }
 
 std::optional<long> Session::refusalOf(const OpenRequest& request, ScriptedDocument* script) const {
     if (script)
         if (const auto refusal = script->refuse.next()) return refusal;
     const DocumentPointer other = namesake(request.path);
-    const bool isOpen = other && sameText(other->document().path, request.path);
+    const bool isOpen = other && equalIgnoringCase(other->document().path, request.path);
     if (!isOpen && !fileExists(request.path)) return kFileNotFound;
     if (!isOfType(request.path, request.type)) return kInvalidFileType;
     if (other && !isOpen) return kSameTitleIsOpen;
@@ -89,25 +89,24 @@ DocumentPointer Session::add(Document document, ScriptedDocument* script) {
     document.title = titleOf(document.path, endingsHidden_);
     if (script) document.save = &script->save;
     MemberNames& names = namesOf(document.kind);
-    DocumentPointer added;
-    added.Attach(new DocumentObject(std::move(document), names, desk_));
-    documents_.push_back(added);
-    return added;
+    documents_.emplace_back(new DocumentObject(std::move(document), names, desk_));
+    return documents_.back();
 }
 
 DocumentObject* Session::activate(const std::wstring& name) {
     const DocumentPointer document = find(name);
     if (document) setActive(document);
-    return document.Get();
+    return document.get();
 }
 
 Closing Session::close(const std::wstring& name) {
     const DocumentPointer document = name.empty() ? active_ : find(name);
     if (!document) return Closing::NotOpen;
     document->close();
-    documents_.erase(std::find(documents_.begin(), documents_.end(), document));
-    const bool wasActive = document == active_;
-    setActive(!wasActive ? active_ : documents_.empty() ? nullptr : documents_.back());
+    std::erase_if(documents_, [&](const DocumentPointer& open) { return !open->isConnected(); });
+    if (!active_ || !active_->isConnected())
+        active_ = documents_.empty() ? DocumentPointer() : documents_.back();
+    changed();
     return document->isModified() ? Closing::ChangesLost : Closing::Closed;
 }
 
@@ -120,19 +119,19 @@ bool Session::setWorkingDirectory(const std::wstring& directory) {
 
 DocumentPointer Session::namesake(const std::wstring& path) const {
     const auto found = std::ranges::find_if(documents_, [&](const DocumentPointer& document) {
-        return sameText(fileNameOf(document->document().path), fileNameOf(path));
+        return equalIgnoringCase(fileNameOf(document->document().path), fileNameOf(path));
     });
-    return found == documents_.end() ? nullptr : *found;
+    return found == documents_.end() ? DocumentPointer() : *found;
 }
 
 DocumentPointer Session::find(const std::wstring& name) const {
     const std::wstring path = absolutePath(name, workingDirectory_);
     const auto found = std::ranges::find_if(documents_, [&](const DocumentPointer& document) {
         const std::wstring& own = document->document().path;
-        return sameText(own, path) || sameText(fileNameOf(own), name) ||
-               sameText(document->title(), name);
+        return equalIgnoringCase(own, path) || equalIgnoringCase(fileNameOf(own), name) ||
+               equalIgnoringCase(document->title(), name);
     });
-    return found == documents_.end() ? nullptr : *found;
+    return found == documents_.end() ? DocumentPointer() : *found;
 }
 
 MemberNames& Session::namesOf(DocumentKind kind) {

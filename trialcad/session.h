@@ -6,11 +6,11 @@
 #include <optional>
 #include <string>
 #include <vector>
-#include <wrl/client.h>
 
 #include "document_object.h"
+#include "win32/com/com_ptr.h"
 
-using DocumentPointer = Microsoft::WRL::ComPtr<DocumentObject>;
+using DocumentPointer = ComPtr<DocumentObject>;
 
 /// What a caller asks OpenDoc6 for.
 struct OpenRequest {
@@ -59,7 +59,7 @@ class Session {
     Closing close(const std::wstring& name);
 
     const std::vector<DocumentPointer>& documents() const { return documents_; }
-    DocumentObject* active() const { return active_.Get(); }
+    DocumentObject* active() const { return active_.get(); }
     const std::wstring& workingDirectory() const { return workingDirectory_; }
     /// False when there is no such directory.
     bool setWorkingDirectory(const std::wstring& directory);

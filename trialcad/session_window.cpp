@@ -5,13 +5,29 @@
 #include "program_icon.h"
 #include "session_layout.h"
 #include "text_list.h"
-#include "window_title.h"
 
 namespace {
 
 constexpr wchar_t kClass[] = L"TarnwickTrialCad";
 constexpr int kWidth = 900;
 constexpr int kHeight = 640;
+
+/// The release's commercial name, by the leading number of its revision.
+std::wstring releaseName(const std::wstring& revision) {
+    const std::wstring number = revision.substr(0, revision.find_first_not_of(L"0123456789"));
+    if (number == L"9") return L"SolidWorks 2001";
+    if (number == L"10") return L"SolidWorks 2001Plus";
+    if (number == L"11") return L"SolidWorks 2003";
+    if (number == L"12") return L"SolidWorks 2004";
+    return L"SolidWorks";
+}
+
+std::wstring windowTitle(TitleStyle style, const std::wstring& release,
+                         const DocumentObject* document) {
+    if (!document || style == TitleStyle::None) return release;
+    if (style == TitleStyle::Bracket) return release + L" - [" + document->title() + L"]";
+    return release + L" - " + document->title();
+}
 
 void registerClass(HINSTANCE instance, WNDPROC procedure) {
     WNDCLASSEXW description{};
@@ -64,9 +80,7 @@ SessionWindow::~SessionWindow() {
 
 void SessionWindow::refresh() {
     if (!window_) return;
-    const DocumentObject* active = session_.active();
-    SetWindowTextW(window_,
-                   windowTitle(titleStyle_, release_, active ? active->title() : L"").c_str());
+    SetWindowTextW(window_, windowTitle(titleStyle_, release_, session_.active()).c_str());
     if (hidden_) return;
     showFacts();
     fillDocumentList(documents_, session_);
@@ -140,7 +154,7 @@ void SessionWindow::changeResolution(const RECT& suggested) {
 }
 
 void SessionWindow::applyFonts() {
-    auto fonts = std::make_unique<WindowFonts>(dpi());
+    auto fonts = std::make_unique<WindowFonts>(static_cast<int>(dpi()), 100);
     for (const HWND control : {documentsLabel_, documents_, foldersLabel_, folders_, callsLabel_})
         SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(fonts->text()), TRUE);
     SendMessageW(calls_, WM_SETFONT, reinterpret_cast<WPARAM>(fonts->fixedPitch()), TRUE);

@@ -1,16 +1,9 @@
 #include "text.h"
 
-#include <windows.h>
-
 #include <algorithm>
 
 #include "common/runtime_error.h"
 #include "common/utf8.h"
-
-bool sameText(std::wstring_view left, std::wstring_view right) {
-    return CompareStringOrdinal(left.data(), static_cast<int>(left.size()), right.data(),
-                                static_cast<int>(right.size()), TRUE) == CSTR_EQUAL;
-}
 
 long parseNumber(std::wstring_view text) {
     if (text.empty() || text.size() > 9) return -1;

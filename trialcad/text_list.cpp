@@ -2,19 +2,17 @@
 
 #include <algorithm>
 
+#include "win32/window/handles.h"
+
 namespace {
 
 constexpr LRESULT kMostLines = 1000;
 
 /// Widens what can be scrolled to, so that a long line can be read to its end.
 void makeRoomFor(HWND list, const std::wstring& line) {
-    const HDC context = GetDC(list);
-    const HGDIOBJ before =
-        SelectObject(context, reinterpret_cast<HGDIOBJ>(SendMessageW(list, WM_GETFONT, 0, 0)));
+    const FontContext context(list, reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0)));
     SIZE size{};
-    GetTextExtentPoint32W(context, line.c_str(), static_cast<int>(line.size()), &size);
-    SelectObject(context, before);
-    ReleaseDC(list, context);
+    GetTextExtentPoint32W(context.get(), line.c_str(), static_cast<int>(line.size()), &size);
     const LRESULT width = size.cx + GetSystemMetrics(SM_CXVSCROLL);
     if (width > SendMessageW(list, LB_GETHORIZONTALEXTENT, 0, 0))
         SendMessageW(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width), 0);

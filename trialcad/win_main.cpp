@@ -90,7 +90,7 @@ void runMessageLoop(HWND window) {
 /// Documents that clients still hold must answer with an error, not with silence.
 void disconnect(const Session& session) {
     for (const DocumentPointer& document : session.documents())
-        CoDisconnectObject(document.Get(), 0);
+        CoDisconnectObject(document.get(), 0);
 }
 
 void runSession(HINSTANCE instance, const Options& options) {
@@ -103,12 +103,12 @@ void runSession(HINSTANCE instance, const Options& options) {
     MemberNames names(ApplicationObject::members(), kFirstOfApplication);
 
     const Apartment apartment;
-    Microsoft::WRL::ComPtr<ApplicationObject> application;
-    application.Attach(new ApplicationObject(session, options.revision, names, desk));
+    const ComPtr<ApplicationObject> application(
+        new ApplicationObject(session, options.revision, names, desk));
     SessionWindow window(instance, options, session);
     session.watch([&window] { window.refresh(); });
     desk.watch([&window](const std::wstring& line) { window.showCall(line); });
-    Registration registration(*application.Get(), options.processNameOnly
+    Registration registration(*application.get(), options.processNameOnly
                                                       ? Registration::Names::ProcessOnly
                                                       : Registration::Names::Both);
     window.atEndOfWindowsSession([&registration] { registration.withdraw(); });

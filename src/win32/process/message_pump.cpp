@@ -1,13 +1,14 @@
 #include "win32/process/message_pump.h"
 
-void handleWaitingMessages(UINT first, UINT last) {
+bool handleWaitingMessages(UINT first, UINT last) {
     MSG message;
     while (PeekMessageW(&message, nullptr, first, last, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
             PostQuitMessage(static_cast<int>(message.wParam));
-            return;
+            return false;
         }
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }
+    return true;
 }

@@ -1,6 +1,6 @@
-#include "member_names.h"
+#include "members.h"
 
-#include "text.h"
+#include "common/text.h"
 
 MemberNames::MemberNames(std::span<const Member> members, DISPID first)
     : members_(members), first_(first) {
@@ -9,7 +9,7 @@ MemberNames::MemberNames(std::span<const Member> members, DISPID first)
 
 std::optional<DISPID> MemberNames::lookUp(std::wstring_view name) {
     for (size_t i = 0; i < members_.size(); ++i) {
-        if (!sameText(members_[i].name, name)) continue;
+        if (!equalIgnoringCase(members_[i].name, name)) continue;
         spellings_[i] = name;
         return first_ + static_cast<DISPID>(i);
     }
