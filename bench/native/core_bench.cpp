@@ -5,9 +5,8 @@
 
 #include "common/numbers.h"
 #include "selection/found_documents.h"
-#include "worklist/display_line.h"
+#include "worklist/list_display.h"
 #include "worklist/list_file.h"
-#include "worklist/state_labels.h"
 
 namespace {
 

@@ -6,8 +6,7 @@
 #include "stage.h"
 #include "tracking/tracking_ids.h"
 #include "tracking/work_list_view.h"
-#include "worklist/display_line.h"
-#include "worklist/state_labels.h"
+#include "worklist/list_display.h"
 #include "worklist/work_list.h"
 
 namespace {

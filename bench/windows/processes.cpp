@@ -13,9 +13,8 @@
 #include "rows.h"
 #include "sample_tree.h"
 #include "tracking/tracking_ids.h"
-#include "worklist/display_line.h"
+#include "worklist/list_display.h"
 #include "worklist/list_file.h"
-#include "worklist/state_labels.h"
 
 namespace {
 

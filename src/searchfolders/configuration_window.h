@@ -7,7 +7,7 @@
 #include "pickers/directory_picker.h"
 #include "pickers/drive_picker.h"
 #include "searchfolders/configuration_editing.h"
-#include "worklist/display_depth.h"
+#include "worklist/list_display.h"
 
 class CadSession;
 class FileSystemObject;

@@ -15,7 +15,7 @@
 #include "searchfolders/configuration_window.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
-#include "worklist/short_path.h"
+#include "worklist/list_display.h"
 
 namespace {
 

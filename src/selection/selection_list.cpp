@@ -5,8 +5,7 @@
 #include "common/letter_case.h"
 #include "ports/controls.h"
 #include "selection/found_documents.h"
-#include "worklist/short_path.h"
-#include "worklist/state_labels.h"
+#include "worklist/list_display.h"
 
 void SelectionList::fill(int depth, const Entries& chosen) {
     depth_ = depth;

@@ -7,7 +7,7 @@
 #include "pickers/drive_picker.h"
 #include "selection/found_documents.h"
 #include "selection/selection_list.h"
-#include "worklist/display_depth.h"
+#include "worklist/list_display.h"
 
 class CadSession;
 class WindowPlaces;

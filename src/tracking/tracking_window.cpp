@@ -10,7 +10,7 @@
 #include "session/setting_values.h"
 #include "session/window_places.h"
 #include "tracking/tracking_tables.h"
-#include "worklist/progress.h"
+#include "worklist/pass.h"
 
 namespace {
 

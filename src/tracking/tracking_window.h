@@ -6,7 +6,7 @@
 
 #include "input/program_window.h"
 #include "tracking/work_list_view.h"
-#include "worklist/display_depth.h"
+#include "worklist/list_display.h"
 #include "worklist/mark_keeper.h"
 #include "worklist/pass.h"
 

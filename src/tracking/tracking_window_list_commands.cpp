@@ -3,7 +3,7 @@
 #include "cad/cad_session.h"
 #include "common/numbers.h"
 #include "ports/platform.h"
-#include "tracking/list_command_texts.h"
+#include "tracking/tracking_texts.h"
 #include "tracking/tracking_window.h"
 
 bool TrackingWindow::anySelected() const {

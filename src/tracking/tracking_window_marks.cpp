@@ -3,7 +3,7 @@
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "ports/platform.h"
-#include "tracking/kept_mark_texts.h"
+#include "tracking/tracking_texts.h"
 #include "tracking/tracking_window.h"
 
 bool TrackingWindow::resume() {

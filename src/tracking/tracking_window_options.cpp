@@ -8,8 +8,8 @@
 #include "ports/platform.h"
 #include "session/program_files.h"
 #include "session/setting_values.h"
-#include "tracking/option_texts.h"
 #include "tracking/tracking_ids.h"
+#include "tracking/tracking_texts.h"
 #include "tracking/tracking_window.h"
 #include "worklist/report.h"
 

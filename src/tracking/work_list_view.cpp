@@ -2,8 +2,7 @@
 
 #include "common/utf8.h"
 #include "ports/controls.h"
-#include "worklist/display_line.h"
-#include "worklist/state_labels.h"
+#include "worklist/list_display.h"
 #include "worklist/work_list.h"
 
 namespace {

@@ -67,6 +67,14 @@ void addRest(ListWriter& writer, std::string_view path, std::string_view fileTex
 
 }  // namespace
 
+std::wstring besideList(std::wstring_view listFile, std::wstring_view ending) {
+    constexpr std::wstring_view kExtension = L".lst";
+    const std::size_t stem = listFile.size() - std::min(kExtension.size(), listFile.size());
+    if (equalIgnoringCase(listFile.substr(stem), kExtension)) listFile = listFile.substr(0, stem);
+    std::wstring path(listFile);
+    return path += ending;
+}
+
 bool parseListFile(std::string text, WorkList& list, const std::wstring& file) {
     if (text.empty()) return false;
     std::string_view rest = list.keep(std::move(text));

@@ -6,6 +6,9 @@
 #include "ports/files.h"
 #include "worklist/work_list.h"
 
+/// The path of a file that stands beside a list file: the list's, with this ending for ".lst".
+std::wstring besideList(std::wstring_view listFile, std::wstring_view ending);
+
 // The list file: one line per document, its state code, two blanks, its full path, CR LF.
 
 /// Reads the text of a list file into a list. A code over 9 is stored less 10 with the reload flag

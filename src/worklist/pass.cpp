@@ -6,8 +6,20 @@
 
 #include "common/utf8.h"
 #include "ports/clock.h"
-#include "worklist/kept_state.h"
+#include "worklist/kept_marks.h"
 #include "worklist/list_file.h"
+#include "worklist/work_list.h"
+
+PassProgress passProgress(const WorkList& list) {
+    PassProgress progress{0, list.lineCount()};
+    bool inProgress = false;
+    for (int i = 0; i <= list.last; ++i) {
+        const std::string_view code = list.lines[i].code;
+        inProgress = inProgress || code == state::kInProgress;
+        if (code == state::kDone || code == state::kSeen) ++progress.done;
+    }
+    return inProgress ? progress : PassProgress{};
+}
 
 std::wstring Pass::pathOf(int line) const { return wideText(list_.lines[line].path); }
 

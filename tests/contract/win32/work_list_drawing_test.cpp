@@ -9,8 +9,7 @@
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
 #include "tracking/work_list_view.h"
-#include "worklist/display_line.h"
-#include "worklist/state_labels.h"
+#include "worklist/list_display.h"
 #include "worklist/work_list.h"
 
 namespace {

@@ -1,9 +1,6 @@
 #include "fakes/fake_controls.h"
 #include "unit/unit_test.h"
-#include "worklist/display_depth.h"
-#include "worklist/display_line.h"
-#include "worklist/short_path.h"
-#include "worklist/state_labels.h"
+#include "worklist/list_display.h"
 
 TEST(DisplayLine, IsNumberLabelAndPath) {
     EXPECT_EQ(displayLine(122, L" Vu ", L"c:\\a\\b\\f", 1), L"0123   Vu c:\\..\\b\\f");

@@ -1,5 +1,3 @@
-#include "worklist/line_commands.h"
-
 #include "worklist/work_list.h"
 
 namespace {

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <span>
+#include <string>
+
+#include "ports/file_dialogs.h"
 #include "ports/message_boxes.h"
 
 /// What a list command asks before it changes anything.
@@ -41,3 +45,26 @@ MessageBoxContent boxOf(const Question& question);
 
 /// The box that a command shows when no line is selected.
 MessageBoxContent missingSelectionBox(const wchar_t* text);
+
+/// What the box of an error says when marks were kept.
+inline constexpr wchar_t kMarksAreKept[] =
+    L"Les marques posées depuis le dernier enregistrement de la liste sont conservées : elles vous "
+    L"seront proposées au prochain démarrage.";
+
+/// Whether the marks of an earlier run are to be found again: so many documents.
+MessageBoxContent keptMarksBox(int documents);
+
+/// Whether to go past the document whose opening an earlier run did not survive.
+MessageBoxContent interruptedOpeningBox(const std::wstring& path);
+
+/// That marks can't be kept from now on.
+MessageBoxContent marksNotKeptBox();
+
+/// That these keys belong to another program, and that none is active therefore.
+MessageBoxContent takenKeysBox(std::span<const std::wstring> keys);
+
+/// Where the report of a list is to go: beside the list, unless the user has a better place.
+SaveQuestion reportQuestion(const std::wstring& listFile);
+
+/// That there is no report, and why.
+MessageBoxContent reportNotWrittenBox(const std::wstring& reason);

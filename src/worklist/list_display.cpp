@@ -1,8 +1,10 @@
-#include "worklist/short_path.h"
+#include "worklist/list_display.h"
 
 #include <algorithm>
 
+#include "common/numbers.h"
 #include "common/runtime_error.h"
+#include "ports/controls.h"
 
 namespace {
 
@@ -16,6 +18,15 @@ std::size_t afterBackslash(std::wstring_view path, int rank) {
 }
 
 }  // namespace
+
+std::optional<std::wstring_view> labelOf(std::string_view code) {
+    if (code.size() == 2 && code[0] == '1') code.remove_prefix(1);
+    if (code == "0") return label::kToDo;
+    if (code == "1") return label::kDone;
+    if (code == "2") return label::kSeen;
+    if (code == "3") return label::kInProgress;
+    return std::nullopt;
+}
 
 std::wstring upwards(int levels) {
     if (levels == 0) return {};
@@ -46,4 +57,27 @@ void addShownPath(std::wstring& line, std::wstring_view path, int depth) {
     } else {
         line += path;
     }
+}
+
+std::wstring displayLine(int index, std::wstring_view label, std::wstring_view path, int depth) {
+    std::wstring line = decimal(index + 1);
+    if (line.size() < 4) line.insert(0, 4 - line.size(), L'0');
+    // Its room is made at once: that takes longer than the letters.
+    line.reserve(line.size() + 2 + label.size() + path.size());
+    line += L"  ";
+    line += label;
+    addShownPath(line, path, depth);
+    return line;
+}
+
+bool DisplayDepth::hideOneMore() { return set(levels_ + 1); }
+
+bool DisplayDepth::hideOneLess() { return set(levels_ - 1); }
+
+bool DisplayDepth::set(int levels) {
+    constexpr int kDeepest = 9;
+    if (levels < 0 || levels > kDeepest) return false;
+    levels_ = levels;
+    label_.setText(decimal(levels));
+    return true;
 }

@@ -1,0 +1,85 @@
+#include "tracking/tracking_texts.h"
+
+#include "common/numbers.h"
+#include "worklist/list_file.h"
+
+namespace {
+
+constexpr wchar_t kHelpFile[] = L"DEMO.HLP";
+constexpr int kHelpContext = 1000;
+
+constexpr wchar_t kTitle[] = L"Tarnwick";
+
+MessageBoxContent question(std::wstring text) {
+    return {.text = std::move(text), .title = kTitle, .buttons = MessageBoxContent::Buttons::YesNo};
+}
+
+MessageBoxContent warning(std::wstring text) {
+    return {
+        .text = std::move(text), .title = L"Tarnwick", .icon = MessageBoxContent::Icon::Warning};
+}
+
+}  // namespace
+
+MessageBoxContent boxOf(const Question& question) {
+    return {.text = std::wstring(question.firstLine) + L"\n\r" + question.secondLine,
+            .title = question.title,
+            .buttons = MessageBoxContent::Buttons::YesNo,
+            .icon = MessageBoxContent::Icon::Stop,
+            .defaultButton = 2,
+            .helpFile = kHelpFile,
+            .helpContext = kHelpContext};
+}
+
+MessageBoxContent missingSelectionBox(const wchar_t* text) {
+    return {.text = text,
+            .title = L"Manque sélection ",
+            .helpFile = kHelpFile,
+            .helpContext = kHelpContext};
+}
+
+MessageBoxContent keptMarksBox(int documents) {
+    return question(
+        L"Le passage précédent s'est arrêté avant l'enregistrement de la liste.\r\n"
+        L"Documents marqués depuis : " +
+        decimal(documents) + L"\r\nRetrouver ces marques ?");
+}
+
+MessageBoxContent interruptedOpeningBox(const std::wstring& path) {
+    return question(L"Tarnwick s'est arrêté pendant l'ouverture de :\r\n" + path +
+                    L"\r\nPasser au document suivant ?");
+}
+
+MessageBoxContent marksNotKeptBox() {
+    return {.text =
+                L"Libérez de la place sur le disque de la liste : les marques ne peuvent plus être "
+                L"conservées à côté d'elle. Tarnwick réessaie à chaque marque.\r\nN'enregistrez "
+                L"pas la liste avant : un enregistrement qui échoue arrête Tarnwick. Si son "
+                L"répertoire est en lecture seule, ou ne répond plus, « Exporter le "
+                L"rapport... » garde ailleurs l'état de chaque document.\r\nLe passage "
+                L"continue.",
+            .title = kTitle};
+}
+
+MessageBoxContent takenKeysBox(std::span<const std::wstring> keys) {
+    std::wstring text = keys.size() == 1 ? L"Cette touche est déjà prise par un autre programme :"
+                                         : L"Ces touches sont déjà prises par un autre programme :";
+    for (const std::wstring& key : keys) text += L"\r\n" + key;
+    return warning(text + L"\r\nLes touches ne sont pas actives dans SolidWorks.");
+}
+
+SaveQuestion reportQuestion(const std::wstring& listFile) {
+    const std::wstring path = besideList(listFile, L"-rapport.csv");
+    const std::size_t name = path.find_last_of(L'\\') + 1;
+    return {.title = L"Exporter le rapport",
+            .directory = path.substr(0, name == 0 ? 0 : name - 1),
+            .name = path.substr(name),
+            .kind = L"Tableau (*.csv)",
+            .extension = L"csv"};
+}
+
+MessageBoxContent reportNotWrittenBox(const std::wstring& reason) {
+    return warning(L"Le rapport n'a pas pu être écrit.\r\n" + reason +
+                   L"\r\nS'il est ouvert dans un tableur, fermez-le, ou choisissez un autre nom ou "
+                   L"un autre répertoire.");
+}
