@@ -35,8 +35,8 @@ Comparison compareFill(const Setting& setting, int count) {
         const int i = static_cast<int>(lines.size());
         std::string utf8;
         appendUtf8(utf8, path);
-        work.lines[i].code = state::kToDo;
-        work.lines[i].path = work.keep(std::move(utf8));
+        work.lines.edit(i)->code = LineState::ToDo;
+        work.lines.edit(i)->path = work.keep(std::move(utf8));
         lines.push_back(displayLine(i, label::kToDo, path, 0));
     }
     work.last = count - 1;

@@ -50,7 +50,7 @@ Comparison compareMark(const Setting& setting, int count) {
     keeper.begin(ListIdentity(text), pass.list());
     const BareFile bare((setting.directory / "bare.bin").wstring());
     const auto mark = [&] {
-        if (!pass.advance(state::kDone)) pass.reset([](int) { return true; });
+        if (!pass.advance(LineState::Done)) pass.reset([](int) { return true; });
         keeper.keep(pass.list());
     };
     mark();

@@ -43,7 +43,7 @@ Comparison compareNext(const Setting& setting, int count) {
         drawNow(window);
     };
     const Comparison result = compare(setting.rounds, {floor}, {subject});
-    require(form.pass().list().lines[count / 2].code == state::kSeen, "documents passed");
+    require(form.pass().list().lines[count / 2].code == LineState::Seen, "documents passed");
     return result;
 }
 

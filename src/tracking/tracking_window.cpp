@@ -3,23 +3,13 @@
 #include "cad/cad_session.h"
 #include "common/numbers.h"
 #include "common/runtime_error.h"
-#include "common/text_decoding.h"
-#include "ports/files.h"
 #include "ports/platform.h"
 #include "session/program_files.h"
 #include "session/setting_values.h"
 #include "session/window_places.h"
 #include "tracking/tracking_tables.h"
+#include "tracking/tracking_texts.h"
 #include "worklist/pass.h"
-
-namespace {
-
-Saved savedOf(std::optional<bool> answer) {
-    if (!answer) return Saved::Unknown;
-    return *answer ? Saved::Yes : Saved::No;
-}
-
-}  // namespace
 
 TrackingWindow::TrackingWindow(Platform& platform, WindowPlaces& places, CadSession& cad,
                                const ProgramFiles& files)
@@ -28,8 +18,7 @@ TrackingWindow::TrackingWindow(Platform& platform, WindowPlaces& places, CadSess
       places_(places),
       cad_(cad),
       files_(files),
-      pass_(platform.clock),
-      marks_(platform.records, files.list, platform.clock),
+      runner_(platform, cad, files, *this),
       TxtEtat(window_->control(IDC_FORM3_TXTETAT)),
       nbfich1(window_->control(IDC_FORM3_NBFICH1)),
       cptfichier1(window_->control(IDC_FORM3_CPTFICHIER1)),
@@ -52,27 +41,14 @@ void TrackingWindow::load(Origin origin) {
     tickOptions();
     CkMinimise.setVisible(false);
     NNiveau1.reset();
-    readList();
+    runner_.read();
     window_->control(IDC_FORM3_CMDMEMO).setVisible(false);
     NumFichCour.setVisible(false);
-    if (origin == Origin::Resumed ? resume() : pass_.start()) {
-        const bool allToDo = origin == Origin::LaunchedAfterDeclining;
-        showAndOpen(allToDo ? Redraw::AllToDo : Redraw::Anew);
-        cad_.bringForward();
-    } else {
-        // What an earlier run kept is told as it holds now, or gone when it doesn't.
-        keepMarks();
-        showNumbers();
-        showEnd(Redraw::Anew);
-    }
-    settle();
+    runner_.start(origin);
 }
 
-void TrackingWindow::readList() {
-    std::string bytes = platform_.files.readBytes(files_.list);
-    const ListIdentity identity(bytes);
-    if (!pass_.read(textInUtf8(std::move(bytes)), files_.list)) throw ProgramEnd{};
-    marks_.begin(identity, pass_.list());
+void TrackingWindow::explain(RuntimeError& error) const {
+    if (keepsMarks()) error.addLine(kMarksAreKept);
 }
 
 void TrackingWindow::tickOptions() {
@@ -102,7 +78,7 @@ LoadingOptions TrackingWindow::loadingOptions() const {
 void TrackingWindow::CmdSortie_Click() {
     places_.save(PlacedWindow::Tracking, *window_);
     setValue(platform_.settings, setting::kLoadingOptionsWritten, tickedOptions());
-    cad_.closeDocument();
+    runner_.leave();
     throw ProgramEnd{};
 }
 
@@ -110,119 +86,61 @@ void TrackingWindow::Form_Close() { throw ProgramEnd{}; }
 
 void TrackingWindow::CmdFichierListe_Click() {
     // As many lines as the window says there are.
-    const std::int32_t count = numericValue(cptfichier1.text());
-    ListIdentity identity;
-    platform_.files.replace(files_.list, [&](const ByteSink& file) {
-        pass_.write(count, [&](std::string_view piece) {
-            identity.add(piece);
-            file(piece);
-        });
-    });
-    marks_.forget();
-    pass_.takeAsSaved();
-    marks_.begin(identity, pass_.list());
+    runner_.save(numericValue(cptfichier1.text()));
 }
 
-void TrackingWindow::CmdSuiv_Click() { advance(state::kDone); }
-void TrackingWindow::CmdSuivQuitter_Click() { advance(state::kSeen); }
-void TrackingWindow::CmdSuivSauter_Click() { advance(state::kToDo); }
+void TrackingWindow::CmdSuiv_Click() { advance(LineState::Done); }
+void TrackingWindow::CmdSuivQuitter_Click() { advance(LineState::Seen); }
+void TrackingWindow::CmdSuivSauter_Click() { advance(LineState::ToDo); }
 
-void TrackingWindow::advance(std::string_view mark) {
+void TrackingWindow::advance(LineState mark) {
     takePointer();
-    if (pass_.pastEnd()) return;
-    const Saved saved = mark == state::kDone ? savedOf(cad_.save()) : Saved::Unknown;
-    cad_.closeDocument();
-    cad_.forgetDocument();
-    if (!advancePass(mark, saved)) {
-        keepMarks();
-        showNumbers();
-        showEnd(Redraw::InPlace);
-        return;
-    }
-    showAndOpen(Redraw::InPlace);
-    enableStepBack(true);
-    cad_.bringForward();
-    settle();
-}
-
-bool TrackingWindow::advancePass(std::string_view mark, Saved saved) {
-    try {
-        return pass_.advance(mark, saved);
-    } catch (const RuntimeError&) {
-        keepMarks();
-        throw;
-    }
+    runner_.advance(mark);
 }
 
 void TrackingWindow::CmdPrecedent_Click() {
     takePointer();
-    if (pass_.current() < 0) return;
-    // It still counts as open: a document of the same path further up is taken for it.
-    cad_.closeDocument();
-    if (!pass_.stepBack()) {
-        keepMarks();
-        showNumbers();
-        drawList(Redraw::InPlace);
-        enableStepBack(false);
-        return;
-    }
-    showAndOpen(Redraw::InPlace);
-    enableAdvance(true);
-    cad_.bringForward();
-    settle();
+    runner_.stepBack();
 }
 
-void TrackingWindow::takePointer() { pass_.moveTo(wholeNumber(NumFichCour.text())); }
+void TrackingWindow::takePointer() { runner_.moveTo(wholeNumber(NumFichCour.text())); }
 
-void TrackingWindow::showAndOpen(Redraw redraw) {
+void TrackingWindow::showCurrent(Redraw redraw) {
     showNumbers();
-    {
-        DrawingPause pause(List1);
-        drawList(redraw);
-        List1.select(pass_.current(), true);
-    }
-    openCurrent();
-    TxtEtat.setText(pass_.currentPath());
+    DrawingPause pause(List1);
+    drawList(redraw);
+    List1.select(pass().current(), true);
 }
 
-void TrackingWindow::openCurrent() {
-    const std::wstring path = pass_.currentPath();
-    if (cad_.hasOpen(path)) {
-        keepMarks();
-        return;
-    }
-    // Shown now: the opening may take long.
-    List1.repaint();
-    closeOther();
-    pass_.openCurrent();
-    keepMarks(pass_.list().lines[pass_.current()].fileLine);
-    cad_.open(path, loadingOptions());
-}
+void TrackingWindow::showOpening() { List1.repaint(); }
 
-void TrackingWindow::closeOther() {
-    if (!cad_.hasAnyOpen()) return;
-    keepMarks();
-    cad_.closeDocument();
-}
+void TrackingWindow::showDocument() { TxtEtat.setText(pass().currentPath()); }
 
 void TrackingWindow::showEnd(Redraw redraw) {
+    showNumbers();
     drawList(redraw);
     enableAdvance(false);
 }
 
+void TrackingWindow::showTop() {
+    showNumbers();
+    drawList(Redraw::InPlace);
+    enableStepBack(false);
+}
+
 void TrackingWindow::showNumbers() {
-    NumFichCour.setText(decimal(pass_.current()));
-    nbfich1.setText(decimal(pass_.shownNumber()));
+    NumFichCour.setText(decimal(pass().current()));
+    nbfich1.setText(decimal(pass().shownNumber()));
 }
 
 void TrackingWindow::drawList(Redraw redraw) {
-    const auto [done, total] = passProgress(pass_.list());
+    const auto [done, total] = passProgress(pass().list());
     window_->showProgress(done, total);
     if (redraw == Redraw::InPlace) {
-        lines_.update(pass_.list(), NNiveau1.levels());
+        lines_.update(pass().list(), NNiveau1.levels());
     } else {
-        lines_.rebuild(pass_.list(), NNiveau1.levels(), redraw == Redraw::AllToDo);
-        cptfichier1.setText(decimal(pass_.list().lineCount()));
+        lines_.rebuild(pass().list(), NNiveau1.levels(), redraw == Redraw::AllToDo);
+        cptfichier1.setText(decimal(pass().list().lineCount()));
     }
 }
 

@@ -5,26 +5,21 @@
 #include <string_view>
 
 #include "input/program_window.h"
+#include "tracking/pass_runner.h"
 #include "tracking/work_list_view.h"
 #include "worklist/list_display.h"
-#include "worklist/mark_keeper.h"
-#include "worklist/pass.h"
 
 class CadSession;
 class WindowPlaces;
-struct LoadingOptions;
 struct Platform;
 struct ProgramFiles;
 struct Question;
 
 /// The tracking window: the work list, the document in progress, and the commands that lead the
-/// pass from one document to the next. It mirrors a pass and makes the calls between its steps.
-class TrackingWindow : public ProgramWindow<TrackingWindow> {
+/// pass from one document to the next. It mirrors what its runner does.
+class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
  public:
-    /// Where the list comes from: resumed from an earlier run, whose marks may have been kept;
-    /// launched now; or launched after an old list was declined: then all lines but the first show
-    /// as to do at first.
-    enum class Origin { Resumed, Launched, LaunchedAfterDeclining };
+    using Origin = PassRunner::Origin;
 
     TrackingWindow(Platform& platform, WindowPlaces& places, CadSession& cad,
                    const ProgramFiles& files);
@@ -64,43 +59,30 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
     void PremierPlan_Click();
     void Rapport_Click();
 
-    const Pass& pass() const { return pass_; }
+    const Pass& pass() const { return runner_.pass(); }
     /// Whether all marks of the pass will be offered at the next start.
-    bool keepsMarks() const { return marks_.keeps(); }
+    bool keepsMarks() const { return runner_.keepsMarks(); }
 
  private:
-    enum class Redraw { InPlace, Anew, AllToDo };
-
     void load(Origin origin);
-    void readList();
-    /// Offers the marks that an earlier run kept and, when it stopped while a document was being
-    /// opened, to go past that one. True when there is a document to open.
-    bool resume();
-    bool offerMarks(KeptState& kept);
-    bool startBeside(std::int32_t fileLine);
     void takeOptions();
     void tickOptions();
     std::wstring tickedOptions() const;
-    LoadingOptions loadingOptions() const;
+    void explain(RuntimeError& error) const override;
 
     /// The pass takes over the line that NumFichCour names. Raises 13 when that is no number,
     /// 6 outside 16 bits.
     void takePointer();
-    void advance(std::string_view mark);
-    /// The mark is kept even when the list can't go on.
-    bool advancePass(std::string_view mark, Saved saved);
-    /// The current line is shown, selected, and its document opened unless it is open already.
-    void showAndOpen(Redraw redraw);
-    void openCurrent();
-    /// Closes the document that counts as open, if any. None is being opened yet: what goes wrong
-    /// now is not the next one's doing.
-    void closeOther();
-    /// What the command did is on disk; a failure to put it there is told once.
-    void keepMarks(std::optional<std::int32_t> opening = std::nullopt);
-    /// The command has made its last call.
-    void settle();
-    void explain(RuntimeError& error) const override;
-    void showEnd(Redraw redraw);
+    void advance(LineState mark);
+
+    LoadingOptions loadingOptions() const override;
+    void showCurrent(Redraw redraw) override;
+    void showOpening() override;
+    void showDocument() override;
+    void showEnd(Redraw redraw) override;
+    void showTop() override;
+    void allowAdvance() override { enableAdvance(true); }
+    void allowStepBack() override { enableStepBack(true); }
     void showNumbers();
     void drawList(Redraw redraw);
     void enableAdvance(bool enabled);
@@ -110,10 +92,8 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
     LineSelected selected() const;
     bool requireSelection(const wchar_t* reproach);
     bool confirm(const Question& question);
-    void changeSelection(const Question& question, std::string_view code);
+    void changeSelection(const Question& question, LineState state);
     void eliminateSelection(const Question& question, Eliminate states);
-    /// After an edit of the list: opens the document of the current line, if there is one.
-    void followEdit(bool inProgress);
 
     void setAlwaysVisible(bool on);
     void setAllReleases(bool on);
@@ -126,8 +106,7 @@ class TrackingWindow : public ProgramWindow<TrackingWindow> {
     WindowPlaces& places_;
     CadSession& cad_;
     const ProgramFiles& files_;
-    Pass pass_;
-    MarkKeeper marks_;
+    PassRunner runner_;
 
     Control &TxtEtat, &nbfich1, &cptfichier1, &NumFichCour;
     DisplayDepth NNiveau1;

@@ -1,13 +1,11 @@
 // The tracking window's list commands: many lines at once, and where the pass goes on.
 
-#include "cad/cad_session.h"
-#include "common/numbers.h"
 #include "ports/platform.h"
 #include "tracking/tracking_texts.h"
 #include "tracking/tracking_window.h"
 
 bool TrackingWindow::anySelected() const {
-    for (int i = 0; i <= pass_.list().last; ++i) {
+    for (int i = 0; i <= pass().list().last; ++i) {
         if (List1.selected(i)) return true;
     }
     return false;
@@ -27,21 +25,17 @@ LineSelected TrackingWindow::selected() const {
     return [this](int line) { return List1.selected(line); };
 }
 
-void TrackingWindow::CmdChaF_Click() { changeSelection(kQuestionChaF, state::kDone); }
-void TrackingWindow::CmdChaV_Click() { changeSelection(kQuestionChaV, state::kSeen); }
+void TrackingWindow::CmdChaF_Click() { changeSelection(kQuestionChaF, LineState::Done); }
+void TrackingWindow::CmdChaV_Click() { changeSelection(kQuestionChaV, LineState::Seen); }
 
-void TrackingWindow::changeSelection(const Question& question, std::string_view code) {
+void TrackingWindow::changeSelection(const Question& question, LineState state) {
     if (!requireSelection(kNothingSelected) || !confirm(question)) return;
-    followEdit(pass_.change(selected(), code));
-    settle();
+    runner_.change(selected(), state);
 }
 
 void TrackingWindow::CmdChaRaz_Click() {
     if (!requireSelection(kNothingSelectedToResume) || !confirm(kQuestionChaRaz)) return;
-    pass_.reset(selected());
-    followEdit(true);
-    cad_.bringForward();
-    settle();
+    runner_.reset(selected());
 }
 
 void TrackingWindow::CmdEliF_Click() { eliminateSelection(kQuestionEliF, Eliminate::DoneAndSeen); }
@@ -52,34 +46,19 @@ void TrackingWindow::CmdEliV_Click() { eliminateSelection(kQuestionEliV, Elimina
 
 void TrackingWindow::eliminateSelection(const Question& question, Eliminate states) {
     if (!requireSelection(kNothingSelected) || !confirm(question)) return;
-    followEdit(pass_.eliminate(selected(), states));
-    settle();
+    runner_.eliminate(selected(), states);
 }
 
 void TrackingWindow::CmdPurge_Click() {
     if (!confirm(kQuestionPurge)) return;
-    followEdit(pass_.eliminate([](int) { return true; }, Eliminate::DoneAndSeen));
-    settle();
+    runner_.eliminate([](int) { return true; }, Eliminate::DoneAndSeen);
 }
 
 void TrackingWindow::CmdRepA_Click() {
     if (!requireSelection(kNothingSelectedToResume)) return;
     int first = 0;
     while (!List1.selected(first)) ++first;
-    if (pass_.resumeAt(first)) enableAdvance(true);
-    // With nothing left to do below, the last line is opened again, whatever its state.
-    showAndOpen(Redraw::Anew);
-    settle();
+    runner_.resumeAt(first);
 }
 
 void TrackingWindow::CmdDeSelect_Click() { List1.clearSelection(); }
-
-void TrackingWindow::followEdit(bool inProgress) {
-    if (inProgress) {
-        enableAdvance(true);
-        showAndOpen(Redraw::Anew);
-    } else {
-        keepMarks();
-        showEnd(Redraw::Anew);
-    }
-}

@@ -11,7 +11,6 @@
 #include "tracking/tracking_ids.h"
 #include "tracking/tracking_texts.h"
 #include "tracking/tracking_window.h"
-#include "worklist/report.h"
 
 void TrackingWindow::takeOptions() {
     Settings& settings = platform_.settings;
@@ -74,7 +73,5 @@ void TrackingWindow::Rapport_Click() {
 
 void TrackingWindow::writeReport(const std::wstring& path) {
     if (files_.owns(path)) throw errors::permissionDenied(path);
-    pass_.countOpenTime();
-    platform_.files.replace(
-        path, [&](const ByteSink& file) { file(reportOf(pass_.list(), platform_.clock)); });
+    platform_.files.replace(path, [&](const ByteSink& file) { file(runner_.report()); });
 }

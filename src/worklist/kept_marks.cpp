@@ -10,26 +10,26 @@ namespace {
 
 using State = KeptLine::State;
 
-std::string_view settled(std::string_view code) {
-    return code == state::kInProgress ? state::kToDo : code;
+StateCode settled(const StateCode& code) {
+    return code == LineState::InProgress ? LineState::ToDo : code;
 }
 
-State stateOf(std::string_view code, std::string_view codeInFile) {
-    if (settled(code) == settled(codeInFile)) return State::AsInFile;
-    if (code == state::kDone) return State::Done;
-    return code == state::kSeen ? State::Seen : State::ToDo;
+State keptStateOf(const StateCode& code, const StateCode& inFile) {
+    if (settled(code) == settled(inFile)) return State::AsInFile;
+    if (code == LineState::Done) return State::Done;
+    return code == LineState::Seen ? State::Seen : State::ToDo;
 }
 
-std::string_view codeOf(State kept, std::string_view codeInFile) {
+StateCode codeOf(State kept, const StateCode& inFile) {
     switch (kept) {
         case State::ToDo:
-            return state::kToDo;
+            return LineState::ToDo;
         case State::Done:
-            return state::kDone;
+            return LineState::Done;
         case State::Seen:
-            return state::kSeen;
+            return LineState::Seen;
         default:
-            return codeInFile;
+            return inFile;
     }
 }
 
@@ -173,17 +173,17 @@ std::string headerOf(const ListIdentity& list, std::size_t lineCount, std::int64
 
 }  // namespace
 
-std::vector<std::string_view> codesOf(const WorkList& list) {
-    std::vector<std::string_view> codes;
+std::vector<StateCode> codesOf(const WorkList& list) {
+    std::vector<StateCode> codes;
     for (int i = 0; i <= list.last; ++i) codes.push_back(list.lines[i].code);
     return codes;
 }
 
-KeptLine keptLineOf(const WorkLine& line, std::string_view codeInFile) {
-    return {stateOf(line.code, codeInFile), line.history};
+KeptLine keptLineOf(const WorkLine& line, const StateCode& codeInFile) {
+    return {keptStateOf(line.code, codeInFile), line.history};
 }
 
-std::vector<KeptLine> keptLinesOf(const WorkList& list, std::span<const std::string_view> codes) {
+std::vector<KeptLine> keptLinesOf(const WorkList& list, std::span<const StateCode> codes) {
     std::vector<KeptLine> kept(codes.size(), {.state = State::Eliminated, .history = {}});
     for (int i = 0; i <= list.last; ++i) {
         const WorkLine& line = list.lines[i];
@@ -197,7 +197,7 @@ int changedLines(const WorkList& list, const KeptState& kept) {
     int changed = 0;
     for (int i = 0; i <= list.last; ++i) {
         const State state = kept.lines.at(static_cast<std::size_t>(i)).state;
-        const std::string_view code = list.lines[i].code;
+        const StateCode& code = list.lines[i].code;
         changed += state == State::Eliminated || settled(codeOf(state, code)) != settled(code);
     }
     return changed;
@@ -209,9 +209,9 @@ void restoreLines(WorkList& list, const KeptState& kept) {
         const KeptLine& line = kept.lines.at(static_cast<std::size_t>(i));
         if (line.state == State::Eliminated) continue;
         moveLine(list, i, left);
-        list.lines[left].code = codeOf(line.state, list.lines[left].code);
-        list.lines[left].history = line.history;
-        ++left;
+        const auto edit = list.lines.edit(left++);
+        edit->code = codeOf(line.state, edit->code);
+        edit->history = line.history;
     }
     list.last = left - 1;
 }

@@ -27,13 +27,13 @@ struct KeptState {
 };
 
 /// The codes of the lines that a list file holds, for comparison.
-std::vector<std::string_view> codesOf(const WorkList& list);
+std::vector<StateCode> codesOf(const WorkList& list);
 
 /// What a line has become that has this code in the file.
-KeptLine keptLineOf(const WorkLine& line, std::string_view codeInFile);
+KeptLine keptLineOf(const WorkLine& line, const StateCode& codeInFile);
 
 /// What a list has become of the file whose lines had these codes.
-std::vector<KeptLine> keptLinesOf(const WorkList& list, std::span<const std::string_view> codes);
+std::vector<KeptLine> keptLinesOf(const WorkList& list, std::span<const StateCode> codes);
 
 /// How many lines another state was kept of than a list just read from its file has, eliminated
 /// ones included.

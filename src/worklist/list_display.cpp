@@ -19,13 +19,19 @@ std::size_t afterBackslash(std::wstring_view path, int rank) {
 
 }  // namespace
 
-std::optional<std::wstring_view> labelOf(std::string_view code) {
-    if (code.size() == 2 && code[0] == '1') code.remove_prefix(1);
-    if (code == "0") return label::kToDo;
-    if (code == "1") return label::kDone;
-    if (code == "2") return label::kSeen;
-    if (code == "3") return label::kInProgress;
-    return std::nullopt;
+std::optional<std::wstring_view> labelOf(const StateCode& code) {
+    switch (code.shown()) {
+        case LineState::ToDo:
+            return label::kToDo;
+        case LineState::Done:
+            return label::kDone;
+        case LineState::Seen:
+            return label::kSeen;
+        case LineState::InProgress:
+            return label::kInProgress;
+        default:
+            return std::nullopt;
+    }
 }
 
 std::wstring upwards(int levels) {

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "worklist/work_list.h"
+
 /// What stands before a path in the lists. The widths differ on purpose.
 namespace label {
 inline constexpr std::wstring_view kToDo = L"              ";
@@ -14,7 +16,7 @@ inline constexpr std::wstring_view kDone = L" Fait          ";
 }  // namespace label
 
 /// The label of a state code, with or without the reload flag's leading 1; none for other codes.
-std::optional<std::wstring_view> labelOf(std::string_view code);
+std::optional<std::wstring_view> labelOf(const StateCode& code);
 
 /// "\" and `levels` times "..\"; empty for 0.
 std::wstring upwards(int levels);

@@ -1,13 +1,11 @@
 #include "worklist/list_file.h"
 
 #include <charconv>
-#include <functional>
 
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
 #include "common/utf8.h"
-#include "worklist/list_writer.h"
 
 namespace {
 
@@ -37,32 +35,13 @@ int leadingNumber(std::string_view text) {
 WorkLine parseLine(std::string_view text, WorkList& list) {
     const std::size_t end = codeEnd(text);
     WorkLine line;
-    line.code = trimmed(text.substr(0, end));
-    line.path = trimmed(text.substr(end));
-    const int number = leadingNumber(line.code);
+    std::string_view code = trimmed(text.substr(0, end));
+    const int number = leadingNumber(code);
     line.reload = number >= kReloadOffset;
-    if (line.reload) line.code = list.keep(std::to_string(number - kReloadOffset));
+    if (line.reload) code = list.keep(std::to_string(number - kReloadOffset));
+    line.code = StateCode(code);
+    line.path = trimmed(text.substr(end));
     return line;
-}
-
-/// The path with what is written around it, if it stands so in a text; else nothing.
-std::string_view asItStands(std::string_view path, std::string_view text) {
-    if (text.empty()) return {};
-    const std::less<> isBefore;
-    if (isBefore(path.data(), text.data() + kBetween.size())) return {};
-    if (isBefore(text.data() + text.size(), path.data() + path.size() + kLineEnd.size())) return {};
-    const std::string_view rest(path.data() - kBetween.size(),
-                                kBetween.size() + path.size() + kLineEnd.size());
-    return rest.starts_with(kBetween) && rest.ends_with(kLineEnd) ? rest : std::string_view();
-}
-
-/// Writes what follows the code of a line. Most lines are as they were read.
-void addRest(ListWriter& writer, std::string_view path, std::string_view fileText) {
-    const std::string_view rest = asItStands(path, fileText);
-    if (!rest.empty()) return writer.add(rest);
-    writer.add(kBetween);
-    writer.add(path);
-    writer.add(kLineEnd);
 }
 
 }  // namespace
@@ -81,9 +60,9 @@ bool parseListFile(std::string text, WorkList& list, const std::wstring& file) {
     int count = 0;
     try {
         while (!rest.empty()) {
-            WorkLine& line = list.lines[count];
-            line = parseLine(takeLine(rest), list);
-            line.fileLine = count++;
+            WorkLine line = parseLine(takeLine(rest), list);
+            line.fileLine = count;
+            list.lines.edit(count++) = line;
         }
     } catch (RuntimeError& error) {
         error.addPlace(count + 1, file);
@@ -93,19 +72,22 @@ bool parseListFile(std::string text, WorkList& list, const std::wstring& file) {
     return true;
 }
 
-void formatListFile(WorkList& list, std::int32_t lineCount, const ByteSink& file) {
-    ListWriter writer(file);
+std::string formatListFile(WorkList& list, std::int32_t lineCount) {
+    std::string text;
     for (std::int32_t i = 0; i < lineCount; ++i) {
-        WorkLine& line = list.lines[i];
-        if (line.reload) line.code = list.keep(std::string("1").append(line.code));
-        writer.add(line.code);
-        addRest(writer, line.path, list.firstText());
+        if (list.lines[i].reload) {
+            const std::string_view code = list.lines[i].code.text();
+            list.lines.edit(i)->code = StateCode(list.keep(std::string("1").append(code)));
+        }
+        const WorkLine& line = list.lines[i];
+        ((text += line.code.text()) += kBetween) += line.path;
+        text += kLineEnd;
     }
-    writer.finish();
+    return text;
 }
 
 void appendFreshLine(std::string& text, std::wstring_view path) {
-    (text += state::kToDo) += kBetween;
+    (text += StateCode(LineState::ToDo).text()) += kBetween;
     appendUtf8(text, path);
     text += kLineEnd;
 }

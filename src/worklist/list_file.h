@@ -3,7 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include "ports/files.h"
 #include "worklist/work_list.h"
 
 /// The path of a file that stands beside a list file: the list's, with this ending for ".lst".
@@ -16,9 +15,9 @@ std::wstring besideList(std::wstring_view listFile, std::wstring_view ending);
 /// three characters, 9 past 8001 lines; the error names the line of the file.
 bool parseListFile(std::string text, WorkList& list, const std::wstring& file = {});
 
-/// Hands on the text for the first `lineCount` lines. As a side effect the code of every flagged
-/// line is given a leading 1 in the list, once more at each call. Raises 9 past the table.
-void formatListFile(WorkList& list, std::int32_t lineCount, const ByteSink& file);
+/// The text for the first `lineCount` lines. As a side effect the code of every flagged line is
+/// given a leading 1 in the list, once more at each call. Raises 9 past the table.
+std::string formatListFile(WorkList& list, std::int32_t lineCount);
 
 /// Appends the line of a document still to do, as a freshly launched pass writes it. Raises 5 for
 /// a path that can't be encoded.

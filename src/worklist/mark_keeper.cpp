@@ -12,10 +12,10 @@ KeptLines::KeptLines(const WorkList& list) : codes_(codesOf(list)), lines_(codes
 }
 
 std::vector<std::size_t> KeptLines::follow(const WorkList& list) {
-    const auto reached = list.lines.reachedSince(reached_);
-    reached_ = list.lines.reached();
+    const auto changed = list.lines.changedSince(changes_);
+    changes_ = list.lines.changes();
     // A list that is as long as before has lost none of its lines.
-    if (reached && list.lineCount() == lineCount_) return followSome(list, *reached);
+    if (changed && list.lineCount() == lineCount_) return followSome(list, *changed);
     return followAll(list);
 }
 
@@ -76,7 +76,7 @@ void MarkKeeper::begin(const ListIdentity& listFile, const WorkList& list) {
     lines_ = KeptLines(list);
     writer_.emplace(listFile, lines_.all().size(), clock_.now());
     behind_ = behind_ || written_ > 0;  // that was of another list file
-    opening_ = false;
+    opening_.reset();
     trouble_ = false;
     told_ = false;
 }
@@ -95,16 +95,17 @@ void MarkKeeper::forget() {
 
 void MarkKeeper::keep(const WorkList& list, std::optional<std::int32_t> opening) {
     const std::vector<std::size_t> changed = lines_.follow(list);
-    opening_ = opening.has_value();
+    const bool asOnDisk = changed.empty() && opening == opening_ && !behind_;
+    opening_ = opening;
     if (!opening_ && lines_.allAsInFile()) {
         forget();
-    } else {
+    } else if (!asOnDisk) {
         put(changed, opening, RecordFile::Flush::Now);
     }
 }
 
 void MarkKeeper::opened() {
-    if (!std::exchange(opening_, false) || trouble_) return;
+    if (!std::exchange(opening_, std::nullopt) || trouble_) return;
     if (lines_.allAsInFile()) {
         forget();
     } else {

@@ -11,6 +11,8 @@
 #include "ports/record_files.h"
 #include "worklist/kept_marks.h"
 
+class Clock;
+
 /// What the lines of a list file have become, kept up with the list. Looks only at the lines that
 /// may have changed, if they are few.
 class KeptLines {
@@ -33,14 +35,12 @@ class KeptLines {
     std::vector<std::size_t> followSome(const WorkList& list, std::span<const int> lines);
     bool take(std::size_t fileLine, const KeptLine& now);
 
-    std::vector<std::string_view> codes_;  ///< of the lines of the list file
+    std::vector<StateCode> codes_;  ///< of the lines of the list file
     std::vector<KeptLine> lines_;
-    int otherwise_ = 0;  ///< lines that are not as in the file
-    int lineCount_ = 0;  ///< of the list, when it was followed last
-    std::uint64_t reached_ = 0;
+    int otherwise_ = 0;          ///< lines that are not as in the file
+    int lineCount_ = 0;          ///< of the list, when it was followed last
+    std::uint64_t changes_ = 0;  ///< of the list, by then
 };
-
-class Clock;
 
 /// Keeps on disk, beside a list file, what has changed since that was written, so that no mark is
 /// lost whatever dies. While there is nothing to offer at the next start the file is empty, and at
@@ -63,6 +63,8 @@ class MarkKeeper {
     /// Puts on disk what has changed, and which line's document is about to be opened. To be
     /// called before the next call to the CAD application.
     void keep(const WorkList& list, std::optional<std::int32_t> opening = std::nullopt);
+    /// The same; the document that is being opened, if any, still is.
+    void keepOn(const WorkList& list) { keep(list, opening_); }
     /// The document that was being opened is open.
     void opened();
 
@@ -87,7 +89,7 @@ class MarkKeeper {
     std::optional<KeptMarksWriter> writer_;
     std::size_t written_ = 0;  ///< bytes on the disk
     bool behind_ = true;       ///< what is on the disk is something else
-    bool opening_ = false;
+    std::optional<std::int32_t> opening_;
     bool trouble_ = false;  ///< the last attempt to write failed …
     bool told_ = false;     ///< … and the user knows
 };

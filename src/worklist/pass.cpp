@@ -2,21 +2,19 @@
 
 #include <algorithm>
 #include <limits>
-#include <utility>
 
 #include "common/utf8.h"
 #include "ports/clock.h"
 #include "worklist/kept_marks.h"
 #include "worklist/list_file.h"
-#include "worklist/work_list.h"
 
 PassProgress passProgress(const WorkList& list) {
     PassProgress progress{0, list.lineCount()};
     bool inProgress = false;
     for (int i = 0; i <= list.last; ++i) {
-        const std::string_view code = list.lines[i].code;
-        inProgress = inProgress || code == state::kInProgress;
-        if (code == state::kDone || code == state::kSeen) ++progress.done;
+        const LineState state = list.lines[i].code.state();
+        inProgress = inProgress || state == LineState::InProgress;
+        if (state == LineState::Done || state == LineState::Seen) ++progress.done;
     }
     return inProgress ? progress : PassProgress{};
 }
@@ -42,7 +40,9 @@ bool Pass::start() {
     while (line < list_.last && !list_.isToDo(line)) ++line;
     // Strict on purpose: the last line is put in progress, but not opened.
     if (line < list_.last) return startHere(line);
-    if (line <= list_.last && list_.isToDo(line)) list_.lines[line].code = state::kInProgress;
+    if (line <= list_.last && list_.isToDo(line)) {
+        list_.lines.edit(line)->code = LineState::InProgress;
+    }
     current_ = list_.lineCount();
     return false;
 }
@@ -60,18 +60,18 @@ bool Pass::startAfter(int line) {
 bool Pass::startHere(int line) {
     current_ = line;
     if (pastEnd()) return false;
-    if (list_.isToDo(line)) list_.lines[line].code = state::kInProgress;
+    if (list_.isToDo(line)) list_.lines.edit(line)->code = LineState::InProgress;
     show(line);
     return true;
 }
 
-bool Pass::advance(std::string_view code, Saved saved) {
+bool Pass::advance(LineState state, Saved saved) {
     closeOpen();
-    if (current_ >= 0) mark(current_, code, saved);
+    if (current_ >= 0) mark(current_, state, saved);
     const int next = nextToDo(list_, current_);
     // The search reads the row that it stops at, past the last one, too: at the end of a list that
     // fills the table that raises 9.
-    static_cast<void>(std::as_const(list_).lines[next]);
+    static_cast<void>(list_.lines[next]);
     return startHere(next);
 }
 
@@ -80,24 +80,24 @@ bool Pass::stepBack() {
     if (pastEnd()) {
         current_ = list_.last;
     } else {
-        mark(current_, state::kToDo, Saved::Unknown);
+        mark(current_, LineState::ToDo, Saved::Unknown);
         --current_;
     }
     current_ = previousToDo(list_, current_);
     return current_ != kNoLine && startHere(current_);
 }
 
-void Pass::mark(int line, std::string_view code, Saved saved) {
-    WorkLine& marked = list_.lines[line];
-    marked.code = code;
-    marked.history.markedAt = code == state::kToDo ? 0 : clock_.now();
-    marked.history.saved = saved;
+void Pass::mark(int line, LineState state, Saved saved) {
+    const auto marked = list_.lines.edit(line);
+    marked->code = state;
+    marked->history.markedAt = state == LineState::ToDo ? 0 : clock_.now();
+    marked->history.saved = saved;
 }
 
-bool Pass::change(const LineSelected& selected, std::string_view code) {
+bool Pass::change(const LineSelected& selected, LineState state) {
     for (int i = 0; i <= list_.last; ++i) {
-        if (list_.lines[i].code != state::kInProgress && selected(i)) {
-            mark(i, code, Saved::Unknown);
+        if (list_.lines[i].code != LineState::InProgress && selected(i)) {
+            mark(i, state, Saved::Unknown);
         }
     }
     return reestablish();
@@ -110,7 +110,7 @@ bool Pass::eliminate(const LineSelected& chosen, Eliminate states) {
 
 void Pass::reset(const LineSelected& selected) {
     for (int i = 0; i <= list_.last; ++i) {
-        if (selected(i)) mark(i, state::kToDo, Saved::Unknown);
+        if (selected(i)) mark(i, LineState::ToDo, Saved::Unknown);
     }
     takeBackInProgress(list_);
     startHere(nextToDo(list_, -1));
@@ -138,20 +138,19 @@ void Pass::countOpenTime() {
     const std::int64_t now = clock_.now();
     if (const auto line = lineOfFile(open_->fileLine)) {
         constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
-        std::int32_t& seconds = list_.lines[*line].history.secondsOpen;
+        const std::int64_t before = std::max(list_.lines[*line].history.secondsOpen, 0);
         const std::int64_t open = std::max<std::int64_t>(now - open_->since, 0);
-        seconds = static_cast<std::int32_t>(std::min(std::max(seconds, 0) + open, kMost));
+        list_.lines.edit(*line)->history.secondsOpen =
+            static_cast<std::int32_t>(std::min(before + open, kMost));
     }
     open_->since = now;
 }
 
-void Pass::write(std::int32_t lineCount, const std::function<void(std::string_view)>& file) {
-    formatListFile(list_, lineCount, file);
-}
+std::string Pass::fileText(std::int32_t lineCount) { return formatListFile(list_, lineCount); }
 
 void Pass::takeAsSaved() {
     const auto open = open_ ? lineOfFile(open_->fileLine) : std::nullopt;
-    for (int i = 0; i <= list_.last; ++i) list_.lines[i].fileLine = i;
+    for (int i = 0; i <= list_.last; ++i) list_.lines.edit(i)->fileLine = i;
     // The line of a document that is open may have been eliminated.
     open ? void(open_->fileLine = *open) : open_.reset();
 }

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "worklist/work_list.h"
 
-struct WorkList;
+class Clock;
+struct KeptState;
 
 /// How far a pass has come: the lines no longer to do, of all.
 struct PassProgress {
@@ -18,9 +17,6 @@ struct PassProgress {
 
 /// 0 of 0 when no line is in progress: the pass has not begun or has reached its end.
 PassProgress passProgress(const WorkList& list);
-
-class Clock;
-struct KeptState;
 
 /// A pass over the documents of a work list: the lines with their states, which of them is the
 /// current one, and the number that is shown of it. The calls to the CAD application stand between
@@ -66,11 +62,11 @@ class Pass {
 
     /// Gives the current line this state and goes to the next line to do, or to the end. Raises 9
     /// at the end of a list that fills the table; the line has its state then.
-    bool advance(std::string_view code, Saved saved = Saved::Unknown);
+    bool advance(LineState state, Saved saved = Saved::Unknown);
     /// Takes the current line back to do and goes to the nearest line to do above; past the end
     /// the search begins at the last line. Without one there is no current line.
     bool stepBack();
-    bool change(const LineSelected& selected, std::string_view code);
+    bool change(const LineSelected& selected, LineState state);
     bool eliminate(const LineSelected& chosen, Eliminate states);
 
     /// Puts the selected lines back to do and goes to the first line to do.
@@ -86,14 +82,14 @@ class Pass {
     /// Notes how long the document that is open has been so by now.
     void countOpenTime();
 
-    /// The text of the list file for the first `lineCount` lines, piece by piece; flagged lines
-    /// get a leading 1, once more at each call. Raises 9 past the table.
-    void write(std::int32_t lineCount, const std::function<void(std::string_view)>& file);
+    /// The text of the list file for the first `lineCount` lines; flagged lines get a leading 1,
+    /// once more at each call. Raises 9 past the table.
+    std::string fileText(std::int32_t lineCount);
     /// From now on the list file holds the lines as they are.
     void takeAsSaved();
 
  private:
-    void mark(int line, std::string_view code, Saved saved);
+    void mark(int line, LineState state, Saved saved);
     bool startHere(int line);
     void show(int line);
     bool reestablish();

@@ -13,22 +13,13 @@ constexpr std::string_view kHead =
     "\xEF\xBB\xBF"
     "N°;Etat;Document;Marqué le;Durée (s);Enregistré\r\n";
 
-constexpr struct {
-    std::string_view code;
-    std::string_view name;
-} kStates[] = {{state::kToDo, "A faire"},
-               {state::kDone, "Fait"},
-               {state::kSeen, "Vu"},
-               {state::kInProgress, "En cours"}};
+/// In the order of LineState.
+constexpr std::string_view kStates[] = {"A faire", "Fait", "Vu", "En cours"};
 
 /// A line of unknown state has that of the line above it, as where the list is shown.
-std::string_view stateName(std::string_view code, std::string_view above) {
-    // Once the list was saved, the code of a line with the reload flag has it, too.
-    if (code.size() == 2 && code[0] == '1') code.remove_prefix(1);
-    for (const auto& known : kStates) {
-        if (known.code == code) return known.name;
-    }
-    return above;
+std::string_view stateName(const StateCode& code, std::string_view above) {
+    const LineState state = code.shown();
+    return state == LineState::Other ? above : kStates[static_cast<std::size_t>(state)];
 }
 
 /// The rows of the table, one after another.
@@ -84,7 +75,7 @@ void addHistory(Rows& rows, const LineHistory& history, const Clock& clock) {
 
 std::string reportOf(const WorkList& list, const Clock& clock) {
     Rows rows(kHead);
-    std::string_view state = kStates[0].name;
+    std::string_view state = kStates[0];
     for (int i = 0; i <= list.last; ++i) {
         const WorkLine& line = list.lines[i];
         state = stateName(line.code, state);

@@ -2,20 +2,37 @@
 
 namespace {
 
-bool isOf(const WorkLine& line, Eliminate states) {
-    return line.code == state::kSeen ||
-           (states == Eliminate::DoneAndSeen && line.code == state::kDone);
+/// In the order of LineState.
+constexpr std::string_view kCodes[] = {"0", "1", "2", "3"};
+
+LineState stateOf(std::string_view code) {
+    if (code.size() != 1 || code[0] < '0' || code[0] > '3') return LineState::Other;
+    return static_cast<LineState>(code[0] - '0');
 }
 
-std::optional<int> firstWithCode(const WorkList& list, std::string_view code) {
+bool isOf(LineState state, Eliminate states) {
+    return state == LineState::Seen ||
+           (states == Eliminate::DoneAndSeen && state == LineState::Done);
+}
+
+std::optional<int> firstOf(const WorkList& list, LineState state) {
     int i = 0;
     // The row past the last is read, too: in a full table without a match that raises 9.
-    while (list.lines[i].code != code && i <= list.last) ++i;
+    while (list.lines[i].code != state && i <= list.last) ++i;
     if (i > list.last) return std::nullopt;
     return i;
 }
 
 }  // namespace
+
+StateCode::StateCode(LineState state) : text_(kCodes[static_cast<std::size_t>(state)]) {}
+
+LineState StateCode::state() const { return stateOf(text_); }
+
+LineState StateCode::shown() const {
+    const bool prefixed = text_.size() == 2 && text_[0] == '1';
+    return stateOf(prefixed ? text_.substr(1) : text_);
+}
 
 int nextToDo(const WorkList& list, int from) {
     int line = from + 1;
@@ -31,29 +48,31 @@ int previousToDo(const WorkList& list, int from) {
 
 void takeBackInProgress(WorkList& list) {
     for (int i = 0; i <= list.last; ++i) {
-        if (list.lines[i].code == state::kInProgress) list.lines[i].code = state::kToDo;
+        if (list.lines[i].code == LineState::InProgress) {
+            list.lines.edit(i)->code = LineState::ToDo;
+        }
     }
 }
 
 void moveLine(WorkList& list, int from, int to) {
-    const bool reload = list.lines[to].reload;
-    list.lines[to] = list.lines[from];
-    list.lines[to].reload = reload;
+    if (from == to) return;
+    WorkLine moved = list.lines[from];
+    moved.reload = list.lines[to].reload;
+    list.lines.edit(to) = moved;
 }
 
 void eliminateLines(WorkList& list, const LineSelected& chosen, Eliminate states) {
     int kept = 0;
     for (int i = 0; i <= list.last; ++i) {
-        const WorkLine& line = list.lines[i];
-        if (isOf(line, states) && chosen(i)) continue;
+        if (isOf(list.lines[i].code.state(), states) && chosen(i)) continue;
         moveLine(list, i, kept++);
     }
     list.last = kept - 1;
 }
 
 std::optional<int> reestablishCurrent(WorkList& list) {
-    if (const auto inProgress = firstWithCode(list, state::kInProgress)) return inProgress;
-    const auto toDo = firstWithCode(list, state::kToDo);
-    if (toDo) list.lines[*toDo].code = state::kInProgress;
+    if (const auto inProgress = firstOf(list, LineState::InProgress)) return inProgress;
+    const auto toDo = firstOf(list, LineState::ToDo);
+    if (toDo) list.lines.edit(*toDo)->code = LineState::InProgress;
     return toDo;
 }

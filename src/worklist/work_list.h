@@ -12,13 +12,28 @@
 
 #include "common/checked_table.h"
 
-/// State codes of a line, compared as exact texts.
-namespace state {
-inline constexpr std::string_view kToDo = "0";
-inline constexpr std::string_view kDone = "1";
-inline constexpr std::string_view kSeen = "2";
-inline constexpr std::string_view kInProgress = "3";
-}  // namespace state
+/// What has become of a document. The commands go by it.
+enum class LineState : std::uint8_t { ToDo, Done, Seen, InProgress, Other };
+
+/// A line's state as the list file writes it. Codes are compared as exact texts: a code that is
+/// none of the four is kept as it is, and no command finds it.
+class StateCode {
+ public:
+    StateCode() = default;
+    StateCode(LineState state);
+    /// As a file has it; the text must outlive the code.
+    explicit StateCode(std::string_view text) : text_(text) {}
+
+    std::string_view text() const { return text_; }
+    LineState state() const;
+    /// The state to show: of a code that was given the reload flag's leading 1 as well.
+    LineState shown() const;
+
+    bool operator==(const StateCode&) const = default;
+
+ private:
+    std::string_view text_;
+};
 
 /// What the CAD application answered when a document was to be saved.
 enum class Saved : std::uint8_t { Unknown, Yes, No };
@@ -34,41 +49,58 @@ struct LineHistory {
 
 /// One document of the pass. Its texts, in UTF-8 as the list file has them, are kept by the list.
 struct WorkLine {
-    std::string_view code;      ///< mostly one of the above
+    StateCode code;
     std::string_view path;      ///< full path
     bool reload = false;        ///< whether the list file carried the code plus 10
     std::int32_t fileLine = 0;  ///< the line of the list file, zero-based, where it stands
     LineHistory history;
 };
 
-/// The lines of a list, in a table of fixed size. There is no way to change one but to reach for
-/// it here, which is remembered: who follows the list need not look at all lines each time.
+/// The lines of a list, in a table of fixed size; reaching past it raises 9. Each change of a line
+/// is remembered: who follows the list need not look at all lines each time.
 class WorkLines {
  public:
     static constexpr std::int32_t kCapacity = 8001;
     static constexpr wchar_t kLimit[] = L"Lignes de la liste : 8001 au plus.";
 
-    WorkLine& operator[](int line) {
-        WorkLine& reached = table_[line];
-        recent_[reached_++ % recent_.size()] = line;
-        return reached;
-    }
     const WorkLine& operator[](int line) const { return table_[line]; }
 
-    /// How often a line was reached for that it may be changed.
-    std::uint64_t reached() const { return reached_; }
-    /// The lines that were since `reached` was so many; nothing when they were too many to tell.
-    std::optional<std::vector<int>> reachedSince(std::uint64_t before) const {
-        if (reached_ - before > recent_.size()) return std::nullopt;
+    /// The way to change a line: each use of it counts as a change.
+    class Edit {
+     public:
+        Edit(WorkLines& lines, int line) : lines_(lines), line_(line) {}
+        Edit(const Edit&) = delete;
+        Edit& operator=(const Edit&) = delete;
+
+        WorkLine* operator->() const {
+            WorkLine& changed = lines_.table_[line_];
+            lines_.recent_[lines_.changes_++ % kRemembered] = line_;
+            return &changed;
+        }
+        void operator=(const WorkLine& whole) const { *operator->() = whole; }
+
+     private:
+        WorkLines& lines_;
+        int line_;
+    };
+    Edit edit(int line) { return {*this, line}; }
+
+    /// How many changes there were.
+    std::uint64_t changes() const { return changes_; }
+    /// The lines changed since there were so many; nothing when they were too many to tell.
+    std::optional<std::vector<int>> changedSince(std::uint64_t before) const {
+        if (changes_ - before > kRemembered) return std::nullopt;
         std::vector<int> lines;
-        for (; before != reached_; ++before) lines.push_back(recent_[before % recent_.size()]);
+        for (; before != changes_; ++before) lines.push_back(recent_[before % kRemembered]);
         return lines;
     }
 
  private:
+    static constexpr std::size_t kRemembered = 32;  ///< more than a command of one line takes
+
     CheckedTable<WorkLine, kCapacity, kLimit> table_;
-    std::array<int, 8> recent_{};
-    std::uint64_t reached_ = 0;
+    std::array<int, kRemembered> recent_{};
+    std::uint64_t changes_ = 0;
 };
 
 /// The ordered list of documents of a pass, each with its state.
@@ -84,20 +116,14 @@ struct WorkList {
     int last = -1;  ///< index of the last line in use; the lines above it are stale
 
     int lineCount() const { return last + 1; }
-    bool isToDo(int line) const { return lines[line].code == state::kToDo; }
+    bool isToDo(int line) const { return lines[line].code == LineState::ToDo; }
 
     /// Keeps a text as long as the list, for lines to stand in: the whole list file is one.
     std::string_view keep(std::string text) { return texts_.emplace_back(std::move(text)); }
-    /// The text that was kept first: mostly the list file's.
-    std::string_view firstText() const {
-        return texts_.empty() ? std::string_view() : texts_.front();
-    }
 
  private:
     std::deque<std::string> texts_;  ///< a deque, whose elements stay where they are
 };
-
-struct WorkList;
 
 // What the pass does to the table of lines: searches, and changes of many lines at once.
 

@@ -9,21 +9,20 @@ namespace {
 
 /// Whether a line survives a save: its code must fill the first columns and none else.
 bool survivesSave(const WorkLine& line) {
-    if (line.reload) return line.code.size() == 1;
-    return !line.code.empty() && line.code.size() <= 3;
+    const std::size_t length = line.code.text().size();
+    return line.reload ? length == 1 : length >= 1 && length <= 3;
 }
 
 /// Saving has put a 1 before the codes of flagged lines, which reading takes off again.
 void requireSameAfterSave(WorkList& list) {
     WorkList reread;
-    std::string text;
-    formatListFile(list, list.lineCount(), [&](std::string_view piece) { text += piece; });
-    require(parseListFile(text, reread));
+    require(parseListFile(formatListFile(list, list.lineCount()), reread));
     require(reread.last == list.last);
     for (int i = 0; i <= list.last; ++i) {
         const WorkLine& before = list.lines[i];
         const WorkLine& after = reread.lines[i];
-        require(before.code == (after.reload ? "1" + std::string(after.code) : after.code));
+        const std::string code(after.code.text());
+        require(before.code.text() == (after.reload ? "1" + code : code));
         require(before.path == after.path);
         require(before.reload == after.reload);
     }

@@ -20,15 +20,15 @@ struct WorkListDrawing : ContractTest {
     /// A list drawn at depth 0 with some lines selected, scrolled, then changed in two lines.
     void prepare(int topLine) {
         for (int i = 0; i < kLines; ++i) {
-            work.lines[i].code = std::array{state::kToDo, state::kDone, state::kSeen}[i % 3];
-            work.lines[i].path = work.keep("c:\\plans\\sous\\f" + std::to_string(i));
+            work.lines.edit(i)->code = static_cast<LineState>(i % 3);
+            work.lines.edit(i)->path = work.keep("c:\\plans\\sous\\f" + std::to_string(i));
         }
         work.last = kLines - 1;
         view.rebuild(work, 0, false);
         for (const int line : {10, 100, 190}) list.select(line, true);
         SendMessageW(handle, LB_SETTOPINDEX, static_cast<WPARAM>(topLine), 0);
-        work.lines[100].code = state::kInProgress;
-        work.lines[101].code = state::kDone;
+        work.lines.edit(100)->code = LineState::InProgress;
+        work.lines.edit(101)->code = LineState::Done;
     }
 
     /// Every line removed and inserted again, as the rule for a redraw in place has it.

@@ -145,5 +145,5 @@ TEST_F(Resuming, AFullListEndsPastTheTable) {
     window().control(IDC_FORM3_NUMFICHCOUR).content = L"8000";
     EXPECT_EQ(raised([&] { click(IDC_FORM3_CMDSUIVQUITTER); }), 9);
     EXPECT_EQ(restart({kYes}).size(), 1U);
-    EXPECT_EQ(work().lines[8000].code, "2");
+    EXPECT_EQ(work().lines[8000].code, LineState::Seen);
 }

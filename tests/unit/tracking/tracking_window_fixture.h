@@ -78,7 +78,7 @@ class TrackingFixture : public testing::Test {
     std::wstring states() {
         std::wstring result;
         for (int i = 0; i <= work().last; ++i)
-            result += (i == 0 ? L"" : L" ") + wideText(work().lines[i].code);
+            result += (i == 0 ? L"" : L" ") + wideText(work().lines[i].code.text());
         return result;
     }
     /// Whether the six advance buttons are enabled; they must be alike.

@@ -12,12 +12,13 @@ TEST(DisplayLine, IsNumberLabelAndPath) {
 }
 
 TEST(StateLabels, BelongToExactCodes) {
-    for (const char* code : {"0", "10"}) EXPECT_EQ(labelOf(code), std::wstring(14, L' '));
-    for (const char* code : {"1", "11"}) EXPECT_EQ(labelOf(code), L" Fait          ");
-    for (const char* code : {"2", "12"}) EXPECT_EQ(labelOf(code), L" Vu            ");
-    for (const char* code : {"3", "13"}) EXPECT_EQ(labelOf(code), L" EnCours  ");
+    const auto labelOfText = [](const char* code) { return labelOf(StateCode(code)); };
+    for (const char* code : {"0", "10"}) EXPECT_EQ(labelOfText(code), std::wstring(14, L' '));
+    for (const char* code : {"1", "11"}) EXPECT_EQ(labelOfText(code), L" Fait          ");
+    for (const char* code : {"2", "12"}) EXPECT_EQ(labelOfText(code), L" Vu            ");
+    for (const char* code : {"3", "13"}) EXPECT_EQ(labelOfText(code), L" EnCours  ");
     for (const char* code : {"", "4", "00", "01", "110", "1 ", "x"})
-        EXPECT_EQ(labelOf(code), std::nullopt) << code;
+        EXPECT_EQ(labelOfText(code), std::nullopt) << code;
 }
 
 TEST(DisplayDepth, StaysBetweenNoughtAndNine) {

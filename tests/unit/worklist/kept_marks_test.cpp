@@ -29,7 +29,7 @@ struct KeptMarks : PassFixture {
         if (succeeds) keeper->opened();
     }
 
-    void advance(std::string_view mark, Saved saved = Saved::Unknown) {
+    void advance(LineState mark, Saved saved = Saved::Unknown) {
         if (pass->advance(mark, saved)) {
             open();
         } else {
@@ -62,7 +62,9 @@ struct KeptMarks : PassFixture {
 
     void expectNothingLost() {
         const Pass next = nextRun();
-        const auto settled = [](std::string_view code) { return code == "3" ? "0" : code; };
+        const auto settled = [](const StateCode& code) {
+            return code == LineState::InProgress ? LineState::ToDo : code;
+        };
         ASSERT_EQ(next.list().last, pass->list().last);
         for (int i = 0; i <= next.list().last; ++i) {
             const WorkLine& line = pass->list().lines[i];
@@ -87,14 +89,14 @@ TEST_F(KeptMarks, AreThereOnlyWhileThereIsSomethingToOffer) {
     EXPECT_EQ(read(record())->opening, 0);
     keeper->opened();
     EXPECT_FALSE(hasRecord() || keeper->keeps());
-    advance(state::kToDo);
+    advance(LineState::ToDo);
     EXPECT_FALSE(hasRecord());
-    advance(state::kDone, Saved::No);
+    advance(LineState::Done, Saved::No);
     EXPECT_TRUE(keeper->keeps());
     EXPECT_EQ(read(record())->opening, std::nullopt);
     EXPECT_EQ(resumed(), "010");
     files.flushes = 0;
-    advance(state::kSeen);
+    advance(LineState::Seen);
     EXPECT_EQ(files.flushes, 1);
     pass->reset(only({1, 2}));
     keeper->keep(pass->list());
@@ -115,7 +117,7 @@ TEST_F(KeptMarks, GiveBackTheWorkOfAnyCommands) {
     const auto anyLine = [&] { return upTo(pass->list().lineCount()); };
     const auto some = [&](int) { return upTo(3) == 0; };
     const std::vector<std::function<void()>> commands{
-        [&] { pass->advance(upTo(3) ? state::kDone : state::kToDo, Saved::Yes); },
+        [&] { pass->advance(upTo(3) ? LineState::Done : LineState::ToDo, Saved::Yes); },
         [&] { pass->current() < 0 || pass->stepBack(); },
         [&] { pass->current() < 0 || pass->pastEnd() ? pass->closeOpen() : pass->openCurrent(); },
         [&] { pass->moveTo(anyLine()); },
@@ -124,7 +126,7 @@ TEST_F(KeptMarks, GiveBackTheWorkOfAnyCommands) {
         [&] { pass->resumeAt(anyLine()); },
         [&] { pass->eliminate(some, Eliminate::DoneAndSeen); },
         [&] { pass->reset(some); },
-        [&] { pass->change(some, state::kDone); },
+        [&] { pass->change(some, LineState::Done); },
     };
     const std::array kinds{"3", "12", "x"};
     for (int step = 0; step < 16000; ++step) {
@@ -143,7 +145,7 @@ TEST_F(KeptMarks, GiveBackTheWorkOfAnyCommands) {
 
 TEST_F(KeptMarks, BelongToOneListOnly) {
     begin(listOf("00"));
-    advance(state::kDone);
+    advance(LineState::Done);
     listFile[4] = 'C';
     EXPECT_FALSE(read(record()));
     EXPECT_FALSE(read(""));
@@ -154,7 +156,8 @@ TEST_F(KeptMarks, OfATornOrSpoiledRecordAreThoseBefore) {
     begin(listOf("00000000"));
     std::vector<std::string> atEachStep;
     std::vector<std::size_t> ends;
-    for (const auto mark : {state::kDone, state::kSeen, state::kDone, state::kToDo, state::kSeen}) {
+    for (const auto mark :
+         {LineState::Done, LineState::Seen, LineState::Done, LineState::ToDo, LineState::Seen}) {
         advance(mark);
         atEachStep.push_back(resumed());
         ends.push_back(record().size());
@@ -198,7 +201,7 @@ TEST_F(KeptMarks, ThatCannotBeWrittenStopNoPassAndAreTriedAgainAtEachMark) {
             bool failedBefore = keeper->takeFailure();
             for (int i = 0; i < kMarks; ++i) {
                 clock.seconds += 60;
-                advance(state::kDone);
+                advance(LineState::Done);
                 // What is promised is on the disk; a failure is told when it begins, and once.
                 if (keeper->keeps()) expectNothingLost();
                 const bool failed = !keeper->keeps();
@@ -215,7 +218,7 @@ TEST_F(KeptMarks, ThatCannotBeWrittenStopNoPassAndAreTriedAgainAtEachMark) {
     files.fails = [](int) { return true; };
     begin(listOf("000"));
     for (int saves = 0; saves < 2; ++saves) {
-        advance(state::kDone);
+        advance(LineState::Done);
         EXPECT_TRUE(keeper->takeFailure());
         pass->takeAsSaved();
         keeper->forget();
@@ -225,9 +228,9 @@ TEST_F(KeptMarks, ThatCannotBeWrittenStopNoPassAndAreTriedAgainAtEachMark) {
 
 TEST_F(KeptMarks, OutliveTheFileThatSomebodyTakesAway) {
     begin(listOf("0000"));
-    advance(state::kDone);
+    advance(LineState::Done);
     files.contents.clear();
-    advance(state::kSeen);
+    advance(LineState::Seen);
     EXPECT_EQ(resumed(), "1200");
     EXPECT_FALSE(keeper->takeFailure());
 }
@@ -239,11 +242,12 @@ TEST_F(KeptMarks, OfALongPassTakeLessThanTwiceTheList) {
     std::size_t largest = 0;
     for (int i = 0; i < kLines; ++i) {
         clock.seconds += 61;
-        advance(i % 3 == 0 ? state::kSeen : state::kDone, Saved::Yes);
+        advance(i % 3 == 0 ? LineState::Seen : LineState::Done, Saved::Yes);
         largest = std::max(largest, record().size());
     }
     for (int i = 0; i < 40; ++i) {
-        pass->change([&](int line) { return line % 2 == 0; }, i % 2 ? state::kDone : state::kSeen);
+        pass->change([&](int line) { return line % 2 == 0; },
+                     i % 2 ? LineState::Done : LineState::Seen);
         keeper->keep(pass->list());
         largest = std::max(largest, record().size());
     }

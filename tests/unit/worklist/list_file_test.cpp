@@ -10,12 +10,6 @@ std::string linesToDo(int count) {
     return text;
 }
 
-std::string saved(WorkList& list, int lineCount) {
-    std::string text;
-    formatListFile(list, lineCount, [&](std::string_view piece) { text += piece; });
-    return text;
-}
-
 }  // namespace
 
 TEST(ListFile, EachLineIsACodeAndAPath) {
@@ -45,9 +39,9 @@ TEST(ListFile, EachLineIsACodeAndAPath) {
     };
     for (const auto& c : cases) {
         WorkList list;
-        list.lines[0].reload = true;
+        list.lines.edit(0)->reload = true;
         ASSERT_TRUE(parseListFile(c.line, list)) << c.line;
-        EXPECT_EQ(list.lines[0].code, c.code) << c.line;
+        EXPECT_EQ(list.lines[0].code.text(), c.code) << c.line;
         EXPECT_EQ(list.lines[0].path, c.path) << c.line;
         EXPECT_EQ(list.lines[0].reload, c.reload) << c.line;
         EXPECT_EQ(list.last, 0) << c.line;
@@ -58,11 +52,12 @@ TEST(ListFile, IsWrittenLineByLineWhateverOfItIsAsItWasRead) {
     const std::string many = linesToDo(3000);
     WorkList list;
     ASSERT_TRUE(parseListFile(many + "0  c:\\a\r\n 1 c:\\b\n2  c:\\c\r\n2  c:\\d", list));
-    EXPECT_EQ(saved(list, 3004), many + "0  c:\\a\r\n1  c:\\b\r\n2  c:\\c\r\n2  c:\\d\r\n");
-    list.lines[3000].code = state::kDone;
-    list.lines[3002].path = list.lines[0].path;
-    EXPECT_EQ(saved(list, 3003), many + "1  c:\\a\r\n1  c:\\b\r\n2  c:\\f0\r\n");
-    EXPECT_EQ(saved(list, 0), "");
+    EXPECT_EQ(formatListFile(list, 3004),
+              many + "0  c:\\a\r\n1  c:\\b\r\n2  c:\\c\r\n2  c:\\d\r\n");
+    list.lines.edit(3000)->code = LineState::Done;
+    list.lines.edit(3002)->path = list.lines[0].path;
+    EXPECT_EQ(formatListFile(list, 3003), many + "1  c:\\a\r\n1  c:\\b\r\n2  c:\\f0\r\n");
+    EXPECT_EQ(formatListFile(list, 0), "");
 }
 
 TEST(ListFile, ALineShorterThanItsCodeIsAnInvalidArgument) {
@@ -76,7 +71,7 @@ TEST(ListFile, HoldsAsManyLinesAsTheTable) {
     WorkList list;
     ASSERT_TRUE(parseListFile(linesToDo(8001), list));
     EXPECT_EQ(list.last, 8000);
-    EXPECT_EQ(saved(list, 8001), linesToDo(8001));
-    EXPECT_EQ(raised([&] { saved(list, 8002); }), 9);
+    EXPECT_EQ(formatListFile(list, 8001), linesToDo(8001));
+    EXPECT_EQ(raised([&] { formatListFile(list, 8002); }), 9);
     EXPECT_EQ(raised([&] { parseListFile(linesToDo(8002), list); }), 9);
 }

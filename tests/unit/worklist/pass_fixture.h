@@ -23,7 +23,7 @@ inline std::string listOf(const std::string& codes) {
 
 inline std::string codesOf(const Pass& pass) {
     std::string codes;
-    for (int i = 0; i <= pass.list().last; ++i) codes += pass.list().lines[i].code;
+    for (int i = 0; i <= pass.list().last; ++i) codes += pass.list().lines[i].code.text();
     return codes;
 }
 

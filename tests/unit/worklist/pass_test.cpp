@@ -49,8 +49,8 @@ TEST_F(Steps, StartAtTheFirstLineToDoOrBesideAGivenOne) {
 }
 
 TEST_F(Steps, LeadFromOneLineToAnother) {
-    const auto done = [](Pass& p) { return p.advance(state::kDone); };
-    const auto skip = [](Pass& p) { return p.advance(state::kToDo); };
+    const auto done = [](Pass& p) { return p.advance(LineState::Done); };
+    const auto skip = [](Pass& p) { return p.advance(LineState::ToDo); };
     const auto back = [](Pass& p) { return p.stepBack(); };
     const auto skipAndBack = [=](Pass& p) { return skip(p) && back(p); };
     const auto endAndBack = [=](Pass& p) { return !skip(p) && back(p); };
@@ -71,7 +71,7 @@ TEST_F(Steps, LeadFromOneLineToAnother) {
 
 TEST_F(Steps, EditsFindTheCurrentLineAgain) {
     const auto change = [](std::vector<int> lines) {
-        return [=](Pass& p) { return p.change(only(lines), state::kSeen); };
+        return [=](Pass& p) { return p.change(only(lines), LineState::Seen); };
     };
     const auto eliminate = [](LineSelected chosen, Eliminate states) {
         return [=](Pass& p) { return p.eliminate(chosen, states); };
@@ -123,10 +123,10 @@ TEST_F(Steps, NoteWhenADocumentWasMarkedAndHowLongItWasOpen) {
     started("000");
     pass->openCurrent();
     clock.seconds += 30;
-    pass->advance(state::kToDo);
+    pass->advance(LineState::ToDo);
     pass->openCurrent();
     clock.seconds += 10;
-    pass->advance(state::kDone, Saved::Yes);
+    pass->advance(LineState::Done, Saved::Yes);
     pass->stepBack();  // past the skipped line's end again
     pass->openCurrent();
     clock.seconds += 5;

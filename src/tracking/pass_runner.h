@@ -1,0 +1,104 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "worklist/mark_keeper.h"
+#include "worklist/pass.h"
+
+class CadSession;
+struct LoadingOptions;
+struct Platform;
+struct ProgramFiles;
+
+/// Shows a pass: what its runner tells between the calls to the CAD application.
+class PassView {
+ public:
+    enum class Redraw { InPlace, Anew, AllToDo };
+
+    virtual ~PassView() = default;
+
+    virtual LoadingOptions loadingOptions() const = 0;
+    /// The list, and the current line in it, whose document will be opened unless it is open.
+    virtual void showCurrent(Redraw redraw) = 0;
+    /// That document is about to be opened, which may take long.
+    virtual void showOpening() = 0;
+    /// That document is open.
+    virtual void showDocument() = 0;
+    /// The end of the list is reached: there is nothing to advance from.
+    virtual void showEnd(Redraw redraw) = 0;
+    /// Nothing to do was found above: there is nothing to step back from.
+    virtual void showTop() = 0;
+    virtual void allowAdvance() = 0;
+    virtual void allowStepBack() = 0;
+};
+
+/// Runs a pass: the one place where its list, its current line, the marks kept of it and the calls
+/// to the CAD application meet. Each command runs from one call to the next, what it changed is on
+/// disk before a call goes out, and it is settled whichever way it ends.
+class PassRunner {
+ public:
+    /// Where the list comes from: resumed from an earlier run, whose marks may have been kept;
+    /// launched now; or launched after an old list was declined: then all lines but the first show
+    /// as to do at first.
+    enum class Origin { Resumed, Launched, LaunchedAfterDeclining };
+
+    PassRunner(Platform& platform, CadSession& cad, const ProgramFiles& files, PassView& view);
+
+    const Pass& pass() const { return pass_; }
+    /// Whether all marks of the pass will be offered at the next start.
+    bool keepsMarks() const { return marks_.keeps(); }
+
+    /// Reads the list file. Ends the program when it is empty.
+    void read();
+    /// Begins the pass, with the marks of an earlier run where the user wants them.
+    void start(Origin origin);
+    /// Writes the list file, with so many lines.
+    void save(std::int32_t lineCount);
+    /// What happened to each document, as a table.
+    std::string report();
+    /// Closes the document that is open; the program ends.
+    void leave();
+
+    /// The user may have moved the pointer to another line.
+    void moveTo(int line) { pass_.moveTo(line); }
+    /// Marks the current line, saves its document when that is Done, and goes on to the next one.
+    void advance(LineState mark);
+    void stepBack();
+    void change(const LineSelected& selected, LineState state);
+    void eliminate(const LineSelected& chosen, Eliminate states);
+    void reset(const LineSelected& selected);
+    /// Goes on at the first line to do from this one on.
+    void resumeAt(int line);
+
+ private:
+    /// Carries out a command. When it fails what it changed is on disk, and the document that was
+    /// being opened stays noted there.
+    template <class Command>
+    void settled(const Command& command);
+    /// What the command did is on disk; a failure to put it there is told once.
+    void keepMarks(std::optional<std::int32_t> opening = std::nullopt);
+
+    // The current line is shown and its document opened; or there is none.
+    void go(PassView::Redraw redraw);
+    void openCurrent();
+    /// Closes the document that counts as open, if any. None is being opened yet: what goes wrong
+    /// now is not the next one's doing.
+    void closeOther();
+    void endAt(PassView::Redraw redraw);
+    /// After an edit of the list.
+    void follow(bool inProgress);
+
+    /// Offers the marks that an earlier run kept and, when it stopped while a document was being
+    /// opened, to go past that one. True when there is a document to open.
+    bool resume();
+    bool offerMarks(const KeptState& kept);
+    bool startBeside(std::int32_t fileLine);
+
+    Platform& platform_;
+    CadSession& cad_;
+    const ProgramFiles& files_;
+    PassView& view_;
+    Pass pass_;
+    MarkKeeper marks_;
+};
