@@ -5,7 +5,7 @@ set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 cd "$root/build/win/bin"
 
-allowed='advapi32|comctl32|gdi32|kernel32|msvcrt|ole32|oleaut32|shell32|user32|uxtheme'
+allowed='advapi32|comctl32|gdi32|kernel32|msvcrt|ole32|oleaut32|shell32|user32'
 failures=0
 complain() { echo "$1: $2"; failures=$((failures + 1)); }
 

@@ -4,6 +4,7 @@
 #include <uxtheme.h>
 
 #include "win32/process/require.h"
+#include "win32/process/system_function.h"
 #include "win32/window/focus.h"
 #include "win32/window/foreground.h"
 #include "win32/window/hourglass.h"
@@ -35,7 +36,9 @@ HWND firstControl(HWND window) { return GetNextDlgTabItem(window, nullptr, FALSE
 /// stand out of its frame. So the window has that colour all over.
 void colourAsTabPages(HWND window) {
     if (!FindWindowExW(window, nullptr, WC_TABCONTROLW, nullptr)) return;
-    EnableThemeDialogTexture(window, ETDT_ENABLETAB);
+    static const auto enableTexture =
+        systemFunction<decltype(EnableThemeDialogTexture)>(L"uxtheme", "EnableThemeDialogTexture");
+    if (enableTexture) enableTexture(window, ETDT_ENABLETAB);
 }
 
 HWND makeDialog(int dialogId, DLGPROC procedure) {
@@ -47,13 +50,10 @@ HWND makeDialog(int dialogId, DLGPROC procedure) {
 /// Windows would resize the window and its controls, too, and undo what we do. A function of 1703,
 /// which Wine lacks.
 void leaveResolutionToUs(HWND window) {
-    using SetBehavior =
-        BOOL(WINAPI*)(HWND, DIALOG_DPI_CHANGE_BEHAVIORS, DIALOG_DPI_CHANGE_BEHAVIORS);
-    const FARPROC function =
-        GetProcAddress(GetModuleHandleW(L"user32"), "SetDialogDpiChangeBehavior");
-    if (!function) return;
-    reinterpret_cast<SetBehavior>(reinterpret_cast<void*>(function))(window, DDC_DISABLE_ALL,
-                                                                     DDC_DISABLE_ALL);
+    using SetBehavior = BOOL WINAPI(HWND, DIALOG_DPI_CHANGE_BEHAVIORS, DIALOG_DPI_CHANGE_BEHAVIORS);
+    static const auto setBehavior =
+        systemFunction<SetBehavior>(L"user32", "SetDialogDpiChangeBehavior");
+    if (setBehavior) setBehavior(window, DDC_DISABLE_ALL, DDC_DISABLE_ALL);
 }
 
 }  // namespace
