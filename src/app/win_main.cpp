@@ -58,7 +58,7 @@ struct RunningProgram {
     RunningProgram(EventGate& gate, MessageBoxes& boxes)
         : messageBoxes(boxes),
           patience(waiting, boxes),
-          windows(gate, [this] { showGuide(desktop, messageBoxes, programDirectory()); }) {
+          windows(gate, [this] { showGuide(files, desktop, messageBoxes, programDirectory()); }) {
         patience.promiseMarksWhen([this] { return program.keepsMarks(); });
     }
 
