@@ -32,8 +32,15 @@ if ((EUID != 0)); then
     as_root=(sudo)
 fi
 echo "Installing: ${missing[*]}"
-export DEBIAN_FRONTEND=noninteractive
 quietly=(-qq -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=300)
-"${as_root[@]}" apt-get "${quietly[@]}" update
-"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get "${quietly[@]}" install --yes --no-install-recommends "${missing[@]}" >/dev/null
+# What apt says is worth reading only when it fails.
+said="$(mktemp)"
+trap 'rm "$said"' EXIT
+apt() {
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get "${quietly[@]}" "$@" >"$said" 2>&1 && return
+    cat "$said" >&2
+    return 1
+}
+apt update
+# Nothing that is installed may go for what lacks.
+apt install --yes --no-install-recommends --no-remove "${missing[@]}"

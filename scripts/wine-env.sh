@@ -10,6 +10,12 @@ export WINEARCH=win64 WINEDEBUG=-all
 export WINEDLLOVERRIDES="mscoree=;mshtml="
 screen_size=1280x900
 
+# Programs of a prefix are ended and the prefix is made anew without a question, so it must be ours, or nothing yet.
+if [[ -n "$(ls -A "$WINEPREFIX" 2>/dev/null)" && ! -e "$WINEPREFIX/.tarnwick" && ! -e "$WINEPREFIX/.ready-windows10" ]]; then
+    echo "$WINEPREFIX is no Wine prefix of ours and not empty: remove it yourself, or name another directory" >&2
+    exit 1
+fi
+
 # One user of the prefix at a time: the registry and the keyboard focus are shared in it.
 wine_lock() {
     mkdir -p "$(dirname "$WINEPREFIX")"
@@ -45,6 +51,8 @@ prefix_start() {
     unlocked wineserver -k 2>/dev/null || true # left by a run that was cut short
     [[ -e "$WINEPREFIX/.ready-windows10" ]] && return
     rm -rf "$WINEPREFIX"
+    mkdir -p "$WINEPREFIX"
+    touch "$WINEPREFIX/.tarnwick"
     unlocked wineboot --init >/dev/null 2>&1
     # Debian's Wine passes for Windows 7.
     unlocked wine reg add 'HKCU\Software\Wine' /v Version /d win10 /f >/dev/null
