@@ -3,6 +3,6 @@
 #include <string>
 #include <string_view>
 
-/// The text that bytes spell in the system's single-byte code page, as some editors and scripts write it.
+/// The text that bytes spell in the system's single-byte code page, which some editors write.
 /// Each platform implements it.
 std::wstring codePageText(std::string_view bytes);
