@@ -11,7 +11,7 @@ packages=(
 if [[ "${1:-}" != run ]]; then
     packages+=(
         g++ libbenchmark-dev
-        clang lld libclang-rt-14-dev clang-tidy clang-format cppcheck
+        clang libclang-rt-14-dev clang-tidy clang-format cppcheck
         nsis zip lowdown
     )
 fi
