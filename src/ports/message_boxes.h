@@ -12,7 +12,7 @@ struct MessageBoxContent {
     Buttons buttons = Buttons::Ok;
     Icon icon = Icon::None;
     int defaultButton = 1;       ///< one-based
-    std::wstring helpFile = {};  ///< what F1 stands for; Windows no longer opens such files
+    std::wstring helpFile = {};  ///< the help reference; Windows takes its context alone
     int helpContext = 0;
 };
 
