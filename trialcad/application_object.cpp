@@ -36,7 +36,7 @@ std::wstring newsOfOpening(const OpenCodes& codes) {
 
 ApplicationObject::ApplicationObject(Session& session, std::wstring revision, MemberNames& names,
                                      CallDesk& desk)
-    : AutomationObject(names, desk), session_(session), revision_(std::move(revision)) {}
+    : DispatchObject(names, desk), session_(session), revision_(std::move(revision)) {}
 
 std::span<const Member> ApplicationObject::members() { return kApplicationMembers; }
 

@@ -3,12 +3,12 @@
 #include <span>
 #include <string>
 
-#include "automation_object.h"
+#include "dispatch_object.h"
 
 class Session;
 
 /// The application object, as clients find it in the running object table.
-class ApplicationObject : public AutomationObject {
+class ApplicationObject : public DispatchObject {
  public:
     ApplicationObject(Session& session, std::wstring revision, MemberNames& names, CallDesk& desk);
 

@@ -1,7 +1,7 @@
 #include "call_desk.h"
 
-#include "automation_object.h"
 #include "call_text.h"
+#include "dispatch_object.h"
 #include "win32/process/message_pump.h"
 
 namespace {

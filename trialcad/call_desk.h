@@ -11,7 +11,7 @@
 
 /// What a call is about: the object, its member and the name to journal.
 struct Request {
-    AutomationObject& object;
+    DispatchObject& object;
     const Member* member;  ///< null: the object never gave that DISPID out
     std::wstring name;
     bool put;

@@ -23,7 +23,7 @@ constexpr Member kDocumentMembers[] = {
 }  // namespace
 
 DocumentObject::DocumentObject(Document document, MemberNames& names, CallDesk& desk)
-    : AutomationObject(names, desk), document_(std::move(document)) {}
+    : DispatchObject(names, desk), document_(std::move(document)) {}
 
 std::span<const Member> DocumentObject::members() { return kDocumentMembers; }
 

@@ -3,7 +3,7 @@
 #include <span>
 #include <string>
 
-#include "automation_object.h"
+#include "dispatch_object.h"
 #include "document_file.h"
 #include "document_script.h"
 
@@ -18,7 +18,7 @@ struct Document {
 };
 
 /// The automation object of an open document.
-class DocumentObject : public AutomationObject {
+class DocumentObject : public DispatchObject {
  public:
     DocumentObject(Document document, MemberNames& names, CallDesk& desk);
 

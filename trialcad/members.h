@@ -8,11 +8,11 @@
 
 #include "call.h"
 
-class AutomationObject;
+class DispatchObject;
 
 /// A method or property of an automation object.
 struct Member {
-    using Action = void (*)(AutomationObject&, Call&);
+    using Action = void (*)(DispatchObject&, Call&);
 
     const wchar_t* name;  ///< as the release's own documentation spells it
     UINT arity;
@@ -22,13 +22,13 @@ struct Member {
 };
 
 template <typename Object>
-Object& ownerOf(AutomationObject& object, void (Object::*)(Call&)) {
+Object& ownerOf(DispatchObject& object, void (Object::*)(Call&)) {
     return static_cast<Object&>(object);
 }
 
 /// Turns a member function into what a table of members holds.
 template <auto Function>
-void perform(AutomationObject& object, Call& call) {
+void perform(DispatchObject& object, Call& call) {
     (ownerOf(object, Function).*Function)(call);
 }
 

@@ -10,11 +10,11 @@
 class CallDesk;
 
 /// An IDispatch over a table of members: finds them by name, passes every call to the call desk.
-class AutomationObject : public IDispatch {
+class DispatchObject : public IDispatch {
  public:
-    AutomationObject(MemberNames& names, CallDesk& desk) : names_(names), desk_(desk) {}
-    AutomationObject(const AutomationObject&) = delete;
-    AutomationObject& operator=(const AutomationObject&) = delete;
+    DispatchObject(MemberNames& names, CallDesk& desk) : names_(names), desk_(desk) {}
+    DispatchObject(const DispatchObject&) = delete;
+    DispatchObject& operator=(const DispatchObject&) = delete;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override;
     ULONG STDMETHODCALLTYPE AddRef() override;
@@ -31,7 +31,7 @@ class AutomationObject : public IDispatch {
     virtual bool isConnected() const { return true; }
 
  protected:
-    virtual ~AutomationObject() = default;
+    virtual ~DispatchObject() = default;
 
     /// What the journal puts before a call's name.
     virtual std::wstring journalPrefix() const { return {}; }

@@ -1,4 +1,4 @@
-#include "automation_object.h"
+#include "dispatch_object.h"
 
 #include "call_desk.h"
 #include "win32/com/com_ptr.h"
@@ -12,7 +12,7 @@ bool bearsTheNameOfAValue(const DISPPARAMS& parameters) {
 
 }  // namespace
 
-HRESULT AutomationObject::QueryInterface(REFIID iid, void** object) {
+HRESULT DispatchObject::QueryInterface(REFIID iid, void** object) {
     if (!object) return E_POINTER;
     const bool known = iid == IID_IUnknown || iid == IID_IDispatch;
     *object = known ? static_cast<IDispatch*>(this) : nullptr;
@@ -22,27 +22,27 @@ HRESULT AutomationObject::QueryInterface(REFIID iid, void** object) {
 }
 
 // Everything runs on the one apartment's thread, so plain counting will do.
-ULONG AutomationObject::AddRef() { return ++references_; }
+ULONG DispatchObject::AddRef() { return ++references_; }
 
-ULONG AutomationObject::Release() {
+ULONG DispatchObject::Release() {
     const ULONG left = --references_;
     if (left == 0) delete this;
     return left;
 }
 
-HRESULT AutomationObject::GetTypeInfoCount(UINT* count) {
+HRESULT DispatchObject::GetTypeInfoCount(UINT* count) {
     if (!count) return E_POINTER;
     *count = 0;
     return S_OK;
 }
 
-HRESULT AutomationObject::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
+HRESULT DispatchObject::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
     if (!info) return E_POINTER;
     *info = nullptr;
     return DISP_E_BADINDEX;
 }
 
-HRESULT AutomationObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
+HRESULT DispatchObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
     if (!names || !ids || count == 0) return E_INVALIDARG;
     if (!isConnected()) return RPC_E_DISCONNECTED;
     if (const auto refusal = desk_.refuseLookUp(names[0])) return *refusal;
@@ -53,8 +53,8 @@ HRESULT AutomationObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCI
     return id && count == 1 ? S_OK : DISP_E_UNKNOWNNAME;
 }
 
-HRESULT AutomationObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters,
-                                 VARIANT* result, EXCEPINFO* exception, UINT* badArgument) {
+HRESULT DispatchObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters,
+                               VARIANT* result, EXCEPINFO* exception, UINT* badArgument) {
     if (!parameters) return E_INVALIDARG;
     // A slow call handles messages, one of which may release the caller's last reference.
     const ComPtr<IDispatch> alive(this);
