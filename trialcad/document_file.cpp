@@ -24,7 +24,8 @@ constexpr Kind kKinds[] = {
 };
 
 bool isAbsolute(const std::wstring& path) {
-    return path.starts_with(L"\\\\") || (path.size() > 2 && path[1] == L':' && path[2] == L'\\');
+    return path.starts_with(L"\\\\") ||
+           (path.size() > 2 && path[1] == L':' && (path[2] == L'\\' || path[2] == L'/'));
 }
 
 DWORD attributesOf(const std::wstring& path) { return GetFileAttributesW(longPath(path).c_str()); }

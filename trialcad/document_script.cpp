@@ -11,9 +11,11 @@
 
 namespace {
 
-/// Takes what stands before the separator off the front of a text.
-std::wstring_view takePart(std::wstring_view& text, wchar_t separator) {
-    const std::wstring_view part = text.substr(0, text.find(separator));
+constexpr std::wstring_view kBetweenActs = L";, \t";
+
+/// Takes what stands before the first of these separators off the front of a text.
+std::wstring_view takePart(std::wstring_view& text, std::wstring_view separators) {
+    const std::wstring_view part = text.substr(0, text.find_first_of(separators));
     text.remove_prefix(std::min(part.size() + 1, text.size()));
     return trimmed(part);
 }
@@ -29,9 +31,9 @@ ScriptedCode ScriptedDocument::*codeNamed(std::wstring_view name) {
 /// Reads one of the things that a document does; false when it is none.
 bool readAct(ScriptedDocument& document, std::wstring_view act) {
     if (equalIgnoringCase(act, L"open")) return document.usersOwn = true;
-    const auto code = codeNamed(takePart(act, L'='));
+    const auto code = codeNamed(takePart(act, L"="));
     const bool counted = act.find(L':') != act.npos;
-    const long number = parseNumber(takePart(act, L':'));
+    const long number = parseNumber(takePart(act, L":"));
     const long times = counted ? parseNumber(trimmed(act)) : 1;
     if (!code || number < 0 || times < 1) return false;
     document.*code = {number, counted ? std::optional(times) : std::nullopt};
@@ -54,10 +56,10 @@ std::wstring textOf(const std::wstring& file) {
 ScriptedDocument readLine(const std::wstring& file, size_t number, std::wstring_view line) {
     std::wstring_view rest = line;
     ScriptedDocument document;
-    document.name = takePart(rest, L';');
+    document.name = takePart(rest, L";");
     if (document.name.empty()) refuseLine(file, number, line);
     while (!rest.empty()) {
-        const std::wstring_view act = takePart(rest, L';');
+        const std::wstring_view act = takePart(rest, kBetweenActs);
         if (!act.empty() && !readAct(document, act)) refuseLine(file, number, act);
     }
     return document;

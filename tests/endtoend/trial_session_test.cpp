@@ -72,7 +72,7 @@ TEST_F(ScriptedSession, DocumentsAnswerAsTheirLinesSay) {
     const std::string users = sandbox.AddDocument("deux\\ouvert.SLDPRT");
     SetFileAttributesW(Wide(readOnly).c_str(), FILE_ATTRIBUTE_READONLY);
     StartOn("\xEF\xBB\xBFrefus\xC3\xA9.SLDPRT;refuse=65536\r\n\n fois.SLDPRT ; refuse=0:1\n" +
-            locked + ";save=16\nincomplet.SLDASM;error=2;warning=33\nOUVERT.SLDPRT;open");
+            locked + ";save=16\nincomplet.SLDASM;error=2, warning=33\nOUVERT.SLDPRT;open");
     const std::vector<std::pair<std::string, std::string>> expected = {
         {sandbox.AddDocument("refus\xC3\xA9.SLDPRT"), "65536/0/rien"},
         {sandbox.AddDocument("fois.SLDPRT"), "0/0/rien"},
