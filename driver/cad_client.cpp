@@ -7,27 +7,29 @@
 
 namespace driver {
 
-CallArgument::CallArgument(const std::string& text) {
-    variant.vt = VT_BSTR;
-    variant.bstrVal = SysAllocString(Wide(text).c_str());
-}
-
-CallArgument::CallArgument(long number) {
-    variant.vt = VT_I4;
-    variant.lVal = number;
-}
-
-CallArgument::CallArgument(bool truth) {
-    variant.vt = VT_BOOL;
-    variant.boolVal = truth ? VARIANT_TRUE : VARIANT_FALSE;
-}
-
-CallArgument::CallArgument(long* number) {
-    variant.vt = VT_BYREF | VT_I4;
-    variant.plVal = number;
-}
-
 namespace {
+
+/// Puts an argument into a VARIANT, which owns what it holds.
+struct PutInto {
+    VARIANT& variant;
+
+    void operator()(const std::string& text) const {
+        variant.vt = VT_BSTR;
+        variant.bstrVal = SysAllocString(Wide(text).c_str());
+    }
+    void operator()(long number) const {
+        variant.vt = VT_I4;
+        variant.lVal = number;
+    }
+    void operator()(bool truth) const {
+        variant.vt = VT_BOOL;
+        variant.boolVal = truth ? VARIANT_TRUE : VARIANT_FALSE;
+    }
+    void operator()(long* number) const {
+        variant.vt = VT_BYREF | VT_I4;
+        variant.plVal = number;
+    }
+};
 
 CallOutcome OutcomeOf(HRESULT code, VARIANT& answer) {
     CallOutcome outcome{code};
@@ -42,11 +44,11 @@ CallOutcome OutcomeOf(HRESULT code, VARIANT& answer) {
 }  // namespace
 
 CallOutcome CallByName(IDispatch* object, const wchar_t* name,
-                       std::vector<CallArgument> arguments) {
+                       const std::vector<CallArgument>& arguments) {
     // Automation wants the last argument first.
-    std::vector<VARIANT> variants;
-    for (auto argument = arguments.rbegin(); argument != arguments.rend(); ++argument)
-        variants.push_back(argument->variant);
+    std::vector<VARIANT> variants(arguments.size());
+    for (size_t i = 0; i < arguments.size(); ++i)
+        std::visit(PutInto{variants[arguments.size() - 1 - i]}, arguments[i]);
     DISPPARAMS parameters{variants.data(), nullptr, static_cast<UINT>(variants.size()), 0};
     VARIANT answer{};
     DISPID id = 0;

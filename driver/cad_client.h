@@ -4,6 +4,7 @@
 
 #include <oaidl.h>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "win32/com/com_ptr.h"
@@ -18,21 +19,12 @@ struct CallOutcome {
     ComPtr<IDispatch> object = {};
 };
 
-/// One argument of such a call: a text, a number, a truth, or a number that the session writes.
-class CallArgument {
- public:
-    CallArgument(const std::string& text);
-    CallArgument(const char* text) : CallArgument(std::string(text)) {}
-    CallArgument(long number);
-    CallArgument(bool truth);
-    CallArgument(long* number);
-
-    VARIANT variant{};
-};
+/// One argument of such a call; a number that the session is to write is pointed to.
+using CallArgument = std::variant<std::string, long, bool, long*>;
 
 /// Calls a method of an object of the session, as any program may do beside ours.
 CallOutcome CallByName(IDispatch* object, const wchar_t* name,
-                       std::vector<CallArgument> arguments = {});
+                       const std::vector<CallArgument>& arguments = {});
 
 /// The application object that a process registered under its own number; null when it did not.
 ComPtr<IDispatch> SessionOfProcess(DWORD processId);

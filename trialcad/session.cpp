@@ -32,9 +32,9 @@ std::wstring titleOf(const std::wstring& path, bool endingHidden) {
 
 }  // namespace
 
-Session::Session(SessionStart start, CallDesk& desk)
-    : workingDirectory_(std::move(start.workingDirectory)),
-      script_(std::move(start.script)),
+Session::Session(const SessionStart& start, CallDesk& desk)
+    : workingDirectory_(start.workingDirectory),
+      script_(start.script),
       endingsHidden_(start.endingsHidden),
       desk_(desk),
       names_{MemberNames(DocumentObject::members(), kFirstOfParts),

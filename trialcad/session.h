@@ -42,7 +42,7 @@ class Session {
     /// Search folders for referenced documents, the type that the window shows.
     static constexpr long kReferencedDocuments = 0;
 
-    Session(SessionStart start, CallDesk& desk);
+    Session(const SessionStart& start, CallDesk& desk);
 
     /// Has every change of the state told to the given watcher.
     void watch(std::function<void()> watcher) { watcher_ = std::move(watcher); }

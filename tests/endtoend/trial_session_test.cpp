@@ -50,8 +50,8 @@ struct ScriptedSession : Scenario {
         session = cad.Application();
     }
 
-    CallOutcome Call(const wchar_t* name, std::vector<CallArgument> arguments = {}) {
-        return CallByName(session.get(), name, std::move(arguments));
+    CallOutcome Call(const wchar_t* name, const std::vector<CallArgument>& arguments = {}) const {
+        return CallByName(session.get(), name, arguments);
     }
 
     /// What opening and saving a document answers: "erreur/avertissement/enregistrement".
