@@ -3,8 +3,8 @@
 #include <span>
 
 /// What a user does to a control. `Close` is the window's frame asking to be closed.
-/// `Enter` is the key, in a text box.
-enum class Event { Click, DoubleClick, Change, Validate, Enter, Close };
+/// `Enter` is the key, in a text box. `Drop`: files were dropped on the window.
+enum class Event { Click, DoubleClick, Change, Validate, Enter, Close, Drop };
 
 /// The id under which a window's own events are raised.
 inline constexpr int kTheWindow = 0;

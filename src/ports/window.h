@@ -42,6 +42,9 @@ class Window {
     /// of those that another program has taken: then none acts.
     virtual std::vector<std::wstring> takeHotKeys() = 0;
     virtual void releaseHotKeys() = 0;
+    /// The full paths of the files and directories that were dropped on it last, as they came: what
+    /// Event::Drop is about.
+    virtual std::vector<std::wstring> droppedPaths() const = 0;
     virtual void show() = 0;
     virtual void hide() = 0;
     /// Closes the window for good: its controls are gone.
@@ -104,6 +107,7 @@ struct WindowTemplate {
     Size shrinks = {};
     std::span<const SystemMenuItem> systemMenu = {};
     std::span<const HotKey> hotKeys = {};
+    bool takesDrops = false;  ///< of files and directories
 };
 
 class WindowFactory {

@@ -31,6 +31,7 @@ struct FakeWindow : Window {
     bool topmost = false;
     bool hasHotKeys = false;
     std::vector<std::wstring> keysOfOthers;  ///< among the hot keys
+    std::vector<std::wstring> dropped;
 
     FakeControl& control(int id) override { return controls_[id]; }
     FakeCheckBox& checkBox(int id) override { return checkBoxes_[id]; }
@@ -64,6 +65,7 @@ struct FakeWindow : Window {
         return keysOfOthers;
     }
     void releaseHotKeys() override { hasHotKeys = false; }
+    std::vector<std::wstring> droppedPaths() const override { return dropped; }
     void show() override { state = State::Shown; }
     void hide() override { state = State::Hidden; }
     void unload() override { state = State::Unloaded; }
@@ -72,6 +74,10 @@ struct FakeWindow : Window {
     void leaveAt(int left, int top) { area = areaAt({left, top}, area.size()); }
     void click(int id) {
         if (!greyedItems.contains(id)) sink.raise(id, Event::Click);
+    }
+    void drop(std::vector<std::wstring> paths) {
+        dropped = std::move(paths);
+        sink.raise(kTheWindow, Event::Drop);
     }
     void close() { sink.raise(kTheWindow, Event::Close); }
 

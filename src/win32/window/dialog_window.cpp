@@ -83,6 +83,7 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
     shortcuts_.emplace(window_.get(), windowTemplate.dialogId);
     colourAsTabPages(window_.get());
     addToSystemMenu(window_.get(), menuItems_);
+    DragAcceptFiles(window_.get(), windowTemplate.takesDrops);
 }
 
 DialogWindow::~DialogWindow() { destroy(); }

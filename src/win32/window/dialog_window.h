@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <shellapi.h>
 #include <span>
 #include <typeindex>
 #include <utility>
@@ -47,6 +48,7 @@ class DialogWindow : public Window, private EventSource {
     void setTopmost(bool topmost) override;
     std::vector<std::wstring> takeHotKeys() override;
     void releaseHotKeys() override;
+    std::vector<std::wstring> droppedPaths() const override { return dropped_; }
     void show() override;
     void hide() override;
     void unload() override;
@@ -74,6 +76,7 @@ class DialogWindow : public Window, private EventSource {
     INT_PTR onSystemCommand(WPARAM command);
     INT_PTR onContextMenu(HWND control, LPARAM place);
     void onHotKey(int id, UINT key);
+    void onDrop(HDROP files);
     void onHelp();
     /// Its button is pressed while another program may have the keyboard.
     void pressFromAfar(int id);
@@ -110,6 +113,7 @@ class DialogWindow : public Window, private EventSource {
     ComboLists comboLists_;
     std::vector<std::pair<int, Event>> deferred_;
     WinHotKeys hotKeys_;
+    std::vector<std::wstring> dropped_;
     WinTaskbarButton taskbarButton_;
     TaskbarProgress progress_;
 };

@@ -6,7 +6,9 @@
 
 #include "win32/window/control_class.h"
 #include "win32/window/dialog_window.h"
+#include "win32/window/dropped_paths.h"
 #include "win32/window/focus.h"
+#include "win32/window/foreground.h"
 #include "win32/window/hourglass.h"
 #include "win32/window/input_messages.h"
 #include "win32/window/input_sieve.h"
@@ -74,6 +76,9 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_HOTKEY:
             onHotKey(static_cast<int>(wParam), HIWORD(lParam));
             return TRUE;
+        case WM_DROPFILES:
+            onDrop(reinterpret_cast<HDROP>(wParam));
+            return TRUE;
         case WM_HELP:
             onHelp();
             return TRUE;
@@ -114,6 +119,17 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         default:
             return FALSE;
     }
+}
+
+// What is dropped while a command is at work, or while a box waits, is left where it was.
+void DialogWindow::onDrop(HDROP files) {
+    auto paths = pathsOf(files);
+    DragFinish(files);
+    if (gate_.busy() || !IsWindowEnabled(window_.get())) return;
+    dropped_ = std::move(paths);
+    // The program that they come from is still in front.
+    takeForeground(window_.get());
+    raise(kTheWindow, Event::Drop);
 }
 
 // A box asks its owner for help, too: while one is up the gate is busy.

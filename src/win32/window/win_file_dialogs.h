@@ -6,4 +6,5 @@
 class WinFileDialogs : public FileDialogs {
  public:
     std::optional<std::wstring> askWhereToSave(const SaveQuestion& question) override;
+    std::optional<std::wstring> askWhatToOpen(const OpenQuestion& question) override;
 };

@@ -1,0 +1,52 @@
+// Files and directories that are dropped on a window.
+
+#include <shlobj.h>
+
+#include "contract/win32/real_windows.h"
+
+namespace {
+
+/// What the Explorer hands over: paths of any length, each with a zero behind it, and one more.
+HDROP handOver(const std::vector<std::wstring>& paths) {
+    std::wstring names;
+    for (const std::wstring& path : paths) names += path + L'\0';
+    const DROPFILES header{.pFiles = sizeof header, .pt = {}, .fNC = FALSE, .fWide = TRUE};
+    HGLOBAL memory = GlobalAlloc(GHND, sizeof header + (names.size() + 1) * sizeof(wchar_t));
+    auto* bytes = static_cast<char*>(GlobalLock(memory));
+    CopyMemory(bytes, &header, sizeof header);
+    CopyMemory(bytes + sizeof header, names.data(), names.size() * sizeof(wchar_t));
+    GlobalUnlock(memory);
+    return static_cast<HDROP>(memory);
+}
+
+class Drops : public testing::Test, protected RealWindows, private EventSink {
+ protected:
+    void drop() {
+        SendMessageW(ownWindows().front(), WM_DROPFILES, reinterpret_cast<WPARAM>(handOver(paths)),
+                     0);
+    }
+
+    const std::vector<std::wstring> paths = {L"c:\\plans\\été.SLDPRT",
+                                             L"c:\\" + std::wstring(400, L'x')};
+    std::unique_ptr<Window> window_ =
+        factory.create({.dialogId = IDD_CONTRACT, .takesDrops = true}, *this);
+    RaisedEvents raised;
+
+ private:
+    void raise(int id, Event event) override { raised.emplace_back(id, event); }
+};
+
+}  // namespace
+
+TEST_F(Drops, RaiseAnEventWithTheFullPathsUnlessACommandIsAtWorkOrABoxWaits) {
+    window_->show();
+    gate.run([&] { drop(); });
+    EnableWindow(ownWindows().front(), FALSE);
+    drop();
+    EnableWindow(ownWindows().front(), TRUE);
+    EXPECT_TRUE(raised.empty());
+    EXPECT_NE(GetWindowLongW(ownWindows().front(), GWL_EXSTYLE) & WS_EX_ACCEPTFILES, 0);
+    drop();
+    EXPECT_EQ(raised, (RaisedEvents{{kTheWindow, Event::Drop}}));
+    EXPECT_EQ(window_->droppedPaths(), paths);
+}
