@@ -9,6 +9,9 @@
 #include "ports/controls.h"
 #include "ports/events.h"
 
+/// What is to be seen to, where nobody looks at the window.
+enum class Alert { None, Warning, Refusal };
+
 /// A window of the program. Places are pixels of the virtual screen.
 class Window {
  public:
@@ -32,6 +35,8 @@ class Window {
     virtual Area workArea() const = 0;
     /// How far the work has come, for the taskbar to show: steps done of all. 0 of 0: none.
     virtual void showProgress(int done, int total) = 0;
+    /// The colour of that progress: yellow for a warning, red for a refusal.
+    virtual void showAlert(Alert alert) = 0;
     /// The check mark of an item of the system menu.
     virtual void setMenuMark(int itemId, bool marked) = 0;
     /// Whether an item of the system menu can be chosen; at first all can.

@@ -1,11 +1,21 @@
 #pragma once
 
+#include "ports/window.h"
+
+/// What a window's button on the taskbar shows: steps done of all; 0 of 0 is nothing.
+struct ButtonProgress {
+    int done = 0;
+    int total = 0;
+    Alert alert = Alert::None;
+
+    bool operator==(const ButtonProgress&) const = default;
+};
+
 /// The button that a window has on the taskbar.
 class TaskbarButton {
  public:
     virtual ~TaskbarButton() = default;
-    /// Steps done of all; 0 of 0 removes it.
-    virtual void showProgress(int done, int total) = 0;
+    virtual void show(const ButtonProgress& progress) = 0;
 };
 
 /// How far the work has come, told to the taskbar when it changes, but not before the taskbar has
@@ -16,12 +26,14 @@ class TaskbarProgress {
 
     /// Steps done of all; 0 of 0: none.
     void set(int done, int total);
+    void set(Alert alert);
     /// The button is there now, or there again.
     void onButtonMade();
 
  private:
+    void tell(const ButtonProgress& progress);
+
     TaskbarButton& button_;
     bool buttonMade_ = false;
-    int done_ = 0;
-    int total_ = 0;
+    ButtonProgress progress_;
 };

@@ -26,6 +26,7 @@ struct FakeWindow : Window {
     std::vector<FakeMonitor> monitors{{.area = {-90'000, -90'000, 90'000, 90'000}}};
     int progressDone = 0;
     int progressTotal = 0;
+    Alert alert = Alert::None;
     std::set<int> menuMarks;
     std::set<int> greyedItems;
     bool topmost = false;
@@ -53,6 +54,7 @@ struct FakeWindow : Window {
         progressDone = done;
         progressTotal = total;
     }
+    void showAlert(Alert value) override { alert = value; }
     void setMenuMark(int itemId, bool marked) override {
         marked ? void(menuMarks.insert(itemId)) : void(menuMarks.erase(itemId));
     }

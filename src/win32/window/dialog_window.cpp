@@ -112,8 +112,6 @@ ListBox& DialogWindow::listBox(int id) { return find<WinListBox>(id); }
 ComboBox& DialogWindow::comboBox(int id) { return find<WinComboBox>(id); }
 TabStrip& DialogWindow::tabStrip(int id) { return find<WinTabStrip>(id); }
 
-void DialogWindow::showProgress(int done, int total) { progress_.set(done, total); }
-
 void DialogWindow::show() {
     HWND window = window_.get();
     const bool wasVisible = IsWindowVisible(window);

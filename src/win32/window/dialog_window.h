@@ -42,7 +42,8 @@ class DialogWindow : public Window, private EventSource {
     void moveTo(const Area& place) override;
     int dpi() const override;
     Area workArea() const override;
-    void showProgress(int done, int total) override;
+    void showProgress(int done, int total) override { progress_.set(done, total); }
+    void showAlert(Alert alert) override { progress_.set(alert); }
     void setMenuMark(int itemId, bool marked) override;
     void setMenuItemEnabled(int itemId, bool enabled) override;
     void setTopmost(bool topmost) override;

@@ -9,6 +9,19 @@ ComPtr<ITaskbarList3> makeTaskbar() {
     return taskbar && SUCCEEDED(taskbar->HrInit()) ? taskbar : ComPtr<ITaskbarList3>();
 }
 
+/// The colours of progress that is paused or has met an error.
+TBPFLAG stateOf(const ButtonProgress& progress) {
+    if (progress.total <= 0) return TBPF_NOPROGRESS;
+    switch (progress.alert) {
+        case Alert::Warning:
+            return TBPF_PAUSED;
+        case Alert::Refusal:
+            return TBPF_ERROR;
+        default:
+            return TBPF_NORMAL;
+    }
+}
+
 }  // namespace
 
 WinTaskbarButton::WinTaskbarButton(HWND window) : window_(window) {
@@ -21,12 +34,12 @@ UINT WinTaskbarButton::madeMessage() {
     return message;
 }
 
-void WinTaskbarButton::showProgress(int done, int total) {
+void WinTaskbarButton::show(const ButtonProgress& progress) {
     if (!taskbar_) taskbar_ = makeTaskbar();
     if (!taskbar_) return;
-    taskbar_->SetProgressState(window_, total > 0 ? TBPF_NORMAL : TBPF_NOPROGRESS);
-    if (total > 0) {
-        taskbar_->SetProgressValue(window_, static_cast<ULONGLONG>(done),
-                                   static_cast<ULONGLONG>(total));
+    taskbar_->SetProgressState(window_, stateOf(progress));
+    if (progress.total > 0) {
+        taskbar_->SetProgressValue(window_, static_cast<ULONGLONG>(progress.done),
+                                   static_cast<ULONGLONG>(progress.total));
     }
 }

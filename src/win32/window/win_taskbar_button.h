@@ -11,7 +11,7 @@
 class WinTaskbarButton : public TaskbarButton {
  public:
     explicit WinTaskbarButton(HWND window);
-    void showProgress(int done, int total) override;
+    void show(const ButtonProgress& progress) override;
 
     /// The message by which the taskbar says that it has made the button.
     static UINT madeMessage();

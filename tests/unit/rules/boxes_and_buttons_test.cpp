@@ -8,11 +8,11 @@ namespace {
 
 using Answer = MessageBoxes::Answer;
 
-using Told = std::vector<std::pair<int, int>>;
+using Told = std::vector<ButtonProgress>;
 
 struct FakeButton : TaskbarButton {
     Told told;
-    void showProgress(int done, int total) override { told.emplace_back(done, total); }
+    void show(const ButtonProgress& progress) override { told.push_back(progress); }
 };
 
 }  // namespace
@@ -41,4 +41,20 @@ TEST(TaskbarProgress, IsToldOnceTheButtonIsThere) {
     progress.onButtonMade();  // the Explorer was started again
     progress.set(0, 0);
     EXPECT_EQ(button.told, (Told{{1, 3}, {2, 3}, {2, 3}, {0, 0}}));
+}
+
+TEST(TaskbarProgress, HasAColourThatIsSeenBeforeAnythingIsDone) {
+    FakeButton button;
+    TaskbarProgress progress(button);
+    progress.onButtonMade();
+    progress.set(0, 25);
+    progress.set(Alert::Warning);
+    progress.set(7, 25);
+    progress.set(Alert::Refusal);
+    progress.set(Alert::None);
+    EXPECT_EQ(button.told, (Told{{0, 25},
+                                 {3, 25, Alert::Warning},
+                                 {7, 25, Alert::Warning},
+                                 {7, 25, Alert::Refusal},
+                                 {7, 25}}));
 }
