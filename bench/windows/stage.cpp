@@ -15,6 +15,7 @@ Stage::Stage(const std::wstring& workingDirectory, const std::wstring& list)
                messageBoxes_,
                fileDialogs_,
                desktop_,
+               power_,
                windows_,
                {files_, workers_, patience_},
                L""},

@@ -18,6 +18,7 @@
 #include "win32/process/registry_settings.h"
 #include "win32/process/win_clock.h"
 #include "win32/process/win_list_holds.h"
+#include "win32/process/win_power.h"
 #include "win32/window/dialog_window.h"
 #include "win32/window/input_sieve.h"
 #include "win32/window/win_file_dialogs.h"
@@ -31,6 +32,7 @@ struct DesktopWithAll : Desktop {
     WindowHandle findWindow(const std::function<bool(const std::wstring&)>&) override { return 1; }
     void restore(WindowHandle) override {}
     void bringToFront(WindowHandle) override {}
+    std::optional<int> gdiObjects(WindowHandle) override { return std::nullopt; }
     bool open(const std::wstring&) override { return false; }
 };
 
@@ -68,6 +70,7 @@ class Stage {
     WinClock clock_;
     WinFileDialogs fileDialogs_;
     DesktopWithAll desktop_;
+    WinPower power_;
     PoolWorkers workers_;
     WindowPatience patience_;
 

@@ -20,6 +20,7 @@
 #include "win32/process/require.h"
 #include "win32/process/win_clock.h"
 #include "win32/process/win_list_holds.h"
+#include "win32/process/win_power.h"
 #include "win32/window/dialog_window.h"
 #include "win32/window/input_sieve.h"
 #include "win32/window/message_loop.h"
@@ -77,6 +78,7 @@ struct RunningProgram {
     WinClock clock;
     WinFileDialogs fileDialogs;
     WinDesktop desktop;
+    WinPower power;
     DialogFactory windows;
     InputSieve sieve;
     WindowPatience searchPatience;
@@ -90,6 +92,7 @@ struct RunningProgram {
                      messageBoxes,
                      fileDialogs,
                      desktop,
+                     power,
                      windows,
                      {files, workers, searchPatience},
                      programDirectory(),
@@ -100,7 +103,8 @@ struct RunningProgram {
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     SetErrorMode(SEM_FAILCRITICALERRORS);
-    INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
+    INITCOMMONCONTROLSEX controls{sizeof controls,
+                                  ICC_STANDARD_CLASSES | ICC_TAB_CLASSES | ICC_PROGRESS_CLASS};
     InitCommonControlsEx(&controls);
     WinGateKeeper keeper;
     WinMessageBoxes boxes;

@@ -81,3 +81,10 @@ class TabStrip : public Control {
     virtual int selectedTab() const = 0;  ///< zero-based
     virtual void selectTab(int index) = 0;
 };
+
+/// A bar that fills as work is done.
+class ProgressBar : public Control {
+ public:
+    /// Steps done of all, of which there is one at least.
+    virtual void show(int done, int total) = 0;
+};

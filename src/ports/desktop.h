@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 /// Other programs and their windows.
@@ -24,6 +25,10 @@ class Desktop {
 
     /// Brings a window to the front; with 0 nothing happens (the SetForegroundWindow function).
     virtual void bringToFront(WindowHandle window) = 0;
+
+    /// How many GDI objects the program of a window uses; nothing when that can't be known (the
+    /// GetGuiResources function).
+    virtual std::optional<int> gdiObjects(WindowHandle window) = 0;
 
     /// Has a document opened by its program; false when it can't be (the ShellExecuteEx function).
     virtual bool open(const std::wstring& document) = 0;

@@ -13,6 +13,7 @@ class Files;
 class ListHolds;
 class MessageBoxes;
 class Desktop;
+class Power;
 class RecordFiles;
 class WindowFactory;
 
@@ -27,6 +28,7 @@ struct Platform {
     MessageBoxes& messageBoxes;
     FileDialogs& fileDialogs;
     Desktop& desktop;
+    Power& power;
     WindowFactory& windows;
     SearchServices search;
     std::wstring programDirectory;              ///< without a trailing backslash

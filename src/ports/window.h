@@ -23,6 +23,7 @@ class Window {
     virtual ListBox& listBox(int id) = 0;
     virtual ComboBox& comboBox(int id) = 0;
     virtual TabStrip& tabStrip(int id) = 0;
+    virtual ProgressBar& progressBar(int id) = 0;
 
     /// Where it stands while it is neither minimised nor maximised.
     virtual Area place() const = 0;
@@ -51,6 +52,8 @@ class Window {
     /// Event::Drop is about.
     virtual std::vector<std::wstring> droppedPaths() const = 0;
     virtual void show() = 0;
+    /// Shows it and leaves the keyboard and the foreground to whoever has them.
+    virtual void showAside() = 0;
     virtual void hide() = 0;
     /// Closes the window for good: its controls are gone.
     virtual void unload() = 0;

@@ -113,3 +113,13 @@ struct FakeTabStrip : FakeControlOf<TabStrip> {
     int selectedTab() const override { return tab; }
     void selectTab(int index) override { tab = index; }
 };
+
+struct FakeProgressBar : FakeControlOf<ProgressBar> {
+    int done = 0;
+    int total = 0;
+
+    void show(int stepsDone, int steps) override {
+        done = stepsDone;
+        total = steps;
+    }
+};

@@ -12,6 +12,7 @@ struct FakeDesktop : Desktop {
     std::vector<WindowHandle> broughtForward;
     std::vector<WindowHandle> restored;
     std::wstring openable;
+    std::map<WindowHandle, int> gdiObjectsOf;  ///< of their programs
 
     WindowHandle findWindow(const std::wstring& title) override {
         return windows.contains(title) ? windows[title] : 0;
@@ -24,5 +25,8 @@ struct FakeDesktop : Desktop {
     }
     void restore(WindowHandle window) override { restored.push_back(window); }
     void bringToFront(WindowHandle window) override { broughtForward.push_back(window); }
+    std::optional<int> gdiObjects(WindowHandle window) override {
+        return gdiObjectsOf.contains(window) ? std::optional(gdiObjectsOf[window]) : std::nullopt;
+    }
     bool open(const std::wstring& document) override { return document == openable; }
 };

@@ -11,6 +11,7 @@
 #include "fakes/fake_list_holds.h"
 #include "fakes/fake_message_boxes.h"
 #include "fakes/fake_patience.h"
+#include "fakes/fake_power.h"
 #include "fakes/fake_record_files.h"
 #include "fakes/fake_settings.h"
 #include "fakes/fake_window.h"
@@ -32,12 +33,13 @@ struct FakePlatform {
     FakeRecordFiles records;
     FakeListHolds listHolds;
     FakeClock clock;
+    FakePower power;
     FakeWindowFactory windows;
     FakeWorkers workers;
     FakePatience patience;
     SearchServices search{files, workers, patience};
-    Platform platform{automation, settings,    files,   records, listHolds, clock,
-                      boxes,      fileDialogs, desktop, windows, search,    L"c:\\tarnwick"};
+    Platform platform{automation,  settings, files, records, listHolds, clock,          boxes,
+                      fileDialogs, desktop,  power, windows, search,    L"c:\\tarnwick"};
 
     FakePlatform() {
         automation.fileExists = [this](const auto& path) { return files.texts.contains(path); };

@@ -16,7 +16,7 @@ struct FakeMonitor {
 
 /// A window whose controls come into being when they are first asked for.
 struct FakeWindow : Window {
-    enum class State { Created, Shown, Hidden, Unloaded };
+    enum class State { Created, Shown, Aside, Hidden, Unloaded };
 
     explicit FakeWindow(EventSink& events) : sink(events) {}
 
@@ -39,6 +39,7 @@ struct FakeWindow : Window {
     FakeListBox& listBox(int id) override { return listBoxes_[id]; }
     FakeComboBox& comboBox(int id) override { return comboBoxes_[id]; }
     FakeTabStrip& tabStrip(int id) override { return tabStrips_[id]; }
+    FakeProgressBar& progressBar(int id) override { return progressBars_[id]; }
 
     Area place() const override { return area; }
     /// As Windows, it takes the resolution of the monitor that most of it is on.
@@ -69,6 +70,7 @@ struct FakeWindow : Window {
     void releaseHotKeys() override { hasHotKeys = false; }
     std::vector<std::wstring> droppedPaths() const override { return dropped; }
     void show() override { state = State::Shown; }
+    void showAside() override { state = State::Aside; }
     void hide() override { state = State::Hidden; }
     void unload() override { state = State::Unloaded; }
 
@@ -100,6 +102,7 @@ struct FakeWindow : Window {
     std::map<int, FakeListBox> listBoxes_;
     std::map<int, FakeComboBox> comboBoxes_;
     std::map<int, FakeTabStrip> tabStrips_;
+    std::map<int, FakeProgressBar> progressBars_;
 };
 
 /// Remembers the windows it made, the last one of each dialog. They stay valid while their form

@@ -18,6 +18,8 @@ std::int64_t WinClock::now() const {
     return steps / kStepsPerSecond - kFrom1601To1970;
 }
 
+std::int64_t WinClock::ticks() const { return static_cast<std::int64_t>(GetTickCount64()); }
+
 // By whether that day was in summer time, not by whether today is.
 LocalTime WinClock::local(std::int64_t time) const {
     const std::int64_t steps = (time + kFrom1601To1970) * kStepsPerSecond;

@@ -111,6 +111,7 @@ CheckBox& DialogWindow::checkBox(int id) { return find<WinCheckBox>(id); }
 ListBox& DialogWindow::listBox(int id) { return find<WinListBox>(id); }
 ComboBox& DialogWindow::comboBox(int id) { return find<WinComboBox>(id); }
 TabStrip& DialogWindow::tabStrip(int id) { return find<WinTabStrip>(id); }
+ProgressBar& DialogWindow::progressBar(int id) { return find<WinProgressBar>(id); }
 
 void DialogWindow::show() {
     HWND window = window_.get();
@@ -126,6 +127,13 @@ void DialogWindow::show() {
     }
     // The splash is shown before the program serves any messages.
     UpdateWindow(window);
+}
+
+void DialogWindow::showAside() {
+    InputSieve::windowShown();
+    standInSight();
+    ShowWindow(window_.get(), SW_SHOWNOACTIVATE);
+    UpdateWindow(window_.get());
 }
 
 void DialogWindow::hide() {

@@ -37,6 +37,7 @@ class DialogWindow : public Window, private EventSource {
     ListBox& listBox(int id) override;
     ComboBox& comboBox(int id) override;
     TabStrip& tabStrip(int id) override;
+    ProgressBar& progressBar(int id) override;
 
     Area place() const override;
     void moveTo(const Area& place) override;
@@ -51,6 +52,7 @@ class DialogWindow : public Window, private EventSource {
     void releaseHotKeys() override;
     std::vector<std::wstring> droppedPaths() const override { return dropped_; }
     void show() override;
+    void showAside() override;
     void hide() override;
     void unload() override;
 

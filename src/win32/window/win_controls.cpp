@@ -39,3 +39,8 @@ void WinTabStrip::addTab(const std::wstring& text) {
 int WinTabStrip::selectedTab() const { return sendForInt(TCM_GETCURSEL); }
 
 void WinTabStrip::selectTab(int index) { send(TCM_SETCURSEL, static_cast<WPARAM>(index)); }
+
+void WinProgressBar::show(int done, int total) {
+    send(PBM_SETRANGE32, 0, total);
+    send(PBM_SETPOS, static_cast<WPARAM>(done));
+}

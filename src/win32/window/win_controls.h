@@ -99,3 +99,9 @@ class WinTabStrip : public ControlOf<TabStrip> {
     int selectedTab() const override;
     void selectTab(int index) override;
 };
+
+class WinProgressBar : public ControlOf<ProgressBar> {
+ public:
+    using ControlOf::ControlOf;
+    void show(int done, int total) override;
+};

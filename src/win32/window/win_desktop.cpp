@@ -5,6 +5,8 @@
 #include <shellapi.h>
 #include <string>
 
+#include "win32/process/unique.h"
+
 namespace {
 
 std::string inAnsiCodePage(const std::wstring& text) {
@@ -64,6 +66,15 @@ void WinDesktop::restore(WindowHandle window) {
 }
 
 void WinDesktop::bringToFront(WindowHandle window) { SetForegroundWindow(handleOf(window)); }
+
+// It counts none of a program that it can't count, and a program with windows has some.
+std::optional<int> WinDesktop::gdiObjects(WindowHandle window) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(handleOf(window), &process);
+    const UniqueHandle program(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process));
+    const DWORD count = program ? GetGuiResources(program.get(), GR_GDIOBJECTS) : 0;
+    return count > 0 ? std::optional(static_cast<int>(count)) : std::nullopt;
+}
 
 bool WinDesktop::open(const std::wstring& document) {
     SHELLEXECUTEINFOW info{};

@@ -8,5 +8,6 @@ class WinDesktop : public Desktop {
     WindowHandle findWindow(const std::function<bool(const std::wstring&)>& isTitle) override;
     void restore(WindowHandle window) override;
     void bringToFront(WindowHandle window) override;
+    std::optional<int> gdiObjects(WindowHandle window) override;
     bool open(const std::wstring& document) override;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <commctrl.h>
+
 #include "contract/contract_ids.h"
 #include "unit/unit_test.h"
 #include "win32/process/message_pump.h"
@@ -21,6 +23,11 @@ inline bool eventually(const std::function<bool()>& isSo) {
 
 /// What makes the program's windows.
 struct RealWindows {
+    RealWindows() {
+        const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_TAB_CLASSES | ICC_PROGRESS_CLASS};
+        InitCommonControlsEx(&controls);
+    }
+
     WinGateKeeper keeper;
     WinMessageBoxes boxes;
     EventGate gate{keeper, boxes};

@@ -1,7 +1,5 @@
 #include <windows.h>
 
-#include <commctrl.h>
-
 #include "contract/machine.h"
 #include "contract/win32/real_windows.h"
 #include "rules/long_path.h"
@@ -66,14 +64,8 @@ class WinMachine : public Machine, private RealWindows, private EventSink {
  private:
     void raise(int, Event) override { ++events_; }
 
-    /// The class of tab strips is registered before a window has one.
-    static std::unique_ptr<Window> makeWindow(DialogFactory& factory, EventSink& events) {
-        const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_TAB_CLASSES};
-        InitCommonControlsEx(&controls);
-        return factory.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, events);
-    }
-
-    std::unique_ptr<Window> window_ = makeWindow(factory, *this);
+    std::unique_ptr<Window> window_ =
+        factory.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);
     int events_ = 0;
     RegistrySettings settings_;
     WinFiles files_;

@@ -158,6 +158,18 @@ TEST_F(WindowsAndBoxes, ForegroundGoesFromOneShownWindowToTheNext) {
     EXPECT_TRUE(IsChild(third, GetFocus()));
 }
 
+TEST_F(WindowsAndBoxes, AWindowThatIsShownAsideTakesNeitherForegroundNorKeyboard) {
+    ASSERT_TRUE(other.comesForward());
+    HWND before = GetForegroundWindow();
+    firstWindow->progressBar(IDC_CONTRACT_PROGRESS).show(3, 70'000);
+    firstWindow->showAside();
+    EXPECT_EQ(GetForegroundWindow(), before);
+    EXPECT_EQ(GetActiveWindow(), nullptr);
+    EXPECT_TRUE(IsWindowVisible(first));
+    EXPECT_EQ(SendDlgItemMessageW(first, IDC_CONTRACT_PROGRESS, PBM_GETPOS, 0, 0), 3);
+    EXPECT_EQ(SendDlgItemMessageW(first, IDC_CONTRACT_PROGRESS, PBM_GETRANGE, FALSE, 0), 70'000);
+}
+
 TEST_F(WindowsAndBoxes, ResizedComboBoxKeepsItsTextAndSelection) {
     HWND box = GetDlgItem(first, IDC_CONTRACT_TYPED);
     SetWindowSubclass(box, completing, 0, 0);
