@@ -13,3 +13,7 @@
 #define IDC_CONTRACT_CHOSEN 9008
 #define IDC_CONTRACT_TABS 9009
 #define IDC_CONTRACT_PROGRESS 9010
+
+// Items of its system menu.
+#define IDM_CONTRACT_ONE 1344
+#define IDM_CONTRACT_TWO 1360

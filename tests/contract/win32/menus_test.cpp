@@ -1,12 +1,13 @@
 // The items that a window adds to its system menu.
 
 #include "contract/win32/real_windows.h"
+#include "win32/window/shortcuts.h"
 #include "win32/window/system_menu.h"
 
 namespace {
 
-constexpr int kItem = 1344;
-constexpr SystemMenuItem kItems[] = {{kItem, L"Un"}, {kItem + 16, L"Deux\tCtrl+Z", true}};
+constexpr SystemMenuItem kItems[] = {{IDM_CONTRACT_ONE, L"Un"},
+                                     {IDM_CONTRACT_TWO, L"Deux\tCtrl+Z", true}};
 
 /// From a position on; 0 for a separator.
 std::vector<UINT> idsIn(HMENU menu, int from) {
@@ -18,6 +19,16 @@ std::vector<UINT> idsIn(HMENU menu, int from) {
 class Menus : public testing::Test, protected RealWindows, private EventSink {
  protected:
     HWND dialog() const { return ownWindows().front(); }
+
+    void pressControlZ() const {
+        BYTE keys[256] = {};
+        keys[VK_CONTROL] = 0x80;
+        SetKeyboardState(keys);
+        MSG pressed{dialog(), WM_KEYDOWN, 'Z', 1, 0, {}};
+        EXPECT_TRUE(translateShortcut(dialog(), pressed));
+        keys[VK_CONTROL] = 0;
+        SetKeyboardState(keys);
+    }
 
     std::unique_ptr<Window> window_ =
         factory.create({.dialogId = IDD_CONTRACT, .systemMenu = kItems}, *this);
@@ -32,26 +43,27 @@ class Menus : public testing::Test, protected RealWindows, private EventSink {
 TEST_F(Menus, StandBelowSeparatorsAndAreClickedUnlessGreyed) {
     HMENU menu = GetSystemMenu(dialog(), FALSE);
     const int count = GetMenuItemCount(menu);
-    EXPECT_EQ(idsIn(menu, count - 4), (std::vector<UINT>{0, kItem, 0, kItem + 16}));
+    EXPECT_EQ(idsIn(menu, count - 4),
+              (std::vector<UINT>{0, IDM_CONTRACT_ONE, 0, IDM_CONTRACT_TWO}));
     for (const auto& [marked, state] : {std::pair(true, MF_CHECKED), {false, MF_UNCHECKED}}) {
-        window_->setMenuMark(kItem, marked);
-        EXPECT_EQ(GetMenuState(menu, kItem, MF_BYCOMMAND), state);
-        EXPECT_EQ(GetMenuState(menu, kItem + 16, MF_BYCOMMAND), MF_UNCHECKED);
+        window_->setMenuMark(IDM_CONTRACT_ONE, marked);
+        EXPECT_EQ(GetMenuState(menu, IDM_CONTRACT_ONE, MF_BYCOMMAND), state);
+        EXPECT_EQ(GetMenuState(menu, IDM_CONTRACT_TWO, MF_BYCOMMAND), MF_UNCHECKED);
     }
-    // As when it is chosen, and as when a key of the accelerators stands for it.
+    // As when it is chosen, and by its key.
     for (const bool enabled : {false, true}) {
-        window_->setMenuItemEnabled(kItem + 16, enabled);
-        SendMessageW(dialog(), WM_SYSCOMMAND, kItem + 16 + 3, 0);
-        SendMessageW(dialog(), WM_SYSCOMMAND, MAKEWPARAM(kItem + 16, 1), 0);
+        window_->setMenuItemEnabled(IDM_CONTRACT_TWO, enabled);
+        SendMessageW(dialog(), WM_SYSCOMMAND, IDM_CONTRACT_TWO + 3, 0);
+        pressControlZ();
         SendMessageW(dialog(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
     }
-    EXPECT_EQ(raised, RaisedEvents(2, {kItem + 16, Event::Click}));
+    EXPECT_EQ(raised, RaisedEvents(2, {IDM_CONTRACT_TWO, Event::Click}));
 }
 
 TEST_F(Menus, AlsoComeUpByThemselves) {
     window_->show();
-    window_->setMenuMark(kItem, true);
-    window_->setMenuItemEnabled(kItem + 16, false);
+    window_->setMenuMark(IDM_CONTRACT_ONE, true);
+    window_->setMenuItemEnabled(IDM_CONTRACT_TWO, false);
     static std::vector<UINT> items;
     static UINT states = 0;
     SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR timer, DWORD) {
@@ -70,8 +82,8 @@ TEST_F(Menus, AlsoComeUpByThemselves) {
     EXPECT_TRUE(isOnFrame(dialog(), MAKELPARAM(frame.left + 20, frame.top + 5)));
     SendMessageW(GetDlgItem(dialog(), IDC_CONTRACT_ONE), WM_CONTEXTMENU,
                  reinterpret_cast<WPARAM>(GetDlgItem(dialog(), IDC_CONTRACT_ONE)), -1);
-    EXPECT_EQ(items, (std::vector<UINT>{kItem, 0, kItem + 16}));
+    EXPECT_EQ(items, (std::vector<UINT>{IDM_CONTRACT_ONE, 0, IDM_CONTRACT_TWO}));
     EXPECT_EQ(states, static_cast<UINT>(MF_CHECKED | MF_GRAYED));
     EXPECT_TRUE(eventually([&] { return !raised.empty(); }));
-    EXPECT_EQ(raised, (RaisedEvents{{kItem, Event::Click}}));
+    EXPECT_EQ(raised, (RaisedEvents{{IDM_CONTRACT_ONE, Event::Click}}));
 }
