@@ -1,86 +1,80 @@
 #include "pickers/reading_plan.h"
 
-#include <algorithm>
+#include <iterator>
 
 namespace {
 
-const TreeDirectory* above(const TreeDirectory* directory, int depth) {
-    while (directory->depth > depth) directory = directory->parent;
-    return directory;
+bool isUnread(const TreeDirectory* directory) {
+    return directory && directory->state == TreeDirectory::State::Unread;
 }
 
 }  // namespace
 
-bool isMetBefore(const TreeDirectory* a, const TreeDirectory* b) {
-    const int depth = std::min(a->depth, b->depth);
-    const TreeDirectory* first = above(a, depth);
-    const TreeDirectory* second = above(b, depth);
-    if (first == second) return a->depth < b->depth;
-    while (first->parent != second->parent) {
-        first = first->parent;
-        second = second->parent;
-    }
-    return first->index < second->index;
-}
-
 ReadingPlan::ReadingPlan(const std::wstring& root, bool withSubdirectories)
     : root_(std::make_unique<TreeDirectory>(
-          TreeDirectory{.parent = nullptr, .index = 0, .depth = 0, .path = root})),
+          TreeDirectory{.parent = nullptr, .index = 0, .path = root})),
       withSubdirectories_(withSubdirectories) {
-    planned_.insert(root_.get());
+    root_->place = toRead_.insert(toRead_.end(), root_.get());
 }
 
-bool ReadingPlan::mayReadAhead() const {
-    if (planned_.empty()) return false;
-    // What the walk meets before all that wait is read in any case: it must not wait itself.
-    return !catchingUp_ || isMetBefore(*planned_.begin(), *waiting_.begin());
+TreeDirectory* ReadingPlan::nextAhead() const {
+    int waiting = 0;
+    for (TreeDirectory* directory : toRead_) {
+        waiting += directory->waitingBefore;
+        // What the walk meets before all that wait is read in any case: it must not wait itself.
+        if (catchingUp_ && waiting > 0) return nullptr;
+        // The few that are being read are passed over.
+        if (isUnread(directory)) return directory;
+    }
+    return nullptr;
 }
 
 bool ReadingPlan::hasNext(const TreeDirectory* awaited, bool ahead) const {
-    return (awaited && awaited->state == TreeDirectory::State::Unread) || (ahead && mayReadAhead());
+    return isUnread(awaited) || (ahead && nextAhead());
 }
 
 TreeDirectory* ReadingPlan::next(TreeDirectory* awaited, bool ahead) {
-    if (!hasNext(awaited, ahead)) return nullptr;
-    const bool isAwaited = awaited && awaited->state == TreeDirectory::State::Unread;
-    TreeDirectory* directory = isAwaited ? awaited : *planned_.begin();
-    directory->state = TreeDirectory::State::Reading;
-    if (planned_.erase(directory) != 0 && directory->parent) {
-        planFrom(*directory->parent, directory->index + 1);
-    }
+    TreeDirectory* directory = isUnread(awaited) ? awaited : ahead ? nextAhead() : nullptr;
+    if (directory) directory->state = TreeDirectory::State::Reading;
     return directory;
+}
+
+int& ReadingPlan::waitingBefore(InOrder::iterator place) {
+    return place == toRead_.end() ? waitingAtEnd_ : (*place)->waitingBefore;
 }
 
 void ReadingPlan::finish(TreeDirectory& directory) {
     directory.state = TreeDirectory::State::Read;
-    waiting_.insert(&directory);
-    if (waiting_.size() >= kMostWaiting) catchingUp_ = true;
-    directory.below.resize(directory.contents.subdirectories.size());
-    if (withSubdirectories_) planFrom(directory, 0);
-}
-
-void ReadingPlan::meet(TreeDirectory& directory) {
-    waiting_.erase(&directory);
-    if (waiting_.size() <= kMostWaiting / 2) catchingUp_ = false;
-}
-
-void ReadingPlan::planFrom(TreeDirectory& directory, std::size_t index) {
     const std::vector<Subdirectory>& subdirectories = directory.contents.subdirectories;
-    while (index < subdirectories.size() && subdirectories[index].isLink) ++index;
-    if (index < subdirectories.size()) planned_.insert(&subdirectory(directory, index));
+    directory.below.resize(subdirectories.size());
+    const auto behind = std::next(directory.place);
+    for (std::size_t i = 0; withSubdirectories_ && i < subdirectories.size(); ++i) {
+        if (!subdirectories[i].isLink) plan(directory, i, behind);
+    }
+    waitingBefore(toRead_.erase(directory.place)) += directory.waitingBefore + 1;
+    if (++waiting_ >= static_cast<int>(kMostWaiting)) catchingUp_ = true;
+}
+
+void ReadingPlan::meet(TreeDirectory&) {
+    // It was the first of all.
+    --waitingBefore(toRead_.begin());
+    if (--waiting_ <= static_cast<int>(kMostWaiting / 2)) catchingUp_ = false;
+}
+
+TreeDirectory& ReadingPlan::plan(TreeDirectory& directory, std::size_t index,
+                                 InOrder::iterator before) {
+    const std::wstring& name = directory.contents.subdirectories[index].name;
+    std::unique_ptr<TreeDirectory>& one = directory.below[index];
+    one = std::make_unique<TreeDirectory>(TreeDirectory{
+        .parent = &directory, .index = index, .path = childPath(directory.path, name)});
+    one->place = toRead_.insert(before, one.get());
+    return *one;
 }
 
 TreeDirectory& ReadingPlan::subdirectory(TreeDirectory& directory, std::size_t index) {
     std::unique_ptr<TreeDirectory>& one = directory.below[index];
-    if (!one) {
-        const std::wstring& name = directory.contents.subdirectories[index].name;
-        one =
-            std::make_unique<TreeDirectory>(TreeDirectory{.parent = &directory,
-                                                          .index = index,
-                                                          .depth = directory.depth + 1,
-                                                          .path = childPath(directory.path, name)});
-    }
-    return *one;
+    // A link, which the walk waits for: it comes before all else.
+    return one ? *one : plan(directory, index, toRead_.begin());
 }
 
 void ReadingPlan::leave(TreeDirectory& directory) {

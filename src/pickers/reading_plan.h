@@ -1,8 +1,8 @@
 #pragma once
 
+#include <list>
 #include <memory>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -16,18 +16,17 @@ struct TreeDirectory {
 
     TreeDirectory* parent;
     std::size_t index;  ///< which of its parent's sub-directories it is
-    int depth;          ///< 0 for the root
     std::wstring path;
 
     State state = State::Unread;
     DirectoryContents contents = {};
     std::optional<RuntimeError> error = {};  ///< raised when it was read
     std::vector<std::unique_ptr<TreeDirectory>> below = {};
-};
 
-/// Whether a walk meets `a` before `b`: each directory before those below it, those of one
-/// directory in order.
-bool isMetBefore(const TreeDirectory* a, const TreeDirectory* b);
+    // The plan's own, until it has been read.
+    std::list<TreeDirectory*>::iterator place = {};
+    int waitingBefore = 0;  ///< directories read, between it and the one before it in the plan
+};
 
 /// Which directory of a tree is read next: always the one that the walk, which comes behind, will
 /// meet first. Links are not read ahead, since the walk may pass them over.
@@ -60,15 +59,17 @@ class ReadingPlan {
     void leave(TreeDirectory& directory);
 
  private:
-    using InOrder = std::set<TreeDirectory*, decltype(&isMetBefore)>;
+    using InOrder = std::list<TreeDirectory*>;
 
-    bool mayReadAhead() const;
-    /// Plans to read the first sub-directory from `index` on that is no link.
-    void planFrom(TreeDirectory& directory, std::size_t index);
+    TreeDirectory* nextAhead() const;
+    /// Plans to read a sub-directory, before another one.
+    TreeDirectory& plan(TreeDirectory& directory, std::size_t index, InOrder::iterator before);
+    int& waitingBefore(InOrder::iterator place);
 
     std::unique_ptr<TreeDirectory> root_;
     bool withSubdirectories_;
-    InOrder planned_{&isMetBefore};  ///< the next to be read of each directory that has some left
-    InOrder waiting_{&isMetBefore};  ///< read, and not yet met by the walk
+    InOrder toRead_;        ///< and being read, each before what the walk meets later
+    int waiting_ = 0;       ///< read, and not yet met by the walk
+    int waitingAtEnd_ = 0;  ///< those behind all that are to be read
     bool catchingUp_ = false;
 };
