@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "common/numbers.h"
-#include "selection/found_documents.h"
+#include "selection/document_search.h"
 #include "worklist/list_display.h"
 #include "worklist/list_file.h"
 

@@ -2,7 +2,7 @@
 
 #include "rows.h"
 #include "sample_tree.h"
-#include "selection/found_documents.h"
+#include "selection/document_search.h"
 #include "selection/selection_ids.h"
 #include "selection/selection_list.h"
 #include "stage.h"

@@ -5,7 +5,7 @@
 #include <functional>
 #include <stdexcept>
 
-#include "selection/found_documents.h"
+#include "selection/document_search.h"
 
 namespace fs = std::filesystem;
 

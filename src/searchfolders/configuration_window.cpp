@@ -4,9 +4,8 @@
 #include "ports/files.h"
 #include "ports/message_boxes.h"
 #include "ports/platform.h"
-#include "searchfolders/configuration_file.h"
 #include "searchfolders/configuration_tables.h"
-#include "searchfolders/folder_list.h"
+#include "searchfolders/configurations.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
 

@@ -4,9 +4,8 @@
 #include <string>
 
 #include "input/program_window.h"
-#include "pickers/directory_picker.h"
-#include "pickers/drive_picker.h"
-#include "searchfolders/configuration_editing.h"
+#include "pickers/pickers.h"
+#include "searchfolders/configurations.h"
 #include "worklist/list_display.h"
 
 class CadSession;

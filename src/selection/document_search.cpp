@@ -1,8 +1,75 @@
 #include "selection/document_search.h"
 
+#include <algorithm>
 #include <utility>
 
-#include "selection/found_documents.h"
+#include "common/letter_case.h"
+
+namespace {
+
+/// Whether a text is `capitals` in any case. For plain letters only: file names are many.
+bool isInAnyCase(std::wstring_view text, std::wstring_view capitals) {
+    return std::ranges::equal(text, capitals, [](wchar_t c, wchar_t capital) {
+        return c == capital || c == capital + (L'a' - L'A');
+    });
+}
+
+}  // namespace
+
+DocumentKinds::DocumentKinds(std::wstring_view typeText) {
+    const std::wstring text = upperCase(typeText);
+    const auto take = [&](const wchar_t* kind, const wchar_t* pattern) {
+        const bool named = text.find(kind) != std::wstring::npos;
+        if (named) pattern_ += (pattern_.empty() ? L"" : L";") + std::wstring(pattern);
+        return named;
+    };
+    assemblies_ = take(L"SLDASM", L"*.sldasm");
+    parts_ = take(L"SLDPRT", L"*.sldprt");
+    drawings_ = take(L"SLDDRW", L"*.slddrw");
+}
+
+bool DocumentKinds::accepts(std::wstring_view fileName) const {
+    const std::size_t dot = fileName.find_last_of(L'.');
+    if (dot == std::wstring_view::npos) return false;
+    const std::wstring_view extension = fileName.substr(dot + 1);
+    return (assemblies_ && isInAnyCase(extension, L"SLDASM")) ||
+           (parts_ && isInAnyCase(extension, L"SLDPRT")) ||
+           (drawings_ && isInAnyCase(extension, L"SLDDRW"));
+}
+
+void FoundDocuments::restart(bool fullPaths) {
+    entries_.clear();
+    count_ = 0;
+    fullPaths_ = fullPaths;
+}
+
+void FoundDocuments::beginPass(bool append) {
+    pass_.clear();
+    if (append) return;
+    entries_.clear(0, kCapacity - 1);
+    count_ = 0;
+}
+
+bool FoundDocuments::presentInPass(const std::wstring& entry) const {
+    // The entry just past the last one is compared too: it may be left from an earlier search.
+    return pass_.contains(entry) || entries_[count_] == entry;
+}
+
+void FoundDocuments::store(const std::wstring& directory, std::wstring_view name) {
+    if (fullPaths_) {
+        std::wstring& entry = entries_[count_];
+        entry.reserve(directory.size() + 1 + name.size());
+        entry = directory;
+        entry += L'\\';
+        entry += name;
+    } else {
+        std::wstring entry(name);
+        if (presentInPass(entry)) return;
+        entries_[count_] = entry;
+        pass_.insert(std::move(entry));
+    }
+    ++count_;
+}
 
 DocumentSearch::DocumentSearch(const SearchServices& services, FoundDocuments& found,
                                DocumentKinds kinds, Progress progress)

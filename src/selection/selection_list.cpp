@@ -4,7 +4,7 @@
 
 #include "common/letter_case.h"
 #include "ports/controls.h"
-#include "selection/found_documents.h"
+#include "selection/document_search.h"
 #include "worklist/list_display.h"
 
 void SelectionList::fill(int depth, const Entries& chosen) {

@@ -3,9 +3,8 @@
 #include <string>
 
 #include "input/program_window.h"
-#include "pickers/directory_picker.h"
-#include "pickers/drive_picker.h"
-#include "selection/found_documents.h"
+#include "pickers/pickers.h"
+#include "selection/document_search.h"
 #include "selection/selection_list.h"
 #include "worklist/list_display.h"
 

@@ -2,7 +2,7 @@
 // was written of them reads the same again.
 
 #include "fuzz_input.h"
-#include "searchfolders/configuration_file.h"
+#include "searchfolders/configurations.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Configurations configs;

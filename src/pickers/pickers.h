@@ -1,12 +1,35 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "pickers/tree_walk.h"
 
+class ComboBox;
 class Control;
+class Files;
 class ListBox;
+
+/// A drop-down of the drives present, each shown as "c:".
+class DrivePicker {
+ public:
+    DrivePicker(ComboBox& box, Files& files) : box_(box), files_(files) {}
+
+    /// Lists the drives; none is chosen yet.
+    void fill();
+
+    /// Chooses the drive that a path begins with; none when it isn't present.
+    void setDrive(std::wstring_view path);
+
+    /// The chosen drive's letter, 0 for none.
+    wchar_t drive() const;
+
+ private:
+    ComboBox& box_;
+    Files& files_;
+    std::vector<wchar_t> letters_;
+};
 
 /// What came of the opening of a directory.
 enum class Opening {

@@ -1,9 +1,9 @@
-#include "pickers/directory_picker.h"
+#include "pickers/pickers.h"
 
 #include "fakes/fake_controls.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_patience.h"
-#include "pickers/drive_picker.h"
+#include "pickers/directory_listing.h"
 #include "ports/workers.h"
 #include "unit/unit_test.h"
 
@@ -47,9 +47,30 @@ TEST(DrivePicker, FindsTheDriveOfAPathInAnyCase) {
     FakeComboBox box;
     DrivePicker picker(box, files);
     picker.fill();
-    EXPECT_TRUE(picker.setDrive(L"D:\\Doc"));
+    picker.setDrive(L"D:\\Doc");
     EXPECT_EQ(picker.drive(), L'd');
-    EXPECT_FALSE(picker.setDrive(L"d:"));
-    EXPECT_TRUE(picker.setDrive(L"\\\\serveur\\part"));
+    picker.setDrive(L"\\\\serveur\\part");
     EXPECT_EQ(picker.drive(), L'\0');
+}
+
+TEST(DirectoryListing, KnowsThePathsOfDirectories) {
+    const struct {
+        const wchar_t *given, *reported, *parent, *child;
+        bool isRoot;
+    } cases[] = {
+        {L"c:\\", L"c:\\", L"c:\\", L"c:\\x", true},
+        {L"c:", L"c:\\", L"c:\\", L"c:\\x", true},
+        {L"c:\\a\\", L"c:\\a", L"c:\\", L"c:\\a\\x", false},
+        {L"c:\\a\\b c", L"c:\\a\\b c", L"c:\\a", L"c:\\a\\b c\\x", false},
+        {L"\\\\srv\\part", L"\\\\srv\\part", L"\\\\srv\\part", L"\\\\srv\\part\\x", false},
+        {L"\\\\srv\\part\\", L"\\\\srv\\part", L"\\\\srv\\part", L"\\\\srv\\part\\x", false},
+        {L"\\\\srv\\part\\a", L"\\\\srv\\part\\a", L"\\\\srv\\part", L"\\\\srv\\part\\a\\x", false},
+    };
+    for (const auto& c : cases) {
+        const std::wstring reported = reportedPath(c.given);
+        EXPECT_EQ(reported, c.reported) << c.given;
+        EXPECT_EQ(parentPath(reported), c.parent) << c.given;
+        EXPECT_EQ(childPath(reported, L"x"), c.child) << c.given;
+        EXPECT_EQ(isDriveRoot(reported), c.isRoot) << c.given;
+    }
 }

@@ -1,8 +1,24 @@
 #pragma once
 
+#include <chrono>
 #include <string>
 
 #include "ports/controls.h"
+
+/// Lets something happen a few times per second at most.
+class Pulse {
+ public:
+    bool due() {
+        constexpr std::chrono::milliseconds kInterval(250);
+        const auto now = std::chrono::steady_clock::now();
+        if (now - last_ < kInterval) return false;
+        last_ = now;
+        return true;
+    }
+
+ private:
+    std::chrono::steady_clock::time_point last_ = std::chrono::steady_clock::now();
+};
 
 /// While it lives a label says that a search goes on: from its first moment, when there is nothing
 /// to be counted yet.
