@@ -17,38 +17,38 @@
 namespace driver::demo {
 namespace {
 
-void StartCad(Stage& stage) {
-    stage.Tell("Starting the trial CAD session");
-    stage.cad.Start({"--working-directory", Utf8(stage.sandbox.Documents().wstring())});
+void startCad(Stage& stage) {
+    stage.tell("Starting the trial CAD session");
+    stage.cad.start({"--working-directory", utf8(stage.sandbox.documents().wstring())});
 }
 
-void PlayScript(const std::filesystem::path& directory) {
+void playScript(const std::filesystem::path& directory) {
     const Settings settings;
     SetCursorPos(GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));  // no tooltips
     Stage stage(directory);
-    StartCad(stage);
-    PlaySelectionWindow(stage);
-    PlayTrackingWindow(stage);
-    PlayResuming(stage);
-    stage.Tell("The list file at the end");
-    stage.ShowListFile();
-    stage.cad.Close();
+    startCad(stage);
+    playSelectionWindow(stage);
+    playTrackingWindow(stage);
+    playResuming(stage);
+    stage.tell("The list file at the end");
+    stage.showListFile();
+    stage.cad.close();
 }
 
-void PutAtRightEdge(HWND window) {
-    const RECT place = PlaceOf(window);
+void putAtRightEdge(HWND window) {
+    const RECT place = placeOf(window);
     const int left = GetSystemMetrics(SM_CXSCREEN) - (place.right - place.left);
-    MoveTo(window, std::max(left, 0), 0);
+    moveTo(window, std::max(left, 0), 0);
 }
 
-void OpenForAPerson(const std::filesystem::path& directory) {
+void openForAPerson(const std::filesystem::path& directory) {
     Stage stage(directory);
-    StartCad(stage);
-    PutAtRightEdge(stage.cad.Window());
-    stage.Tell("Starting Tarnwick; close it to end");
-    stage.app.Start();
-    stage.app.WaitUntilClosed();
-    stage.cad.Close();
+    startCad(stage);
+    putAtRightEdge(stage.cad.window());
+    stage.tell("Starting Tarnwick; close it to end");
+    stage.app.start();
+    stage.app.waitUntilClosed();
+    stage.cad.close();
 }
 
 }  // namespace
@@ -63,7 +63,7 @@ int wmain(int count, wchar_t** arguments) {
     const std::filesystem::path directory = std::filesystem::absolute(arguments[1]);
     const bool scripted = count > 2 && std::wstring_view(arguments[2]) == L"--scripted";
     try {
-        scripted ? PlayScript(directory) : OpenForAPerson(directory);
+        scripted ? playScript(directory) : openForAPerson(directory);
     } catch (const std::exception& error) {
         std::cerr << "\n" << error.what() << "\n";
         return 1;

@@ -35,9 +35,9 @@ constexpr const char* kDocuments[] = {
 
 }  // namespace
 
-std::vector<std::string> CreateSampleDocuments(const Sandbox& sandbox) {
+std::vector<std::string> createSampleDocuments(const Sandbox& sandbox) {
     std::vector<std::string> paths;
-    for (const char* document : kDocuments) paths.push_back(sandbox.AddDocument(document));
+    for (const char* document : kDocuments) paths.push_back(sandbox.addDocument(document));
     return paths;
 }
 

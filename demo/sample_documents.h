@@ -9,6 +9,6 @@ namespace driver::demo {
 
 /// Creates a tree of sample documents as a small design office might have it; gives their full
 /// paths.
-std::vector<std::string> CreateSampleDocuments(const Sandbox& sandbox);
+std::vector<std::string> createSampleDocuments(const Sandbox& sandbox);
 
 }  // namespace driver::demo

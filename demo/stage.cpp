@@ -12,7 +12,7 @@ namespace driver::demo {
 namespace {
 
 /// What `import -crop` takes for a place on the screen.
-std::string Area(const RECT& place) {
+std::string area(const RECT& place) {
     return std::to_string(place.right - place.left) + "x" +
            std::to_string(place.bottom - place.top) + "+" + std::to_string(place.left) + "+" +
            std::to_string(place.top);
@@ -21,22 +21,22 @@ std::string Area(const RECT& place) {
 }  // namespace
 
 Stage::Stage(const std::filesystem::path& directory)
-    : sandbox(directory), documents(CreateSampleDocuments(sandbox)), cad(sandbox), app(sandbox) {}
+    : sandbox(directory), documents(createSampleDocuments(sandbox)), cad(sandbox), app(sandbox) {}
 
-void Stage::Tell(const std::string& step) const { std::cout << "\n* " << step << std::endl; }
+void Stage::tell(const std::string& step) const { std::cout << "\n* " << step << std::endl; }
 
-void Stage::Press(int button) const {
-    std::cout << "  [" << app.TextOf(button) << "]" << std::endl;
-    app.Click(button);
+void Stage::press(int button) const {
+    std::cout << "  [" << app.textOf(button) << "]" << std::endl;
+    app.click(button);
 }
 
-void Stage::ShowCallsUpTo(const std::string& text) {
+void Stage::showCallsUpTo(const std::string& text) {
     const auto holdsText = [&](const std::string& call) {
         return call.find(text) != std::string::npos;
     };
     std::vector<std::string> calls;
-    WaitFor("the call " + text, [&] {
-        calls = cad.Calls();
+    waitFor("the call " + text, [&] {
+        calls = cad.calls();
         calls.erase(calls.begin(), calls.begin() + static_cast<std::ptrdiff_t>(callsShown_));
         return std::any_of(calls.begin(), calls.end(), holdsText);
     });
@@ -47,38 +47,38 @@ void Stage::ShowCallsUpTo(const std::string& text) {
     }
 }
 
-void Stage::ShowLines(int list) const {
-    for (const std::string& line : app.Lines(list)) std::cout << "    | " << line << std::endl;
+void Stage::showLines(int list) const {
+    for (const std::string& line : app.lines(list)) std::cout << "    | " << line << std::endl;
 }
 
-void Stage::ShowListFile() const { std::cout << sandbox.ReadList().value_or("(none)\n"); }
+void Stage::showListFile() const { std::cout << sandbox.readList().value_or("(none)\n"); }
 
-void Stage::ShowConfigurationFile() const {
-    std::cout << sandbox.ReadConfigurations().value_or("(none)\n");
+void Stage::showConfigurationFile() const {
+    std::cout << sandbox.readConfigurations().value_or("(none)\n");
 }
 
-void Stage::ShowFile(const std::string& name) const {
+void Stage::showFile(const std::string& name) const {
     std::optional<std::string> text;
-    WaitFor("the file " + name, [&] {
-        text = ReadFileBytes(sandbox.Directory() / name);
+    waitFor("the file " + name, [&] {
+        text = readFileBytes(sandbox.directory() / name);
         return text.has_value();
     });
     std::cout << *text << std::flush;
 }
 
-void Stage::Picture(const std::string& name, HWND window, HWND behind) const {
-    RECT place = PlaceOf(window);
+void Stage::picture(const std::string& name, HWND window, HWND behind) const {
+    RECT place = placeOf(window);
     if (behind) {
-        const RECT other = PlaceOf(behind);
+        const RECT other = placeOf(behind);
         UnionRect(&place, &place, &other);
     }
     SetForegroundWindow(window);
-    Send(window, WM_NCACTIVATE, TRUE);  // a button pressed from outside leaves the title bar grey
-    const std::filesystem::path request = sandbox.Directory() / "picture.request";
-    const std::filesystem::path draft = sandbox.Directory() / "picture.draft";
-    WriteFileBytes(draft, name + " " + Area(place) + "\n");
+    send(window, WM_NCACTIVATE, TRUE);  // a button pressed from outside leaves the title bar grey
+    const std::filesystem::path request = sandbox.directory() / "picture.request";
+    const std::filesystem::path draft = sandbox.directory() / "picture.draft";
+    writeFileBytes(draft, name + " " + area(place) + "\n");
     std::filesystem::rename(draft, request);  // only now can it be seen, whole
-    WaitFor("the picture " + name, [&] { return !std::filesystem::exists(request); });
+    waitFor("the picture " + name, [&] { return !std::filesystem::exists(request); });
     std::cout << "    (picture " << name << ".png)" << std::endl;
 }
 

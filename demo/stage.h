@@ -16,23 +16,23 @@ class Stage {
     explicit Stage(const std::filesystem::path& directory);
 
     /// Announces what comes next.
-    void Tell(const std::string& step) const;
+    void tell(const std::string& step) const;
 
     /// Presses a button and tells its caption.
-    void Press(int button) const;
+    void press(int button) const;
 
     /// Waits for a call that holds this text among those not shown yet, and shows all up to it.
-    void ShowCallsUpTo(const std::string& text);
+    void showCallsUpTo(const std::string& text);
 
-    void ShowLines(int list) const;
-    void ShowListFile() const;
-    void ShowConfigurationFile() const;
+    void showLines(int list) const;
+    void showListFile() const;
+    void showConfigurationFile() const;
     /// Waits for a file beside the program, and shows its text.
-    void ShowFile(const std::string& name) const;
+    void showFile(const std::string& name) const;
 
     /// Leaves NAME.png with this window as it looks on the screen; of another one what is seen
     /// behind and beside it.
-    void Picture(const std::string& name, HWND window, HWND behind = nullptr) const;
+    void picture(const std::string& name, HWND window, HWND behind = nullptr) const;
 
     Sandbox sandbox;
     std::vector<std::string> documents;

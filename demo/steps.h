@@ -6,17 +6,17 @@
 namespace driver::demo {
 
 /// Prepares a pass in the selection window and launches it.
-void PlaySelectionWindow(Stage& stage);
+void playSelectionWindow(Stage& stage);
 
 /// Builds a configuration of search folders and makes it effective, while the selection window is
 /// open.
-void PlaySearchFolders(Stage& stage);
+void playSearchFolders(Stage& stage);
 
 /// Works through the launched pass with each of the tracking window's commands, saves the list and
 /// leaves.
-void PlayTrackingWindow(Stage& stage);
+void playTrackingWindow(Stage& stage);
 
 /// Starts again and accepts the list file that the pass left.
-void PlayResuming(Stage& stage);
+void playResuming(Stage& stage);
 
 }  // namespace driver::demo

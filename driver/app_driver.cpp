@@ -9,119 +9,119 @@
 
 namespace driver {
 
-void AppDriver::Start(const std::vector<std::string>& arguments) {
-    std::vector<std::wstring> wide;
-    for (const std::string& argument : arguments) wide.push_back(Wide(argument));
-    process_ = std::make_unique<Process>(sandbox_.Program(), wide, sandbox_.Directory());
+void AppDriver::start(const std::vector<std::string>& arguments) {
+    std::vector<std::wstring> words;
+    for (const std::string& argument : arguments) words.push_back(wide(argument));
+    process_ = std::make_unique<Process>(sandbox_.program(), words, sandbox_.directory());
 }
 
-HWND AppDriver::Window(const std::string& caption) const {
+HWND AppDriver::window(const std::string& caption) const {
     HWND found = nullptr;
-    WaitFor("the window \"" + caption + "\"", [&] {
-        for (HWND window : TopLevelWindows(process_->Id()))
-            if (IsWindowVisible(window) && driver::TextOf(window) == caption) found = window;
+    waitFor("the window \"" + caption + "\"", [&] {
+        for (HWND window : topLevelWindows(process_->id()))
+            if (IsWindowVisible(window) && driver::textOf(window) == caption) found = window;
         return found != nullptr;
     });
     return found;
 }
 
-std::vector<std::string> AppDriver::ShownWindows() const {
+std::vector<std::string> AppDriver::shownWindows() const {
     std::vector<std::string> captions;
-    for (HWND window : TopLevelWindows(process_->Id()))
-        if (IsWindowVisible(window)) captions.push_back(driver::TextOf(window));
+    for (HWND window : topLevelWindows(process_->id()))
+        if (IsWindowVisible(window)) captions.push_back(driver::textOf(window));
     return captions;
 }
 
-void AppDriver::CloseByFrame(const std::string& caption) const {
-    Post(Window(caption), WM_SYSCOMMAND, SC_CLOSE);
+void AppDriver::closeByFrame(const std::string& caption) const {
+    post(window(caption), WM_SYSCOMMAND, SC_CLOSE);
 }
 
-HWND AppDriver::FindControl(int id) const {
-    for (HWND window : TopLevelWindows(process_->Id()))
-        if (HWND control = Descendant(window, id)) return control;
+HWND AppDriver::findControl(int id) const {
+    for (HWND window : topLevelWindows(process_->id()))
+        if (HWND control = descendant(window, id)) return control;
     return nullptr;
 }
 
-HWND AppDriver::Control(int id) const {
+HWND AppDriver::control(int id) const {
     HWND control = nullptr;
-    WaitFor("control " + std::to_string(id),
-            [&] { return (control = FindControl(id)) != nullptr; });
+    waitFor("control " + std::to_string(id),
+            [&] { return (control = findControl(id)) != nullptr; });
     return control;
 }
 
-void AppDriver::Click(int id) const { Post(Control(id), BM_CLICK); }
+void AppDriver::click(int id) const { post(control(id), BM_CLICK); }
 
-std::string AppDriver::TextOf(int id) const { return driver::TextOf(Control(id)); }
+std::string AppDriver::textOf(int id) const { return driver::textOf(control(id)); }
 
-bool AppDriver::Enabled(int id) const { return IsWindowEnabled(Control(id)); }
+bool AppDriver::enabled(int id) const { return IsWindowEnabled(control(id)); }
 
-bool AppDriver::Visible(int id) const { return IsWindowVisible(Control(id)); }
+bool AppDriver::visible(int id) const { return IsWindowVisible(control(id)); }
 
-bool AppDriver::Checked(int id) const { return Send(Control(id), BM_GETCHECK) == BST_CHECKED; }
+bool AppDriver::checked(int id) const { return send(control(id), BM_GETCHECK) == BST_CHECKED; }
 
-std::vector<std::string> AppDriver::Lines(int list) const { return ListLines(Control(list)); }
+std::vector<std::string> AppDriver::lines(int list) const { return listLines(control(list)); }
 
-std::vector<int> AppDriver::Selected(int list) const { return SelectedLines(Control(list)); }
+std::vector<int> AppDriver::selected(int list) const { return selectedLines(control(list)); }
 
-void AppDriver::Select(int list, const std::vector<int>& lines) const {
-    SelectLines(Control(list), lines);
+void AppDriver::select(int list, const std::vector<int>& lines) const {
+    selectLines(control(list), lines);
 }
 
-void AppDriver::Type(int field, const std::string& text) const { TypeInto(Control(field), text); }
+void AppDriver::type(int field, const std::string& text) const { typeInto(control(field), text); }
 
-void AppDriver::Choose(int comboBox, const std::string& line) const {
-    ChooseLine(Control(comboBox), line);
+void AppDriver::choose(int comboBox, const std::string& line) const {
+    chooseLine(control(comboBox), line);
 }
 
-void AppDriver::Open(int list, const std::string& ending) const { OpenLine(Control(list), ending); }
+void AppDriver::open(int list, const std::string& ending) const { openLine(control(list), ending); }
 
-void AppDriver::WaitForText(int id, const std::string& text) const {
-    const std::string shown = Eventually<std::string>(text, [&] { return TextOf(id); });
+void AppDriver::waitForText(int id, const std::string& text) const {
+    const std::string shown = eventually<std::string>(text, [&] { return textOf(id); });
     if (shown != text)
         throw TimedOut("control " + std::to_string(id) + " shows \"" + shown + "\", not \"" + text +
                        "\"");
 }
 
-HWND AppDriver::FindBox() const {
-    for (HWND window : TopLevelWindows(process_->Id()))
-        if (ModalBox::Is(window)) return window;
+HWND AppDriver::findBox() const {
+    for (HWND window : topLevelWindows(process_->id()))
+        if (ModalBox::isCalled(window)) return window;
     return nullptr;
 }
 
-ModalBox AppDriver::Box() const {
+ModalBox AppDriver::box() const {
     HWND box = nullptr;
-    WaitFor("a message box", [&] { return (box = FindBox()) != nullptr; });
+    waitFor("a message box", [&] { return (box = findBox()) != nullptr; });
     return ModalBox(box);
 }
 
-bool AppDriver::ShowsBox() const { return FindBox() != nullptr; }
+bool AppDriver::showsBox() const { return findBox() != nullptr; }
 
-void AppDriver::WaitForCommandEnd(int list, int clearButton) const {
-    Click(clearButton);
-    WaitFor("the command's end", [&] { return Selected(list).empty(); });
+void AppDriver::waitForCommandEnd(int list, int clearButton) const {
+    click(clearButton);
+    waitFor("the command's end", [&] { return selected(list).empty(); });
     const DWORD end = GetTickCount();
-    WaitFor("a later time", [&] { return GetTickCount() - end > kPollingInterval; });
+    waitFor("a later time", [&] { return GetTickCount() - end > kPollingInterval; });
 }
 
-void AppDriver::ChooseInSystemMenu(const std::string& caption, int item) const {
-    Post(Window(caption), WM_SYSCOMMAND, static_cast<WPARAM>(item));
+void AppDriver::chooseInSystemMenu(const std::string& caption, int item) const {
+    post(window(caption), WM_SYSCOMMAND, static_cast<WPARAM>(item));
 }
 
-void AppDriver::SaveAsProposed(const std::string& title, const std::string& file) const {
-    HWND dialog = Window(title);
-    WaitFor("the proposed name " + file, [&] {
-        const auto parts = Descendants(dialog);
+void AppDriver::saveAsProposed(const std::string& title, const std::string& file) const {
+    HWND dialog = window(title);
+    waitFor("the proposed name " + file, [&] {
+        const auto parts = descendants(dialog);
         return std::any_of(parts.begin(), parts.end(),
-                           [&](HWND part) { return driver::TextOf(part) == file; });
+                           [&](HWND part) { return driver::textOf(part) == file; });
     });
-    Post(Descendant(dialog, IDOK), BM_CLICK);
-    WaitFor("the dialog to close", [&] { return !IsWindow(dialog); });
+    post(descendant(dialog, IDOK), BM_CLICK);
+    waitFor("the dialog to close", [&] { return !IsWindow(dialog); });
 }
 
-std::string AppDriver::Describe() const {
-    if (!Running()) return "tarnwick does not run\n";
+std::string AppDriver::describe() const {
+    if (!running()) return "tarnwick does not run\n";
     std::string text;
-    for (HWND window : TopLevelWindows(process_->Id())) text += driver::Describe(window);
+    for (HWND window : topLevelWindows(process_->id())) text += driver::describe(window);
     return text;
 }
 

@@ -17,61 +17,61 @@ class AppDriver {
     explicit AppDriver(const Sandbox& sandbox) : sandbox_(sandbox) {}
 
     /// Starts it in the sandbox's directory, with these arguments.
-    void Start(const std::vector<std::string>& arguments = {});
-    bool Running() const { return process_ && process_->Running(); }
+    void start(const std::vector<std::string>& arguments = {});
+    bool running() const { return process_ && process_->running(); }
     /// Waits for the program to end by itself.
-    int WaitForExit() const { return static_cast<int>(process_->WaitForExit()); }
+    int waitForExit() const { return static_cast<int>(process_->waitForExit()); }
 
-    void Kill() const { process_->Kill(); }
-    Resources ResourcesInUse() const { return process_->ResourcesInUse(); }
+    void kill() const { process_->kill(); }
+    Resources resourcesInUse() const { return process_->resourcesInUse(); }
 
     /// Waits until its user closes it.
-    void WaitUntilClosed() const { process_->WaitUntilClosed(); }
+    void waitUntilClosed() const { process_->waitUntilClosed(); }
 
     /// The shown top-level window with this caption.
-    HWND Window(const std::string& caption) const;
+    HWND window(const std::string& caption) const;
     /// The captions of all top-level windows that are shown, message boxes included.
-    std::vector<std::string> ShownWindows() const;
+    std::vector<std::string> shownWindows() const;
     /// Closes a window by its frame.
-    void CloseByFrame(const std::string& caption) const;
+    void closeByFrame(const std::string& caption) const;
 
-    HWND Control(int id) const;
-    void Click(int id) const;
-    std::string TextOf(int id) const;
-    bool Enabled(int id) const;
-    bool Visible(int id) const;
-    bool Checked(int id) const;
-    std::vector<std::string> Lines(int list) const;
-    std::vector<int> Selected(int list) const;
-    void Select(int list, const std::vector<int>& lines) const;
+    HWND control(int id) const;
+    void click(int id) const;
+    std::string textOf(int id) const;
+    bool enabled(int id) const;
+    bool visible(int id) const;
+    bool checked(int id) const;
+    std::vector<std::string> lines(int list) const;
+    std::vector<int> selected(int list) const;
+    void select(int list, const std::vector<int>& lines) const;
 
-    void Type(int field, const std::string& text) const;
-    void Choose(int comboBox, const std::string& line) const;
+    void type(int field, const std::string& text) const;
+    void choose(int comboBox, const std::string& line) const;
     /// Double-clicks the line of a list that ends with this text.
-    void Open(int list, const std::string& ending) const;
+    void open(int list, const std::string& ending) const;
 
     /// Waits until the control's text is `text`; throws with the text it has if it never is.
-    void WaitForText(int id, const std::string& text) const;
+    void waitForText(int id, const std::string& text) const;
 
     /// The message box that is shown; waited for.
-    ModalBox Box() const;
-    bool ShowsBox() const;
+    ModalBox box() const;
+    bool showsBox() const;
 
     /// Waits for the end of the command at work: what is pressed before does not count. It clears
     /// a list by its button, which waits, too.
-    void WaitForCommandEnd(int list, int clearButton) const;
+    void waitForCommandEnd(int list, int clearButton) const;
 
-    void ChooseInSystemMenu(const std::string& caption, int item) const;
+    void chooseInSystemMenu(const std::string& caption, int item) const;
 
     /// Waits for a dialog of the system with this title that proposes this file, and accepts it.
-    void SaveAsProposed(const std::string& title, const std::string& file) const;
+    void saveAsProposed(const std::string& title, const std::string& file) const;
 
     /// All windows of the program with their controls, for the report of a failed test.
-    std::string Describe() const;
+    std::string describe() const;
 
  private:
-    HWND FindControl(int id) const;
-    HWND FindBox() const;
+    HWND findControl(int id) const;
+    HWND findBox() const;
 
     const Sandbox& sandbox_;
     std::unique_ptr<Process> process_;

@@ -15,7 +15,7 @@ struct PutInto {
 
     void operator()(const std::string& text) const {
         variant.vt = VT_BSTR;
-        variant.bstrVal = SysAllocString(Wide(text).c_str());
+        variant.bstrVal = SysAllocString(wide(text).c_str());
     }
     void operator()(long number) const {
         variant.vt = VT_I4;
@@ -31,10 +31,10 @@ struct PutInto {
     }
 };
 
-CallOutcome OutcomeOf(HRESULT code, VARIANT& answer) {
+CallOutcome outcomeOf(HRESULT code, VARIANT& answer) {
     CallOutcome outcome{code};
     if (answer.vt == VT_DISPATCH) outcome.object = ComPtr<IDispatch>(answer.pdispVal);
-    if (answer.vt == VT_BSTR) outcome.text = Utf8(answer.bstrVal);
+    if (answer.vt == VT_BSTR) outcome.text = utf8(answer.bstrVal);
     if (answer.vt == VT_I4) outcome.number = answer.lVal;
     if (answer.vt == VT_BOOL) outcome.number = answer.boolVal ? 1 : 0;
     VariantClear(&answer);
@@ -43,7 +43,7 @@ CallOutcome OutcomeOf(HRESULT code, VARIANT& answer) {
 
 }  // namespace
 
-CallOutcome CallByName(IDispatch* object, const wchar_t* name,
+CallOutcome callByName(IDispatch* object, const wchar_t* name,
                        const std::vector<CallArgument>& arguments) {
     // Automation wants the last argument first.
     std::vector<VARIANT> variants(arguments.size());
@@ -58,10 +58,10 @@ CallOutcome CallByName(IDispatch* object, const wchar_t* name,
         code = object->Invoke(id, IID_NULL, 0, DISPATCH_METHOD, &parameters, &answer, nullptr,
                               nullptr);
     for (VARIANT& variant : variants) VariantClear(&variant);
-    return OutcomeOf(code, answer);
+    return outcomeOf(code, answer);
 }
 
-ComPtr<IDispatch> SessionOfProcess(DWORD processId) {
+ComPtr<IDispatch> sessionOfProcess(DWORD processId) {
     const std::wstring name = L"SolidWorks_PID_" + std::to_wstring(processId);
     ComPtr<IRunningObjectTable> table;
     ComPtr<IMoniker> moniker;
@@ -74,11 +74,11 @@ ComPtr<IDispatch> SessionOfProcess(DWORD processId) {
     return session;
 }
 
-OpenedDocument OpenDocument(IDispatch* session, const std::string& path) {
+OpenedDocument openDocument(IDispatch* session, const std::string& path) {
     OpenedDocument opened;
     opened.document =
-        CallByName(session, L"OpenDoc6",
-                   {path, calls::TypeCode(path), 1L, "", &opened.error, &opened.warning})
+        callByName(session, L"OpenDoc6",
+                   {path, calls::typeCode(path), 1L, "", &opened.error, &opened.warning})
             .object;
     return opened;
 }

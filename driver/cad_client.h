@@ -23,11 +23,11 @@ struct CallOutcome {
 using CallArgument = std::variant<std::string, long, bool, long*>;
 
 /// Calls a method of an object of the session, as any program may do beside ours.
-CallOutcome CallByName(IDispatch* object, const wchar_t* name,
+CallOutcome callByName(IDispatch* object, const wchar_t* name,
                        const std::vector<CallArgument>& arguments = {});
 
 /// The application object that a process registered under its own number; null when it did not.
-ComPtr<IDispatch> SessionOfProcess(DWORD processId);
+ComPtr<IDispatch> sessionOfProcess(DWORD processId);
 
 /// What OpenDoc6 answers for a document.
 struct OpenedDocument {
@@ -36,6 +36,6 @@ struct OpenedDocument {
     long warning = 0;
 };
 
-OpenedDocument OpenDocument(IDispatch* session, const std::string& path);
+OpenedDocument openDocument(IDispatch* session, const std::string& path);
 
 }  // namespace driver

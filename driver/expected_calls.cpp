@@ -3,28 +3,28 @@
 namespace driver::calls {
 namespace {
 
-std::string Title(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
+std::string title(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
 
-std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
+std::string quoted(const std::string& text) { return "\"" + text + "\""; }
 
 }  // namespace
 
-long TypeCode(const std::string& path) {
+long typeCode(const std::string& path) {
     if (path.ends_with("PRT")) return 1;
     return path.ends_with("ASM") ? 2 : 3;
 }
 
-Calls AtStartUp() { return {"RevisionNumber()", "GetCurrentWorkingDirectory()"}; }
+Calls atStartUp() { return {"RevisionNumber()", "GetCurrentWorkingDirectory()"}; }
 
-std::string Close(const std::string& path) { return "closedoc(" + Quoted(path) + ")"; }
+std::string closing(const std::string& path) { return "closedoc(" + quoted(path) + ")"; }
 
-std::string Save(const std::string& path) { return Title(path) + ".save2(True)"; }
+std::string saving(const std::string& path) { return title(path) + ".save2(True)"; }
 
-Calls Open(const std::string& path, bool silent, Rebuild rebuild) {
-    Calls calls{"OpenDoc6(&" + Quoted(path) + ", &" + std::to_string(TypeCode(path)) + ":i2, " +
+Calls opening(const std::string& path, bool silent, Rebuild rebuild) {
+    Calls calls{"OpenDoc6(&" + quoted(path) + ", &" + std::to_string(typeCode(path)) + ":i2, " +
                     (silent ? "1" : "0") + ":i4, \"\", &0:i4, &0:i4)",
-                "ActivateDoc2(&" + Quoted(path) + ", True, &0:i4)", "Visible = True"};
-    const std::string document = Title(path);
+                "ActivateDoc2(&" + quoted(path) + ", True, &0:i4)", "Visible = True"};
+    const std::string document = title(path);
     if (rebuild == Rebuild::AllLevels) calls.push_back(document + ".ForceRebuild3(False)");
     if (rebuild == Rebuild::TopLevel) calls.push_back(document + ".ForceRebuild3(True)");
     calls.push_back(document + ".GetTitle()");
@@ -32,7 +32,7 @@ Calls Open(const std::string& path, bool silent, Rebuild rebuild) {
     return calls;
 }
 
-Calls Together(const std::vector<Calls>& parts) {
+Calls together(const std::vector<Calls>& parts) {
     Calls all;
     for (const Calls& part : parts) all.insert(all.end(), part.begin(), part.end());
     return all;

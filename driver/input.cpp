@@ -9,42 +9,42 @@
 namespace driver {
 namespace {
 
-HWND EditField(HWND field) {
+HWND editField(HWND field) {
     HWND inside = FindWindowExW(field, nullptr, L"Edit", nullptr);
     return inside ? inside : field;
 }
 
-void Notify(HWND control, WORD notification) {
-    Post(GetParent(control), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(control), notification),
+void notify(HWND control, WORD notification) {
+    post(GetParent(control), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(control), notification),
          reinterpret_cast<LPARAM>(control));
 }
 
 }  // namespace
 
-void TypeInto(HWND field, const std::string& text) {
-    HWND edit = EditField(field);
-    Send(edit, EM_SETSEL, 0, -1);
-    if (text.empty()) Post(edit, WM_CHAR, VK_BACK);
-    for (wchar_t character : Wide(text)) Post(edit, WM_CHAR, character);
+void typeInto(HWND field, const std::string& text) {
+    HWND edit = editField(field);
+    send(edit, EM_SETSEL, 0, -1);
+    if (text.empty()) post(edit, WM_CHAR, VK_BACK);
+    for (wchar_t character : wide(text)) post(edit, WM_CHAR, character);
 }
 
-void ChooseLine(HWND comboBox, const std::string& line) {
-    const std::wstring wide = Wide(line);
-    const LRESULT index = Send(comboBox, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                               reinterpret_cast<LPARAM>(wide.c_str()));
+void chooseLine(HWND comboBox, const std::string& line) {
+    const std::wstring wideLine = wide(line);
+    const LRESULT index = send(comboBox, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                               reinterpret_cast<LPARAM>(wideLine.c_str()));
     if (index < 0) throw std::runtime_error("no line \"" + line + "\" to choose");
-    Send(comboBox, CB_SETCURSEL, static_cast<WPARAM>(index));
-    Notify(comboBox, CBN_SELCHANGE);
+    send(comboBox, CB_SETCURSEL, static_cast<WPARAM>(index));
+    notify(comboBox, CBN_SELCHANGE);
 }
 
-void OpenLine(HWND list, const std::string& ending) {
+void openLine(HWND list, const std::string& ending) {
     // The list may still be showing what an earlier double click left.
-    WaitFor("a line \"" + ending + "\"", [&] {
-        const std::vector<std::string> lines = ListLines(list);
+    waitFor("a line \"" + ending + "\"", [&] {
+        const std::vector<std::string> lines = listLines(list);
         for (size_t i = 0; i < lines.size(); ++i) {
             if (!lines[i].ends_with(ending)) continue;
-            Send(list, LB_SETCURSEL, i);
-            Notify(list, LBN_DBLCLK);
+            send(list, LB_SETCURSEL, i);
+            notify(list, LBN_DBLCLK);
             return true;
         }
         return false;

@@ -5,7 +5,7 @@
 namespace driver {
 namespace {
 
-void Move(WORD key, DWORD flags) {
+void move(WORD key, DWORD flags) {
     INPUT input{};
     input.type = INPUT_KEYBOARD;
     input.ki.wVk = key;
@@ -16,14 +16,14 @@ void Move(WORD key, DWORD flags) {
 
 }  // namespace
 
-void PressKeys(const std::vector<WORD>& keys, int times) {
-    for (const WORD key : keys) Move(key, 0);
-    for (int i = 1; i < times; ++i) Move(keys.back(), 0);
-    for (auto key = keys.rbegin(); key != keys.rend(); ++key) Move(*key, KEYEVENTF_KEYUP);
+void pressKeys(const std::vector<WORD>& keys, int times) {
+    for (const WORD key : keys) move(key, 0);
+    for (int i = 1; i < times; ++i) move(keys.back(), 0);
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key) move(*key, KEYEVENTF_KEYUP);
 }
 
-void BringForward(HWND window) {
-    WaitFor("the window in front", [&] {
+void bringForward(HWND window) {
+    waitFor("the window in front", [&] {
         SetForegroundWindow(window);
         return GetForegroundWindow() == window;
     });

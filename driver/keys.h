@@ -8,9 +8,9 @@ namespace driver {
 
 /// Presses keys as a person does, one after another, and lets go of them: whichever window has the
 /// keyboard gets them. `times`: how often the last one goes down, as when it is held.
-void PressKeys(const std::vector<WORD>& keys, int times = 1);
+void pressKeys(const std::vector<WORD>& keys, int times = 1);
 
 /// Brings a window to the front, and waits until it is there.
-void BringForward(HWND window);
+void bringForward(HWND window);
 
 }  // namespace driver

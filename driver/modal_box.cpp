@@ -10,69 +10,69 @@ namespace {
 
 constexpr int kTextId = 0xFFFF;  // of the label that holds a message box's text
 
-bool IsButton(HWND window) {
+bool isButton(HWND window) {
     const int id = GetDlgCtrlID(window);
-    return ClassOf(window) == "Button" && IsWindowVisible(window) && id >= IDOK && id <= IDCONTINUE;
+    return classOf(window) == "Button" && IsWindowVisible(window) && id >= IDOK && id <= IDCONTINUE;
 }
 
 // Asks for the picture, too: Wine keeps an empty icon control in boxes without icon.
-bool IsIcon(HWND window) {
-    return ClassOf(window) == "Static" &&
+bool isIcon(HWND window) {
+    return classOf(window) == "Static" &&
            (GetWindowLongW(window, GWL_STYLE) & SS_TYPEMASK) == SS_ICON &&
-           Send(window, STM_GETICON) != 0;
+           send(window, STM_GETICON) != 0;
 }
 
-HWND Label(HWND box) {
-    for (HWND child : Descendants(box))
-        if (static_cast<WORD>(GetDlgCtrlID(child)) == kTextId && !TextOf(child).empty())
+HWND label(HWND box) {
+    for (HWND child : descendants(box))
+        if (static_cast<WORD>(GetDlgCtrlID(child)) == kTextId && !textOf(child).empty())
             return child;
     return nullptr;
 }
 
-bool AnyChild(HWND window, bool (*holds)(HWND)) {
-    const std::vector<HWND> children = Descendants(window);
+bool anyChild(HWND window, bool (*holds)(HWND)) {
+    const std::vector<HWND> children = descendants(window);
     return std::any_of(children.begin(), children.end(), holds);
 }
 
 }  // namespace
 
-bool ModalBox::Is(HWND window) {
-    return IsWindowVisible(window) && ClassOf(window) == "#32770" && Label(window) &&
-           AnyChild(window, IsButton);
+bool ModalBox::isCalled(HWND window) {
+    return IsWindowVisible(window) && classOf(window) == "#32770" && label(window) &&
+           anyChild(window, isButton);
 }
 
-std::string ModalBox::Title() const { return TextOf(window_); }
+std::string ModalBox::title() const { return textOf(window_); }
 
-std::string ModalBox::Text() const { return TextOf(Label(window_)); }
+std::string ModalBox::text() const { return textOf(label(window_)); }
 
-std::vector<HWND> ModalBox::ButtonWindows() const {
-    std::vector<HWND> buttons = Descendants(window_);
-    std::erase_if(buttons, [](HWND child) { return !IsButton(child); });
+std::vector<HWND> ModalBox::buttonWindows() const {
+    std::vector<HWND> buttons = descendants(window_);
+    std::erase_if(buttons, [](HWND child) { return !isButton(child); });
     return buttons;
 }
 
-std::vector<int> ModalBox::Buttons() const {
+std::vector<int> ModalBox::buttons() const {
     std::vector<int> ids;
-    for (HWND button : ButtonWindows()) ids.push_back(GetDlgCtrlID(button));
+    for (HWND button : buttonWindows()) ids.push_back(GetDlgCtrlID(button));
     std::sort(ids.begin(), ids.end());
     if (ids.size() == 1) ids.front() = IDOK;
     return ids;
 }
 
 // Asks the buttons: Wine's boxes do not tell DM_GETDEFID which one the caller made the default.
-int ModalBox::DefaultButton() const {
-    for (HWND button : ButtonWindows())
-        if ((Send(button, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON) != 0) return GetDlgCtrlID(button);
-    return LOWORD(Send(window_, DM_GETDEFID));
+int ModalBox::defaultButton() const {
+    for (HWND button : buttonWindows())
+        if ((send(button, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON) != 0) return GetDlgCtrlID(button);
+    return LOWORD(send(window_, DM_GETDEFID));
 }
 
-bool ModalBox::HasIcon() const { return AnyChild(window_, IsIcon); }
+bool ModalBox::hasIcon() const { return anyChild(window_, isIcon); }
 
-void ModalBox::Answer(int button) const {
-    const std::vector<HWND> buttons = ButtonWindows();
+void ModalBox::answer(int button) const {
+    const std::vector<HWND> buttons = buttonWindows();
     const bool lone = buttons.size() == 1 && button == IDOK;
-    Post(lone ? buttons.front() : GetDlgItem(window_, button), BM_CLICK);
-    WaitFor("a message box to close", [this] { return !IsWindow(window_); });
+    post(lone ? buttons.front() : GetDlgItem(window_, button), BM_CLICK);
+    waitFor("a message box to close", [this] { return !IsWindow(window_); });
 }
 
 }  // namespace driver

@@ -12,22 +12,22 @@ class ModalBox {
  public:
     explicit ModalBox(HWND window) : window_(window) {}
 
-    static bool Is(HWND window);
+    static bool isCalled(HWND window);
 
-    std::string Title() const;
-    std::string Text() const;
+    std::string title() const;
+    std::string text() const;
 
     /// The ids of its buttons (IDOK, IDYES …), ascending. A lone button is IDOK, whatever id the
     /// system gives it: Windows' is IDCANCEL, so that Escape presses it.
-    std::vector<int> Buttons() const;
-    int DefaultButton() const;
-    bool HasIcon() const;
+    std::vector<int> buttons() const;
+    int defaultButton() const;
+    bool hasIcon() const;
 
     /// Presses one of its buttons, a lone one whatever its id, and waits until the box has gone.
-    void Answer(int button) const;
+    void answer(int button) const;
 
  private:
-    std::vector<HWND> ButtonWindows() const;
+    std::vector<HWND> buttonWindows() const;
 
     HWND window_;
 };

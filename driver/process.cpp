@@ -7,14 +7,14 @@ namespace driver {
 namespace {
 
 /// Quotes an argument that holds no quotation mark of its own.
-std::wstring Quoted(const std::wstring& argument) {
+std::wstring quoted(const std::wstring& argument) {
     std::wstring quoted = L"\"" + argument;
     if (!argument.empty() && argument.back() == L'\\') quoted += L'\\';
     return quoted + L"\"";
 }
 
 /// A handle to an emptied file, for a process to inherit; null when no file is named.
-HANDLE InheritableFile(const std::wstring& file) {
+HANDLE inheritableFile(const std::wstring& file) {
     SECURITY_ATTRIBUTES inheritable{sizeof inheritable, nullptr, TRUE};
     return file.empty() ? nullptr
                         : CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inheritable,
@@ -25,11 +25,11 @@ HANDLE InheritableFile(const std::wstring& file) {
 
 Process::Process(const std::wstring& program, const std::vector<std::wstring>& arguments,
                  const std::wstring& directory, const std::wstring& errorFile) {
-    std::wstring commandLine = Quoted(program);
-    for (const std::wstring& argument : arguments) commandLine += L" " + Quoted(argument);
+    std::wstring commandLine = quoted(program);
+    for (const std::wstring& argument : arguments) commandLine += L" " + quoted(argument);
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
-    const HANDLE errors = InheritableFile(errorFile);
+    const HANDLE errors = inheritableFile(errorFile);
     if (errors) {
         startup.dwFlags = STARTF_USESTDHANDLES;
         startup.hStdError = errors;
@@ -40,7 +40,7 @@ Process::Process(const std::wstring& program, const std::vector<std::wstring>& a
                        nullptr, directory.c_str(), &startup, &information);
     if (errors) CloseHandle(errors);
     if (!started)
-        throw std::runtime_error("could not start " + Utf8(commandLine) + ": error " +
+        throw std::runtime_error("could not start " + utf8(commandLine) + ": error " +
                                  std::to_string(GetLastError()));
     CloseHandle(information.hThread);
     handle_ = information.hProcess;
@@ -48,13 +48,13 @@ Process::Process(const std::wstring& program, const std::vector<std::wstring>& a
 }
 
 Process::~Process() {
-    Kill();
+    kill();
     CloseHandle(handle_);
 }
 
-bool Process::Running() const { return WaitForSingleObject(handle_, 0) == WAIT_TIMEOUT; }
+bool Process::running() const { return WaitForSingleObject(handle_, 0) == WAIT_TIMEOUT; }
 
-DWORD Process::WaitForExit() const {
+DWORD Process::waitForExit() const {
     if (WaitForSingleObject(handle_, kPatience) != WAIT_OBJECT_0)
         throw TimedOut("process " + std::to_string(id_) + " does not end");
     DWORD code = 0;
@@ -62,8 +62,8 @@ DWORD Process::WaitForExit() const {
     return code;
 }
 
-void Process::Kill() {
-    if (!Running()) return;
+void Process::kill() {
+    if (!running()) return;
     TerminateProcess(handle_, 1);
     WaitForSingleObject(handle_, kPatience);
 }

@@ -19,18 +19,18 @@ class Process {
     Process(const Process&) = delete;
     Process& operator=(const Process&) = delete;
 
-    DWORD Id() const { return id_; }
-    bool Running() const;
+    DWORD id() const { return id_; }
+    bool running() const;
 
     /// Throws TimedOut if the process does not end by itself.
-    DWORD WaitForExit() const;
+    DWORD waitForExit() const;
 
     /// Waits as long as a person may take.
-    void WaitUntilClosed() const { WaitForSingleObject(handle_, INFINITE); }
+    void waitUntilClosed() const { WaitForSingleObject(handle_, INFINITE); }
 
-    void Kill();
+    void kill();
 
-    Resources ResourcesInUse() const { return ResourcesOf(handle_); }
+    Resources resourcesInUse() const { return resourcesOf(handle_); }
 
  private:
     HANDLE handle_ = nullptr;

@@ -26,7 +26,7 @@ struct SystemHandles {
 };
 
 /// Counted one by one: GetProcessHandleCount answers 0 under Wine.
-DWORD KernelHandlesOf(DWORD processId) {
+DWORD kernelHandlesOf(DWORD processId) {
     std::vector<char> buffer(1 << 20);
     ULONG needed = 0;
     while (NtQuerySystemInformation(kSystemHandleInformation, buffer.data(),
@@ -52,7 +52,7 @@ struct GdiEntry {
 
 /// The used entries of the process's GDI handle table: GetGuiResources answers 0 under Wine,
 /// where each process has a table of its own.
-DWORD GdiObjectsIn(HANDLE process) {
+DWORD gdiObjectsIn(HANDLE process) {
     constexpr size_t kGdiTableInPeb = 0xF8;
     constexpr size_t kEntries = 0x4000;
     PROCESS_BASIC_INFORMATION basic{};
@@ -67,28 +67,28 @@ DWORD GdiObjectsIn(HANDLE process) {
     return used;
 }
 
-DWORD WindowsOf(DWORD processId) {
+DWORD windowsOf(DWORD processId) {
     size_t count = 0;
-    for (HWND window : TopLevelWindows(processId)) count += 1 + Descendants(window).size();
+    for (HWND window : topLevelWindows(processId)) count += 1 + descendants(window).size();
     return static_cast<DWORD>(count);
 }
 
 }  // namespace
 
-std::string Resources::Describe() const {
+std::string Resources::describe() const {
     return std::to_string(kernelHandles) + " kernel handles, " + std::to_string(gdiObjects) +
            " GDI objects, " + std::to_string(windows) + " windows, " +
            std::to_string(memoryBytes / 1024) + " KiB";
 }
 
-Resources ResourcesOf(HANDLE process) {
+Resources resourcesOf(HANDLE process) {
     const DWORD processId = GetProcessId(process);
     const DWORD gdiObjects = GetGuiResources(process, GR_GDIOBJECTS);
     PROCESS_MEMORY_COUNTERS memory{};
     K32GetProcessMemoryInfo(process, &memory, sizeof memory);
-    return {.kernelHandles = KernelHandlesOf(processId),
-            .gdiObjects = gdiObjects != 0 ? gdiObjects : GdiObjectsIn(process),
-            .windows = WindowsOf(processId),
+    return {.kernelHandles = kernelHandlesOf(processId),
+            .gdiObjects = gdiObjects != 0 ? gdiObjects : gdiObjectsIn(process),
+            .windows = windowsOf(processId),
             .memoryBytes = memory.PagefileUsage};
 }
 

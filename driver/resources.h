@@ -13,9 +13,9 @@ struct Resources {
     DWORD windows = 0;
     size_t memoryBytes = 0;
 
-    std::string Describe() const;
+    std::string describe() const;
 };
 
-Resources ResourcesOf(HANDLE process);
+Resources resourcesOf(HANDLE process);
 
 }  // namespace driver

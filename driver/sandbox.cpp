@@ -12,14 +12,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path NewTemporaryDirectory() {
+fs::path newTemporaryDirectory() {
     const std::string name = "tarnwick essai " + std::to_string(GetCurrentProcessId()) + "-" +
                              std::to_string(GetTickCount64());
     return fs::temp_directory_path() / name;
 }
 
 /// Removes all that can be removed, read-only files too.
-void RemoveDirectoryTree(const fs::path& directory) {
+void removeDirectoryTree(const fs::path& directory) {
     std::error_code ignored;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory, ignored))
         fs::permissions(entry.path(), fs::perms::owner_all, ignored);
@@ -28,55 +28,55 @@ void RemoveDirectoryTree(const fs::path& directory) {
 
 }  // namespace
 
-Sandbox::Sandbox() : directory_(NewTemporaryDirectory()), temporary_(true) { CopyProgram(); }
+Sandbox::Sandbox() : directory_(newTemporaryDirectory()), temporary_(true) { copyProgram(); }
 
 Sandbox::Sandbox(fs::path directory) : directory_(std::move(directory)), temporary_(false) {
-    CopyProgram();
+    copyProgram();
 }
 
 Sandbox::~Sandbox() {
-    if (temporary_) RemoveDirectoryTree(directory_);
+    if (temporary_) removeDirectoryTree(directory_);
 }
 
-void Sandbox::CopyProgram() const {
-    fs::create_directories(Documents());
-    const fs::path built = BuiltPrograms() / "tarnwick.exe";
+void Sandbox::copyProgram() const {
+    fs::create_directories(documents());
+    const fs::path built = builtPrograms() / "tarnwick.exe";
     // mingw's std::filesystem can't overwrite an existing file.
-    if (!CopyFileW(built.c_str(), Program().c_str(), FALSE))
-        throw std::runtime_error("could not copy " + Utf8(built.wstring()));
+    if (!CopyFileW(built.c_str(), program().c_str(), FALSE))
+        throw std::runtime_error("could not copy " + utf8(built.wstring()));
 }
 
-fs::path Sandbox::BuiltPrograms() {
+fs::path Sandbox::builtPrograms() {
     wchar_t self[MAX_PATH];
     GetModuleFileNameW(nullptr, self, MAX_PATH);
     return fs::path(self).parent_path();
 }
 
-std::string Sandbox::AddDocument(std::string_view relativePath) const {
-    const fs::path document = Documents() / Wide(relativePath);
+std::string Sandbox::addDocument(std::string_view relativePath) const {
+    const fs::path document = documents() / wide(relativePath);
     fs::create_directories(document.parent_path());
-    WriteFileBytes(document, "sample document\r\n");
-    return Utf8(document.wstring());
+    writeFileBytes(document, "sample document\r\n");
+    return utf8(document.wstring());
 }
 
-void Sandbox::WriteList(std::string_view bytes) const { WriteFileBytes(ListFile(), bytes); }
+void Sandbox::writeList(std::string_view bytes) const { writeFileBytes(listFile(), bytes); }
 
-std::optional<std::string> Sandbox::ReadList() const { return ReadFileBytes(ListFile()); }
+std::optional<std::string> Sandbox::readList() const { return readFileBytes(listFile()); }
 
-std::optional<std::string> Sandbox::ReadConfigurations() const {
-    return ReadFileBytes(directory_ / "tarnwick.cfg");
+std::optional<std::string> Sandbox::readConfigurations() const {
+    return readFileBytes(directory_ / "tarnwick.cfg");
 }
 
-std::string Sandbox::Describe() const {
+std::string Sandbox::describe() const {
     std::string text;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory_))
         if (entry.is_regular_file())
             text +=
-                Utf8(entry.path().wstring()) + " " + std::to_string(entry.file_size()) + " bytes\n";
-    return text + "list file:\n" + ReadList().value_or("(none)\n");
+                utf8(entry.path().wstring()) + " " + std::to_string(entry.file_size()) + " bytes\n";
+    return text + "list file:\n" + readList().value_or("(none)\n");
 }
 
-std::optional<std::string> ReadFileBytes(const fs::path& file) {
+std::optional<std::string> readFileBytes(const fs::path& file) {
     // A stream of the standard library would keep others from replacing the file.
     constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     HANDLE handle =
@@ -90,10 +90,10 @@ std::optional<std::string> ReadFileBytes(const fs::path& file) {
     return bytes;
 }
 
-void WriteFileBytes(const fs::path& file, std::string_view bytes) {
+void writeFileBytes(const fs::path& file, std::string_view bytes) {
     std::ofstream stream(file, std::ios::binary | std::ios::trunc);
     stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (!stream.flush()) throw std::runtime_error("could not write " + Utf8(file.wstring()));
+    if (!stream.flush()) throw std::runtime_error("could not write " + utf8(file.wstring()));
 }
 
 }  // namespace driver

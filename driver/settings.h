@@ -15,18 +15,18 @@ class Settings {
     Settings(const Settings&) = delete;
     Settings& operator=(const Settings&) = delete;
 
-    std::optional<std::string> Get(const std::string& application, const std::string& section,
+    std::optional<std::string> get(const std::string& application, const std::string& section,
                                    const std::string& key) const;
-    void Set(const std::string& application, const std::string& section, const std::string& key,
+    void set(const std::string& application, const std::string& section, const std::string& key,
              const std::string& value) const;
 
     /// Every value there is, a line each.
-    std::string Describe() const;
+    std::string describe() const;
 
  private:
     using Values = std::map<std::wstring, std::wstring>;  // by "application\section\key"
-    static Values ReadAll();
-    static void RemoveAll();
+    static Values readAll();
+    static void removeAll();
 
     Values kept_;
 };

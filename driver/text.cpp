@@ -4,9 +4,9 @@
 
 namespace driver {
 
-std::wstring Wide(std::string_view utf8) { return wideText(utf8); }
+std::wstring wide(std::string_view utf8) { return wideText(utf8); }
 
-std::string Utf8(std::wstring_view wide) {
+std::string utf8(std::wstring_view wide) {
     std::string utf8;
     appendUtf8(utf8, wide);
     return utf8;

@@ -6,7 +6,7 @@
 namespace driver {
 
 // The scenarios speak UTF-8; Windows is spoken to in UTF-16.
-std::wstring Wide(std::string_view utf8);
-std::string Utf8(std::wstring_view wide);
+std::wstring wide(std::string_view utf8);
+std::string utf8(std::wstring_view wide);
 
 }  // namespace driver

@@ -35,11 +35,11 @@ class RemoteBlock {
     RemoteBlock(const RemoteBlock&) = delete;
     RemoteBlock& operator=(const RemoteBlock&) = delete;
 
-    std::byte* Address() const { return address_; }
-    void Put(const Request& request) const {
+    std::byte* address() const { return address_; }
+    void put(const Request& request) const {
         WriteProcessMemory(process_, address_, &request, sizeof request, nullptr);
     }
-    void Get(Request& request) const {
+    void get(Request& request) const {
         ReadProcessMemory(process_, address_, &request, sizeof request, nullptr);
     }
 
@@ -48,28 +48,28 @@ class RemoteBlock {
     std::byte* address_;
 };
 
-std::string ToolText(HWND tooltip, HWND control, const RemoteBlock& block) {
+std::string toolText(HWND tooltip, HWND control, const RemoteBlock& block) {
     Request request{};
     request.tool.cbSize = sizeof request.tool;
     request.tool.uFlags = TTF_IDISHWND;
     request.tool.hwnd = GetAncestor(control, GA_ROOT);
     request.tool.uId = reinterpret_cast<UINT_PTR>(control);
-    request.tool.lpszText = reinterpret_cast<wchar_t*>(block.Address() + offsetof(Request, text));
-    block.Put(request);
-    Send(tooltip, TTM_GETTEXTW, kLongest, reinterpret_cast<LPARAM>(block.Address()));
-    block.Get(request);
-    return Utf8(request.text);
+    request.tool.lpszText = reinterpret_cast<wchar_t*>(block.address() + offsetof(Request, text));
+    block.put(request);
+    send(tooltip, TTM_GETTEXTW, kLongest, reinterpret_cast<LPARAM>(block.address()));
+    block.get(request);
+    return utf8(request.text);
 }
 
 }  // namespace
 
-std::string ToolTipOf(HWND control) {
+std::string toolTipOf(HWND control) {
     DWORD processId = 0;
     GetWindowThreadProcessId(control, &processId);
     const RemoteBlock block(processId);
-    for (HWND window : TopLevelWindows(processId)) {
-        if (ClassOf(window) != TOOLTIPS_CLASSA) continue;
-        if (std::string text = ToolText(window, control, block); !text.empty()) return text;
+    for (HWND window : topLevelWindows(processId)) {
+        if (classOf(window) != TOOLTIPS_CLASSA) continue;
+        if (std::string text = toolText(window, control, block); !text.empty()) return text;
     }
     return {};
 }

@@ -10,31 +10,31 @@
 #include "driver/winapi.h"
 
 namespace driver {
-void TrialCad::Start(const std::vector<std::string>& options) {
-    std::vector<std::wstring> arguments{L"--journal", Journal()};
-    for (const std::string& option : options) arguments.push_back(Wide(option));
+void TrialCad::start(const std::vector<std::string>& options) {
+    std::vector<std::wstring> arguments{L"--journal", journal()};
+    for (const std::string& option : options) arguments.push_back(wide(option));
     CoInitializeEx(nullptr, COINIT_MULTITHREADED);
-    process_ = std::make_unique<Process>(Sandbox::BuiltPrograms() / "tarnwick-trialcad.exe",
-                                         arguments, sandbox_.Directory());
-    WaitFor("the trial CAD session to be registered",
-            [this] { return static_cast<bool>(Application()); });
+    process_ = std::make_unique<Process>(Sandbox::builtPrograms() / "tarnwick-trialcad.exe",
+                                         arguments, sandbox_.directory());
+    waitFor("the trial CAD session to be registered",
+            [this] { return static_cast<bool>(application()); });
 }
 
-void TrialCad::Close() {
-    Post(Window(), WM_CLOSE);
-    process_->WaitForExit();
+void TrialCad::close() {
+    post(window(), WM_CLOSE);
+    process_->waitForExit();
 }
 
-HWND TrialCad::Window() const {
-    for (HWND window : TopLevelWindows(process_->Id()))
-        if (ClassOf(window) == "TarnwickTrialCad") return window;
+HWND TrialCad::window() const {
+    for (HWND window : topLevelWindows(process_->id()))
+        if (classOf(window) == "TarnwickTrialCad") return window;
     throw std::runtime_error("the trial CAD session has no window");
 }
 
-std::vector<std::string> TrialCad::Calls() const {
-    std::istringstream journal(ReadFileBytes(Journal()).value_or(""));
+std::vector<std::string> TrialCad::calls() const {
+    std::istringstream stream(readFileBytes(journal()).value_or(""));
     std::vector<std::string> calls;
-    for (std::string call; std::getline(journal, call);) calls.push_back(call);
+    for (std::string call; std::getline(stream, call);) calls.push_back(call);
     return calls;
 }
 

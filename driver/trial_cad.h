@@ -16,23 +16,23 @@ class TrialCad {
     explicit TrialCad(const Sandbox& sandbox) : sandbox_(sandbox) {}
 
     /// Starts it with these command-line options and waits until programs can attach to it.
-    void Start(const std::vector<std::string>& options = {});
+    void start(const std::vector<std::string>& options = {});
     /// Ends it by its window, and waits.
-    void Close();
+    void close();
 
     /// Ends it as a crash would.
-    void Kill() const { process_->Kill(); }
+    void kill() const { process_->kill(); }
 
-    HWND Window() const;
+    HWND window() const;
 
     /// The session itself, for what other programs than ours do with it.
-    ComPtr<IDispatch> Application() const { return SessionOfProcess(process_->Id()); }
+    ComPtr<IDispatch> application() const { return sessionOfProcess(process_->id()); }
 
     /// Every call received so far, as the journal tells it.
-    std::vector<std::string> Calls() const;
+    std::vector<std::string> calls() const;
 
  private:
-    std::filesystem::path Journal() const { return sandbox_.Directory() / "journal.txt"; }
+    std::filesystem::path journal() const { return sandbox_.directory() / "journal.txt"; }
 
     const Sandbox& sandbox_;
     std::unique_ptr<Process> process_;

@@ -2,8 +2,8 @@
 
 namespace driver {
 
-void WaitFor(const std::string& what, const std::function<bool()>& condition) {
-    if (!Eventually<bool>(true, condition)) throw TimedOut("waited in vain for " + what);
+void waitFor(const std::string& what, const std::function<bool()>& condition) {
+    if (!eventually<bool>(true, condition)) throw TimedOut("waited in vain for " + what);
 }
 
 }  // namespace driver

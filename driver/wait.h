@@ -18,11 +18,11 @@ class TimedOut : public std::runtime_error {
 };
 
 /// Polls `condition` until it holds; throws TimedOut naming `what` was waited for.
-void WaitFor(const std::string& what, const std::function<bool()>& condition);
+void waitFor(const std::string& what, const std::function<bool()>& condition);
 
 /// Polls `read` until it gives `expected`; returns what it gave last, for the test to compare.
 template <class Value>
-Value Eventually(const Value& expected, const std::function<Value()>& read) {
+Value eventually(const Value& expected, const std::function<Value()>& read) {
     const ULONGLONG end = GetTickCount64() + kPatience;
     for (;;) {
         Value value = read();

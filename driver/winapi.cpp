@@ -24,9 +24,9 @@ BOOL CALLBACK Add(HWND window, LPARAM parameter) {
     return TRUE;
 }
 
-std::string DescribeOne(HWND window) {
-    std::string line = ClassOf(window) + " " + std::to_string(GetDlgCtrlID(window)) + " \"" +
-                       TextOf(window) + "\"";
+std::string describeOne(HWND window) {
+    std::string line = classOf(window) + " " + std::to_string(GetDlgCtrlID(window)) + " \"" +
+                       textOf(window) + "\"";
     if (!IsWindowVisible(window)) line += " hidden";
     if (!IsWindowEnabled(window)) line += " disabled";
     return line + "\n";
@@ -34,38 +34,38 @@ std::string DescribeOne(HWND window) {
 
 }  // namespace
 
-std::vector<HWND> TopLevelWindows(DWORD processId) {
+std::vector<HWND> topLevelWindows(DWORD processId) {
     Search search{processId, {}};
     EnumWindows(AddIfOfProcess, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }
 
-std::vector<HWND> Descendants(HWND window) {
+std::vector<HWND> descendants(HWND window) {
     std::vector<HWND> found;
     EnumChildWindows(window, Add, reinterpret_cast<LPARAM>(&found));
     return found;
 }
 
-HWND Descendant(HWND window, int id) {
-    for (HWND child : Descendants(window))
+HWND descendant(HWND window, int id) {
+    for (HWND child : descendants(window))
         if (GetDlgCtrlID(child) == id) return child;
     return nullptr;
 }
 
-std::string ClassOf(HWND window) {
+std::string classOf(HWND window) {
     wchar_t name[256] = {};
-    return Utf8({name, static_cast<size_t>(GetClassNameW(window, name, 256))});
+    return utf8({name, static_cast<size_t>(GetClassNameW(window, name, 256))});
 }
 
-std::string TextOf(HWND window) {
-    std::wstring text(static_cast<size_t>(Send(window, WM_GETTEXTLENGTH)) + 1, L'\0');
+std::string textOf(HWND window) {
+    std::wstring text(static_cast<size_t>(send(window, WM_GETTEXTLENGTH)) + 1, L'\0');
     const LRESULT length =
-        Send(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+        send(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
     text.resize(static_cast<size_t>(length));
-    return Utf8(text);
+    return utf8(text);
 }
 
-LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DWORD_PTR result = 0;
     if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kPatience, &result) &&
         IsWindow(window))
@@ -73,60 +73,60 @@ LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     return static_cast<LRESULT>(result);
 }
 
-void Post(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+void post(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (!PostMessageW(window, message, wParam, lParam))
         throw std::runtime_error("message " + std::to_string(message) + " could not be posted");
 }
 
-RECT PlaceOf(HWND window) {
+RECT placeOf(HWND window) {
     RECT place{};
     GetWindowRect(window, &place);
     return place;
 }
 
-void MoveTo(HWND window, int left, int top) {
+void moveTo(HWND window, int left, int top) {
     SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-std::vector<std::string> ListLines(HWND list) {
+std::vector<std::string> listLines(HWND list) {
     std::vector<std::string> lines;
-    const LRESULT count = Send(list, LB_GETCOUNT);
+    const LRESULT count = send(list, LB_GETCOUNT);
     for (WPARAM i = 0; i < static_cast<WPARAM>(count); ++i) {
-        const LRESULT length = Send(list, LB_GETTEXTLEN, i);
+        const LRESULT length = send(list, LB_GETTEXTLEN, i);
         if (length < 0) break;             // the list shrank meanwhile
         constexpr size_t kLongest = 4096;  // another line may stand there by now
         std::wstring line(static_cast<size_t>(length) + kLongest, L'\0');
-        Send(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(line.data()));
-        lines.push_back(Utf8(line.c_str()));
+        send(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(line.data()));
+        lines.push_back(utf8(line.c_str()));
     }
     return lines;
 }
 
-std::vector<int> SelectedLines(HWND list) {
+std::vector<int> selectedLines(HWND list) {
     std::vector<int> lines;
-    const LRESULT count = Send(list, LB_GETCOUNT);
+    const LRESULT count = send(list, LB_GETCOUNT);
     for (int i = 0; i < count; ++i)
-        if (Send(list, LB_GETSEL, static_cast<WPARAM>(i)) > 0) lines.push_back(i);
+        if (send(list, LB_GETSEL, static_cast<WPARAM>(i)) > 0) lines.push_back(i);
     return lines;
 }
 
-void SelectLines(HWND list, const std::vector<int>& lines) {
+void selectLines(HWND list, const std::vector<int>& lines) {
     if (GetWindowLongW(list, GWL_STYLE) & LBS_EXTENDEDSEL) {
-        Send(list, LB_SETSEL, FALSE, -1);
-        for (int line : lines) Send(list, LB_SETSEL, TRUE, line);
+        send(list, LB_SETSEL, FALSE, -1);
+        for (int line : lines) send(list, LB_SETSEL, TRUE, line);
     } else {
-        Send(list, LB_SETCURSEL, static_cast<WPARAM>(lines.empty() ? -1 : lines.back()));
+        send(list, LB_SETCURSEL, static_cast<WPARAM>(lines.empty() ? -1 : lines.back()));
     }
-    Post(GetParent(list), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), LBN_SELCHANGE),
+    post(GetParent(list), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), LBN_SELCHANGE),
          reinterpret_cast<LPARAM>(list));
 }
 
-std::string Describe(HWND window) {
-    std::string text = DescribeOne(window);
-    for (HWND child : Descendants(window)) {
-        text += "  " + DescribeOne(child);
-        if (ClassOf(child) != "ListBox") continue;
-        for (const std::string& line : ListLines(child)) text += "    | " + line + "\n";
+std::string describe(HWND window) {
+    std::string text = describeOne(window);
+    for (HWND child : descendants(window)) {
+        text += "  " + describeOne(child);
+        if (classOf(child) != "ListBox") continue;
+        for (const std::string& line : listLines(child)) text += "    | " + line + "\n";
     }
     return text;
 }

@@ -8,43 +8,43 @@
 namespace driver {
 
 /// All top-level windows of a process, hidden ones included.
-std::vector<HWND> TopLevelWindows(DWORD processId);
+std::vector<HWND> topLevelWindows(DWORD processId);
 
 /// The window's descendants at any depth, parents first.
-std::vector<HWND> Descendants(HWND window);
+std::vector<HWND> descendants(HWND window);
 
 /// The descendant with this control id, or null.
-HWND Descendant(HWND window, int id);
+HWND descendant(HWND window, int id);
 
-std::string ClassOf(HWND window);
+std::string classOf(HWND window);
 
 /// The text as the window itself answers it (works for controls of other processes).
-std::string TextOf(HWND window);
+std::string textOf(HWND window);
 
 /// Sends a message; throws if the other process does not answer in time. A window that has gone
 /// meanwhile answers 0.
-LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+LRESULT send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 /// Posts a message and does not wait: what it starts may open a modal box.
-void Post(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+void post(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 /// Where a window stands on the screen.
-RECT PlaceOf(HWND window);
+RECT placeOf(HWND window);
 
 /// Moves a window's top left corner.
-void MoveTo(HWND window, int left, int top);
+void moveTo(HWND window, int left, int top);
 
 /// The lines of a list box of another process.
-std::vector<std::string> ListLines(HWND list);
+std::vector<std::string> listLines(HWND list);
 
 /// The indices of the selected lines of a list box, ascending.
-std::vector<int> SelectedLines(HWND list);
+std::vector<int> selectedLines(HWND list);
 
 /// Selects exactly these lines of a list box (one at most if it allows no more), and tells its
 /// parent.
-void SelectLines(HWND list, const std::vector<int>& lines);
+void selectLines(HWND list, const std::vector<int>& lines);
 
 /// A readable picture of a window and all that is in it, for the report of a failed test.
-std::string Describe(HWND window);
+std::string describe(HWND window);
 
 }  // namespace driver

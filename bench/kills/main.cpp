@@ -28,11 +28,11 @@ const std::string kMarked = "Documents marqués depuis : ";
 
 class Kills {
  public:
-    void Run(int kills) {
+    void run(int kills) {
         for (int kill = 0; kill < kills; ++kill) {
-            if (kill % kKillsAList == 0) BeginAnew();
-            Start();
-            WorkAndKill();
+            if (kill % kKillsAList == 0) beginAnew();
+            start();
+            workAndKill();
         }
     }
 
@@ -40,55 +40,55 @@ class Kills {
     int failedStarts = 0;
 
  private:
-    void BeginAnew() {
-        if (begun_) cad_.Close();
+    void beginAnew() {
+        if (begun_) cad_.close();
         begun_ = true;
         std::string list;
         for (int i = 0; i < kDocuments; ++i) {
-            list += "0  " + sandbox_.AddDocument(std::to_string(i) + ".SLDPRT") + "\r\n";
+            list += "0  " + sandbox_.addDocument(std::to_string(i) + ".SLDPRT") + "\r\n";
         }
-        sandbox_.WriteList(list);
-        cad_.Start({"--hidden"});
+        sandbox_.writeList(list);
+        cad_.start({"--hidden"});
         seen_ = marks_ = 0;
     }
 
     /// Starts the program on the list, takes over the marks that it offers, and counts them.
-    void Start() {
-        app_.Start();
-        app_.Click(IDC_FORM2_CMDOK);
+    void start() {
+        app_.start();
+        app_.click(IDC_FORM2_CMDOK);
         size_t offered = 0;
         constexpr size_t kCallsAtStart = 3;
-        WaitFor("a box or the first document", [&] {
-            return app_.ShowsBox() || cad_.Calls().size() > seen_ + kCallsAtStart ||
-                   !app_.Running();
+        waitFor("a box or the first document", [&] {
+            return app_.showsBox() || cad_.calls().size() > seen_ + kCallsAtStart ||
+                   !app_.running();
         });
-        while (app_.ShowsBox()) {
-            const std::string text = app_.Box().Text();
+        while (app_.showsBox()) {
+            const std::string text = app_.box().text();
             if (const auto at = text.find(kMarked); at != std::string::npos) {
                 offered = std::stoul(text.substr(at + kMarked.size()));
             }
-            app_.Box().Answer(IDYES);
+            app_.box().answer(IDYES);
             Sleep(30);
         }
-        failedStarts += !app_.Running();
+        failedStarts += !app_.running();
         if (offered < marks_) lost += static_cast<int>(marks_ - offered);
         marks_ = offered;
     }
 
-    void WorkAndKill() {
-        HWND button = app_.Control(IDC_FORM3_CMDSUIV);
+    void workAndKill() {
+        HWND button = app_.control(IDC_FORM3_CMDSUIV);
         const ULONGLONG end = GetTickCount64() + random_() % 400;
         while (GetTickCount64() < end) {
-            Post(button, BM_CLICK);
+            post(button, BM_CLICK);
             Sleep(static_cast<DWORD>(random_() % 25));
         }
-        app_.Kill();
-        marks_ += NewMarks();
+        app_.kill();
+        marks_ += newMarks();
     }
 
     /// A document that was closed before the next one was asked for has been marked in between.
-    size_t NewMarks() {
-        const auto calls = cad_.Calls();
+    size_t newMarks() {
+        const auto calls = cad_.calls();
         size_t marks = 0;
         for (size_t i = seen_; i + 1 < calls.size(); ++i) {
             marks += calls[i].find("closedoc") == 0 && calls[i + 1].find("OpenDoc6") == 0;
@@ -113,7 +113,7 @@ class Kills {
 int main(int count, char** arguments) {
     const int kills = count > 1 ? std::atoi(arguments[1]) : 20;
     driver::Kills run;
-    run.Run(kills);
+    run.run(kills);
     std::cout << kills << " kills: " << run.lost << " marks lost, " << run.failedStarts
               << " starts failed\n";
     return run.lost + run.failedStarts > 0 ? 1 : 0;

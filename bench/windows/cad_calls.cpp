@@ -78,8 +78,8 @@ class BareDocument {
 Row cadCalls(const Setting& setting) {
     const driver::Sandbox sandbox;
     driver::TrialCad trial(sandbox);
-    trial.Start({"--hidden"});
-    const std::wstring path = driver::Wide(sandbox.AddDocument("piece.SLDPRT"));
+    trial.start({"--hidden"});
+    const std::wstring path = driver::wide(sandbox.addDocument("piece.SLDPRT"));
 
     BareDocument bare(path);
     const InputSieve sieve;

@@ -22,10 +22,10 @@ using driver::Process;
 using driver::Sandbox;
 namespace fs = std::filesystem;
 
-fs::path floorProgram() { return Sandbox::BuiltPrograms() / "bench-floor.exe"; }
+fs::path floorProgram() { return Sandbox::builtPrograms() / "bench-floor.exe"; }
 
 bool showsWindow(const Process& process) {
-    for (HWND window : driver::TopLevelWindows(process.Id())) {
+    for (HWND window : driver::topLevelWindows(process.id())) {
         if (IsWindowVisible(window)) return true;
     }
     return false;
@@ -33,7 +33,7 @@ bool showsWindow(const Process& process) {
 
 void waitForWindow(const Process& process) {
     while (!showsWindow(process)) {
-        require(process.Running(), "a program that shows a window");
+        require(process.running(), "a program that shows a window");
         Sleep(1);
     }
 }
@@ -59,32 +59,32 @@ double privateBytes(DWORD processId) {
 double floorMemory(const fs::path& lines) {
     const Process process(floorProgram(), {lines.wstring()}, lines.parent_path());
     waitForWindow(process);
-    return privateBytes(process.Id());
+    return privateBytes(process.id());
 }
 
 /// A list file whose first line is a document that exists, and its lines as the window shows them.
 void writeList(const Sandbox& sandbox, int count, const fs::path& linesFile) {
     std::vector<std::wstring> paths = samplePaths(count);
-    paths.front() = driver::Wide(sandbox.AddDocument("piece.SLDPRT"));
+    paths.front() = driver::wide(sandbox.addDocument("piece.SLDPRT"));
     std::string text;
     std::wstring lines;
     for (const std::wstring& path : paths) {
         appendFreshLine(text, path);
         lines += displayLine(0, label::kToDo, path, 0) + L"\n";
     }
-    sandbox.WriteList(text);
-    driver::WriteFileBytes(
+    sandbox.writeList(text);
+    driver::writeFileBytes(
         linesFile, {reinterpret_cast<const char*>(lines.data()), lines.size() * sizeof(wchar_t)});
 }
 
 double programMemory(const Sandbox& sandbox) {
     driver::AppDriver app(sandbox);
-    app.Start();
-    app.Click(IDC_FORM2_CMDOK);
-    app.WaitForText(IDC_FORM3_TXTETAT,
-                    driver::Utf8((sandbox.Documents() / "piece.SLDPRT").wstring()));
+    app.start();
+    app.click(IDC_FORM2_CMDOK);
+    app.waitForText(IDC_FORM3_TXTETAT,
+                    driver::utf8((sandbox.documents() / "piece.SLDPRT").wstring()));
     DWORD id = 0;
-    GetWindowThreadProcessId(app.Window("Tarnwick - suivi du travail -"), &id);
+    GetWindowThreadProcessId(app.window("Tarnwick - suivi du travail -"), &id);
     return privateBytes(id);
 }
 
@@ -98,10 +98,10 @@ Row start(const Setting& setting) {
     const Sandbox sandbox;
     const driver::Settings settings;
     driver::TrialCad trial(sandbox);
-    trial.Start({"--hidden"});
+    trial.start({"--hidden"});
     const Comparison compared = compareTimes(
         setting.rounds, [] { return startTime(floorProgram()); },
-        [&] { return startTime(sandbox.Program()); });
+        [&] { return startTime(sandbox.program()); });
     return {.work = "start to the first window shown",
             .floor = "bare dialog, list and 12 buttons",
             .ratios = {{0, compared.ratio}},
@@ -113,7 +113,7 @@ Row start(const Setting& setting) {
 
 Row programSize(const Setting&) {
     const auto floor = static_cast<double>(fs::file_size(floorProgram()));
-    const auto size = static_cast<double>(fs::file_size(Sandbox::BuiltPrograms() / "tarnwick.exe"));
+    const auto size = static_cast<double>(fs::file_size(Sandbox::builtPrograms() / "tarnwick.exe"));
     return {.work = "size of tarnwick.exe",
             .floor = "bare dialog, list and 12 buttons",
             .ratios = {{0, size / floor}},
@@ -132,8 +132,8 @@ Row memoryInUse(const Setting& setting) {
     const Sandbox sandbox;
     const driver::Settings settings;
     driver::TrialCad trial(sandbox);
-    trial.Start({"--hidden"});
-    const fs::path lines = sandbox.Directory() / "lines.txt";
+    trial.start({"--hidden"});
+    const fs::path lines = sandbox.directory() / "lines.txt";
     const Rounds few{.least = 1, .most = 1, .enoughMilliseconds = 0};
     for (const int size : setting.sizes) {
         writeList(sandbox, size, lines);

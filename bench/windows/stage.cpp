@@ -16,8 +16,8 @@ Stage::Stage(const std::wstring& workingDirectory, const std::wstring& list)
 }
 
 HWND controlOf(int id) {
-    for (HWND window : driver::TopLevelWindows(GetCurrentProcessId())) {
-        if (HWND control = driver::Descendant(window, id)) return control;
+    for (HWND window : driver::topLevelWindows(GetCurrentProcessId())) {
+        if (HWND control = driver::descendant(window, id)) return control;
     }
     require(false, "a control of the program");
     return nullptr;

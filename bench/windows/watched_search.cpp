@@ -19,15 +19,15 @@ namespace {
 class SearchingProgram {
  public:
     explicit SearchingProgram(const std::filesystem::path& tree) {
-        trial_.Start({"--hidden", "--working-directory", driver::Utf8(tree.wstring())});
-        app_.Start();
-        app_.Window("Mervale 2002 - Tarnwick");
-        app_.Choose(IDC_FORM1_TYPEF, "*.SLDPRT ; *.SLDASM ; *.SLDDRW");
-        list_ = app_.Control(IDC_FORM1_LIST1);
+        trial_.start({"--hidden", "--working-directory", driver::utf8(tree.wstring())});
+        app_.start();
+        app_.window("Mervale 2002 - Tarnwick");
+        app_.choose(IDC_FORM1_TYPEF, "*.SLDPRT ; *.SLDASM ; *.SLDDRW");
+        list_ = app_.control(IDC_FORM1_LIST1);
     }
 
     /// Has it search, or not, with sub-directories.
-    void toggle() const { app_.Click(IDC_FORM1_SOUSREP); }
+    void toggle() const { app_.click(IDC_FORM1_SOUSREP); }
     int found() const { return static_cast<int>(SendMessageW(list_, LB_GETCOUNT, 0, 0)); }
     void answer() const { SendMessageW(GetAncestor(list_, GA_ROOT), WM_NULL, 0, 0); }
 
@@ -35,9 +35,9 @@ class SearchingProgram {
     double stop(int all) const {
         const double time = timed({[&] {
             PostMessageW(list_, WM_KEYDOWN, VK_ESCAPE, 1);
-            while (!app_.ShowsBox() && found() != all) Sleep(1);
+            while (!app_.showsBox() && found() != all) Sleep(1);
         }});
-        if (app_.ShowsBox()) app_.Box().Answer(IDOK);
+        if (app_.showsBox()) app_.box().answer(IDOK);
         return time;
     }
 

@@ -7,110 +7,110 @@ namespace {
 
 struct Hold : Scenario {
     Hold() {
-        WriteListOf({"a.SLDPRT", "b.SLDPRT"});
-        cad.Start();
+        writeListOf({"a.SLDPRT", "b.SLDPRT"});
+        cad.start();
     }
 
-    std::string InDirectory(const char* name) const {
-        return Utf8((sandbox.Directory() / Wide(name)).wstring());
+    std::string inDirectory(const char* name) const {
+        return utf8((sandbox.directory() / wide(name)).wstring());
     }
-    bool Held(const char* name) const {
-        return ReadFileBytes(sandbox.Directory() / Wide(name)).has_value();
+    bool held(const char* name) const {
+        return readFileBytes(sandbox.directory() / wide(name)).has_value();
     }
 
     /// A second start that finds the list open ends at once.
-    void ExpectSecondStartEnds(const std::string& list = ".\\Documents\\..\\TARNWICK.LST") {
-        other.Start({list});
-        EXPECT_EQ(other.WaitForExit(), 0);
+    void expectSecondStartEnds(const std::string& list = ".\\Documents\\..\\TARNWICK.LST") {
+        other.start({list});
+        EXPECT_EQ(other.waitForExit(), 0);
     }
 
     AppDriver other{sandbox};
 };
 
 TEST_F(Hold, SecondStartBringsTheFirstForward) {
-    app.Start();
-    HWND prompt = app.Window(kPrompt);
+    app.start();
+    HWND prompt = app.window(kPrompt);
     ShowWindow(prompt, SW_MINIMIZE);
-    BringForward(cad.Window());
-    ExpectSecondStartEnds();
-    WaitFor("the window in front", [&] { return GetForegroundWindow() == prompt; });
+    bringForward(cad.window());
+    expectSecondStartEnds();
+    waitFor("the window in front", [&] { return GetForegroundWindow() == prompt; });
     EXPECT_FALSE(IsIconic(prompt));
-    ExpectCalls(calls::AtStartUp());
+    expectCalls(calls::atStartUp());
 
-    std::filesystem::remove(sandbox.ListFile());
-    app.Click(IDC_FORM2_CMDOK);
-    app.Box();
-    BringForward(cad.Window());
-    ExpectSecondStartEnds();
-    WaitFor("the box in front", [] { return ClassOf(GetForegroundWindow()) == "#32770"; });
-    ExpectFatalError(53);
-    EXPECT_EQ(cad.Calls(), calls::AtStartUp());
+    std::filesystem::remove(sandbox.listFile());
+    app.click(IDC_FORM2_CMDOK);
+    app.box();
+    bringForward(cad.window());
+    expectSecondStartEnds();
+    waitFor("the box in front", [] { return classOf(GetForegroundWindow()) == "#32770"; });
+    expectFatalError(53);
+    EXPECT_EQ(cad.calls(), calls::atStartUp());
 }
 
 TEST_F(Hold, OneOfTwoStartsAtTheSameMomentGetsTheList) {
-    const auto ends = [&](const AppDriver& one) { return !one.Running(); };
+    const auto ends = [&](const AppDriver& one) { return !one.running(); };
     for (int i = 0; i < 5; ++i) {
-        app.Start();
-        other.Start();
-        WaitFor("one of two to end", [&] { return ends(app) || ends(other); });
+        app.start();
+        other.start();
+        waitFor("one of two to end", [&] { return ends(app) || ends(other); });
         AppDriver& ended = ends(app) ? app : other;
         AppDriver& stays = ends(app) ? other : app;
-        EXPECT_EQ(ended.WaitForExit(), 0);
-        stays.Window(kPrompt);
-        EXPECT_TRUE(Held("tarnwick.verrou"));
+        EXPECT_EQ(ended.waitForExit(), 0);
+        stays.window(kPrompt);
+        EXPECT_TRUE(held("tarnwick.verrou"));
         // Whatever ends a program, its hold goes with it.
-        stays.Kill();
-        EXPECT_FALSE(Held("tarnwick.verrou"));
+        stays.kill();
+        EXPECT_FALSE(held("tarnwick.verrou"));
     }
 }
 
 TEST_F(Hold, ListsOfTheirOwnAreOpenSideBySide) {
-    const std::string summer = InDirectory("Été 2026.lst");
-    WriteFileBytes(Wide(summer), ListOf({"0", "0"}));
-    app.Start();
-    EXPECT_EQ(app.TextOf(IDC_FORM2_LABEL1), "Un fichier LISTE  existe déja");
-    app.Click(IDC_FORM2_CMDANNULE);
-    app.Window(kSelection);
-    other.Start({"Été 2026.lst"});
-    other.Click(IDC_FORM2_CMDOK);
-    other.WaitForText(IDC_FORM3_TXTETAT, paths[0]);
-    EXPECT_TRUE(app.Running() && Held("tarnwick.verrou") && Held("Été 2026.verrou"));
-    other.Click(IDC_FORM3_CMDFICHIERLISTE);
-    WaitFor("the other list to be saved",
-            [&] { return ReadFileBytes(Wide(summer))->starts_with("3"); });
-    ExpectList(ListOf({"0", "0"}));
-    ExpectEnd(kSelection);
-    EXPECT_TRUE(!Held("tarnwick.verrou") && Held("Été 2026.verrou"));
+    const std::string summer = inDirectory("Été 2026.lst");
+    writeFileBytes(wide(summer), listOf({"0", "0"}));
+    app.start();
+    EXPECT_EQ(app.textOf(IDC_FORM2_LABEL1), "Un fichier LISTE  existe déja");
+    app.click(IDC_FORM2_CMDANNULE);
+    app.window(kSelection);
+    other.start({"Été 2026.lst"});
+    other.click(IDC_FORM2_CMDOK);
+    other.waitForText(IDC_FORM3_TXTETAT, paths[0]);
+    EXPECT_TRUE(app.running() && held("tarnwick.verrou") && held("Été 2026.verrou"));
+    other.click(IDC_FORM3_CMDFICHIERLISTE);
+    waitFor("the other list to be saved",
+            [&] { return readFileBytes(wide(summer))->starts_with("3"); });
+    expectList(listOf({"0", "0"}));
+    expectEnd(kSelection);
+    EXPECT_TRUE(!held("tarnwick.verrou") && held("Été 2026.verrou"));
 }
 
 TEST_F(Hold, ListOpenOnAnotherMachineIsLeftAlone) {
-    const std::wstring file = Wide(InDirectory("tarnwick.verrou"));
+    const std::wstring file = wide(inDirectory("tarnwick.verrou"));
     HANDLE held = CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                               CREATE_ALWAYS, FILE_ATTRIBUTE_HIDDEN, nullptr);
     ASSERT_NE(held, INVALID_HANDLE_VALUE);
     const std::string names = "zoé\r\nPC-12\r\n";
     DWORD written = 0;
     WriteFile(held, names.data(), static_cast<DWORD>(names.size()), &written, nullptr);
-    app.Start();
-    const std::string text = ExpectFatalError(70);
-    EXPECT_TRUE(text.ends_with("La liste " + InDirectory("tarnwick.lst") +
+    app.start();
+    const std::string text = expectFatalError(70);
+    EXPECT_TRUE(text.ends_with("La liste " + inDirectory("tarnwick.lst") +
                                " est déjà ouverte par zoé sur PC-12."))
         << text;
-    EXPECT_EQ(cad.Calls(), calls::Calls{});
+    EXPECT_EQ(cad.calls(), calls::Calls{});
     // The file stays, as after a power cut; nobody has it any more.
     CloseHandle(held);
-    app.Start();
-    app.Window(kPrompt);
+    app.start();
+    app.window(kPrompt);
 }
 
 TEST_F(Hold, ListWhereNothingCanBeWrittenIsOpenAllTheSame) {
     const char* nobodyWrites = "Z:\\sys\\kernel";
     if (!std::filesystem::exists(nobodyWrites)) GTEST_SKIP() << "no such directory is known here";
     const std::string unwritable = std::string(nobodyWrites) + "\\liste.lst";
-    app.Start({unwritable});
-    app.Window(kSelection);
-    ExpectSecondStartEnds(unwritable);
-    EXPECT_TRUE(app.Running());
+    app.start({unwritable});
+    app.window(kSelection);
+    expectSecondStartEnds(unwritable);
+    EXPECT_TRUE(app.running());
 }
 
 }  // namespace

@@ -6,65 +6,65 @@ namespace {
 
 struct KeptMarks : Scenario {
     /// Starts again, says OUI, and says it again when so many marks are offered.
-    void Resume(int count) {
-        StartAndResume();
-        const ModalBox box = app.Box();
-        EXPECT_EQ(box.Title(), "Tarnwick");
-        EXPECT_EQ(box.Text(),
+    void resume(int count) {
+        startAndResume();
+        const ModalBox box = app.box();
+        EXPECT_EQ(box.title(), "Tarnwick");
+        EXPECT_EQ(box.text(),
                   "Le passage précédent s'est arrêté avant l'enregistrement de la liste."
                   "\r\nDocuments marqués depuis : " +
                       std::to_string(count) + "\r\nRetrouver ces marques ?");
-        EXPECT_EQ(box.Buttons(), (std::vector{IDYES, IDNO}));
-        EXPECT_EQ(box.DefaultButton(), IDYES);
-        box.Answer(IDYES);
+        EXPECT_EQ(box.buttons(), (std::vector{IDYES, IDNO}));
+        EXPECT_EQ(box.defaultButton(), IDYES);
+        box.answer(IDYES);
     }
 
-    void ExpectInFatalError(const std::string& words) {
-        const std::string text = ExpectFatalError(440);
+    void expectInFatalError(const std::string& words) {
+        const std::string text = expectFatalError(440);
         EXPECT_NE(text.find(words), std::string::npos) << text;
     }
 
     /// Waits until the document is open and the command that opened it has ended.
-    void WaitUntilOpen(const std::string& path) const {
-        app.WaitForText(IDC_FORM3_TXTETAT, path);
-        app.Click(IDC_FORM3_CMDDESELECT);
-        WaitFor("the next command", [this] { return app.Selected(IDC_FORM3_LIST1).empty(); });
+    void waitUntilOpen(const std::string& path) const {
+        app.waitForText(IDC_FORM3_TXTETAT, path);
+        app.click(IDC_FORM3_CMDDESELECT);
+        waitFor("the next command", [this] { return app.selected(IDC_FORM3_LIST1).empty(); });
     }
 };
 
 TEST_F(KeptMarks, AreOfferedAfterAKillAndAfterTheSessionDied) {
-    WriteListOf({"a.SLDPRT", "b.SLDPRT", "c.SLDPRT", "d.SLDPRT"});
-    cad.Start();
-    StartAndResume();
-    app.Click(IDC_FORM3_CMDSUIV);
-    WaitUntilOpen(paths[1]);
+    writeListOf({"a.SLDPRT", "b.SLDPRT", "c.SLDPRT", "d.SLDPRT"});
+    cad.start();
+    startAndResume();
+    app.click(IDC_FORM3_CMDSUIV);
+    waitUntilOpen(paths[1]);
     // As the Explorer would: nobody takes the record away while marks are added to it.
-    const auto record = sandbox.Directory() / "tarnwick.reprise";
+    const auto record = sandbox.directory() / "tarnwick.reprise";
     std::error_code refused;
     EXPECT_FALSE(std::filesystem::remove(record, refused));
-    std::filesystem::rename(record, sandbox.Directory() / "autre", refused);
+    std::filesystem::rename(record, sandbox.directory() / "autre", refused);
     EXPECT_TRUE(refused);
-    app.Kill();
-    EXPECT_EQ(sandbox.ReadList(), ListOf({"0", "0", "0", "0"}));
+    app.kill();
+    EXPECT_EQ(sandbox.readList(), listOf({"0", "0", "0", "0"}));
 
-    Resume(1);
-    app.WaitForText(IDC_FORM3_TXTETAT, paths[1]);
-    ExpectLines(IDC_FORM3_LIST1, {"0001  " + kDone + paths[0], "0002  " + kInProgress + paths[1],
+    resume(1);
+    app.waitForText(IDC_FORM3_TXTETAT, paths[1]);
+    expectLines(IDC_FORM3_LIST1, {"0001  " + kDone + paths[0], "0002  " + kInProgress + paths[1],
                                   "0003  " + kToDo + paths[2], "0004  " + kToDo + paths[3]});
-    app.Click(IDC_FORM3_CMDSUIVQUITTER);
-    WaitUntilOpen(paths[2]);
-    cad.Kill();
-    app.Click(IDC_FORM3_CMDSUIV);
-    ExpectInFatalError("Document : " + paths[2] + "\r\nLes marques");
+    app.click(IDC_FORM3_CMDSUIVQUITTER);
+    waitUntilOpen(paths[2]);
+    cad.kill();
+    app.click(IDC_FORM3_CMDSUIV);
+    expectInFatalError("Document : " + paths[2] + "\r\nLes marques");
 
-    cad.Start({"--fail", "Save2"});
-    Resume(2);
-    app.WaitForText(IDC_FORM3_TXTETAT, paths[2]);
-    app.Click(IDC_FORM3_CMDFICHIERLISTE);
-    ExpectList(ListOf({"1", "2", "3", "0"}));
-    WaitFor("the marks to be forgotten", [&] { return std::filesystem::file_size(record) == 0; });
-    app.Click(IDC_FORM3_CMDSUIV);
-    ExpectInFatalError("Save2");  // the session's own description
+    cad.start({"--fail", "Save2"});
+    resume(2);
+    app.waitForText(IDC_FORM3_TXTETAT, paths[2]);
+    app.click(IDC_FORM3_CMDFICHIERLISTE);
+    expectList(listOf({"1", "2", "3", "0"}));
+    waitFor("the marks to be forgotten", [&] { return std::filesystem::file_size(record) == 0; });
+    app.click(IDC_FORM3_CMDSUIV);
+    expectInFatalError("Save2");  // the session's own description
     EXPECT_FALSE(std::filesystem::exists(record));
 }
 

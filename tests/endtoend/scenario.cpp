@@ -9,73 +9,73 @@ Scenario::Scenario() : cad(sandbox), app(sandbox) {}
 void Scenario::TearDown() {
     if (!HasFailure()) return;
     std::cout << "-- windows\n"
-              << app.Describe() << "-- files\n"
-              << sandbox.Describe() << "-- settings\n"
-              << settings.Describe() << "-- calls received\n";
-    for (const std::string& call : cad.Calls()) std::cout << call << "\n";
+              << app.describe() << "-- files\n"
+              << sandbox.describe() << "-- settings\n"
+              << settings.describe() << "-- calls received\n";
+    for (const std::string& call : cad.calls()) std::cout << call << "\n";
 }
 
-void Scenario::WriteListOf(const std::vector<std::string>& names) {
-    for (const std::string& name : names) paths.push_back(sandbox.AddDocument(name));
-    sandbox.WriteList(ListOf(std::vector<std::string>(paths.size(), "0")));
+void Scenario::writeListOf(const std::vector<std::string>& names) {
+    for (const std::string& name : names) paths.push_back(sandbox.addDocument(name));
+    sandbox.writeList(listOf(std::vector<std::string>(paths.size(), "0")));
 }
 
-std::string Scenario::ListOf(const std::vector<std::string>& codes) const {
+std::string Scenario::listOf(const std::vector<std::string>& codes) const {
     std::string bytes;
-    for (size_t i = 0; i < codes.size(); ++i) bytes += ListLine(codes[i], paths[i]);
+    for (size_t i = 0; i < codes.size(); ++i) bytes += listLine(codes[i], paths[i]);
     return bytes;
 }
 
-void Scenario::StartAndResume() {
-    app.Start();
-    app.Click(IDC_FORM2_CMDOK);
+void Scenario::startAndResume() {
+    app.start();
+    app.click(IDC_FORM2_CMDOK);
 }
 
-void Scenario::StartInDocuments(std::vector<std::string> cadOptions) {
+void Scenario::startInDocuments(std::vector<std::string> cadOptions) {
     cadOptions.insert(cadOptions.end(),
-                      {"--working-directory", Utf8(sandbox.Documents().wstring())});
-    cad.Start(cadOptions);
-    app.Start();
-    app.Window(kSelection);
+                      {"--working-directory", utf8(sandbox.documents().wstring())});
+    cad.start(cadOptions);
+    app.start();
+    app.window(kSelection);
 }
 
-void Scenario::ExpectCalls(const calls::Calls& expected) {
+void Scenario::expectCalls(const calls::Calls& expected) {
     const auto newCalls = [this] {
-        calls::Calls all = cad.Calls();
+        calls::Calls all = cad.calls();
         all.erase(all.begin(),
                   all.begin() + static_cast<std::ptrdiff_t>(std::min(callsSeen_, all.size())));
         return all;
     };
-    EXPECT_EQ(Eventually<calls::Calls>(expected, newCalls), expected);
+    EXPECT_EQ(eventually<calls::Calls>(expected, newCalls), expected);
     callsSeen_ += expected.size();
 }
 
-void Scenario::ExpectList(const std::string& bytes) const {
-    EXPECT_EQ(Eventually<std::string>(bytes, [this] { return sandbox.ReadList().value_or(""); }),
+void Scenario::expectList(const std::string& bytes) const {
+    EXPECT_EQ(eventually<std::string>(bytes, [this] { return sandbox.readList().value_or(""); }),
               bytes);
 }
 
-void Scenario::ExpectLines(int list, const Lines& lines) const {
-    EXPECT_EQ(Eventually<Lines>(lines, [&] { return app.Lines(list); }), lines);
+void Scenario::expectLines(int list, const Lines& lines) const {
+    EXPECT_EQ(eventually<Lines>(lines, [&] { return app.lines(list); }), lines);
 }
 
-void Scenario::ExpectAlone(const char* caption) const {
-    EXPECT_EQ(Eventually<Lines>({caption}, [this] { return app.ShownWindows(); }), Lines{caption});
+void Scenario::expectAlone(const char* caption) const {
+    EXPECT_EQ(eventually<Lines>({caption}, [this] { return app.shownWindows(); }), Lines{caption});
 }
 
-std::string Scenario::ExpectFatalError(int number) {
-    const ModalBox box = app.Box();
-    const std::string text = box.Text();
+std::string Scenario::expectFatalError(int number) {
+    const ModalBox box = app.box();
+    const std::string text = box.text();
     const std::string start = "Erreur d'exécution '" + std::to_string(number) + "' :";
-    EXPECT_EQ(box.Title(), "Tarnwick");
+    EXPECT_EQ(box.title(), "Tarnwick");
     EXPECT_EQ(text.substr(0, start.size()), start);
-    EXPECT_EQ(box.Buttons(), std::vector{IDOK});
-    box.Answer(IDOK);
-    EXPECT_EQ(app.WaitForExit(), number);
+    EXPECT_EQ(box.buttons(), std::vector{IDOK});
+    box.answer(IDOK);
+    EXPECT_EQ(app.waitForExit(), number);
     return text;
 }
 
-std::string ListLine(const std::string& code, const std::string& path) {
+std::string listLine(const std::string& code, const std::string& path) {
     return code + "  " + path + "\r\n";
 }
 

@@ -42,29 +42,29 @@ class Scenario : public testing::Test {
     void TearDown() override;
 
     /// Adds documents to the sandbox and writes a list file of them, all to do.
-    void WriteListOf(const std::vector<std::string>& names);
+    void writeListOf(const std::vector<std::string>& names);
     /// The list file of the documents in `paths`, with a code for each.
-    std::string ListOf(const std::vector<std::string>& codes) const;
+    std::string listOf(const std::vector<std::string>& codes) const;
 
     /// Starts the program on the list file there is and accepts it.
-    void StartAndResume();
+    void startAndResume();
     /// Starts the program where there is no list file, with the CAD session at work here.
-    void StartInDocuments(std::vector<std::string> cadOptions = {});
+    void startInDocuments(std::vector<std::string> cadOptions = {});
 
     /// Waits for the calls that the CAD session receives next, and compares them.
-    void ExpectCalls(const calls::Calls& expected);
+    void expectCalls(const calls::Calls& expected);
     /// Waits until the list file holds these bytes.
-    void ExpectList(const std::string& bytes) const;
+    void expectList(const std::string& bytes) const;
     /// Waits until a list box shows these lines.
-    void ExpectLines(int list, const Lines& lines) const;
+    void expectLines(int list, const Lines& lines) const;
     /// Waits until this is the only window shown.
-    void ExpectAlone(const char* caption) const;
+    void expectAlone(const char* caption) const;
     /// Expects the box of a fatal error and the end of the program; gives the box's text.
-    std::string ExpectFatalError(int number);
+    std::string expectFatalError(int number);
     /// Expects the program to end without a word, closed by its window's frame if one is named.
-    void ExpectEnd(const char* closed = nullptr) const {
-        if (closed) app.CloseByFrame(closed);
-        EXPECT_EQ(app.WaitForExit(), 0);
+    void expectEnd(const char* closed = nullptr) const {
+        if (closed) app.closeByFrame(closed);
+        EXPECT_EQ(app.waitForExit(), 0);
     }
 
     Sandbox sandbox;
@@ -78,7 +78,7 @@ class Scenario : public testing::Test {
 };
 
 /// A line of the list file.
-std::string ListLine(const std::string& code, const std::string& path);
+std::string listLine(const std::string& code, const std::string& path);
 
 }  // namespace driver
 

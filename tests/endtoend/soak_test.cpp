@@ -11,13 +11,13 @@ class Soak : public Scenario {
  protected:
     /// Goes on from one to another one-based line, saving all between; gives what the program holds
     /// there.
-    Resources Advance(int from, int to) {
+    Resources advance(int from, int to) {
         while (from++ < to) {
-            app.Click(IDC_FORM3_CMDSUIV);
-            app.WaitForText(IDC_FORM3_NBFICH1, std::to_string(from));
+            app.click(IDC_FORM3_CMDSUIV);
+            app.waitForText(IDC_FORM3_NBFICH1, std::to_string(from));
         }
-        const Resources held = app.ResourcesInUse();
-        std::cout << held.Describe() << '\n';
+        const Resources held = app.resourcesInUse();
+        std::cout << held.describe() << '\n';
         return held;
     }
 };
@@ -28,14 +28,14 @@ TEST_F(Soak, ResourcesStayFlat) {
     const int count = wanted ? std::atoi(wanted) : 150;
     std::vector<std::string> names;
     for (int i = 0; i < count; ++i) names.push_back("piece " + std::to_string(i) + ".SLDPRT");
-    WriteListOf(names);
-    cad.Start({"--hidden"});
-    StartAndResume();
-    app.WaitForText(IDC_FORM3_NBFICH1, "1");
+    writeListOf(names);
+    cad.start({"--hidden"});
+    startAndResume();
+    app.waitForText(IDC_FORM3_NBFICH1, "1");
 
     const int warm = count > 200 ? 100 : 20;
-    const Resources before = Advance(1, warm);
-    const Resources after = Advance(warm, count);
+    const Resources before = advance(1, warm);
+    const Resources after = advance(warm, count);
     EXPECT_TRUE(before.kernelHandles > 0 && before.gdiObjects > 0);
     EXPECT_LE(after.kernelHandles, before.kernelHandles + 5);
     EXPECT_LE(after.gdiObjects, before.gdiObjects + 5);

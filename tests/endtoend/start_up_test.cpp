@@ -5,19 +5,19 @@ namespace {
 using StartUp = Scenario;
 
 TEST_F(StartUp, WithoutCadSessionShowsOneBoxAndEnds) {
-    WriteListOf({"a.SLDPRT"});
-    app.Start();
-    const ModalBox box = app.Box();
-    EXPECT_EQ(box.Title(), "Tarnwick by Mervale");
-    EXPECT_EQ(box.Text(),
+    writeListOf({"a.SLDPRT"});
+    app.start();
+    const ModalBox box = app.box();
+    EXPECT_EQ(box.title(), "Tarnwick by Mervale");
+    EXPECT_EQ(box.text(),
               " Une session SolidWorks doit être ouverte  \r\n"
               "   pour que Tarnwick puisse démarrer.");
-    EXPECT_EQ(box.Buttons(), std::vector{IDOK});
-    EXPECT_FALSE(box.HasIcon());
-    box.Answer(IDOK);
-    ExpectEnd();
-    EXPECT_EQ(settings.Describe(), "");
-    EXPECT_EQ(sandbox.ReadList(), ListOf({"0"}));
+    EXPECT_EQ(box.buttons(), std::vector{IDOK});
+    EXPECT_FALSE(box.hasIcon());
+    box.answer(IDOK);
+    expectEnd();
+    EXPECT_EQ(settings.describe(), "");
+    EXPECT_EQ(sandbox.readList(), listOf({"0"}));
 }
 
 }  // namespace
