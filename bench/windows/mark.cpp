@@ -47,7 +47,7 @@ Comparison compareMark(const Setting& setting, int count) {
     pass.read(text);
     pass.start();
     MarkKeeper keeper(files, (setting.directory / "mark.lst").wstring(), clock);
-    keeper.begin(ListIdentity(text), pass.list());
+    keeper.begin(ContentIdentity(text), pass.list());
     const BareFile bare((setting.directory / "bare.bin").wstring());
     const auto mark = [&] {
         if (!pass.advance(LineState::Done)) pass.reset([](int) { return true; });

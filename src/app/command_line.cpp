@@ -36,7 +36,7 @@ std::wstring listToWorkOn(const Platform& platform) {
     if (named.empty()) return platform.programDirectory + L"\\tarnwick.lst";
     if (named.size() > 1) throw tooMany(named);
     const std::wstring& list = named.front();
-    if (!namesAList(list) || platform.files.kindOf(list) == PathKind::Directory) {
+    if (!namesAList(list) || platform.files.kindOrNothing(list) == PathKind::Directory) {
         throw RuntimeError{5, L"Un fichier de liste (.lst) était attendu : " + list};
     }
     return list;

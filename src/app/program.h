@@ -28,7 +28,6 @@ class Program : public ExistingListExits, public SelectionExits {
     bool keepsMarks() const { return tracking_ && tracking_->keepsMarks(); }
 
  private:
-    void takeList();
     void attachToCad();
     void showExistingList();
     void showSelection();

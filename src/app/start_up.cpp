@@ -5,41 +5,22 @@
 #include "app/program.h"
 #include "common/runtime_error.h"
 #include "ports/files.h"
-#include "ports/list_holds.h"
 #include "ports/message_boxes.h"
-
-namespace {
-
-RuntimeError heldElsewhere(const std::wstring& list, const ListHolder& holder) {
-    const bool known = !holder.user.empty() && !holder.machine.empty();
-    const std::wstring who = known ? L"par " + holder.user + L" sur " + holder.machine
-                                   : L"par un autre utilisateur ou une autre machine";
-    return {70, L"La liste " + list + L" est déjà ouverte " + who + L"."};
-}
-
-}  // namespace
+#include "session/list_hold.h"
 
 void Program::start() {
-    takeList();
+    files_.list = listToWorkOn(platform_);
+    takeHoldOfList(platform_, files_);
     showAbout();
     places_.readAll();
     attachToCad();
     showAbout();
     cad_.identify();
     fileSystem_.emplace(platform_.automation);
-    if (platform_.files.kindOf(files_.list) == PathKind::File) {
+    if (platform_.files.kindOrNothing(files_.list) == PathKind::File) {
         showExistingList();
     } else {
         showSelection();
-    }
-}
-
-void Program::takeList() {
-    files_.list = listToWorkOn(platform_);
-    const HoldAnswer answer = platform_.listHolds.take(files_.list, files_.holdFile());
-    if (answer.kind == HoldAnswer::Kind::RaisedOther) throw ProgramEnd{};
-    if (answer.kind == HoldAnswer::Kind::HeldElsewhere) {
-        throw heldElsewhere(files_.list, answer.holder);
     }
 }
 

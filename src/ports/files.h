@@ -44,6 +44,10 @@ class Files {
     /// Raises 70, 75 or 76 when it can't be told.
     virtual PathKind kindOf(const std::wstring& path) = 0;
 
+    /// The same, nothing where it can't be told, as the system's own FileExists answers.
+    PathKind kindOrNothing(const std::wstring& path);
+    bool isFile(const std::wstring& path) { return kindOf(path) == PathKind::File; }
+
     /// Keeps a copy of a file, byte for byte. What stood in its place, even a read-only file, is
     /// replaced as by `replace`. Raises 53, 70, 75 or 76.
     virtual void keepCopy(const std::wstring& file, const std::wstring& copy) = 0;

@@ -25,6 +25,10 @@ class MessageBoxes {
 
     /// Shows the box, modal to the whole program, until the user answers.
     virtual Answer show(const MessageBoxContent& box) = 0;
+    /// A box of the program's own with a warning sign.
+    void warn(const std::wstring& text) {
+        show({.text = text, .title = L"Tarnwick", .icon = MessageBoxContent::Icon::Warning});
+    }
 };
 
 /// A button's French caption, whatever the language of the system; nullptr: it keeps its own. A

@@ -8,6 +8,14 @@ namespace {
 // Virus scanners, indexers and backups hold a file for a moment.
 constexpr int kReplacementPauses = 2000 / kReplacementPause;
 
+/// Whether nothing was done because another program has the file open. Windows then speaks of
+/// denied access as often as of sharing (the MoveFileEx function): opening it tells which.
+bool isHeld(const std::wstring& file, std::uint32_t error, ReplacementSteps& steps) {
+    if (error == windows_error::kAccessDenied) error = steps.openAlone(file);
+    // What can be opened now was let go of in the meantime.
+    return error == 0 || error == windows_error::kSharingViolation;
+}
+
 /// The file written beside the old one. Removed unless it took the old one's place.
 class TemporaryFile {
  public:
@@ -27,29 +35,13 @@ class TemporaryFile {
     std::uint32_t moveOver(const std::wstring& target) {
         if (const std::uint32_t error = steps_.flush()) return error;
         steps_.close();
-        const std::uint32_t error = moveWithPatience(target);
+        const std::uint32_t error =
+            withPatience(target, steps_, [&] { return steps_.move(path_, target); });
         stays_ = error != 0;
         return error;
     }
 
  private:
-    std::uint32_t moveWithPatience(const std::wstring& target) {
-        for (int pauses = 0;; ++pauses) {
-            const std::uint32_t error = steps_.move(path_, target);
-            if (error == 0 || !isHeld(target, error)) return error;
-            if (pauses == kReplacementPauses) return windows_error::kSharingViolation;
-            steps_.pause();
-        }
-    }
-
-    /// Whether a file was not replaced because another program has it open. Windows then speaks of
-    /// denied access as often as of sharing (the MoveFileEx function): opening it tells which.
-    bool isHeld(const std::wstring& file, std::uint32_t error) {
-        if (error == windows_error::kAccessDenied) error = steps_.openAlone(file);
-        // What can be opened now was let go of in the meantime.
-        return error == 0 || error == windows_error::kSharingViolation;
-    }
-
     ReplacementSteps& steps_;
     std::wstring path_;
     std::uint32_t created_;
@@ -67,6 +59,16 @@ std::uint32_t openPatiently(const std::function<std::uint32_t()>& open,
                           error == windows_error::kAccessDenied;
         if (!held || pauses == kReplacementPauses) return error;
         pause();
+    }
+}
+
+std::uint32_t withPatience(const std::wstring& path, ReplacementSteps& steps,
+                           const std::function<std::uint32_t()>& deed) {
+    for (int pauses = 0;; ++pauses) {
+        const std::uint32_t error = deed();
+        if (error == 0 || !isHeld(path, error, steps)) return error;
+        if (pauses == kReplacementPauses) return windows_error::kSharingViolation;
+        steps.pause();
     }
 }
 

@@ -27,7 +27,7 @@ class ReplacementSteps {
     virtual std::uint32_t move(const std::wstring& from, const std::wstring& to) = 0;
     /// Opens a file that no other program may have open, and lets go of it.
     virtual std::uint32_t openAlone(const std::wstring& path) = 0;
-    virtual void remove(const std::wstring& path) = 0;
+    virtual std::uint32_t remove(const std::wstring& path) = 0;
 
     /// Lets kReplacementPause pass.
     virtual void pause() = 0;
@@ -42,8 +42,12 @@ inline constexpr int kReplacementPause = 50;  ///< milliseconds
 std::uint32_t openPatiently(const std::function<std::uint32_t()>& open,
                             const std::function<void()>& pause);
 
+/// Does something with a file, again and again for two seconds while another program has the file
+/// open. Returns Windows' error number of the last try.
+std::uint32_t withPatience(const std::wstring& path, ReplacementSteps& steps,
+                           const std::function<std::uint32_t()>& deed);
+
 /// Replaces a file whole: written beside it, flushed, then moved over it, so that at any moment
-/// the path holds all of the old bytes or all of the new. A file that another program has open is
-/// waited for, two seconds long. Raises 70, 75 or 76, or lets through what `write` throws, and then
-/// leaves the old file as it was and nothing beside it.
+/// the path holds all of the old bytes or all of the new. Raises 70, 75 or 76, or lets through what
+/// `write` throws, and then leaves the old file as it was and nothing beside it.
 void replaceFile(const std::wstring& path, const WriteContent& write, ReplacementSteps& steps);

@@ -1,8 +1,10 @@
 #include "rules/hold_protocol.h"
 
 #include <span>
+#include <string_view>
 #include <type_traits>
 
+#include "common/content_identity.h"
 #include "common/letter_case.h"
 #include "common/numbers.h"
 #include "rules/file_error.h"
@@ -21,25 +23,14 @@ bool ownInSession(HoldSteps& steps) {
     return false;
 }
 
-HoldAnswer heldElsewhere(const ListHolder& holder) {
-    return {HoldAnswer::Kind::HeldElsewhere, holder};
+const HoldAnswer kHidden{.hidden = true};
+
+/// The bytes of plain values.
+template <class Value>
+std::string_view bytesOf(std::span<const Value> values) {
+    static_assert(std::has_unique_object_representations_v<Value>);
+    return {reinterpret_cast<const char*>(values.data()), values.size_bytes()};
 }
-
-/// Fowler, Noll and Vo's hash (FNV-1a, 64 bits).
-class Hash {
- public:
-    template <class Value>
-    void add(std::span<const Value> values) {
-        static_assert(std::has_unique_object_representations_v<Value>);
-        for (const std::byte byte : std::as_bytes(values)) {
-            hash_ = (hash_ ^ static_cast<std::uint64_t>(byte)) * 0x100000001B3;
-        }
-    }
-    std::uint64_t value() const { return hash_; }
-
- private:
-    std::uint64_t hash_ = 0xCBF29CE484222325;
-};
 
 }  // namespace
 
@@ -49,7 +40,7 @@ HoldFileState holdFileState(std::uint32_t creating, std::uint32_t looking) {
     if (looking == kSharingViolation) return HoldFileState::Theirs;
     // A file that is about to go denies every access.
     if (creating == kSharingViolation || looking == kAccessDenied) return HoldFileState::Busy;
-    return HoldFileState::Unusable;
+    return looking == 0 ? HoldFileState::Blocked : HoldFileState::Unusable;
 }
 
 HoldAnswer takeHold(HoldSteps& steps, const ListHolder& us) {
@@ -58,9 +49,10 @@ HoldAnswer takeHold(HoldSteps& steps, const ListHolder& us) {
     for (int i = 0; i < kFileTries; ++i) {
         const HoldFileState state = steps.takeFile(us);
         if (state == HoldFileState::Ours || state == HoldFileState::Unusable) return {};
-        answer = {};
+        if (state == HoldFileState::Blocked) return kHidden;
+        answer = kHidden;
         if (state == HoldFileState::Theirs) {
-            answer = heldElsewhere(steps.fileHolder());
+            answer = {HoldAnswer::Kind::HeldElsewhere, steps.fileHolder()};
             // Nobody is named yet in a file that was made a moment ago.
             const bool passing = answer.holder == us || answer.holder == ListHolder();
             if (!passing) break;
@@ -70,12 +62,21 @@ HoldAnswer takeHold(HoldSteps& steps, const ListHolder& us) {
     return answer;
 }
 
+std::optional<ListHolder> HoldRenewal::takeAgain(HoldSteps& steps, const ListHolder& us) {
+    if (steps.hasFile()) return std::nullopt;
+    const HoldFileState state = steps.takeFile(us);
+    if (state == HoldFileState::Ours) told_.reset();
+    if (state != HoldFileState::Theirs) return std::nullopt;
+    const ListHolder holder = steps.fileHolder();
+    if (holder == us || holder == ListHolder() || holder == told_) return std::nullopt;
+    return told_ = holder;
+}
+
 std::wstring holdName(const DirectoryId& directory, const std::wstring& list) {
     const bool directoriesAlike = directory == DirectoryId{directory.volume, {}};
     const std::size_t from = directoriesAlike ? 0 : list.find_last_of(L'\\') + 1;
     const std::wstring name = upperCase(std::wstring_view(list).substr(from));
-    Hash hash;
-    hash.add(std::span(&directory, 1));
-    hash.add(std::span(name));
-    return L"Tarnwick-" + decimal(static_cast<std::int64_t>(hash.value()));
+    ContentIdentity all(bytesOf(std::span<const DirectoryId>(&directory, 1)));
+    all.add(bytesOf(std::span<const wchar_t>(name)));
+    return L"Tarnwick-" + decimal(static_cast<std::int64_t>(all.hash()));
 }

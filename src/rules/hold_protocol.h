@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "ports/files.h"
@@ -11,6 +12,7 @@ enum class HoldFileState {
     Ours,
     Theirs,    ///< another program has it
     Busy,      ///< it is being read or is about to go: to be tried again
+    Blocked,   ///< it stands there, nobody's, and can't be written
     Unusable,  ///< nothing can be written there
 };
 
@@ -34,6 +36,8 @@ class HoldSteps {
     virtual HoldFileState takeFile(const ListHolder& us) = 0;
     /// Who has the file, as far as it says so.
     virtual ListHolder fileHolder() = 0;
+    /// Whether the file that was taken is still there: a server without its client closes it.
+    virtual bool hasFile() = 0;
 
     /// Lets kHoldPause pass.
     virtual void pause() = 0;
@@ -42,8 +46,20 @@ class HoldSteps {
 inline constexpr int kHoldPause = 50;  ///< milliseconds
 
 /// Takes hold of a list. An owner that shows no window is about to show one, or to end: it is given
-/// ten seconds. A file that is ours in another program is given two, for that may just be ending.
+/// ten seconds. A file that is ours in another program is given two, for that may just be ending,
+/// and so is one that is being read.
 HoldAnswer takeHold(HoldSteps& steps, const ListHolder& us);
+
+/// Looks after the file of a hold once that was taken.
+class HoldRenewal {
+ public:
+    /// Takes the file again when it was lost. Who has it instead is returned once; the server may
+    /// have us down as its holder a while longer, which counts as nobody.
+    std::optional<ListHolder> takeAgain(HoldSteps& steps, const ListHolder& us);
+
+ private:
+    std::optional<ListHolder> told_;
+};
 
 /// The name by which programs of one session find each other on a list, whatever path each of them
 /// was given to it.

@@ -1,6 +1,7 @@
 #include "searchfolders/configuration_window.h"
 
 #include "cad/cad_session.h"
+#include "common/utf8.h"
 #include "ports/files.h"
 #include "ports/message_boxes.h"
 #include "ports/platform.h"
@@ -61,7 +62,7 @@ ConfigurationWindow::ConfigurationWindow(Platform& platform, WindowPlaces& place
       places_(places),
       cad_(cad),
       fileSystem_(fileSystem),
-      files_(files),
+      file_{files.configurations, files.othersConfigurations()},
       configurations_(configurations),
       TabStrip1(window_->tabStrip(IDC_FORM4_TABSTRIP1)),
       List1(window_->listBox(IDC_FORM4_LIST1)),
@@ -87,7 +88,7 @@ void ConfigurationWindow::Form_Load() {
     clearFrom(configurations_.rows[0], 0);
     // The folders first: directories before the file's first header are written over them.
     readCurrentFolders();
-    readConfigurations(configurations_, files_.configurations, fileSystem_, platform_.files);
+    file_.known = readConfigurations(configurations_, file_.path, fileSystem_, platform_.files);
     showConfigurations();
 }
 
@@ -140,7 +141,9 @@ void ConfigurationWindow::readCurrentFolders() {
 }
 
 void ConfigurationWindow::CmdEnregister_Click() {
-    platform_.files.replaceText(files_.configurations, formatConfigurationFile(configurations_));
+    std::string text;
+    appendUtf8(text, formatConfigurationFile(configurations_));
+    save(platform_, file_, [&](const ByteSink& file) { file(text); });
 }
 
 void ConfigurationWindow::CmdChoisir_Click() {

@@ -6,6 +6,7 @@
 #include "input/program_window.h"
 #include "pickers/pickers.h"
 #include "searchfolders/configurations.h"
+#include "session/shared_file.h"
 #include "worklist/list_display.h"
 
 class CadSession;
@@ -88,7 +89,7 @@ class ConfigurationWindow : public ProgramWindow<ConfigurationWindow> {
     WindowPlaces& places_;
     CadSession& cad_;
     FileSystemObject& fileSystem_;
-    const ProgramFiles& files_;
+    SharedFile file_;
     Configurations& configurations_;
     bool open_ = true;
 

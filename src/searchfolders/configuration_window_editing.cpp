@@ -44,7 +44,7 @@ MessageBoxContent leftOutBox(const std::vector<std::wstring>& directories) {
 
 void ConfigurationWindow::prepareDirectories() {
     Drive1.fill();
-    Dir1.openOr(files_.directory, files_.directory);
+    Dir1.openOr(platform_.programDirectory, platform_.programDirectory);
     Drive1.setDrive(Dir1.path());
 }
 

@@ -4,6 +4,8 @@
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
+#include "common/text_decoding.h"
+#include "common/utf8.h"
 #include "ports/files.h"
 #include "session/file_system_object.h"
 
@@ -185,11 +187,14 @@ std::wstring formatConfigurationFile(const Configurations& configurations) {
     return text;
 }
 
-void readConfigurations(Configurations& configurations, const std::wstring& file,
-                        FileSystemObject& fileSystem, Files& files) {
+std::optional<ContentIdentity> readConfigurations(Configurations& configurations,
+                                                  const std::wstring& file,
+                                                  FileSystemObject& fileSystem, Files& files) {
     for (int i = 1; i <= kMostConfigurations; ++i) clearFrom(configurations.rows[i], 0);
     configurations.last = 0;
-    if (fileSystem.fileExists(file)) {
-        parseConfigurationFile(files.readText(file), configurations, file);
-    }
+    if (!fileSystem.fileExists(file)) return std::nullopt;
+    std::string bytes = files.readBytes(file);
+    const ContentIdentity identity(bytes);
+    parseConfigurationFile(wideText(textInUtf8(std::move(bytes))), configurations, file);
+    return identity;
 }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "common/checked_table.h"
+#include "common/content_identity.h"
 
 class FileSystemObject;
 class Files;
@@ -15,7 +17,9 @@ inline constexpr int kMostDirectories = 200;
 inline constexpr wchar_t kConfigurationsLimit[] = L"Configurations : 50 au plus.";
 inline constexpr wchar_t kDirectoriesLimit[] = L"Répertoires d'une configuration : 200 au plus.";
 
-/// A configuration: entry 0 its name, entries 1 to 200 its directories. An empty one ends them.
+/// A configuration: entry 0 its name, entries 1 to 200 its directories. An empty one ends them, or
+/// the end of the table: one of 200 is read, shown, edited and saved as any other. Only the CAD
+/// application's search folders can't be 200 (joinFolders).
 using Configuration = CheckedTable<std::wstring, kMostDirectories + 1, kDirectoriesLimit>;
 
 /// The named lists of directories that can become the CAD application's search folders. They
@@ -108,7 +112,8 @@ void parseConfigurationFile(std::wstring_view text, Configurations& configuratio
 /// The text for all named rows but row 0. Empty entries are left out, which closes holes.
 std::wstring formatConfigurationFile(const Configurations& configurations);
 
-/// Clears the rows from 1 on and reads the configuration file, if there is one, into them.
-/// Raises 9, and 70 or 75 when the file can't be read.
-void readConfigurations(Configurations& configurations, const std::wstring& file,
-                        FileSystemObject& fileSystem, Files& files);
+/// Clears the rows from 1 on and reads the configuration file into them; nothing when there is
+/// none. Raises 9, and 70 or 75 when the file can't be read.
+std::optional<ContentIdentity> readConfigurations(Configurations& configurations,
+                                                  const std::wstring& file,
+                                                  FileSystemObject& fileSystem, Files& files);

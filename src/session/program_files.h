@@ -12,11 +12,17 @@ struct ProgramFiles {
 
     /// What is left of a list file that was taken away.
     std::wstring previousList() const { return besideList(list, L"-precedente.lst"); }
+    /// What others made of the list file before it was saved over.
+    std::wstring othersList() const { return besideList(list, L"-autre.lst"); }
+    /// The same of the configurations.
+    std::wstring othersConfigurations() const { return directory + L"\\tarnwick-precedente.cfg"; }
 
-    /// Says who has the list open, as long as it is.
-    std::wstring holdFile() const { return besideList(list, L".verrou"); }
+    /// Says who has a list open, as long as it is.
+    static std::wstring holdFileOf(const std::wstring& list) {
+        return besideList(list, L".verrou");
+    }
 
-    /// Whether a file is one of these, or holds the marks kept of the list: nothing else may be
+    /// Whether a file is one of these, or holds the marks kept of a list: nothing else may be
     /// written there.
     bool owns(const std::wstring& path) const;
 };

@@ -5,6 +5,7 @@
 #include "ports/files.h"
 #include "ports/message_boxes.h"
 #include "ports/platform.h"
+#include "session/list_hold.h"
 #include "session/program_files.h"
 #include "tracking/tracking_texts.h"
 #include "worklist/report.h"
@@ -26,6 +27,7 @@ PassRunner::PassRunner(Platform& platform, CadSession& cad, const ProgramFiles& 
       cad_(cad),
       files_(files),
       view_(view),
+      listFile_{files.list, files.othersList()},
       pass_(platform.clock),
       marks_(platform.records, files.list, platform.clock) {}
 
@@ -41,15 +43,16 @@ void PassRunner::settled(const Command& command) {
 }
 
 void PassRunner::keepMarks(std::optional<std::int32_t> opening) {
+    keepHoldOfList(platform_, files_);
     marks_.keep(pass_.list(), opening);
     if (marks_.takeFailure()) platform_.messageBoxes.show(marksNotKeptBox());
 }
 
 void PassRunner::read() {
     std::string bytes = platform_.files.readBytes(files_.list);
-    const ListIdentity identity(bytes);
+    listFile_.known = ContentIdentity(bytes);
     if (!pass_.read(textInUtf8(std::move(bytes)), files_.list)) throw ProgramEnd{};
-    marks_.begin(identity, pass_.list());
+    marks_.begin(*listFile_.known, pass_.list());
 }
 
 void PassRunner::start(Origin origin) {
@@ -87,15 +90,11 @@ bool PassRunner::startBeside(std::int32_t fileLine) {
 }
 
 void PassRunner::save(std::int32_t lineCount) {
-    ListIdentity identity;
-    platform_.files.replace(files_.list, [&](const ByteSink& file) {
-        const std::string text = pass_.fileText(lineCount);
-        identity.add(text);
-        file(text);
-    });
+    const auto write = [&](const ByteSink& file) { file(pass_.fileText(lineCount)); };
+    if (!::save(platform_, listFile_, write)) return;
     marks_.forget();
     pass_.takeAsSaved();
-    marks_.begin(identity, pass_.list());
+    marks_.begin(*listFile_.known, pass_.list());
 }
 
 std::string PassRunner::report() {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "session/shared_file.h"
 #include "worklist/mark_keeper.h"
 #include "worklist/pass.h"
 
@@ -99,6 +100,7 @@ class PassRunner {
     CadSession& cad_;
     const ProgramFiles& files_;
     PassView& view_;
+    SharedFile listFile_;
     Pass pass_;
     MarkKeeper marks_;
 };

@@ -107,7 +107,7 @@ class RecordReader {
         std::uint8_t head = 0;
         KeptLine kept;
         if (!takePacked(bytes_, skipped) || !takeFixed(bytes_, head)) return false;
-        if ((head & kManyLines) && !takePacked(bytes_, many)) return false;
+        if ((head & kManyLines) && (!takePacked(bytes_, many) || many == 0)) return false;
         if (!readKept(head, kept)) return false;
         if (skipped > lineCount - next_ || many > lineCount - next_ - skipped) return false;
         entries_.push_back({next_ + skipped, many, kept});
@@ -131,9 +131,15 @@ class RecordReader {
         if ((head & kMarked) && !takePacked(bytes_, at)) return false;
         if ((head & kOpened) && !takePacked(bytes_, seconds)) return false;
         if (seconds > 0x7FFFFFFF) return false;
-        if (head & kMarked) history.markedAt = sum(base_, unzigzag(at));
+        if (head & kMarked) history.markedAt = timeOrNone(sum(base_, unzigzag(at)));
         if (head & kOpened) history.secondsOpen = static_cast<std::int32_t>(seconds);
         return true;
+    }
+
+    /// A clock that was set wrong must not take the mark with it.
+    static std::int64_t timeOrNone(std::int64_t time) {
+        constexpr std::int64_t kYear10000 = 253'402'300'800;
+        return time > 0 && time < kYear10000 ? time : 0;
     }
 
     /// Wraps around rather than overflow, whatever the bytes say.
@@ -162,7 +168,7 @@ std::optional<std::string_view> takeRecord(std::string_view& bytes, std::uint32_
     return checked.substr(sizeof length);
 }
 
-std::string headerOf(const ListIdentity& list, std::size_t lineCount, std::int64_t baseTime) {
+std::string headerOf(const ContentIdentity& list, std::size_t lineCount, std::int64_t baseTime) {
     std::string header(kMagic);
     appendFixed<std::uint64_t>(header, list.length());
     appendFixed<std::uint64_t>(header, list.hash());
@@ -216,13 +222,7 @@ void restoreLines(WorkList& list, const KeptState& kept) {
     list.last = left - 1;
 }
 
-void ListIdentity::add(std::string_view bytes) {
-    constexpr std::uint64_t kPrime = 0x100000001B3;
-    length_ += bytes.size();
-    for (const char byte : bytes) hash_ = (hash_ ^ static_cast<unsigned char>(byte)) * kPrime;
-}
-
-KeptMarksWriter::KeptMarksWriter(const ListIdentity& list, std::size_t lineCount,
+KeptMarksWriter::KeptMarksWriter(const ContentIdentity& list, std::size_t lineCount,
                                  std::int64_t baseTime)
     : header_(headerOf(list, lineCount, baseTime)), seed_(crc32(header_, 0)), baseTime_(baseTime) {}
 
@@ -245,7 +245,7 @@ std::string KeptMarksWriter::record(std::span<const std::size_t> changed,
     return sealed(record + entries, seed_);
 }
 
-std::optional<KeptState> readKeptMarks(std::string_view record, const ListIdentity& list,
+std::optional<KeptState> readKeptMarks(std::string_view record, const ContentIdentity& list,
                                        std::size_t lineCount) {
     if (record.size() < kHeaderSize) return std::nullopt;
     const std::string_view header = record.substr(0, kHeaderSize);

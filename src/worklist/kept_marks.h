@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "common/content_identity.h"
 #include "worklist/work_list.h"
 
 /// What a line of the list file has become since that was written. A line in progress counts as
@@ -54,28 +55,11 @@ void restoreLines(WorkList& list, const KeptState& kept);
 // Checksums are CRC-32 over what stands before them, begun with the header's for a record: one of
 // another list's record is no record here. What doesn't fit is left out, with all that follows.
 
-/// Tells one list file from another, by its bytes.
-class ListIdentity {
- public:
-    ListIdentity() = default;
-    explicit ListIdentity(std::string_view bytes) { add(bytes); }
-
-    /// The file's next bytes.
-    void add(std::string_view bytes);
-
-    std::uint64_t length() const { return length_; }
-    std::uint64_t hash() const { return hash_; }
-
- private:
-    std::uint64_t length_ = 0;
-    std::uint64_t hash_ = 0xCBF29CE484222325;  ///< FNV-1a
-};
-
 /// Writes a record of kept marks.
 class KeptMarksWriter {
  public:
     /// `baseTime`: from which the times in the record are counted, as Clock has it.
-    KeptMarksWriter(const ListIdentity& list, std::size_t lineCount, std::int64_t baseTime);
+    KeptMarksWriter(const ContentIdentity& list, std::size_t lineCount, std::int64_t baseTime);
 
     const std::string& header() const { return header_; }
 
@@ -90,5 +74,5 @@ class KeptMarksWriter {
 };
 
 /// What a record, of any bytes, keeps of this list file; nothing when it isn't one of it.
-std::optional<KeptState> readKeptMarks(std::string_view record, const ListIdentity& list,
+std::optional<KeptState> readKeptMarks(std::string_view record, const ContentIdentity& list,
                                        std::size_t lineCount);

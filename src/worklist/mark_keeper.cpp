@@ -71,7 +71,7 @@ MarkKeeper::~MarkKeeper() {
     if (written_ == 0 && !behind_) file_->remove();
 }
 
-void MarkKeeper::begin(const ListIdentity& listFile, const WorkList& list) {
+void MarkKeeper::begin(const ContentIdentity& listFile, const WorkList& list) {
     listFile_ = listFile;
     lines_ = KeptLines(list);
     writer_.emplace(listFile, lines_.all().size(), clock_.now());
@@ -155,7 +155,3 @@ std::string MarkKeeper::whole(std::optional<std::int32_t> opening) const {
 }
 
 bool MarkKeeper::takeFailure() { return trouble_ && !std::exchange(told_, true); }
-
-void removeKeptMarks(RecordFiles& files, const std::wstring& listFile) {
-    files.at(keptMarksFile(listFile))->remove();
-}

@@ -53,7 +53,7 @@ class MarkKeeper {
     MarkKeeper& operator=(const MarkKeeper&) = delete;
 
     /// From now on keeps what changes against a list file with these bytes, whose lines are these.
-    void begin(const ListIdentity& listFile, const WorkList& list);
+    void begin(const ContentIdentity& listFile, const WorkList& list);
 
     /// What an earlier run kept of this list, if it is its record.
     std::optional<KeptState> find() const;
@@ -84,7 +84,7 @@ class MarkKeeper {
 
     std::unique_ptr<RecordFile> file_;
     const Clock& clock_;
-    ListIdentity listFile_;
+    ContentIdentity listFile_;
     KeptLines lines_;
     std::optional<KeptMarksWriter> writer_;
     std::size_t written_ = 0;  ///< bytes on the disk
@@ -96,6 +96,3 @@ class MarkKeeper {
 
 /// Where the marks of a list are kept.
 std::wstring keptMarksFile(const std::wstring& listFile);
-
-/// Removes the marks kept of a list, if there are any: they are not to be offered any more.
-void removeKeptMarks(RecordFiles& files, const std::wstring& listFile);

@@ -31,6 +31,12 @@ class Rows {
         if (field.find_first_of(";\"\r\n") != std::string_view::npos) return addQuoted(field);
         text_ += field;
     }
+    /// As text, whatever a spreadsheet would make of its beginning: a formula, above all.
+    void addText(std::string_view field) {
+        constexpr std::string_view kFormulaSigns = "=+-@\t\r";
+        const bool asFormula = !field.empty() && kFormulaSigns.find(field[0]) != field.npos;
+        add(asFormula ? std::string("'").append(field) : field);
+    }
     /// With zeros before it up to so many digits.
     void add(int number, std::size_t digits = 1) {
         const std::string text = std::to_string(number);
@@ -83,7 +89,7 @@ std::string reportOf(const WorkList& list, const Clock& clock) {
         rows.endField();
         rows.add(state);
         rows.endField();
-        rows.add(line.path);
+        rows.addText(line.path);
         rows.endField();
         addHistory(rows, line.history, clock);
         rows.endRow();

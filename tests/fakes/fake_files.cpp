@@ -29,7 +29,15 @@ std::string FakeFiles::readBytes(const std::wstring& path) {
     return utf8;
 }
 
+void FakeFiles::attempt(const std::wstring& path) {
+    int& times = failing[path];
+    if (times == 0 || wellFor-- > 0) return;
+    --times;
+    throw errors::fileAccess(path);
+}
+
 void FakeFiles::replace(const std::wstring& path, const WriteContent& write) {
+    attempt(path);
     if (unreadable.contains(path)) throw errors::fileAccess(path);
     std::string text;
     write([&](std::string_view piece) { text += piece; });
@@ -37,6 +45,7 @@ void FakeFiles::replace(const std::wstring& path, const WriteContent& write) {
 }
 
 PathKind FakeFiles::kindOf(const std::wstring& path) {
+    attempt(path);
     if (texts.contains(path)) return PathKind::File;
     return exists(withoutTrailingBackslash(path)) ? PathKind::Directory : PathKind::Nothing;
 }
@@ -47,6 +56,7 @@ void FakeFiles::keepCopy(const std::wstring& file, const std::wstring& copy) {
 }
 
 void FakeFiles::remove(const std::wstring& file) {
+    attempt(file);
     if (texts.erase(file) == 0) throw errors::fileNotFound(file);
 }
 

@@ -13,6 +13,8 @@ struct FakeFiles : Files {
     std::map<std::wstring, std::uint32_t> attributes;  ///< hidden, system
     std::map<std::wstring, std::wstring> links;        ///< directory path -> where it leads
     std::set<std::wstring> unreadable;                 ///< visiting one of these raises 70
+    std::map<std::wstring, int> failing;  ///< looking for, changing: so many times it raises 75
+    int wellFor = 0;                      ///< but not the first times
     std::vector<wchar_t> presentDrives = {L'c'};
     std::map<wchar_t, std::wstring> currentDirectories;
     std::map<std::wstring, int> visits;  ///< how often each directory was read
@@ -37,6 +39,7 @@ struct FakeFiles : Files {
     std::wstring currentDirectory(wchar_t drive) override;
 
  private:
+    void attempt(const std::wstring& path);
     /// The path with links on the way replaced by where they lead, without a trailing backslash.
     std::wstring resolved(std::wstring path) const;
     /// The names right below a directory; true for those of directories.

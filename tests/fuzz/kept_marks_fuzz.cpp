@@ -12,7 +12,7 @@ constexpr char kList[] = "0  c:\\a\r\n12  c:\\b\r\n3  c:\\c\r\nx  c:\\d\r\n0  c:
 constexpr int kLines = 5;
 
 void takeOver(std::string_view record) {
-    const auto kept = readKeptMarks(record, ListIdentity(kList), kLines);
+    const auto kept = readKeptMarks(record, ContentIdentity(kList), kLines);
     if (!kept) return;
     require(kept->lines.size() == kLines);
     require(!kept->opening || (*kept->opening >= 0 && *kept->opening < kLines));
@@ -29,7 +29,7 @@ void takeOver(std::string_view record) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string bytes(data, data + size);
     takeOver(bytes);
-    const std::string header = KeptMarksWriter(ListIdentity(kList), kLines, 0).header();
+    const std::string header = KeptMarksWriter(ContentIdentity(kList), kLines, 0).header();
     takeOver(header + bytes);
     std::string record;
     appendFixed<std::uint32_t>(record, static_cast<std::uint32_t>(size));

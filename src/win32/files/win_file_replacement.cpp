@@ -44,6 +44,10 @@ std::uint32_t WinReplacementSteps::move(const std::wstring& from, const std::wst
     return errorUnless(MoveFileExW(from.c_str(), to.c_str(), kFlags));
 }
 
+std::uint32_t WinReplacementSteps::remove(const std::wstring& path) {
+    return errorUnless(DeleteFileW(path.c_str()));
+}
+
 std::uint32_t WinReplacementSteps::openAlone(const std::wstring& path) {
     return errorUnless(isValid(
         UniqueHandle(CreateFileW(path.c_str(), DELETE, 0, nullptr, OPEN_EXISTING, 0, nullptr))));

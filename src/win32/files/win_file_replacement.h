@@ -16,7 +16,7 @@ class WinReplacementSteps : public ReplacementSteps {
     void close() override { file_.reset(INVALID_HANDLE_VALUE); }
     std::uint32_t move(const std::wstring& from, const std::wstring& to) override;
     std::uint32_t openAlone(const std::wstring& path) override;
-    void remove(const std::wstring& path) override { DeleteFileW(path.c_str()); }
+    std::uint32_t remove(const std::wstring& path) override;
     void pause() override { Sleep(kReplacementPause); }
 
  private:

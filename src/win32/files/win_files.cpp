@@ -3,9 +3,11 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <limits>
 #include <memory>
 #include <string>
 
+#include "common/runtime_error.h"
 #include "rules/file_error.h"
 #include "rules/long_path.h"
 #include "win32/files/directory_identity.h"
@@ -36,6 +38,22 @@ void makeWritable(const std::wstring& file) {
     SetFileAttributesW(longPath(file).c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
 }
 
+/// Others may do with it what they like meanwhile. One that a program shares with nobody is waited
+/// for: scanners and backups let go of it soon.
+UniqueHandle openToRead(const std::wstring& path) {
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const std::wstring where = longPath(path);
+    UniqueHandle file;
+    WinReplacementSteps steps;
+    const auto error = withPatience(where, steps, [&]() -> std::uint32_t {
+        file.reset(CreateFileW(where.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
+                               FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+        return isValid(file) ? 0 : GetLastError();
+    });
+    if (error != 0) throw fileError(error, path);
+    return file;
+}
+
 bool isDotEntry(const wchar_t* name) {
     return name[0] == L'.' && (name[1] == 0 || (name[1] == L'.' && name[2] == 0));
 }
@@ -47,12 +65,14 @@ DirectoryEntry entryOf(const WIN32_FIND_DATAW& found) {
 }
 
 std::string WinFiles::readBytes(const std::wstring& path) {
-    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    const UniqueHandle file(CreateFileW(longPath(path).c_str(), GENERIC_READ, kShareAll, nullptr,
-                                        OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    if (!isValid(file)) throw fileError(GetLastError(), path);
+    return readAtMost(path, std::numeric_limits<std::int64_t>::max());
+}
+
+std::string WinFiles::readAtMost(const std::wstring& path, std::int64_t most) {
+    const UniqueHandle file = openToRead(path);
     LARGE_INTEGER size{};
     if (!GetFileSizeEx(file.get(), &size)) throw fileError(GetLastError(), path);
+    if (size.QuadPart > most) throw errors::fileAccess(path);
     std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
     std::size_t have = 0;
     for (DWORD got = 1; got != 0 && have < bytes.size(); have += got) {
@@ -88,7 +108,10 @@ void WinFiles::keepCopy(const std::wstring& file, const std::wstring& copy) {
 
 void WinFiles::remove(const std::wstring& file) {
     makeWritable(file);
-    if (!DeleteFileW(longPath(file).c_str())) throw fileError(GetLastError(), file);
+    const std::wstring path = longPath(file);
+    WinReplacementSteps steps;
+    const auto error = withPatience(path, steps, [&] { return steps.remove(path); });
+    if (error != 0) throw fileError(error, file);
 }
 
 void WinFiles::visit(const std::wstring& directory,

@@ -7,6 +7,8 @@
 class WinFiles : public Files {
  public:
     std::string readBytes(const std::wstring& path) override;
+    /// The same of a file that is no larger than so many bytes; 75 for a larger one.
+    std::string readAtMost(const std::wstring& path, std::int64_t most);
     void replace(const std::wstring& path, const WriteContent& write) override;
     PathKind kindOf(const std::wstring& path) override;
     void keepCopy(const std::wstring& file, const std::wstring& copy) override;

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <new>
+
 #include "common/runtime_error.h"
 #include "rules/file_error.h"
 #include "rules/file_replacement.h"
@@ -11,6 +13,9 @@
 
 namespace {
 
+/// Far more than any record grows to: another's file must not take all memory at a start.
+constexpr std::int64_t kMostRecordBytes = 64 << 20;
+
 /// Open as long as records are added, so that each costs no more than its own bytes. Others may
 /// read it meanwhile, but neither write, move nor delete it: later marks would go with it.
 class WinRecordFile : public RecordFile {
@@ -18,13 +23,11 @@ class WinRecordFile : public RecordFile {
     explicit WinRecordFile(const std::wstring& path) : path_(path), longPath_(longPath(path)) {}
 
     std::optional<std::string> read() override {
-        constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-        // A scanner that holds it for a moment must not make it look absent.
-        if (openNow(GENERIC_READ, kShareAll) != 0) return std::nullopt;
-        file_.reset(INVALID_HANDLE_VALUE);
         try {
-            return WinFiles().readBytes(path_);
+            return WinFiles().readAtMost(path_, kMostRecordBytes);
         } catch (const RuntimeError&) {
+            return std::nullopt;
+        } catch (const std::bad_alloc&) {
             return std::nullopt;
         }
     }

@@ -21,12 +21,23 @@ TEST_F(HoldFileTest, BelongsToOneAndGoesWithIt) {
     std::optional<HoldFile> first(file);
     EXPECT_EQ(first->take(kJean), HoldFileState::Ours);
     EXPECT_TRUE(GetFileAttributesW(file.c_str()) & FILE_ATTRIBUTE_HIDDEN);
+    EXPECT_TRUE(first->isOpen());
     HoldFile second(file);
+    EXPECT_FALSE(second.isOpen());
     EXPECT_EQ(second.take(kZoe), HoldFileState::Theirs);
     EXPECT_EQ(second.holder(), kJean);
     first.reset();
     EXPECT_EQ(GetFileAttributesW(file.c_str()), INVALID_FILE_ATTRIBUTES);
     EXPECT_EQ(second.take(kZoe), HoldFileState::Ours);
+}
+
+TEST_F(HoldFileTest, NeverWritesThroughALink) {
+    files.replaceText(path(L"plan"), L"précieux");
+    ASSERT_TRUE(CreateHardLinkW(file.c_str(), path(L"plan").c_str(), nullptr));
+    HoldFile ours(file);
+    EXPECT_EQ(ours.take(kJean), HoldFileState::Busy);
+    EXPECT_EQ(ours.take(kJean), HoldFileState::Ours);
+    EXPECT_EQ(files.readText(path(L"plan")), L"précieux");
 }
 
 TEST_F(HoldFileTest, LeftOverIsTakenOverOnceNobodyReadsIt) {

@@ -54,6 +54,10 @@ TEST_F(StartUp, AsksAboutAnExistingListEvenAnEmptyOne) {
     EXPECT_EQ(machine.window(IDD_FORM2).state, State::Shown);
     EXPECT_EQ(about().state, State::Unloaded);
     EXPECT_FALSE(machine.windows.made.contains(IDD_FORM1));
+    // A list that can't be looked for counts as none.
+    machine.files.failing[machine.programFiles.list] = 2;
+    EXPECT_EQ(failure({machine.programFiles.list}).number, 0);
+    EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
     machine.window(IDD_FORM2).click(IDC_FORM2_CMDANNULE);
     EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
     EXPECT_THROW(machine.window(IDD_FORM1).click(IDC_FORM1_CMD_TRACER), ProgramEnd);
@@ -104,4 +108,9 @@ TEST_F(StartUp, EndsBeforeAllElseWhenTheListIsOpenAlready) {
     EXPECT_EQ(failure().number, 70);
     EXPECT_TRUE(machine.windows.made.empty());
     EXPECT_TRUE(machine.automation.journal.empty());
+
+    machine.listHolds.answer = {.hidden = true};
+    program.start();
+    EXPECT_EQ(machine.boxes.shown.size(), 1U) << "that others can't be told";
+    EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
 }

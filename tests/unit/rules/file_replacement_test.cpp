@@ -28,7 +28,7 @@ struct HeldFile : ReplacementSteps {
     std::uint32_t openAlone(const std::wstring&) override {
         return static_cast<std::uint32_t>(opening);
     }
-    void remove(const std::wstring& path) override { done.push_back(path); }
+    std::uint32_t remove(const std::wstring& path) override { return done.push_back(path), 0; }
     void pause() override { ++pauses; }
 
     int replace() {

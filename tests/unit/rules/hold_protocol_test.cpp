@@ -15,6 +15,7 @@ struct HoldScript {
     std::deque<bool> raised{true};
     std::deque<HoldFileState> files{HoldFileState::Ours};
     std::deque<ListHolder> holders{kZoe};
+    std::deque<bool> there{true};
 };
 
 struct ScriptedSteps : HoldSteps {
@@ -34,6 +35,7 @@ struct ScriptedSteps : HoldSteps {
     bool raiseOwner() override { return next(script.raised); }
     HoldFileState takeFile(const ListHolder&) override { return next(script.files); }
     ListHolder fileHolder() override { return next(script.holders); }
+    bool hasFile() override { return next(script.there); }
     void pause() override { ++pauses; }
 };
 
@@ -41,6 +43,7 @@ struct ScriptedSteps : HoldSteps {
 
 TEST(HoldProtocol, FindsOutWhoHasAList) {
     const HoldAnswer kHeld{};
+    const HoldAnswer kHidden{.hidden = true};
     const HoldAnswer kRaised{HoldAnswer::Kind::RaisedOther};
     const HoldAnswer kByZoe{HoldAnswer::Kind::HeldElsewhere, kZoe};
     const struct {
@@ -68,7 +71,9 @@ TEST(HoldProtocol, FindsOutWhoHasAList) {
          {.files = {HoldFileState::Theirs}, .holders = {kUs}},
          {HoldAnswer::Kind::HeldElsewhere, kUs},
          40},
-        {"a backup that reads the file", {.files = {HoldFileState::Busy}}, kHeld, 40},
+        {"a backup that reads the file", {.files = {HoldFileState::Busy}}, kHidden, 40},
+        {"one that soon has done", {.files = {HoldFileState::Busy, HoldFileState::Ours}}, kHeld, 1},
+        {"a file left over that is protected", {.files = {HoldFileState::Blocked}}, kHidden, 0},
         {"a directory that can't be written in", {.files = {HoldFileState::Unusable}}, kHeld, 0},
     };
     for (const auto& c : cases) {
@@ -76,6 +81,7 @@ TEST(HoldProtocol, FindsOutWhoHasAList) {
         const HoldAnswer answer = takeHold(steps, kUs);
         EXPECT_EQ(answer.kind, c.answer.kind) << c.what;
         EXPECT_EQ(answer.holder, c.answer.holder) << c.what;
+        EXPECT_EQ(answer.hidden, c.answer.hidden) << c.what;
         EXPECT_EQ(steps.pauses, c.pauses) << c.what;
     }
 }
@@ -94,9 +100,23 @@ TEST(HoldProtocol, TellsAHeldFileFromOneThatCannotBeWritten) {
                  {kShared, kNotFound, Busy, "gone meanwhile"},
                  {kDenied, kDenied, Busy, "about to go"},
                  {kDenied, kNotFound, Unusable, ""},
-                 {kDenied, 0, Unusable, "left over, another user's"},
+                 {kDenied, 0, Blocked, "left over, another user's or read-only"},
                  {kWriteProtected, kNotFound, Unusable, ""}};
     for (const auto& c : cases) EXPECT_EQ(holdFileState(c.creating, c.looking), c.state) << c.what;
+}
+
+TEST(HoldProtocol, TakesALostFileAgainAndTellsOnceOfAnotherHolder) {
+    using enum HoldFileState;
+    ScriptedSteps steps({.files = {Unusable, Theirs, Theirs, Theirs, Ours, Theirs},
+                         .holders = {kUs, kZoe},
+                         .there = {true, false}});
+    HoldRenewal renewal;
+    // There, the network still down, our own of before the cut, Zoé's, still hers, ours, hers
+    // again.
+    const std::optional<ListHolder> none;
+    for (const auto& told : {none, none, none, {kZoe}, none, none, {kZoe}}) {
+        EXPECT_EQ(renewal.takeAgain(steps, kUs), told);
+    }
 }
 
 TEST(HoldProtocol, OneNameForEveryPathToAList) {

@@ -181,6 +181,21 @@ TEST_F(ConfigurationFixture, OnlySauvegarderWritesTheFile) {
     EXPECT_EQ(file, L"Configuration:  Z\r\n   c:\\a\r\n");
     machine.files.unreadable = {machine.programFiles.configurations};
     EXPECT_EQ(raised([&] { click(IDC_FORM4_CMDENREGISTER); }), 75);
+    machine.files.unreadable.clear();
+    file = kTwo;  // another Tarnwick's
+    click(IDC_FORM4_CMDENREGISTER);
+    EXPECT_EQ(file, L"Configuration:  Z\r\n   c:\\a\r\n");
+    EXPECT_EQ(machine.files.texts[L"c:\\tarnwick\\tarnwick-precedente.cfg"], kTwo);
+    EXPECT_EQ(machine.boxes.shown.size(), 1U);
+}
+
+TEST_F(ConfigurationFixture, SavesOverNoFileThatWasOutOfReachForAMoment) {
+    machine.automation.fileExists = [](const auto&) { return false; };
+    form.Form_Load();
+    EXPECT_EQ(configurations.last, 0);
+    click(IDC_FORM4_CMDENREGISTER);
+    EXPECT_EQ(file, L"");
+    EXPECT_EQ(machine.files.texts[L"c:\\tarnwick\\tarnwick-precedente.cfg"], kTwo);
 }
 
 TEST_F(ConfigurationFixture, AnnulerKeepsTheConfigurationsAndThePlace) {

@@ -50,6 +50,35 @@ TEST_F(Leaving, ListFileSavedTwiceLosesItsFlaggedStates) {
     EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"2");
 }
 
+TEST_F(Leaving, SavingKeepsWhatOthersMadeOfTheListFileOrSavesNothing) {
+    const std::wstring copy = machine.programFiles.othersList();
+    auto& files = machine.files.texts;
+    loadStates(L"00");
+    click(IDC_FORM3_CMDFICHIERLISTE);
+    listFile() = L"1  c:\\de Zoé\r\n";
+    machine.files.failing[copy] = 1;
+    click(IDC_FORM3_CMDFICHIERLISTE);
+    EXPECT_EQ(listFile(), L"1  c:\\de Zoé\r\n");
+    click(IDC_FORM3_CMDFICHIERLISTE);
+    EXPECT_EQ(files[copy], L"1  c:\\de Zoé\r\n");
+    EXPECT_EQ(listFile(), L"3  c:\\a\r\n0  c:\\b\r\n");
+    files.erase(copy);
+    click(IDC_FORM3_CMDFICHIERLISTE);
+    files.erase(machine.programFiles.list);
+    click(IDC_FORM3_CMDFICHIERLISTE);
+    EXPECT_EQ(listFile(), L"3  c:\\a\r\n0  c:\\b\r\n");
+    EXPECT_FALSE(files.contains(copy)) << "nobody changed it, or it was gone";
+    EXPECT_EQ(machine.boxes.shown.size(), 2U);
+}
+
+TEST_F(Leaving, WhoTookTheListWhileTheNetworkWasAwayIsTold) {
+    loadStates(L"00");
+    machine.listHolds.takenBy = {L"Zoé", L"PC-12"};
+    click(IDC_FORM3_CMDSUIV);
+    ASSERT_EQ(machine.boxes.shown.size(), 1U);
+    EXPECT_NE(machine.boxes.shown[0].text.find(L"par Zoé sur PC-12"), std::wstring::npos);
+}
+
 TEST_F(Leaving, ListFileHasAsManyLinesAsTheCounterShows) {
     loadStates(L"000");
     window().control(IDC_FORM3_CPTFICHIER1).content = L"2";

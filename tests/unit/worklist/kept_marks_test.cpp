@@ -18,7 +18,7 @@ struct KeptMarks : PassFixture {
         listFile = text;
         PassFixture::begin(text);
         keeper.emplace(files, L"c:\\liste.LST", clock);
-        keeper->begin(ListIdentity(text), pass->list());
+        keeper->begin(ContentIdentity(text), pass->list());
         pass->start();
     }
 
@@ -44,7 +44,7 @@ struct KeptMarks : PassFixture {
     std::optional<KeptState> read(const std::string& bytes) {
         Pass next(clock);
         next.read(listFile);
-        return readKeptMarks(bytes, ListIdentity(listFile),
+        return readKeptMarks(bytes, ContentIdentity(listFile),
                              static_cast<std::size_t>(next.list().lineCount()));
     }
 
@@ -222,7 +222,7 @@ TEST_F(KeptMarks, ThatCannotBeWrittenStopNoPassAndAreTriedAgainAtEachMark) {
         EXPECT_TRUE(keeper->takeFailure());
         pass->takeAsSaved();
         keeper->forget();
-        keeper->begin(ListIdentity(listFile), pass->list());
+        keeper->begin(ContentIdentity(listFile), pass->list());
     }
 }
 

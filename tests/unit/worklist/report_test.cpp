@@ -9,7 +9,7 @@
 TEST(Report, TellsOfEachLineWhatHappenedToIt) {
     WorkList list;
     parseListFile(
-        "1  c:\\été\\a;b.SLDPRT\n2  c:\\\"b\".SLDPRT\n12  c:\\c.SLDPRT\n?  c:\\d\n3  e\n0  f\n",
+        "1  c:\\été\\a;b.SLDPRT\n2  c:\\\"b\".SLDPRT\n12  c:\\c.SLDPRT\n?  c:\\d\n3  =e\n0  @f;\n",
         list, L"");
     constexpr std::int64_t kMidnight = 20'000LL * 86'400;
     list.lines.edit(0)->history = {kMidnight + 5 * 3600 + 62, 0, Saved::Yes};
@@ -21,6 +21,6 @@ TEST(Report, TellsOfEachLineWhatHappenedToIt) {
               "2;Vu;\"c:\\\"\"b\"\".SLDPRT\";2025-11-21 01:00:00;754;non\r\n"
               "3;Vu;c:\\c.SLDPRT;;;\r\n"
               "4;Vu;c:\\d;;;\r\n"
-              "5;En cours;e;;12;\r\n"
-              "6;A faire;f;;;\r\n");
+              "5;En cours;'=e;;12;\r\n"
+              "6;A faire;\"'@f;\";;;\r\n");
 }
