@@ -4,10 +4,9 @@
 #include "ports/files.h"
 #include "ports/platform.h"
 #include "resume/existing_list_tables.h"
-#include "session/previous_list.h"
+#include "session/list_replacement.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
-#include "worklist/mark_keeper.h"
 
 ExistingListWindow::ExistingListWindow(Platform& platform, WindowPlaces& places,
                                        const ProgramFiles& files, ExistingListExits& exits)
@@ -32,10 +31,8 @@ void ExistingListWindow::CmdAnnule_Click() {
 }
 
 void ExistingListWindow::CmdEffacer_Click() {
-    keepPreviousList(platform_.files, files_);
-    platform_.files.remove(files_.list);
-    removeKeptMarks(platform_.records, files_.list);
-    CmdAnnule_Click();
+    const auto erase = [&] { platform_.files.remove(files_.list); };
+    if (replaceList(platform_, files_, erase)) CmdAnnule_Click();
 }
 
 void ExistingListWindow::leave() {

@@ -26,8 +26,8 @@ class ExistingListWindow : public ProgramWindow<ExistingListWindow> {
     void Form_Close();
     void CmdOK_Click();
     void CmdAnnule_Click();
-    /// Takes the list file away, even a read-only one, without asking; its lines stay in the
-    /// previous list, and marks kept of it go. Raises 53, 70 or 75 when it can't.
+    /// Takes the list file away, even a read-only one, without asking; it stays as the previous
+    /// list, with its marks (replaceList). Raises 53, 70 or 75 when it can't.
     void CmdEffacer_Click();
 
  private:

@@ -6,11 +6,10 @@
 #include "ports/files.h"
 #include "ports/platform.h"
 #include "selection/selection_tables.h"
-#include "session/previous_list.h"
+#include "session/list_replacement.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
 #include "worklist/list_file.h"
-#include "worklist/mark_keeper.h"
 
 namespace {
 
@@ -111,24 +110,21 @@ void SelectionWindow::CmdRepDef_Click() { exits_.showConfigurations(); }
 
 void SelectionWindow::cmd_tracer_Click() {
     places_.save(PlacedWindow::Selection, *window_);
-    writeList();
+    if (!writeList()) return;
     exits_.launchPass();
     window_->hide();
 }
 
-void SelectionWindow::writeList() {
+bool SelectionWindow::writeList() {
     std::string text;
     // As many lines as the window says there are.
     const std::int32_t count = numericValue(cptfichier.text());
     for (std::int32_t i = 0; i < count; ++i) {
         if (List1.chosen(i)) appendFreshLine(text, fullPath(i));
     }
-    platform_.files.replace(files_.list, [&](const ByteSink& file) {
-        // Now that the list may be replaced, and before it is.
-        keepPreviousList(platform_.files, files_);
-        file(text);
+    return replaceList(platform_, files_, [&] {
+        platform_.files.replace(files_.list, [&](const ByteSink& file) { file(text); });
     });
-    removeKeptMarks(platform_.records, files_.list);
 }
 
 std::wstring SelectionWindow::fullPath(int index) const {

@@ -73,7 +73,8 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     bool rebuild(const SelectionList::Entries& chosen);
     SearchEnd search();
     void showCounts(int filesListed);
-    void writeList();
+    /// False when another program has a list open that would be replaced.
+    bool writeList();
     std::wstring fullPath(int index) const;
 
     Platform& platform_;

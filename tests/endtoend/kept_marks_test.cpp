@@ -47,6 +47,15 @@ TEST_F(KeptMarks, AreOfferedAfterAKillAndAfterTheSessionDied) {
     app.kill();
     EXPECT_EQ(sandbox.readList(), listOf({"0", "0", "0", "0"}));
 
+    // A list that is taken away takes its marks with it.
+    app.start();
+    app.click(IDC_FORM2_CMDEFFACER);
+    expectEnd(kSelection);
+    for (const std::string ending : {".lst", ".reprise"}) {
+        std::filesystem::rename(sandbox.directory() / ("tarnwick-precedente" + ending),
+                                sandbox.directory() / ("tarnwick" + ending));
+    }
+
     resume(1);
     app.waitForText(IDC_FORM3_TXTETAT, paths[1]);
     expectLines(IDC_FORM3_LIST1, {"0001  " + kDone + paths[0], "0002  " + kInProgress + paths[1],

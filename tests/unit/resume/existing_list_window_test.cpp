@@ -34,15 +34,29 @@ TEST_F(ExistingListPrompt, EveryAnswerSavesThePlaceClosesThePromptAndGoesOn) {
 TEST_F(ExistingListPrompt, AnErasedListStaysAsThePreviousOneUnlessItHadNoLine) {
     const std::wstring& list = machine.programFiles.list;
     const std::wstring previous = machine.programFiles.previousList();
-    const std::map<std::wstring, std::wstring> left = {{previous, machine.files.texts[list]}};
-    machine.files.texts[previous] = L"0  c:\\d'avant\r\n";
-    machine.records.contents[L"c:\\tarnwick\\tarnwick.reprise"] = "Fait";
+    auto& files = machine.files.texts;
+    files[previous] = L"0  c:\\d'avant\r\n";
+    files[L"c:\\tarnwick\\tarnwick.reprise"] = L"Fait";
+    const auto before = files;
+    machine.files.failing[list] = 2;
+    machine.files.wellFor = 1;
+    EXPECT_EQ(raised([&] { window.click(IDC_FORM2_CMDEFFACER); }), 75);
+    EXPECT_EQ(files, before);
+    machine.files.failing.clear();
+    machine.listHolds.others[previous];
     window.click(IDC_FORM2_CMDEFFACER);
-    EXPECT_EQ(machine.files.texts, left);
-    EXPECT_TRUE(machine.records.contents.empty());
-    machine.files.texts[list] = L"";
+    EXPECT_EQ(files, before);
+    EXPECT_EQ(machine.boxes.shown.size(), 1U);
+    EXPECT_NE(window.state, FakeWindow::State::Unloaded);
+
+    machine.listHolds.others.clear();
     window.click(IDC_FORM2_CMDEFFACER);
-    EXPECT_EQ(machine.files.texts, left);
+    const std::map<std::wstring, std::wstring> left = {
+        {previous, before.at(list)}, {L"c:\\tarnwick\\tarnwick-precedente.reprise", L"Fait"}};
+    EXPECT_EQ(files, left);
+    files[list] = L"";
+    window.click(IDC_FORM2_CMDEFFACER);
+    EXPECT_EQ(files, left);
     EXPECT_EQ(raised([&] { window.click(IDC_FORM2_CMDEFFACER); }), 53);
 }
 

@@ -33,22 +33,53 @@ TEST_F(SelectionLeaving, LaunchingWritesTheChosenDocumentsThenHandsOver) {
     EXPECT_EQ(window().state, FakeWindow::State::Hidden);
 }
 
-TEST_F(SelectionLeaving, LaunchingTouchesNoListBeforeTheOldOneIsSafe) {
+TEST_F(SelectionLeaving, ALaunchKeepsTheOldListWithItsMarksOrChangesNothing) {
     load();
-    listFile() = L"12  c:\\d'avant\r\n";
-    machine.files.unreadable = {machine.programFiles.previousList()};
-    EXPECT_EQ(raised([&] { click(IDC_FORM1_CMD_TRACER); }), 75);
-    EXPECT_EQ(listFile(), L"12  c:\\d'avant\r\n");
-    machine.files.unreadable = {machine.programFiles.list};
-    EXPECT_EQ(raised([&] { click(IDC_FORM1_CMD_TRACER); }), 75);
-    EXPECT_EQ(previousList(), L"") << "a list that can't be replaced does not go";
+    const ProgramFiles& names = machine.programFiles;
+    auto& files = machine.files.texts;
+    const std::wstring previous = names.previousList();
+    const std::wstring marks = L"c:\\tarnwick\\tarnwick.reprise";
+    const std::wstring previousMarks = L"c:\\tarnwick\\tarnwick-precedente.reprise";
+    files[names.list] = L"12  c:\\d'avant\r\n";
+    files[marks] = L"marques";
+    files[previous] = L"0  c:\\plus vieux\r\n";
+    files[previousMarks] = L"plus vieilles";
+    const auto before = files;
+    // Looked for, or changed, each in vain once or for good.
+    for (const std::wstring& file : {names.list, previous, previousMarks}) {
+        for (int wellFor = 0; wellFor < 3; ++wellFor) {
+            machine.files.wellFor = wellFor;
+            machine.files.failing = {{file, 1}};
+            const int error = raised([&] { click(IDC_FORM1_CMD_TRACER); });
+            EXPECT_EQ(error, machine.files.failing[file] == 0 ? 75 : 0) << wellFor;
+            if (error != 0) {
+                EXPECT_EQ(files, before) << wellFor;
+            }
+            files = before;
+        }
+    }
+    machine.files.failing.clear();
+    exits.taken = {L"none"};
+    machine.listHolds.others[previous] = {L"Zoé", L"PC-12"};
+    click(IDC_FORM1_CMD_TRACER);
+    EXPECT_EQ(files, before);
+    EXPECT_NE(machine.boxes.shown.back().text.find(L"par Zoé sur PC-12"), std::wstring::npos);
+    EXPECT_EQ(exits.taken.back(), L"none");
 
-    machine.files.unreadable.clear();
+    machine.listHolds.others.clear();
     for (int nothingChosen = 0; nothingChosen < 2; ++nothingChosen) {
         click(IDC_FORM1_CMD_TRACER);
         EXPECT_EQ(listFile(), L"");
-        EXPECT_EQ(previousList(), L"12  c:\\d'avant\r\n");
+        EXPECT_EQ(previousList(), before.at(names.list));
+        EXPECT_EQ(files[previousMarks], L"marques");
+        EXPECT_FALSE(files.contains(marks));
     }
+    // A list without marks leaves none that are an older one's.
+    listFile() = L"0  c:\\sans marques\r\n";
+    files[marks] = L"";
+    click(IDC_FORM1_CMD_TRACER);
+    EXPECT_EQ(previousList(), L"0  c:\\sans marques\r\n");
+    EXPECT_FALSE(files.contains(previousMarks));
 }
 
 TEST_F(SelectionLeaving, TheListFileHoldsFullPaths) {
