@@ -18,8 +18,9 @@ void AppDriver::start(const std::vector<std::string>& arguments) {
 HWND AppDriver::window(const std::string& caption) const {
     HWND found = nullptr;
     waitFor("the window \"" + caption + "\"", [&] {
-        for (HWND window : topLevelWindows(process_->id()))
+        for (HWND window : topLevelWindows(process_->id())) {
             if (IsWindowVisible(window) && driver::textOf(window) == caption) found = window;
+        }
         return found != nullptr;
     });
     return found;
@@ -27,8 +28,9 @@ HWND AppDriver::window(const std::string& caption) const {
 
 std::vector<std::string> AppDriver::shownWindows() const {
     std::vector<std::string> captions;
-    for (HWND window : topLevelWindows(process_->id()))
+    for (HWND window : topLevelWindows(process_->id())) {
         if (IsWindowVisible(window)) captions.push_back(driver::textOf(window));
+    }
     return captions;
 }
 
@@ -37,8 +39,9 @@ void AppDriver::closeByFrame(const std::string& caption) const {
 }
 
 HWND AppDriver::findControl(int id) const {
-    for (HWND window : topLevelWindows(process_->id()))
+    for (HWND window : topLevelWindows(process_->id())) {
         if (HWND control = descendant(window, id)) return control;
+    }
     return nullptr;
 }
 
@@ -77,14 +80,16 @@ void AppDriver::open(int list, const std::string& ending) const { openLine(contr
 
 void AppDriver::waitForText(int id, const std::string& text) const {
     const std::string shown = eventually<std::string>(text, [&] { return textOf(id); });
-    if (shown != text)
+    if (shown != text) {
         throw TimedOut("control " + std::to_string(id) + " shows \"" + shown + "\", not \"" + text +
                        "\"");
+    }
 }
 
 HWND AppDriver::findBox() const {
-    for (HWND window : topLevelWindows(process_->id()))
-        if (ModalBox::isCalled(window)) return window;
+    for (HWND window : topLevelWindows(process_->id())) {
+        if (ModalBox::isOne(window)) return window;
+    }
     return nullptr;
 }
 

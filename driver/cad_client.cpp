@@ -17,7 +17,7 @@ struct PutInto {
         variant.vt = VT_BSTR;
         variant.bstrVal = SysAllocString(wide(text).c_str());
     }
-    void operator()(long number) const {
+    void operator()(LONG number) const {
         variant.vt = VT_I4;
         variant.lVal = number;
     }
@@ -25,7 +25,7 @@ struct PutInto {
         variant.vt = VT_BOOL;
         variant.boolVal = truth ? VARIANT_TRUE : VARIANT_FALSE;
     }
-    void operator()(long* number) const {
+    void operator()(LONG* number) const {
         variant.vt = VT_BYREF | VT_I4;
         variant.plVal = number;
     }
@@ -47,16 +47,18 @@ CallOutcome callByName(IDispatch* object, const wchar_t* name,
                        const std::vector<CallArgument>& arguments) {
     // Automation wants the last argument first.
     std::vector<VARIANT> variants(arguments.size());
-    for (size_t i = 0; i < arguments.size(); ++i)
+    for (size_t i = 0; i < arguments.size(); ++i) {
         std::visit(PutInto{variants[arguments.size() - 1 - i]}, arguments[i]);
+    }
     DISPPARAMS parameters{variants.data(), nullptr, static_cast<UINT>(variants.size()), 0};
     VARIANT answer{};
     DISPID id = 0;
     LPOLESTR spelling = const_cast<LPOLESTR>(name);
     HRESULT code = object->GetIDsOfNames(IID_NULL, &spelling, 1, 0, &id);
-    if (SUCCEEDED(code))
+    if (SUCCEEDED(code)) {
         code = object->Invoke(id, IID_NULL, 0, DISPATCH_METHOD, &parameters, &answer, nullptr,
                               nullptr);
+    }
     for (VARIANT& variant : variants) VariantClear(&variant);
     return outcomeOf(code, answer);
 }
@@ -69,8 +71,9 @@ ComPtr<IDispatch> sessionOfProcess(DWORD processId) {
     ComPtr<IDispatch> session;
     if (SUCCEEDED(GetRunningObjectTable(0, table.put())) &&
         SUCCEEDED(CreateItemMoniker(L"", name.c_str(), moniker.put())) &&
-        SUCCEEDED(table->GetObject(moniker.get(), object.put())))
+        SUCCEEDED(table->GetObject(moniker.get(), object.put()))) {
         object->QueryInterface(IID_IDispatch, session.putVoid());
+    }
     return session;
 }
 

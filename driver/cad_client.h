@@ -14,13 +14,13 @@ namespace driver {
 /// What a call by name came to.
 struct CallOutcome {
     HRESULT code = S_OK;
-    long number = 0;  ///< what it answered: a number or a truth
+    LONG number = 0;  ///< what it answered: a number or a truth
     std::string text = {};
     ComPtr<IDispatch> object = {};
 };
 
 /// One argument of such a call; a number that the session is to write is pointed to.
-using CallArgument = std::variant<std::string, long, bool, long*>;
+using CallArgument = std::variant<std::string, LONG, bool, LONG*>;
 
 /// Calls a method of an object of the session, as any program may do beside ours.
 CallOutcome callByName(IDispatch* object, const wchar_t* name,
@@ -32,8 +32,8 @@ ComPtr<IDispatch> sessionOfProcess(DWORD processId);
 /// What OpenDoc6 answers for a document.
 struct OpenedDocument {
     ComPtr<IDispatch> document;
-    long error = 0;
-    long warning = 0;
+    LONG error = 0;
+    LONG warning = 0;
 };
 
 OpenedDocument openDocument(IDispatch* session, const std::string& path);

@@ -9,7 +9,7 @@ std::string quoted(const std::string& text) { return "\"" + text + "\""; }
 
 }  // namespace
 
-long typeCode(const std::string& path) {
+int typeCode(const std::string& path) {
     if (path.ends_with("PRT")) return 1;
     return path.ends_with("ASM") ? 2 : 3;
 }

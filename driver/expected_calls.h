@@ -11,7 +11,7 @@ using Calls = std::vector<std::string>;
 enum class Rebuild { None, TopLevel, AllLevels };
 
 /// The type by which a document is opened.
-long typeCode(const std::string& path);
+int typeCode(const std::string& path);
 
 /// What start-up asks of the session.
 Calls atStartUp();

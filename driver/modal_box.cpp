@@ -23,9 +23,11 @@ bool isIcon(HWND window) {
 }
 
 HWND label(HWND box) {
-    for (HWND child : descendants(box))
-        if (static_cast<WORD>(GetDlgCtrlID(child)) == kTextId && !textOf(child).empty())
+    for (HWND child : descendants(box)) {
+        if (static_cast<WORD>(GetDlgCtrlID(child)) == kTextId && !textOf(child).empty()) {
             return child;
+        }
+    }
     return nullptr;
 }
 
@@ -36,7 +38,7 @@ bool anyChild(HWND window, bool (*holds)(HWND)) {
 
 }  // namespace
 
-bool ModalBox::isCalled(HWND window) {
+bool ModalBox::isOne(HWND window) {
     return IsWindowVisible(window) && classOf(window) == "#32770" && label(window) &&
            anyChild(window, isButton);
 }
@@ -61,8 +63,9 @@ std::vector<int> ModalBox::buttons() const {
 
 // Asks the buttons: Wine's boxes do not tell DM_GETDEFID which one the caller made the default.
 int ModalBox::defaultButton() const {
-    for (HWND button : buttonWindows())
+    for (HWND button : buttonWindows()) {
         if ((send(button, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON) != 0) return GetDlgCtrlID(button);
+    }
     return LOWORD(send(window_, DM_GETDEFID));
 }
 

@@ -12,7 +12,7 @@ class ModalBox {
  public:
     explicit ModalBox(HWND window) : window_(window) {}
 
-    static bool isCalled(HWND window);
+    static bool isOne(HWND window);
 
     std::string title() const;
     std::string text() const;

@@ -39,9 +39,10 @@ Process::Process(const std::wstring& program, const std::vector<std::wstring>& a
         CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, errors != nullptr, 0,
                        nullptr, directory.c_str(), &startup, &information);
     if (errors) CloseHandle(errors);
-    if (!started)
+    if (!started) {
         throw std::runtime_error("could not start " + utf8(commandLine) + ": error " +
                                  std::to_string(GetLastError()));
+    }
     CloseHandle(information.hThread);
     handle_ = information.hProcess;
     id_ = information.dwProcessId;
@@ -55,8 +56,9 @@ Process::~Process() {
 bool Process::running() const { return WaitForSingleObject(handle_, 0) == WAIT_TIMEOUT; }
 
 DWORD Process::waitForExit() const {
-    if (WaitForSingleObject(handle_, kPatience) != WAIT_OBJECT_0)
+    if (WaitForSingleObject(handle_, kPatience) != WAIT_OBJECT_0) {
         throw TimedOut("process " + std::to_string(id_) + " does not end");
+    }
     DWORD code = 0;
     GetExitCodeProcess(handle_, &code);
     return code;

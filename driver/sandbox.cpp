@@ -21,8 +21,9 @@ fs::path newTemporaryDirectory() {
 /// Removes all that can be removed, read-only files too.
 void removeDirectoryTree(const fs::path& directory) {
     std::error_code ignored;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory, ignored))
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory, ignored)) {
         fs::permissions(entry.path(), fs::perms::owner_all, ignored);
+    }
     fs::remove_all(directory, ignored);
 }
 
@@ -42,8 +43,9 @@ void Sandbox::copyProgram() const {
     fs::create_directories(documents());
     const fs::path built = builtPrograms() / "tarnwick.exe";
     // mingw's std::filesystem can't overwrite an existing file.
-    if (!CopyFileW(built.c_str(), program().c_str(), FALSE))
+    if (!CopyFileW(built.c_str(), program().c_str(), FALSE)) {
         throw std::runtime_error("could not copy " + utf8(built.wstring()));
+    }
 }
 
 fs::path Sandbox::builtPrograms() {
@@ -69,10 +71,12 @@ std::optional<std::string> Sandbox::readConfigurations() const {
 
 std::string Sandbox::describe() const {
     std::string text;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory_))
-        if (entry.is_regular_file())
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory_)) {
+        if (entry.is_regular_file()) {
             text +=
                 utf8(entry.path().wstring()) + " " + std::to_string(entry.file_size()) + " bytes\n";
+        }
+    }
     return text + "list file:\n" + readList().value_or("(none)\n");
 }
 
@@ -84,8 +88,9 @@ std::optional<std::string> readFileBytes(const fs::path& file) {
     if (handle == INVALID_HANDLE_VALUE) return std::nullopt;
     std::string bytes;
     char piece[65536];
-    for (DWORD got = 0; ReadFile(handle, piece, sizeof piece, &got, nullptr) && got != 0;)
+    for (DWORD got = 0; ReadFile(handle, piece, sizeof piece, &got, nullptr) && got != 0;) {
         bytes.append(piece, got);
+    }
     CloseHandle(handle);
     return bytes;
 }

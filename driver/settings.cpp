@@ -20,16 +20,18 @@ std::wstring registryPath(std::wstring_view below) { return L"Software\\" + std:
 void write(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
     const auto size = static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t));
     if (RegSetKeyValueW(HKEY_CURRENT_USER, registryPath(section).c_str(), key.c_str(), REG_SZ,
-                        value.c_str(), size) != ERROR_SUCCESS)
+                        value.c_str(), size) != ERROR_SUCCESS) {
         throw std::runtime_error("could not write a setting");
+    }
 }
 
 std::optional<std::wstring> read(const std::wstring& section, const std::wstring& key) {
     wchar_t value[kLongestValue];
     DWORD size = sizeof value;
     if (RegGetValueW(HKEY_CURRENT_USER, registryPath(section).c_str(), key.c_str(), RRF_RT_REG_SZ,
-                     nullptr, value, &size) != ERROR_SUCCESS)
+                     nullptr, value, &size) != ERROR_SUCCESS) {
         return std::nullopt;
+    }
     return std::wstring(value);
 }
 
@@ -67,8 +69,9 @@ Settings::Values Settings::readAll() {
     Values values;
     for (const std::wstring section : kSections) {
         HKEY key = nullptr;
-        if (RegOpenKeyExW(HKEY_CURRENT_USER, registryPath(section).c_str(), 0, KEY_READ, &key))
+        if (RegOpenKeyExW(HKEY_CURRENT_USER, registryPath(section).c_str(), 0, KEY_READ, &key)) {
             continue;
+        }
         wchar_t name[kLongestValue];
         for (DWORD i = 0, length = kLongestValue;
              RegEnumValueW(key, i, name, &length, nullptr, nullptr, nullptr, nullptr) ==
@@ -81,8 +84,9 @@ Settings::Values Settings::readAll() {
 }
 
 void Settings::removeAll() {
-    for (const std::wstring application : kApplications)
+    for (const std::wstring application : kApplications) {
         RegDeleteTreeW(HKEY_CURRENT_USER, registryPath(application).c_str());
+    }
 }
 
 }  // namespace driver

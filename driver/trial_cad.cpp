@@ -26,8 +26,9 @@ void TrialCad::close() {
 }
 
 HWND TrialCad::window() const {
-    for (HWND window : topLevelWindows(process_->id()))
+    for (HWND window : topLevelWindows(process_->id())) {
         if (classOf(window) == "TarnwickTrialCad") return window;
+    }
     throw std::runtime_error("the trial CAD session has no window");
 }
 

@@ -47,8 +47,9 @@ std::vector<HWND> descendants(HWND window) {
 }
 
 HWND descendant(HWND window, int id) {
-    for (HWND child : descendants(window))
+    for (HWND child : descendants(window)) {
         if (GetDlgCtrlID(child) == id) return child;
+    }
     return nullptr;
 }
 
@@ -68,14 +69,16 @@ std::string textOf(HWND window) {
 LRESULT send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DWORD_PTR result = 0;
     if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kPatience, &result) &&
-        IsWindow(window))
+        IsWindow(window)) {
         throw TimedOut("a window did not answer message " + std::to_string(message));
+    }
     return static_cast<LRESULT>(result);
 }
 
 void post(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (!PostMessageW(window, message, wParam, lParam))
+    if (!PostMessageW(window, message, wParam, lParam)) {
         throw std::runtime_error("message " + std::to_string(message) + " could not be posted");
+    }
 }
 
 RECT placeOf(HWND window) {
@@ -105,8 +108,9 @@ std::vector<std::string> listLines(HWND list) {
 std::vector<int> selectedLines(HWND list) {
     std::vector<int> lines;
     const LRESULT count = send(list, LB_GETCOUNT);
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         if (send(list, LB_GETSEL, static_cast<WPARAM>(i)) > 0) lines.push_back(i);
+    }
     return lines;
 }
 

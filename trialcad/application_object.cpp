@@ -60,10 +60,11 @@ void ApplicationObject::openDoc6(Call& call) {
     call.giveBack(4, codes.error);
     call.giveBack(5, codes.warning);
     const std::wstring news = newsOfOpening(codes);
-    if (!document)
+    if (!document) {
         call.tell(fileNameOf(call.text(0)) + L" ne s'ouvre pas" + news, L" -> no document");
-    else if (!news.empty())
+    } else if (!news.empty()) {
         call.tell(fileNameOf(call.text(0)) + L" s'ouvre" + news);
+    }
     call.answer(document);
 }
 
@@ -79,10 +80,12 @@ void ApplicationObject::closeDoc(Call& call) {
     const std::wstring name = call.text(0);
     const std::wstring whose = name.empty() ? L"le document actif" : fileNameOf(name);
     const Closing closing = session_.close(name);
-    if (closing == Closing::ChangesLost)
+    if (closing == Closing::ChangesLost) {
         call.tell(whose + L" est fermé, ses modifications sont perdues");
-    if (closing == Closing::NotOpen && !name.empty())
+    }
+    if (closing == Closing::NotOpen && !name.empty()) {
         call.tell(L"aucun document de ce nom n'est ouvert");
+    }
 }
 
 void ApplicationObject::getSearchFolders(Call& call) {

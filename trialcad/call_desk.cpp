@@ -44,8 +44,9 @@ bool waitWithMessages(DWORD milliseconds) {
 Member::Action actionOf(const Request& request, const Call& call) {
     const Member::Action action = request.put ? request.member->put : request.member->invoke;
     if (!action) throw CallError{DISP_E_MEMBERNOTFOUND};
-    if (call.count() != (request.put ? 1 : request.member->arity))
+    if (call.count() != (request.put ? 1 : request.member->arity)) {
         throw CallError{DISP_E_BADPARAMCOUNT};
+    }
     return action;
 }
 
@@ -72,10 +73,11 @@ Reply CallDesk::perform(const Request& request, Call& call) {
     if (!request.member) return {DISP_E_MEMBERNOTFOUND};
     if (!request.object.isConnected()) return {RPC_E_DISCONNECTED};
     if (const auto refusal = faults_.refuseCall(request.member->name)) return {*refusal};
-    if (faults_.mustFail(request.member->name))
+    if (faults_.mustFail(request.member->name)) {
         return {DISP_E_EXCEPTION, 0,
                 L"Échec de « " + std::wstring(request.member->name) +
                     L" » provoqué par la session d'essai."};
+    }
     try {
         actionOf(request, call)(request.object, call);
     } catch (const CallError& error) {

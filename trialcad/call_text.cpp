@@ -78,8 +78,9 @@ std::wstring valueText(VARIANT& value) {
 
 std::wstring argumentText(VARIANT& value) {
     if (!(value.vt & VT_BYREF)) return valueText(value);
-    if (value.vt == (VT_BYREF | VT_VARIANT))
+    if (value.vt == (VT_BYREF | VT_VARIANT)) {
         return L"&Variant(" + argumentText(*value.pvarVal) + L")";
+    }
     VARIANT pointedTo{};
     if (FAILED(VariantCopyInd(&pointedTo, &value))) return L"&?:vt" + std::to_wstring(value.vt);
     std::wstring result = L"&" + valueText(pointedTo);

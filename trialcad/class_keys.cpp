@@ -75,6 +75,7 @@ bool provideClassId(CLSID& classId) {
 }
 
 void removeOwnClassId() {
-    for (const HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER})
+    for (const HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
         if (isOwn(root)) removeKeys(root);
+    }
 }

@@ -85,13 +85,15 @@ bool touchFile(const std::wstring& path) {
 std::optional<DocumentKind> kindOfFile(std::wstring_view path) {
     const size_t dot = path.rfind(L'.');
     if (dot == path.npos) return std::nullopt;
-    for (const Kind& kind : kKinds)
+    for (const Kind& kind : kKinds) {
         if (equalIgnoringCase(path.substr(dot), kind.ending)) return kind.kind;
+    }
     return std::nullopt;
 }
 
 const wchar_t* kindName(DocumentKind kind) {
-    for (const Kind& known : kKinds)
+    for (const Kind& known : kKinds) {
         if (known.kind == kind) return known.name;
+    }
     return L"";
 }

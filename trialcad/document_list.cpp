@@ -60,13 +60,15 @@ void fillDocumentList(HWND list, const Session& session) {
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
     SendMessageW(list, LVM_DELETEALLITEMS, 0, 0);
     int row = 0;
-    for (const DocumentPointer& document : session.documents())
+    for (const DocumentPointer& document : session.documents()) {
         addRow(list, row++, *document.get(), document.get() == session.active());
+    }
     SendMessageW(list, WM_SETREDRAW, TRUE, 0);
 }
 
 void sizeDocumentList(HWND list, UINT dpi) {
-    for (size_t i = 0; i < std::size(kColumns); ++i)
+    for (size_t i = 0; i < std::size(kColumns); ++i) {
         SendMessageW(list, LVM_SETCOLUMNWIDTH, i,
                      MulDiv(kColumns[i].width, static_cast<int>(dpi), 96));
+    }
 }

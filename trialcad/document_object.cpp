@@ -44,11 +44,12 @@ void DocumentObject::forceRebuild3(Call& call) {
 void DocumentObject::save2(Call& call) {
     call.boolean(0);
     const long code = save();
-    if (code == kSaved)
+    if (code == kSaved) {
         modified_ = false;
-    else
+    } else {
         call.tell(title() + L" n'est pas enregistré (" + std::to_wstring(code) + L")",
                   L" -> not saved");
+    }
     call.answer(code);
 }
 

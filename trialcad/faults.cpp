@@ -41,16 +41,19 @@ bool Faults::isBusy(std::wstring_view method, bool mayStart) {
 
 bool Faults::mustFail(std::wstring_view method) {
     bool fails = false;
-    for (Failure& failure : failures_)
+    for (Failure& failure : failures_) {
         if (equalIgnoringCase(failure.rule.method, method) &&
-            ++failure.calls == failure.rule.number)
+            ++failure.calls == failure.rule.number) {
             fails = true;
+        }
+    }
     return fails;
 }
 
 DWORD Faults::delayOf(std::wstring_view method) const {
     DWORD total = 0;
-    for (const MethodRule& rule : delays_)
+    for (const MethodRule& rule : delays_) {
         if (equalIgnoringCase(rule.method, method)) total += rule.number;
+    }
     return total;
 }

@@ -46,14 +46,15 @@ MethodRule milliseconds(std::wstring_view option, const std::wstring& value) {
 }
 
 void readTitle(Options& options, const std::wstring& value) {
-    if (value == L"plain")
+    if (value == L"plain") {
         options.title = TitleStyle::Plain;
-    else if (value == L"bracket")
+    } else if (value == L"bracket") {
         options.title = TitleStyle::Bracket;
-    else if (value == L"none")
+    } else if (value == L"none") {
         options.title = TitleStyle::None;
-    else
+    } else {
         refuse(L"--title", value);
+    }
 }
 
 void readFail(Options& options, const std::wstring& value) {
@@ -81,8 +82,9 @@ constexpr Flag kFlags[] = {
 };
 
 bool setFlag(Options& options, const std::wstring& name) {
-    for (const Flag& flag : kFlags)
+    for (const Flag& flag : kFlags) {
         if (name == flag.name) return options.*flag.value = true;
+    }
     return false;
 }
 
@@ -101,8 +103,9 @@ constexpr OptionKind kOptions[] = {
 };
 
 const OptionKind& optionNamed(const std::wstring& name) {
-    for (const OptionKind& option : kOptions)
+    for (const OptionKind& option : kOptions) {
         if (name == option.name) return option;
+    }
     throw OptionError{L"Option inconnue : « " + name + L" »."};
 }
 
@@ -113,8 +116,9 @@ Options parseOptions(const std::vector<std::wstring>& arguments) {
     for (size_t i = 0; i < arguments.size(); ++i) {
         if (setFlag(options, arguments[i])) continue;
         const OptionKind& option = optionNamed(arguments[i]);
-        if (++i == arguments.size())
+        if (++i == arguments.size()) {
             throw OptionError{L"L'option " + std::wstring(option.name) + L" attend une valeur."};
+        }
         option.read(options, arguments[i]);
     }
     return options;

@@ -31,9 +31,10 @@ ComPtr<IMoniker> processName() {
 }
 
 void require(HRESULT registered) {
-    if (FAILED(registered))
+    if (FAILED(registered)) {
         throw RegistrationError{
             L"Windows refuse d'inscrire la session d'essai parmi les objets actifs."};
+    }
 }
 
 }  // namespace
@@ -50,13 +51,15 @@ Registration::Registration(IUnknown& application, Names names) : application_(ap
 
 void Registration::registerClass() {
     CLSID classId;
-    if (!provideClassId(classId))
+    if (!provideClassId(classId)) {
         throw RegistrationError{
             L"La classe « SldWorks.Application » ne peut pas être inscrite dans le registre."};
-    if (isRunning(classId))
+    }
+    if (isRunning(classId)) {
         throw RegistrationError{
             L"Une session SolidWorks est déjà ouverte.\n\n"
             L"Fermez-la avant d'ouvrir la session d'essai."};
+    }
     const HRESULT registered =
         RegisterActiveObject(&application_, classId, ACTIVEOBJECT_STRONG, &classCookie_);
     if (FAILED(registered)) removeOwnClassId();

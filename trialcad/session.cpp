@@ -64,19 +64,21 @@ DocumentObject* Session::open(OpenRequest request, OpenCodes& codes) {
     if (isReadOnly(path)) codes.warning |= kReadOnlyDocument;
     DocumentPointer document = namesake(path);
     if (document) codes.warning |= kAlreadyOpen;
-    if (!document)
+    if (!document) {
         document = add({.path = path,
                         .kind = static_cast<DocumentKind>(request.type),
                         .silent = request.silent,
                         .configuration = request.configuration},
                        script);
+    }
     setActive(document);
     return document.get();
 }
 
 std::optional<long> Session::refusalOf(const OpenRequest& request, ScriptedDocument* script) const {
-    if (script)
+    if (script) {
         if (const auto refusal = script->refuse.next()) return refusal;
+    }
     const DocumentPointer other = namesake(request.path);
     const bool isOpen = other && equalIgnoringCase(other->document().path, request.path);
     if (!isOpen && !fileExists(request.path)) return kFileNotFound;
@@ -104,8 +106,9 @@ Closing Session::close(const std::wstring& name) {
     if (!document) return Closing::NotOpen;
     document->close();
     std::erase_if(documents_, [&](const DocumentPointer& open) { return !open->isConnected(); });
-    if (!active_ || !active_->isConnected())
+    if (!active_ || !active_->isConnected()) {
         active_ = documents_.empty() ? DocumentPointer() : documents_.back();
+    }
     changed();
     return document->isModified() ? Closing::ChangesLost : Closing::Closed;
 }

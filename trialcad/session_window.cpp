@@ -155,8 +155,9 @@ void SessionWindow::changeResolution(const RECT& suggested) {
 
 void SessionWindow::applyFonts() {
     auto fonts = std::make_unique<WindowFonts>(static_cast<int>(dpi()), 100);
-    for (const HWND control : {documentsLabel_, documents_, foldersLabel_, folders_, callsLabel_})
+    for (const HWND control : {documentsLabel_, documents_, foldersLabel_, folders_, callsLabel_}) {
         SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(fonts->text()), TRUE);
+    }
     SendMessageW(calls_, WM_SETFONT, reinterpret_cast<WPARAM>(fonts->fixedPitch()), TRUE);
     sizeDocumentList(documents_, dpi());
     fonts_ = std::move(fonts);
@@ -184,8 +185,9 @@ void SessionWindow::paint() const {
 void SessionWindow::showFacts() {
     facts_ =
         L"Révision " + revision_ + L" – répertoire de travail : " + session_.workingDirectory();
-    if (const size_t scripted = session_.scriptedDocuments())
+    if (const size_t scripted = session_.scriptedDocuments()) {
         facts_ += L" – documents joués : " + std::to_wstring(scripted);
+    }
     InvalidateRect(window_, nullptr, FALSE);
 }
 

@@ -14,8 +14,9 @@ void makeRoomFor(HWND list, const std::wstring& line) {
     SIZE size{};
     GetTextExtentPoint32W(context.get(), line.c_str(), static_cast<int>(line.size()), &size);
     const LRESULT width = size.cx + GetSystemMetrics(SM_CXVSCROLL);
-    if (width > SendMessageW(list, LB_GETHORIZONTALEXTENT, 0, 0))
+    if (width > SendMessageW(list, LB_GETHORIZONTALEXTENT, 0, 0)) {
         SendMessageW(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width), 0);
+    }
 }
 
 void add(HWND list, const std::wstring& line) {
@@ -44,8 +45,9 @@ void fillTextList(HWND list, const std::wstring& joined) {
 
 void appendLine(HWND list, const std::wstring& line) {
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
-    if (SendMessageW(list, LB_GETCOUNT, 0, 0) >= kMostLines)
+    if (SendMessageW(list, LB_GETCOUNT, 0, 0) >= kMostLines) {
         SendMessageW(list, LB_DELETESTRING, 0, 0);
+    }
     add(list, line);
     showNewestLine(list);
     SendMessageW(list, WM_SETREDRAW, TRUE, 0);

@@ -56,8 +56,9 @@ Options readOptions() {
 }
 
 void openJournal(Journal& journal, const std::wstring& path) {
-    if (!path.empty() && !journal.open(path))
+    if (!path.empty() && !journal.open(path)) {
         throw OptionError{L"Le journal « " + path + L" » ne peut pas être créé."};
+    }
 }
 
 DocumentScript readScript(const Options& options) {
@@ -74,8 +75,9 @@ void complainToStarter(const std::wstring& text) {
     const std::string line = toUtf8(text) + '\n';
     DWORD written = 0;
     if (!WriteFile(GetStdHandle(STD_ERROR_HANDLE), line.data(), static_cast<DWORD>(line.size()),
-                   &written, nullptr))
+                   &written, nullptr)) {
         complain(text);
+    }
 }
 
 void runMessageLoop(HWND window) {
@@ -89,8 +91,9 @@ void runMessageLoop(HWND window) {
 
 /// Documents that clients still hold must answer with an error, not with silence.
 void disconnect(const Session& session) {
-    for (const DocumentPointer& document : session.documents())
+    for (const DocumentPointer& document : session.documents()) {
         CoDisconnectObject(document.get(), 0);
+    }
 }
 
 void runSession(HINSTANCE instance, const Options& options) {

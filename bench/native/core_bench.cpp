@@ -50,8 +50,9 @@ void storingBareNames(benchmark::State& state) {
     for (auto _ : state) {
         found.restart(false);
         found.beginPass(false);
-        for (std::int64_t i = 0; i < state.range(0); ++i)
+        for (std::int64_t i = 0; i < state.range(0); ++i) {
             found.store(L"c:\\plans", L"piece" + decimal(i));
+        }
     }
     state.SetComplexityN(state.range(0));
 }

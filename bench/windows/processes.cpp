@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <psapi.h>
 
 #include "driver/app_driver.h"
@@ -89,7 +90,7 @@ double programMemory(const Sandbox& sandbox) {
 }
 
 std::string kilobytes(double bytes) {
-    return std::to_string(static_cast<long>(bytes) / 1024) + " KB";
+    return std::to_string(static_cast<std::int64_t>(bytes) / 1024) + " KB";
 }
 
 }  // namespace

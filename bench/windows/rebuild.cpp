@@ -16,12 +16,12 @@ bool isDocument(const wchar_t* name) {
 }
 
 /// Reads a directory and, if wanted, all below it; counts the documents.
-long barePass(const std::wstring& directory, bool deep) {
+int barePass(const std::wstring& directory, bool deep) {
     WIN32_FIND_DATAW found;
     HANDLE search = FindFirstFileExW((directory + L"\\*").c_str(), FindExInfoBasic, &found,
                                      FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
     require(search != INVALID_HANDLE_VALUE, "a directory that can be read");
-    long documents = 0;
+    int documents = 0;
     do {
         const wchar_t* name = found.cFileName;
         if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) {

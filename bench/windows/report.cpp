@@ -50,8 +50,9 @@ std::string tableOf(const std::vector<int>& sizes, const std::vector<Row>& rows)
     for (const Row& row : rows) lines.push_back(cellsOf(sizes, row));
     std::vector<std::size_t> widths(lines.front().size());
     for (const Cells& line : lines) {
-        for (std::size_t i = 0; i < line.size(); ++i)
+        for (std::size_t i = 0; i < line.size(); ++i) {
             widths[i] = std::max(widths[i], widthOf(line[i]));
+        }
     }
     std::string rule = "|";
     for (const std::size_t width : widths) rule += std::string(width + 2, '-') + "|";

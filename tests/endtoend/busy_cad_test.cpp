@@ -58,8 +58,9 @@ TEST_F(BusyCad, ImpatientPressesAreNotFurtherCommands) {
     // All at once, so that the first is still at work when the last are taken up.
     HWND button = app.control(IDC_FORM3_CMDSUIV);
     for (int i = 0; i < 4; ++i) {
-        for (const UINT mouse : {WM_LBUTTONDOWN, WM_LBUTTONUP})
+        for (const UINT mouse : {WM_LBUTTONDOWN, WM_LBUTTONUP}) {
             post(button, mouse, 0, MAKELPARAM(5, 5));
+        }
     }
     for (const UINT key : {WM_KEYDOWN, WM_KEYUP}) post(button, key, VK_SPACE, 1);
     waitForCall("b.SLDPRT.ViewZoomtofit2");
@@ -78,8 +79,9 @@ TEST_F(BusyCad, TypingMeanwhileIsKept) {
     send(field, EM_SETSEL, 0, 0);
     app.click(IDC_FORM1_CMDREPDEF);
     waitForCall("GetSearchFolders");
-    for (const char letter : {'S', 'L', 'D', 'P', 'R', 'T'})
+    for (const char letter : {'S', 'L', 'D', 'P', 'R', 'T'}) {
         post(field, WM_CHAR, static_cast<WPARAM>(letter), 1);
+    }
     app.waitForText(IDC_FORM1_CPTFICHIER, "2");
     EXPECT_EQ(callsWith("GetSearchFolders"), 1);
 }

@@ -17,8 +17,9 @@ struct TrackingPass : Scenario {
 
     void expectLabels(const std::vector<std::string>& labels) const {
         Lines lines;
-        for (size_t i = 0; i < labels.size(); ++i)
+        for (size_t i = 0; i < labels.size(); ++i) {
             lines.push_back("000" + std::to_string(i + 1) + "  " + labels[i] + paths[i]);
+        }
         expectLines(IDC_FORM3_LIST1, lines);
     }
 

@@ -34,8 +34,9 @@ struct FakeAutomation::Object : AutomationObject {
     Value call(std::wstring_view method, std::span<const Argument> arguments,
                std::wstring_view) override {
         std::wstring line = prefix() + std::wstring(method) + L'(';
-        for (std::size_t i = 0; i < arguments.size(); ++i)
+        for (std::size_t i = 0; i < arguments.size(); ++i) {
             line += (i == 0 ? L"" : L", ") + std::visit(ArgumentText(), arguments[i]);
+        }
         server.journal.push_back(line + L')');
         return server.answer(name, method, arguments);
     }

@@ -74,8 +74,9 @@ TEST_F(SearchOnAWindow, AnswersAndDropsAllButWhatIsTypedForANewerOne) {
         DWORD_PTR answered = 0;
         EXPECT_NE(SendMessageTimeoutW(dialog(), WM_NULL, 0, 0, 0, 60000, &answered), 0);
         HWND check = item(IDC_CONTRACT_CHECK);
-        for (const UINT mouse : {WM_LBUTTONDOWN, WM_LBUTTONUP})
+        for (const UINT mouse : {WM_LBUTTONDOWN, WM_LBUTTONUP}) {
             PostMessageW(check, mouse, 0, MAKELPARAM(3, 3));
+        }
         for (const UINT key : {WM_KEYDOWN, WM_KEYUP}) PostMessageW(check, key, VK_SPACE, 1);
         PostMessageW(item(IDC_CONTRACT_BUTTON), BM_CLICK, 0, 0);
         PostMessageW(item(IDC_CONTRACT_FIELD), WM_CHAR, 'a', 1);

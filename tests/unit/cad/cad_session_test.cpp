@@ -67,7 +67,8 @@ TEST(ReleaseName, FollowsTheRevisionsFirstCharacters) {
         {L"9.0.0", L"2001"},  {L"99.1", L"2001"},   {L"10.0.0", L"2001Plus"},
         {L"11.2.0", L"2003"}, {L"12.0.1", L"2004"}, {L"13.0.0", L""},
         {L"1", L""},          {L" 12.0", L""}};
-    for (const auto& [revision, year] : cases)
+    for (const auto& [revision, year] : cases) {
         EXPECT_EQ(releaseName(revision), *year ? std::wstring(L"SolidWorks ") + year : L"")
             << revision;
+    }
 }

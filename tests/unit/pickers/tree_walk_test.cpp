@@ -47,8 +47,9 @@ class RandomTree {
     explicit RandomTree(unsigned seed) : random_(seed) {
         files.directories.insert(L"c:\\r");
         for (int i = 0; i < 60; ++i) addSomething();
-        for (int i = below(3); i > 0; --i)
+        for (int i = below(3); i > 0; --i) {
             files.links[somewhere() + L"\\lien" + decimal(i)] = somewhere();
+        }
         if (below(3) == 0) files.links[somewhere() + L"\\vide"] = L"c:\\absent";
         if (below(2) == 0) files.unreadable.insert(somewhere());
         failingVisit = below(2) == 0 ? below(100) : -1;

@@ -93,8 +93,9 @@ TEST_F(SelectionSearch, LeavingTheKindsAsTheyAreKeepsWhatIsChosen) {
 }
 
 TEST_F(SelectionSearch, FailsWhenThereAreTooManyDocuments) {
-    for (int i = 0; i < 8001; ++i)
+    for (int i = 0; i < 8001; ++i) {
         machine.files.add({L"c:\\n\\" + std::to_wstring(i) + L".slddrw"});
+    }
     load(L"c:\\n");
     EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"8001");
     machine.files.add({L"c:\\n\\trop.SLDDRW"});

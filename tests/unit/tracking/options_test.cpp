@@ -6,8 +6,9 @@ struct Options : TrackingFixture {
     /// What is kept of each.
     std::wstring options() {
         std::wstring kept;
-        for (const wchar_t* key : {L"toujoursvisible", L"touches", L"premierplan"})
+        for (const wchar_t* key : {L"toujoursvisible", L"touches", L"premierplan"}) {
             kept += machine.settings.read(L"tarnwick", L"options", key, L"-");
+        }
         return kept;
     }
 };
@@ -72,8 +73,9 @@ TEST_F(Options, ReportIsWrittenWhereTheUserWantsItOrThePassGoesOnWithoutIt) {
         click(IDM_FORM3_RAPPORT);
     }
     ASSERT_EQ(machine.boxes.shown.size(), 2U);
-    for (const auto& box : machine.boxes.shown)
+    for (const auto& box : machine.boxes.shown) {
         EXPECT_TRUE(box.text.starts_with(L"Le rapport n'a pas pu être écrit.")) << box.text;
+    }
     EXPECT_EQ(listFile(), before);
     click(IDC_FORM3_CMDSUIV);
     EXPECT_EQ(states(), L"1 3");

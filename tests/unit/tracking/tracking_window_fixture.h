@@ -49,8 +49,9 @@ class TrackingFixture : public testing::Test {
     void loadStates(const std::wstring& codes) {
         std::wstring text;
         wchar_t name = L'a';
-        for (const wchar_t code : codes)
+        for (const wchar_t code : codes) {
             text += code + (L"  c:\\" + std::wstring{name++}) + L"\r\n";
+        }
         load(text);
         takeCalls();
     }
@@ -66,8 +67,9 @@ class TrackingFixture : public testing::Test {
 
     /// The loading options as they are saved: a digit for each box.
     void tickOptions(const std::wstring& options) {
-        for (std::size_t i = 0; i < options.size(); ++i)
+        for (std::size_t i = 0; i < options.size(); ++i) {
             window().checkBox(kOptionBoxes[i]).ticked = options[i] == L'1';
+        }
     }
     /// The pointer, the number shown of how many, and the document.
     std::wstring shown() {
@@ -77,8 +79,9 @@ class TrackingFixture : public testing::Test {
     /// All states, separated by blanks.
     std::wstring states() {
         std::wstring result;
-        for (int i = 0; i <= work().last; ++i)
+        for (int i = 0; i <= work().last; ++i) {
             result += (i == 0 ? L"" : L" ") + wideText(work().lines[i].code.text());
+        }
         return result;
     }
     /// Whether the six advance buttons are enabled; they must be alike.
@@ -99,8 +102,9 @@ class TrackingFixture : public testing::Test {
  private:
     bool enabledAlike(const std::vector<int>& buttons) {
         const bool first = window().control(buttons.front()).enabled;
-        for (const int button : buttons)
+        for (const int button : buttons) {
             EXPECT_EQ(window().control(button).enabled, first) << button;
+        }
         return first;
     }
 };

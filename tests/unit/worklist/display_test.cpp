@@ -17,8 +17,9 @@ TEST(StateLabels, BelongToExactCodes) {
     for (const char* code : {"1", "11"}) EXPECT_EQ(labelOfText(code), L" Fait          ");
     for (const char* code : {"2", "12"}) EXPECT_EQ(labelOfText(code), L" Vu            ");
     for (const char* code : {"3", "13"}) EXPECT_EQ(labelOfText(code), L" EnCours  ");
-    for (const char* code : {"", "4", "00", "01", "110", "1 ", "x"})
+    for (const char* code : {"", "4", "00", "01", "110", "1 ", "x"}) {
         EXPECT_EQ(labelOfText(code), std::nullopt) << code;
+    }
 }
 
 TEST(DisplayDepth, StaysBetweenNoughtAndNine) {
@@ -62,6 +63,7 @@ TEST(shortPath, TakesSixteenBackslashesAndNoMore) {
     EXPECT_EQ(shortPath(9, sixteen),
               L"c:\\..\\..\\..\\..\\..\\..\\..\\..\\..\\" + std::wstring(6, L'\\') + L'f');
     EXPECT_EQ(raised([&] { shortPath(1, sixteen + L'\\'); }), 0);
-    for (const int depth : {0, 1})
+    for (const int depth : {0, 1}) {
         EXPECT_EQ(raised([&] { shortPath(depth, L"c:\\" + sixteen); }), 9) << depth;
+    }
 }
