@@ -88,8 +88,9 @@ TEST(DocumentKinds, NamesItsKindsAlwaysInTheSameOrder) {
         {L"*.SLDPR", L""},
         {L"", L""},
     };
-    for (const auto& [typed, pattern] : cases)
+    for (const auto& [typed, pattern] : cases) {
         EXPECT_EQ(DocumentKinds(typed).pattern(), pattern) << typed;
+    }
 }
 
 TEST(DocumentKinds, AcceptsByWhatFollowsTheLastDot) {

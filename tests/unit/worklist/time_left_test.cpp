@@ -21,6 +21,7 @@ TEST(TimeLeft, IsReadAsFarAsItCanBeKnown) {
         {3'569'000, L"environ 59 minutes"}, {3'570'000, L"environ 1 h 00"},
         {40'200'000, L"environ 11 h 10"},
     };
-    for (const auto& [milliseconds, text] : cases)
+    for (const auto& [milliseconds, text] : cases) {
         EXPECT_EQ(timeLeftText(milliseconds), std::wstring(L"Temps restant : ") + text);
+    }
 }
