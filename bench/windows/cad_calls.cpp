@@ -82,10 +82,11 @@ Row cadCalls(const Setting& setting) {
     const std::wstring path = driver::wide(sandbox.addDocument("piece.SLDPRT"));
 
     BareDocument bare(path);
-    const InputSieve sieve;
-    WinMessageBoxes boxes;
-    WinBusyWaiting waiting;
-    Patience patience(waiting, boxes);
+    Judge judge(doubleClickLimits(), [] { return Moment{GetTickCount64()}; });
+    const InputSieve sieve(judge);
+    WinMessageBoxes boxes(judge);
+    WinBusyWaiting waiting(judge);
+    Patience patience(waiting, boxes, judge);
     MessageFilter filter(patience);
     WinObjectServers servers;
     LateBoundAutomation automation(servers, patience);

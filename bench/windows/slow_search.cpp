@@ -4,10 +4,10 @@
 
 #include <algorithm>
 
-#include "input/searching.h"
 #include "rows.h"
 #include "sample_tree.h"
 #include "selection/document_search.h"
+#include "stage.h"
 #include "win32/files/pool_workers.h"
 #include "win32/files/win_files.h"
 #include "win32/window/window_patience.h"
@@ -29,9 +29,11 @@ Row searchOfSlowServer(const Setting& setting) {
     const int documents = std::min(800, setting.sizes.back());
     const std::wstring tree = documentTree(setting.directory, documents).wstring();
     SlowFiles files;
-    WindowPatience patience;
+    Judge judge(doubleClickLimits(), [] { return Moment{GetTickCount64()}; });
+    WindowPatience patience(judge);
+    const NoEvents window;
     const auto search = [&](Workers& workers) {
-        const Searching searching;
+        const Searching searching(patience, window, SearchKind::Documents);
         FoundDocuments found;
         found.restart(true);
         DocumentSearch({files, workers, patience}, found,

@@ -57,10 +57,11 @@ class Stage {
     explicit Stage(const std::wstring& workingDirectory = {}, const std::wstring& list = {});
 
  private:
-    InputSieve sieve_;
-    WinGateKeeper keeper_;
-    WinMessageBoxes messageBoxes_;
-    EventGate gate_{keeper_, messageBoxes_};
+    Judge judge_{doubleClickLimits(), [] { return Moment{GetTickCount64()}; }};
+    InputSieve sieve_{judge_};
+    WinGateKeeper keeper_{judge_};
+    WinMessageBoxes messageBoxes_{judge_};
+    EventGate gate_{keeper_, messageBoxes_, judge_};
     DialogFactory windows_;
     AnsweringAutomation automation_;
     RegistrySettings settings_;
@@ -68,11 +69,11 @@ class Stage {
     WinRecordFiles records_;
     WinListHolds listHolds_{files_};
     WinClock clock_;
-    WinFileDialogs fileDialogs_;
+    WinFileDialogs fileDialogs_{judge_};
     DesktopWithAll desktop_;
     WinPower power_;
     PoolWorkers workers_;
-    WindowPatience patience_;
+    WindowPatience patience_{judge_};
 
  public:
     Platform platform;

@@ -56,17 +56,18 @@ struct Apartment {
 
 /// The program on the machine it runs on.
 struct RunningProgram {
-    RunningProgram(EventGate& gate, MessageBoxes& boxes)
-        : messageBoxes(boxes),
-          patience(waiting, boxes),
+    RunningProgram(EventGate& gate, MessageBoxes& boxes, Judge& theJudge)
+        : judge(theJudge),
+          messageBoxes(boxes),
           windows(gate, [this] { showGuide(files, desktop, messageBoxes, programDirectory()); }) {
         patience.promiseMarksWhen([this] { return program.keepsMarks(); });
     }
 
     Apartment apartment;
+    Judge& judge;
     MessageBoxes& messageBoxes;
-    WinBusyWaiting waiting;
-    Patience patience;
+    WinBusyWaiting waiting{judge};
+    Patience patience{waiting, messageBoxes, judge};
     WinObjectServers servers;
     LateBoundAutomation automation{servers, patience};
     RegistrySettings settings;
@@ -76,12 +77,12 @@ struct RunningProgram {
     WinRecordFiles records;
     WinListHolds listHolds{files};
     WinClock clock;
-    WinFileDialogs fileDialogs;
+    WinFileDialogs fileDialogs{judge};
     WinDesktop desktop;
     WinPower power;
     DialogFactory windows;
-    InputSieve sieve;
-    WindowPatience searchPatience;
+    InputSieve sieve{judge};
+    WindowPatience searchPatience{judge};
     MessageFilter filter{patience};
     Program program{{automation,
                      settings,
@@ -106,13 +107,14 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     INITCOMMONCONTROLSEX controls{sizeof controls,
                                   ICC_STANDARD_CLASSES | ICC_TAB_CLASSES | ICC_PROGRESS_CLASS};
     InitCommonControlsEx(&controls);
-    WinGateKeeper keeper;
-    WinMessageBoxes boxes;
-    EventGate gate(keeper, boxes);
+    Judge judge(doubleClickLimits(), [] { return Moment{GetTickCount64()}; });
+    WinGateKeeper keeper(judge);
+    WinMessageBoxes boxes(judge);
+    EventGate gate(keeper, boxes, judge);
     std::optional<RunningProgram> running;
     gate.run([&] {
-        running.emplace(gate, boxes);
+        running.emplace(gate, boxes, judge);
         running->program.start();
     });
-    return gate.ended() ? gate.exitCode() : runMessageLoop();
+    return gate.ended() ? gate.exitCode() : runMessageLoop(judge);
 }

@@ -1,10 +1,10 @@
 #include "input/event_gate.h"
 
+#include <algorithm>
 #include <new>
 
 #include "common/numbers.h"
 #include "common/runtime_error.h"
-#include "input/searching.h"
 #include "ports/message_boxes.h"
 
 MessageBoxContent fatalErrorBox(const RuntimeError& error) {
@@ -17,10 +17,24 @@ void EventGate::deliver(EventSink& sink, int controlId, Event event,
                         const EventSource& source) noexcept {
     guard([&] {
         if (ended_) return;
-        if (Searching::any() && !Searching::keeps(sink, controlId, event)) return;
-        deliveries_.push_back({&sink, controlId, event, &source, running_});
-        if (!running_) serve();
+        dropStoppedSearches();
+        const DuringSearch asked = sink.duringSearch(controlId, event);
+        const Verdict verdict = judge_.judge({.kind = Deed::Kind::Event,
+                                              .window = &sink,
+                                              .closes = event == Event::Close,
+                                              .duringSearch = asked});
+        if (verdict == Verdict::Drops || verdict == Verdict::EndsProgram) return;
+        const bool restarts = verdict == Verdict::Restarts;
+        queue({&sink, controlId, event, &source, restarts ? asked : DuringSearch::Drop, busy()});
+        if (!busy()) serve();
     });
+}
+
+// However often a newer search is asked for, it is made once.
+void EventGate::queue(const Delivery& delivery) {
+    const bool asksAgain = delivery.duringSearch != DuringSearch::Drop &&
+                           std::ranges::find(deliveries_, delivery) != deliveries_.end();
+    if (!asksAgain) deliveries_.push_back(delivery);
 }
 
 void EventGate::run(const std::function<void()>& action) noexcept {
@@ -28,27 +42,43 @@ void EventGate::run(const std::function<void()>& action) noexcept {
     guard([&] { serve(); });
 }
 
-// The one place where an event that came can be refused.
-bool EventGate::isRefused(const Delivery& delivery) {
+bool EventGate::isRefused(const Delivery& delivery) const {
     if (!delivery.waited) return false;
-    return !delivery.source->isShown() || !delivery.source->canUse(delivery.controlId);
+    const bool usable = delivery.source->isShown() && delivery.source->canUse(delivery.controlId);
+    return verdictOn(judge_.situation(), {.kind = Deed::Kind::WaitedEvent, .usable = usable}) ==
+           Verdict::Drops;
 }
 
 void EventGate::serve() {
-    while (!deliveries_.empty() && !ended_) {
+    while (!ended_) {
+        dropStoppedSearches();
+        if (deliveries_.empty()) return judge_.atRest();
         const Delivery next = deliveries_.front();
         deliveries_.erase(deliveries_.begin());
         if (!isRefused(next)) runOne([&] { next.sink->raise(next.controlId, next.event); });
     }
 }
 
+// One key ends the search and all that were asked for before it was pressed.
+void EventGate::dropStoppedSearches() {
+    if (!judge_.searchStopped()) return;
+    std::erase_if(deliveries_,
+                  [](const Delivery& event) { return event.duringSearch != DuringSearch::Drop; });
+}
+
+DuringSearch EventGate::askedByWaiting() const {
+    DuringSearch most = DuringSearch::Drop;
+    for (const Delivery& event : deliveries_) most = std::max(most, event.duringSearch);
+    return most;
+}
+
 template <class Action>
 void EventGate::runOne(const Action& action) {
-    running_ = true;
-    keeper_.setHourglass(true);
+    judge_.handlerBegins(askedByWaiting());
+    keeper_.showPointer();
     guard(action);
-    keeper_.setHourglass(false);
-    running_ = false;
+    judge_.handlerEnds();
+    keeper_.showPointer();
     endIfFailed();
 }
 

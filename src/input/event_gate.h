@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include "input/judge.h"
 #include "ports/events.h"
 
 class MessageBoxes;
@@ -29,7 +30,8 @@ class GateKeeper {
  public:
     virtual ~GateKeeper() = default;
 
-    virtual void setHourglass(bool shown) = 0;
+    /// A handler begins or ends: the pointer says whether the user has to wait.
+    virtual void showPointer() = 0;
     /// Lets the message loop end.
     virtual void quit(int exitCode) = 0;
 };
@@ -39,10 +41,13 @@ class GateKeeper {
 /// arrives meanwhile waits until it has ended.
 class EventGate {
  public:
-    EventGate(GateKeeper& keeper, MessageBoxes& boxes) : keeper_(keeper), boxes_(boxes) {}
+    EventGate(GateKeeper& keeper, MessageBoxes& boxes, Judge& judge)
+        : keeper_(keeper), boxes_(boxes), judge_(judge) {}
+
+    Judge& judge() const { return judge_; }
 
     /// Runs the handler of an event now, or after the one that runs; then only if the user could
-    /// still do what it stands for. While that one searches, only what Searching keeps.
+    /// still do what it stands for. While that one searches, only if the judge lets it.
     void deliver(EventSink& sink, int controlId, Event event, const EventSource& source) noexcept;
 
     /// Runs what is no event's handler but may take as long, and then the events that waited.
@@ -57,14 +62,14 @@ class EventGate {
         } catch (...) {
             if (!failure_) failure_ = std::current_exception();
         }
-        if (!running_) endIfFailed();
+        if (!busy()) endIfFailed();
     }
 
     /// Drops the waiting events of a window that is gone.
     void forget(const EventSource& source);
 
     /// Whether a handler runs.
-    bool busy() const { return running_; }
+    bool busy() const { return judge_.situation().handling; }
     bool ended() const { return ended_; }
     int exitCode() const { return exitCode_; }
 
@@ -74,10 +79,16 @@ class EventGate {
         int controlId;
         Event event;
         const EventSource* source;
-        bool waited;  ///< while another handler ran
+        DuringSearch duringSearch;  ///< what it asked of the search while which it came
+        bool waited;                ///< while another handler ran
+
+        bool operator==(const Delivery&) const = default;
     };
 
-    static bool isRefused(const Delivery& delivery);
+    bool isRefused(const Delivery& delivery) const;
+    void queue(const Delivery& delivery);
+    void dropStoppedSearches();
+    DuringSearch askedByWaiting() const;
 
     void serve();
     template <class Action>
@@ -87,9 +98,9 @@ class EventGate {
 
     GateKeeper& keeper_;
     MessageBoxes& boxes_;
+    Judge& judge_;
     std::vector<Delivery> deliveries_;
     std::exception_ptr failure_;
-    bool running_ = false;
     bool ended_ = false;
     int exitCode_ = 0;
 };

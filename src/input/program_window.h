@@ -21,9 +21,9 @@ class ProgramWindow : public EventSink {
         return !binding || binding->presses == Presses::All;
     }
 
-    bool restartsSearch(int controlId, Event event) const final {
+    DuringSearch duringSearch(int controlId, Event event) const final {
         const auto* binding = findBinding(bindings_, controlId, event);
-        return binding && binding->duringSearch == DuringSearch::Restart;
+        return binding ? binding->duringSearch : DuringSearch::Drop;
     }
 
     Window& window() { return *window_; }

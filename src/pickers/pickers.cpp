@@ -5,10 +5,10 @@
 #include <utility>
 
 #include "common/letter_case.h"
-#include "input/searching.h"
 #include "pickers/search_progress.h"
 #include "ports/controls.h"
 #include "ports/files.h"
+#include "ports/search_patience.h"
 
 namespace {
 
@@ -56,7 +56,7 @@ wchar_t DrivePicker::drive() const {
 
 Opening DirectoryPicker::open(const std::wstring& path) {
     std::wstring wanted = reportedPath(path);
-    const Searching opening;
+    const Searching opening(services_.patience, window_, SearchKind::Opening);
     const SearchSign sign(label_);
     auto subdirectories = readSubdirectories(services_, wanted);
     if (!subdirectories) return Opening::GivenUp;

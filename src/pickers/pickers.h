@@ -8,6 +8,7 @@
 
 class ComboBox;
 class Control;
+class EventSink;
 class Files;
 class ListBox;
 
@@ -42,9 +43,10 @@ enum class Opening {
 /// level indented under the one above. The user opens another by a double click or Enter.
 class DirectoryPicker {
  public:
-    /// `label` says so while a directory is being opened.
-    DirectoryPicker(ListBox& list, Control& label, const SearchServices& services)
-        : list_(list), label_(label), services_(services) {}
+    /// `label` says so while a directory is being opened; `window`: where all that stands.
+    DirectoryPicker(ListBox& list, Control& label, const SearchServices& services,
+                    const EventSink& window)
+        : list_(list), label_(label), services_(services), window_(window) {}
 
     /// The open directory: a drive root with its trailing backslash, any other without one.
     const std::wstring& path() const { return path_; }
@@ -67,6 +69,7 @@ class DirectoryPicker {
     ListBox& list_;
     Control& label_;
     SearchServices services_;
+    const EventSink& window_;
     std::wstring path_;
     std::vector<std::wstring> ancestors_;  // full paths, from the root to the open directory
     std::vector<Subdirectory> subdirectories_;

@@ -13,6 +13,11 @@ inline constexpr int kTheWindow = 0;
 inline constexpr int kEnterKey = 1;
 inline constexpr int kEscapeKey = 2;
 
+/// What becomes of an event that comes while its window searches. Restart: it asks for another
+/// search, which begins at once; Reopen: in another directory, so that the one that is being opened
+/// is in vain, too.
+enum class DuringSearch { Drop, Restart, Reopen };
+
 /// Who handles the events of a window.
 class EventSink {
  public:
@@ -20,17 +25,15 @@ class EventSink {
     virtual void raise(int controlId, Event event) = 0;
     /// Whether the second press of a double click counts like the first one.
     virtual bool takesSecondPress(int /*controlId*/, Event /*event*/) const { return true; }
-    /// Whether the search that runs is in vain after it, for another one follows.
-    virtual bool restartsSearch(int /*controlId*/, Event /*event*/) const { return false; }
+    /// What it asks of the search that its window makes.
+    virtual DuringSearch duringSearch(int /*controlId*/, Event /*event*/) const {
+        return DuringSearch::Drop;
+    }
 };
 
 /// Which presses start a command. Single: the second press of a double click does not, for what it
 /// does can't be taken back.
 enum class Presses { All, Single };
-
-/// What becomes of an event that comes while its window searches. Restart: it asks for another
-/// search, which begins at once.
-enum class DuringSearch { Drop, Restart };
 
 /// One line of a form's table of handlers.
 template <class Form>

@@ -1,10 +1,21 @@
 #pragma once
 
+class EventSink;
+
+/// A directory or a drive that is only opened goes on while something is typed.
+enum class SearchKind { Documents, Opening };
+
 /// How the main thread, while it searches, serves its window. What these raise ends the search and
 /// is let through.
 class SearchPatience {
  public:
     virtual ~SearchPatience() = default;
+
+    /// A search begins in this window's name, or ends. Use Searching.
+    virtual void begin(const EventSink& window, SearchKind kind) = 0;
+    virtual void end() = 0;
+    /// Whether the user gave up the search that runs, rather than ask for a newer one.
+    virtual bool stopped() const = 0;
 
     /// Does what has come for the window, without waiting. False: the search is to stop.
     virtual bool serve() = 0;
@@ -17,9 +28,34 @@ class SearchPatience {
     virtual void wake() = 0;
 };
 
+/// While it lives a command searches, before its user's eyes and while the program's windows live.
+/// What the user does meanwhile is no command: it stops the search, has it begin again, ends the
+/// program, or is dropped.
+class Searching {
+ public:
+    /// `window`: the one that searches. Its frame ends the program, its controls may ask for a
+    /// newer search.
+    Searching(SearchPatience& patience, const EventSink& window, SearchKind kind)
+        : patience_(patience) {
+        patience_.begin(window, kind);
+    }
+    ~Searching() { patience_.end(); }
+    Searching(const Searching&) = delete;
+    Searching& operator=(const Searching&) = delete;
+
+    /// Whether the user gave up what has not been found yet.
+    bool stopped() const { return patience_.stopped(); }
+
+ private:
+    SearchPatience& patience_;
+};
+
 /// For searches that nobody watches and that wait for nobody.
 class Unwatched : public SearchPatience {
  public:
+    void begin(const EventSink&, SearchKind) override {}
+    void end() override {}
+    bool stopped() const override { return false; }
     bool serve() override { return true; }
     bool wait() override { return true; }
     void wake() override {}

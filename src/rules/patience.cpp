@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "input/call_out.h"
+#include "input/judge.h"
 #include "ports/message_boxes.h"
 
 namespace {
@@ -14,12 +14,36 @@ constexpr wchar_t kBusy[] =
 constexpr wchar_t kMarksKept[] =
     L" Les marques du travail en cours sont gardées et seront proposées au prochain démarrage.";
 
-CallResult tryOnce(const std::function<CallResult()>& attempt) {
-    const CallOut out;
+}  // namespace
+
+CallResult Patience::tryOnce(const std::function<CallResult()>& attempt) {
+    const CallOut out(judge_);
     return attempt();
 }
 
-}  // namespace
+void Patience::waitOut(unsigned milliseconds) {
+    const CallOut waiting(judge_);
+    if (milliseconds != 0) machine_.wait(milliseconds);
+    whilePending();
+}
+
+void Patience::whilePending() {
+    constexpr unsigned kWhile = 1'000;
+    machine_.handleInput();
+    if (!judge_.situation().closeAsked) return;
+    if (!callIsOverdue(judge_.situation(), judge_.now())) return machine_.wakeIn(kWhile);
+    const bool leaves = userLeaves();
+    judge_.closeAnswered();
+    if (leaves) machine_.endProgram();
+}
+
+bool Patience::userLeaves() {
+    return boxes_.show({.text = L"SolidWorks ne répond pas.\r\nQuitter Tarnwick sans attendre ?",
+                        .title = L"Tarnwick",
+                        .buttons = MessageBoxContent::Buttons::YesNo,
+                        .icon = MessageBoxContent::Icon::Warning,
+                        .defaultButton = 2}) == MessageBoxes::Answer::Yes;
+}
 
 std::optional<unsigned> Patience::afterRefusal() {
     constexpr std::uint64_t kPatience = 10'000;
@@ -49,8 +73,7 @@ CallResult Patience::call(const std::function<CallResult()>& attempt) {
     CallResult result = tryOnce(attempt);
     while (isBusy(result)) {
         if (const auto wait = afterRefusal()) {
-            const CallOut waiting;
-            if (*wait != 0) machine_.wait(*wait);
+            waitOut(*wait);
         } else if (userGoesOn()) {
             refusedSince_.reset();
         } else {

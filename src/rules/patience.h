@@ -7,6 +7,7 @@
 
 #include "rules/call_error.h"
 
+class Judge;
 class MessageBoxes;
 
 /// What waiting for a busy application needs of the machine.
@@ -18,6 +19,12 @@ class BusyWaiting {
     virtual std::uint64_t now() const = 0;
     /// Lets this time pass; the windows draw meanwhile.
     virtual void wait(unsigned milliseconds) = 0;
+    /// Handles the input that has come for the windows.
+    virtual void handleInput() = 0;
+    /// Has the call that is out look up after this time, so that `whilePending` is called.
+    virtual void wakeIn(unsigned milliseconds) = 0;
+    /// Ends the program at once, with code 0.
+    virtual void endProgram() = 0;
 };
 
 /// When a call that a busy application refused is tried again. A refused call never ran, so it
@@ -25,7 +32,8 @@ class BusyWaiting {
 /// first refusal the user is asked. One clock serves all who see a refusal.
 class Patience {
  public:
-    Patience(BusyWaiting& machine, MessageBoxes& boxes) : machine_(machine), boxes_(boxes) {}
+    Patience(BusyWaiting& machine, MessageBoxes& boxes, Judge& judge)
+        : machine_(machine), boxes_(boxes), judge_(judge) {}
 
     /// Makes a call, again and again while it is refused. Gives the last answer, which is a refusal
     /// when the user gave up.
@@ -38,11 +46,20 @@ class Patience {
     /// or nothing when the user is to be asked.
     std::optional<unsigned> afterRefusal();
 
+    /// The call that is out has not returned, and something came meanwhile. Input that waited for
+    /// it would be a command afterwards. When it does not return long after the user asked to close
+    /// the window, asks whether to leave without it.
+    void whilePending();
+
  private:
+    CallResult tryOnce(const std::function<CallResult()>& attempt);
+    void waitOut(unsigned milliseconds);
     bool userGoesOn();
+    bool userLeaves();
 
     BusyWaiting& machine_;
     MessageBoxes& boxes_;
+    Judge& judge_;
     std::function<bool()> marksKept_;
     std::optional<std::uint64_t> refusedSince_;
 };

@@ -73,7 +73,7 @@ ConfigurationWindow::ConfigurationWindow(Platform& platform, WindowPlaces& place
       Label5(window_->control(IDC_FORM4_LABEL5)),
       NNiv(window_->control(IDC_FORM4_NNIV)),
       Drive1(window_->comboBox(IDC_FORM4_DRIVE1), platform.files),
-      Dir1(window_->listBox(IDC_FORM4_DIR1), Label5, platform.search) {}
+      Dir1(window_->listBox(IDC_FORM4_DIR1), Label5, platform.search, *this) {}
 
 void ConfigurationWindow::Form_Load() {
     const int dpi = window_->dpi();

@@ -5,12 +5,12 @@
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
-#include "input/searching.h"
 #include "pickers/search_progress.h"
 #include "pickers/tree_walk.h"
 #include "ports/files.h"
 #include "ports/message_boxes.h"
 #include "ports/platform.h"
+#include "ports/search_patience.h"
 #include "searchfolders/configuration_window.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
@@ -146,7 +146,7 @@ void ConfigurationWindow::CmdAjo2_Click() {
 }
 
 void ConfigurationWindow::addTree(TreeAddition& tree) {
-    const Searching searching;
+    const Searching searching(platform_.search.patience, *this, SearchKind::Documents);
     const SearchSign sign(Label5);
     Pulse pulse;
     const WalkEnd end =

@@ -7,9 +7,9 @@
 inline constexpr Binding<SelectionWindow> kSelectionBindings[] = {
     {kTheWindow, Event::Close, &SelectionWindow::Form_Close},
     {IDC_FORM1_UNITE, Event::Click, &SelectionWindow::unite_Change, Presses::All,
-     DuringSearch::Restart},
+     DuringSearch::Reopen},
     {IDC_FORM1_REPERT, Event::DoubleClick, &SelectionWindow::repert_DblClick, Presses::All,
-     DuringSearch::Restart},
+     DuringSearch::Reopen},
     {IDC_FORM1_TYPEF, Event::Change, &SelectionWindow::repert_Change, Presses::All,
      DuringSearch::Restart},
     {IDC_FORM1_TYPEF, Event::Click, &SelectionWindow::repert_Change, Presses::All,

@@ -39,7 +39,7 @@ SelectionWindow::SelectionWindow(Platform& platform, WindowPlaces& places, const
       n_filtre(window_->control(IDC_FORM1_N_FILTRE)),
       NNiveau(window_->control(IDC_FORM1_NNIVEAU)),
       unite(window_->comboBox(IDC_FORM1_UNITE), platform.files),
-      repert(window_->listBox(IDC_FORM1_REPERT), Label4, platform.search),
+      repert(window_->listBox(IDC_FORM1_REPERT), Label4, platform.search, *this),
       List1(window_->listBox(IDC_FORM1_LIST1), found_) {}
 
 void SelectionWindow::Form_Load() {

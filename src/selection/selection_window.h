@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "input/program_window.h"
@@ -91,6 +92,7 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     DirectoryPicker repert;
     FoundDocuments found_;
     SelectionList List1;
-    std::wstring searched_;       ///< the directory searched last
-    std::wstring searchedKinds_;  ///< the text of the kinds searched last
+    std::wstring searched_;                     ///< the directory searched last
+    std::wstring searchedKinds_;                ///< the text of the kinds searched last
+    std::optional<std::wstring> stoppedKinds_;  ///< what stood there when that search was stopped
 };

@@ -1,12 +1,12 @@
 // The selection window's search: from drive, directory, kinds and sub-directories box to the list.
 
 #include "common/numbers.h"
-#include "input/searching.h"
 #include "pickers/directory_listing.h"
 #include "pickers/search_progress.h"
 #include "ports/files.h"
 #include "ports/message_boxes.h"
 #include "ports/platform.h"
+#include "ports/search_patience.h"
 #include "selection/document_search.h"
 #include "selection/selection_window.h"
 
@@ -72,6 +72,8 @@ void SelectionWindow::sousrep_Click() {
 void SelectionWindow::repert_Change() { rebuild({}); }
 
 void SelectionWindow::typef_Validate() {
+    // Leaving the field makes no search that its user has stopped.
+    if (typef.text() == stoppedKinds_) return;
     const bool asSearched = typef.text() == searchedKinds_;
     rebuild(asSearched ? List1.chosenEntries() : SelectionList::Entries());
 }
@@ -84,6 +86,8 @@ bool SelectionWindow::rebuild(const SelectionList::Entries& chosen) {
     searched_ = repert.path();
     searchedKinds_ = typef.text();
     const SearchEnd end = search();
+    stoppedKinds_.reset();
+    if (end == SearchEnd::Stopped) stoppedKinds_ = typef.text();
     cptfichier.setText(decimal(found_.count()));
     List1.fill(NNiveau.levels(), chosen);
     List1_Click();
@@ -92,7 +96,7 @@ bool SelectionWindow::rebuild(const SelectionList::Entries& chosen) {
 }
 
 SelectionWindow::SearchEnd SelectionWindow::search() {
-    const Searching searching;
+    const Searching searching(platform_.search.patience, *this, SearchKind::Documents);
     const SearchSign sign(Label4);
     found_.beginPass(false);
     showCounts(0);

@@ -16,7 +16,6 @@
 #include "fakes/fake_settings.h"
 #include "fakes/fake_window.h"
 #include "fakes/fake_workers.h"
-#include "input/searching.h"
 #include "ports/platform.h"
 #include "session/file_system_object.h"
 #include "session/program_files.h"
@@ -57,28 +56,25 @@ struct FakePlatform {
         settings.entries.clear();
     }
 
-    /// Has a search that serves its window look up once it has read a directory.
-    void serveAfter(const std::wstring& directory, const std::function<void()>& deed) {
+    /// Has a search that serves its window ask once whether it goes on, when it has read a
+    /// directory.
+    void serveAfter(const std::wstring& directory, const std::function<bool()>& goesOn) {
         const auto here = std::make_shared<bool>(false);
         files.beforeEach = [=](const std::wstring& path) {
             if (path == directory) *here = true;
             // Longer than a search takes no notice of its window.
             if (*here) std::this_thread::sleep_for(std::chrono::milliseconds(25));
         };
-        patience.goesOn = [=] {
-            if (std::exchange(*here, false)) deed();
-            return Searching::goesOn();
-        };
+        patience.goesOn = [=] { return !std::exchange(*here, false) || goesOn(); };
     }
 
     /// From now on no directory answers; Escape is pressed while one is waited for, and each time
     /// this is done.
     void hangUntilEscape(const std::function<void()>& deed = [] {}) {
         workers.hang = true;
-        patience.goesOn = [=] {
+        patience.goesOn = [this, deed] {
             deed();
-            Searching::stop();
-            return Searching::goesOn();
+            return patience.stop();
         };
     }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "rules/patience.h"
-#include "win32/process/message_pump.h"
 #include "win32/process/require.h"
 
 MessageFilter::MessageFilter(Patience& patience) : patience_(patience) {
@@ -31,7 +30,6 @@ DWORD MessageFilter::RetryRejectedCall(HTASK, DWORD, DWORD) {
 }
 
 DWORD MessageFilter::MessagePending(HTASK, DWORD, DWORD) {
-    handleWaitingMessages(WM_KEYFIRST, WM_KEYLAST);
-    handleWaitingMessages(WM_MOUSEFIRST, WM_MOUSELAST);
+    patience_.whilePending();
     return PENDINGMSG_WAITDEFPROCESS;
 }

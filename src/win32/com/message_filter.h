@@ -25,7 +25,7 @@ class MessageFilter final : public IMessageFilter {
     /// to the caller, who asks the user. Systems that don't ask leave it to the caller altogether.
     /// What has elapsed is since the call went out, not since it was refused, and means nothing.
     DWORD STDMETHODCALLTYPE RetryRejectedCall(HTASK callee, DWORD elapsed, DWORD reason) override;
-    /// Sieves the input that came in: otherwise it would wait and be a command after the call.
+    /// COM leaves what came in the queue, where it would wait for the call.
     DWORD STDMETHODCALLTYPE MessagePending(HTASK callee, DWORD elapsed, DWORD type) override;
 
  private:

@@ -1,14 +1,18 @@
 #include "win32/process/message_pump.h"
 
-bool handleWaitingMessages(UINT first, UINT last) {
+void dispatchMessage(MSG& message) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+}
+
+bool handleWaitingMessages(UINT first, UINT last, const std::function<void(MSG&)>& handle) {
     MSG message;
     while (PeekMessageW(&message, nullptr, first, last, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
             PostQuitMessage(static_cast<int>(message.wParam));
             return false;
         }
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
+        handle(message);
     }
     return true;
 }

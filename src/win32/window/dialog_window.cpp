@@ -1,14 +1,14 @@
 #include "win32/window/dialog_window.h"
 
+#include <algorithm>
 #include <commctrl.h>
 #include <uxtheme.h>
 
 #include "win32/process/require.h"
 #include "win32/process/system_function.h"
+#include "win32/window/control_class.h"
 #include "win32/window/focus.h"
 #include "win32/window/foreground.h"
-#include "win32/window/hourglass.h"
-#include "win32/window/input_sieve.h"
 #include "win32/window/own_windows.h"
 #include "win32/window/screen_reader.h"
 #include "win32/window/system_menu.h"
@@ -92,8 +92,27 @@ bool DialogWindow::isShown() const { return IsWindowVisible(window_.get()); }
 
 bool DialogWindow::canUse(int controlId) const {
     HWND control = item(controlId);
-    if (!control) return !isGreyed(window_.get(), controlId);
+    // A separator of the menu has the window's own number, and is grey.
+    if (!control) return controlId == kTheWindow || !isGreyed(window_.get(), controlId);
     return IsWindowVisible(control) && IsWindowEnabled(control);
+}
+
+DialogWindow* DialogWindow::ofEvents(const EventSink& events) {
+    for (HWND window : ownWindows()) {
+        auto* self = reinterpret_cast<DialogWindow*>(GetWindowLongPtrW(window, DWLP_USER));
+        if (self && &self->events_ == &events) return self;
+    }
+    return nullptr;
+}
+
+// A button acts; the search belongs to what it looks for and where.
+bool DialogWindow::asksForSearch(HWND part) const {
+    HWND control = part ? controlHolding(window_.get(), part) : nullptr;
+    if (!control || classOf(control) == ControlClass::Button) return false;
+    constexpr Event kDeeds[] = {Event::Click, Event::DoubleClick, Event::Change};
+    return std::ranges::any_of(kDeeds, [&](Event event) {
+        return events_.duringSearch(GetDlgCtrlID(control), event) != DuringSearch::Drop;
+    });
 }
 
 template <class Kind>
@@ -116,7 +135,7 @@ ProgressBar& DialogWindow::progressBar(int id) { return find<WinProgressBar>(id)
 void DialogWindow::show() {
     HWND window = window_.get();
     const bool wasVisible = IsWindowVisible(window);
-    InputSieve::windowShown();
+    judge().windowShown();
     noteUsed(window);
     ShowWindow(window, IsIconic(window) ? SW_RESTORE : SW_SHOW);
     takeForeground(window);
@@ -130,7 +149,7 @@ void DialogWindow::show() {
 }
 
 void DialogWindow::showAside() {
-    InputSieve::windowShown();
+    judge().windowShown();
     standInSight();
     ShowWindow(window_.get(), SW_SHOWNOACTIVATE);
     UpdateWindow(window_.get());

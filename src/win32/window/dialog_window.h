@@ -56,6 +56,12 @@ class DialogWindow : public Window, private EventSource {
     void hide() override;
     void unload() override;
 
+    /// The window whose events go there, if it is one of these.
+    static DialogWindow* ofEvents(const EventSink& events);
+    HWND handle() const { return window_.get(); }
+    /// Whether a control, or a part of one, asks for a newer search while the window searches.
+    bool asksForSearch(HWND part) const;
+
  private:
     bool isShown() const override;
     bool canUse(int controlId) const override;
@@ -83,7 +89,9 @@ class DialogWindow : public Window, private EventSource {
     void onHelp();
     /// Its button is pressed while another program may have the keyboard.
     void pressFromAfar(int id);
-    bool isUnmeantCommand(int id, Event event) const;
+    bool isAsideMeant(bool takesSecond) const;
+    bool isUnmeantCommand(int id, Event event, Deed::Kind kind = Deed::Kind::Command) const;
+    Judge& judge() const { return gate_.judge(); }
     void changeResolution(const RECT& suggested);
     void changeScreen();
     void chooseFonts();

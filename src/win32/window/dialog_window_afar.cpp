@@ -1,7 +1,6 @@
 // What a window does while another program is in front.
 
 #include "win32/window/dialog_window.h"
-#include "win32/window/input_sieve.h"
 #include "win32/window/system_menu.h"
 
 namespace {
@@ -42,15 +41,15 @@ INT_PTR DialogWindow::onSystemCommand(WPARAM command) {
         if (canUse(itemOf(command))) raise(itemOf(command), Event::Click);
         return TRUE;
     }
-    // What was pressed next, while a command was at work, would choose in a menu that nobody saw.
-    return itemOf(command) == SC_MOUSEMENU && InputSieve::currentPress().late;
+    return itemOf(command) == SC_MOUSEMENU &&
+           judge().judge({.kind = Deed::Kind::OpenMenu}) == Verdict::Drops;
 }
 
 // Edit fields take the message for a menu of their own, and Windows' own menu belongs to the frame.
 INT_PTR DialogWindow::onContextMenu(HWND control, LPARAM place) {
     HWND window = window_.get();
     if (menuItems_.empty() || isOnFrame(window, place)) return FALSE;
-    if (gate_.busy() || !startsCommand(InputSieve::currentPress(), true, false)) return TRUE;
+    if (!isAsideMeant(true)) return TRUE;
     showShortcutMenu(window, menuItems_, shortcutMenuPlace(control, place));
     return TRUE;
 }
@@ -72,7 +71,7 @@ void DialogWindow::onHotKey(int id, UINT key) {
 }
 
 void DialogWindow::pressFromAfar(int id) {
-    if (gate_.busy() || !canUse(id) || isUnmeantCommand(id, Event::Click)) {
+    if (isUnmeantCommand(id, Event::Click, Deed::Kind::HotKeyCommand)) {
         MessageBeep(MB_OK);
         return;
     }

@@ -9,17 +9,17 @@
 #include "win32/window/dropped_paths.h"
 #include "win32/window/focus.h"
 #include "win32/window/foreground.h"
-#include "win32/window/hourglass.h"
 #include "win32/window/input_messages.h"
-#include "win32/window/input_sieve.h"
+#include "win32/window/message_deed.h"
 #include "win32/window/own_windows.h"
+#include "win32/window/pointer.h"
 #include "win32/window/system_menu.h"
 #include "win32/window/tooltips.h"
 
 namespace {
 
 /// A window's own timers.
-constexpr UINT_PTR kDeferredTimer = 1;
+constexpr UINT_PTR kDeferredTimer = 0x100;  // no virtual key: those are of keys that are held
 
 /// A handler closed the window for good.
 bool isOver(HWND window) { return GetWindowLongPtrW(window, DWLP_USER) == 0; }
@@ -111,7 +111,7 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_MOUSEACTIVATE:
             return onMouseActivate();
         case WM_TIMER:
-            if (wParam == kDeferredTimer) onDeferred();
+            wParam == kDeferredTimer ? onDeferred() : hotKeys_.onTimer(wParam);
             return TRUE;
         case WM_ACTIVATE:
             if (LOWORD(wParam) != WA_INACTIVE) noteUsed(window_.get());
@@ -125,18 +125,21 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
 void DialogWindow::onDrop(HDROP files) {
     auto paths = pathsOf(files);
     DragFinish(files);
-    if (gate_.busy() || !IsWindowEnabled(window_.get())) return;
+    if (!isAsideMeant(true) || !IsWindowEnabled(window_.get())) return;
     dropped_ = std::move(paths);
     // The program that they come from is still in front.
     takeForeground(window_.get());
     raise(kTheWindow, Event::Drop);
 }
 
-// A box asks its owner for help, too: while one is up the gate is busy.
+bool DialogWindow::isAsideMeant(bool takesSecond) const {
+    return judge().judge({.kind = Deed::Kind::Aside,
+                          .takesSecond = takesSecond,
+                          .fromProgram = isFromProgram()}) == Verdict::Counts;
+}
+
 void DialogWindow::onHelp() {
-    if (startsCommand(InputSieve::currentPress(), false, gate_.busy()) && !gate_.busy()) {
-        gate_.run(help_);
-    }
+    if (isAsideMeant(false)) gate_.run(help_);
 }
 
 INT_PTR DialogWindow::onNotify(const NMHDR& header) {
@@ -152,8 +155,8 @@ INT_PTR DialogWindow::onSetCursor(HWND control, int place, WORD mouseMessage) {
         return FALSE;
     }
     relayToTooltips(tips_, control, mouseMessage);
-    if (!Hourglass::shown()) return FALSE;
-    Hourglass::show();
+    if (pointerIn(judge().situation()) == Pointer::Arrow) return FALSE;
+    showPointer(judge());
     SetWindowLongPtrW(window_.get(), DWLP_MSGRESULT, TRUE);
     return TRUE;
 }
@@ -161,7 +164,9 @@ INT_PTR DialogWindow::onSetCursor(HWND control, int place, WORD mouseMessage) {
 // The second press of a double click would hide what the first one has opened.
 INT_PTR DialogWindow::onMouseActivate() {
     HWND window = window_.get();
-    if (GetActiveWindow() == window || !InputSieve::secondPressComes()) return FALSE;
+    POINT place{};
+    if (GetActiveWindow() == window || !GetCursorPos(&place)) return FALSE;
+    if (judge().judgeActivation(place.x, place.y) == Verdict::Counts) return FALSE;
     SetWindowLongPtrW(window, DWLP_MSGRESULT, MA_NOACTIVATEANDEAT);
     return TRUE;
 }
@@ -215,20 +220,24 @@ void DialogWindow::serveDeferred() {
 }
 
 /// What a person types or chooses meanwhile is kept; what a press would start is not.
-bool DialogWindow::isUnmeantCommand(int id, Event event) const {
+bool DialogWindow::isUnmeantCommand(int id, Event event, Deed::Kind kind) const {
     const bool isClick = event == Event::Click && (!item(id) || isButton(item(id)));
     if (!isClick && event != Event::DoubleClick && event != Event::Enter) return false;
-    return !startsCommand(InputSieve::currentPress(), events_.takesSecondPress(id, event),
-                          gate_.busy());
+    return judge().judge({.kind = kind,
+                          .window = &events_,
+                          .duringSearch = events_.duringSearch(id, event),
+                          .takesSecond = events_.takesSecondPress(id, event),
+                          .fromProgram = isFromProgram(),
+                          .usable = canUse(id)}) == Verdict::Drops;
 }
 
 /// Whether this control's event is still meant after those that came before it.
 bool DialogWindow::serveFirst(int id) {
     HWND window = window_.get();
-    const int shown = InputSieve::windowsShown();
+    const int shown = judge().windowsShown();
     serveDeferred();
     // Who was asked something meanwhile may think otherwise now.
-    return !isOver(window) && canUse(id) && InputSieve::windowsShown() == shown;
+    return !isOver(window) && canUse(id) && judge().windowsShown() == shown;
 }
 
 void DialogWindow::raise(int id, Event event) {

@@ -2,8 +2,28 @@
 
 #include "win32/window/control_class.h"
 
+namespace {
+
+/// The list that a drop-down box opens, a window of its own.
+HWND listOf(HWND control) {
+    COMBOBOXINFO parts{};
+    parts.cbSize = sizeof parts;
+    if (classOf(control) != ControlClass::ComboBox) return nullptr;
+    return GetComboBoxInfo(control, &parts) ? parts.hwndList : nullptr;
+}
+
+}  // namespace
+
 bool canBeUsed(HWND control) {
     return control && IsWindowVisible(control) && IsWindowEnabled(control);
+}
+
+HWND controlHolding(HWND window, HWND part) {
+    HWND control = GetWindow(window, GW_CHILD);
+    while (control && control != part && !IsChild(control, part) && listOf(control) != part) {
+        control = GetWindow(control, GW_HWNDNEXT);
+    }
+    return control;
 }
 
 bool isPushButton(HWND control) {

@@ -5,6 +5,10 @@
 /// The control is to be seen and enabled.
 bool canBeUsed(HWND control);
 
+/// The control of a window that holds this one: itself, or the drop-down box of a field or a list;
+/// null when none does.
+HWND controlHolding(HWND window, HWND part);
+
 /// A button that Enter presses while it has the focus.
 bool isPushButton(HWND control);
 

@@ -39,3 +39,9 @@ constexpr bool isRelease(UINT message) {
 constexpr bool isKeyDown(UINT message) { return message == WM_KEYDOWN || message == WM_SYSKEYDOWN; }
 
 constexpr bool isKeyUp(UINT message) { return message == WM_KEYUP || message == WM_SYSKEYUP; }
+
+/// Wheels and gestures do their work at once.
+constexpr bool isScroll(UINT message) {
+    return message == WM_MOUSEWHEEL || message == WM_MOUSEHWHEEL || message == WM_POINTERWHEEL ||
+           message == WM_TOUCH;
+}

@@ -2,38 +2,26 @@
 
 #include <windows.h>
 
-#include "input/press_judge.h"
+#include "input/judge.h"
 #include "win32/process/unique.h"
 
-/// Sees every message that the thread takes from its queue, in whatever loop, and drops the presses
-/// on buttons that are not meant, those of message boxes included: pressed while a call to another
-/// program was out or a command was at work, the second of a double click on a window that has just
-/// come up, the repetitions of a held key. All other messages pass, posted ones included.
+/// What makes two presses a double click on this machine.
+Judge::Limits doubleClickLimits();
+
+/// Shows the judge every message that the thread takes from its queue, in whatever loop, those of
+/// message boxes included, and drops those that do not count. While it lives it is the thread's
+/// only one.
 class InputSieve {
  public:
-    InputSieve();
+    explicit InputSieve(Judge& judge);
     ~InputSieve();
     InputSieve(const InputSieve&) = delete;
     InputSieve& operator=(const InputSieve&) = delete;
 
-    /// What the event goes back to that is raised now.
-    static PressVerdict currentPress();
-    /// Whether a press of the mouse that comes now is the second of a double click, and its first
-    /// one has brought up a window.
-    static bool secondPressComes();
-
-    /// The message that was taken last has been handled.
-    static void messageHandled();
-    static void workEnded();
-    static void windowShown();
-    /// How many windows and boxes have come up so far.
-    static int windowsShown();
-
-    /// Judges a message that is taken from the queue; true when it is to be dropped.
-    bool drops(const MSG& message);
-
  private:
-    PressJudge judge_;
-    int windowsShown_ = 0;
+    static LRESULT CALLBACK onGetMessage(int code, WPARAM wParam, LPARAM lParam);
+
+    // A hook is told nothing of who set it.
+    inline static Judge* hooked_ = nullptr;
     UniqueHook hook_;
 };

@@ -1,9 +1,8 @@
 #include "win32/window/message_loop.h"
 
-#include <windows.h>
-
+#include "input/judge.h"
+#include "win32/process/message_pump.h"
 #include "win32/window/focus.h"
-#include "win32/window/input_sieve.h"
 #include "win32/window/list_keys.h"
 #include "win32/window/shortcuts.h"
 
@@ -15,23 +14,28 @@ bool usesKeyboard(const MSG& message) {
            message.wParam != VK_CONTROL;
 }
 
-void handle(MSG& message) {
+void dispatch(MSG& message) {
     HWND window = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
     if (window && usesKeyboard(message)) showFocusCues(window);
     if (window && translateShortcut(window, message)) return;
     if (window && goToLetter(message)) return;
     if (window && IsDialogMessageW(window, &message)) return;
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
+    dispatchMessage(message);
+}
+
+void handle(MSG& message, Judge& judge) {
+    dispatch(message);
+    judge.messageHandled();
 }
 
 }  // namespace
 
-int runMessageLoop() {
+int runMessageLoop(Judge& judge) {
     MSG message;
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        handle(message);
-        InputSieve::messageHandled();
-    }
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) handle(message, judge);
     return static_cast<int>(message.wParam);
+}
+
+bool handleWaitingMessages(Judge& judge, UINT first, UINT last) {
+    return handleWaitingMessages(first, last, [&](MSG& message) { handle(message, judge); });
 }

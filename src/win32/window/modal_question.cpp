@@ -1,19 +1,23 @@
 #include "win32/window/modal_question.h"
 
-#include "win32/window/input_sieve.h"
+#include "input/judge.h"
 #include "win32/window/own_windows.h"
+#include "win32/window/pointer.h"
 
-ModalQuestion::ModalQuestion() : owner_(ownerOfDialogs()) {
+ModalQuestion::ModalQuestion(Judge& judge) : judge_(judge), owner_(ownerOfDialogs()) {
     for (HWND window : ownWindows()) {
         if (window == owner_ || !IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
         disabled_.push_back(window);
         EnableWindow(window, FALSE);
     }
-    InputSieve::windowShown();
+    judge_.questionBegins();
+    showPointer(judge_);
 }
 
 ModalQuestion::~ModalQuestion() {
     for (HWND window : disabled_) EnableWindow(window, TRUE);
+    judge_.questionEnds();
+    showPointer(judge_);
 }
 
 bool ModalQuestion::topmost() const {

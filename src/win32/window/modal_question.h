@@ -4,14 +4,14 @@
 
 #include <vector>
 
-#include "win32/window/hourglass.h"
+class Judge;
 
 /// While it lives a box or a dialog of the system asks the user something: the program waits for
 /// its user, and all its windows are disabled but the owner, which the box disables itself. What
 /// was pressed before is not meant for it.
 class ModalQuestion {
  public:
-    ModalQuestion();
+    explicit ModalQuestion(Judge& judge);
     ~ModalQuestion();
     ModalQuestion(const ModalQuestion&) = delete;
     ModalQuestion& operator=(const ModalQuestion&) = delete;
@@ -21,7 +21,7 @@ class ModalQuestion {
     bool topmost() const;
 
  private:
-    HourglassAside noHourglass_;
+    Judge& judge_;
     HWND owner_;
     std::vector<HWND> disabled_;
 };

@@ -16,12 +16,17 @@ class WindowShortcuts {
 
     /// Carries out a key that goes down; false when it is no shortcut.
     bool translate(MSG& message) const;
+    /// The control that a key which goes down is a shortcut of; 0 when it is none.
+    int controlOf(const MSG& message) const;
 
  private:
     HWND window_;
     UniqueShortcuts table_;
-    std::vector<ACCEL> signs_;
+    std::vector<ACCEL> entries_;
 };
+
+/// The same in a window that may have none.
+int shortcutIn(HWND window, const MSG& message);
 
 /// Carries out a key message that is a shortcut in this window; false when it is none. Besides
 /// the window's own, Ctrl+A selects all lines of a list.

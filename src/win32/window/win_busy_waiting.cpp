@@ -1,13 +1,46 @@
 #include "win32/window/win_busy_waiting.h"
 
-#include "win32/process/message_pump.h"
+#include <utility>
 
-std::uint64_t WinBusyWaiting::now() const { return GetTickCount64(); }
+#include "win32/process/require.h"
+#include "win32/window/message_loop.h"
+
+namespace {
+
+// A message is what a call that is out looks up for (the IMessageFilter::MessagePending method).
+void CALLBACK wake(PTP_CALLBACK_INSTANCE, void* thread, PTP_TIMER) {
+    PostThreadMessageW(*static_cast<const DWORD*>(thread), WM_NULL, 0, 0);
+}
+
+}  // namespace
+
+WinBusyWaiting::WinBusyWaiting(Judge& judge)
+    : judge_(judge),
+      timer_(require(CreateThreadpoolTimer(wake, &thread_, nullptr), L"une minuterie")) {}
 
 void WinBusyWaiting::wait(unsigned milliseconds) {
     const std::uint64_t end = now() + milliseconds;
     for (std::uint64_t time = now(); time < end; time = now()) {
         MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(end - time), QS_ALLINPUT, 0);
-        handleWaitingMessages();
+        handleWaitingMessages(judge_);
     }
+}
+
+void WinBusyWaiting::handleInput() {
+    constexpr std::pair<UINT, UINT> kInput[] = {{WM_KEYFIRST, WM_KEYLAST},
+                                                {WM_MOUSEFIRST, WM_MOUSELAST},
+                                                {WM_NCMOUSEMOVE, WM_NCXBUTTONDBLCLK},
+                                                {WM_NCPOINTERUPDATE, WM_POINTERHWHEEL},
+                                                {WM_HOTKEY, WM_HOTKEY},
+                                                {WM_SYSCOMMAND, WM_SYSCOMMAND},
+                                                {WM_CLOSE, WM_CLOSE}};
+    for (const auto& [first, last] : kInput) handleWaitingMessages(judge_, first, last);
+}
+
+void WinBusyWaiting::wakeIn(unsigned milliseconds) {
+    constexpr std::int64_t kTicksPerMillisecond = 10'000;
+    std::int64_t fromNow = -kTicksPerMillisecond * milliseconds;
+    FILETIME due;
+    CopyMemory(&due, &fromNow, sizeof due);
+    SetThreadpoolTimer(timer_.get(), &due, 0, 0);
 }

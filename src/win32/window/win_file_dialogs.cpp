@@ -44,8 +44,8 @@ std::wstring pathOf(IFileDialog& dialog) {
     return result;
 }
 
-std::optional<std::wstring> ask(IFileDialog& dialog) {
-    const ModalQuestion asking;
+std::optional<std::wstring> ask(IFileDialog& dialog, Judge& judge) {
+    const ModalQuestion asking(judge);
     const HRESULT answer = dialog.Show(asking.owner());
     if (answer == HRESULT_FROM_WIN32(ERROR_CANCELLED)) return std::nullopt;
     requireSuccess(answer, kWhat);
@@ -62,7 +62,7 @@ std::optional<std::wstring> WinFileDialogs::askWhereToSave(const SaveQuestion& q
     dialog->SetDefaultExtension(question.extension.c_str());
     dialog->SetFileName(question.name.c_str());
     open(*dialog.get(), question.directory);
-    return ask(*dialog.get());
+    return ask(*dialog.get(), judge_);
 }
 
 std::optional<std::wstring> WinFileDialogs::askWhatToOpen(const OpenQuestion& question) {
@@ -72,5 +72,5 @@ std::optional<std::wstring> WinFileDialogs::askWhatToOpen(const OpenQuestion& qu
         kinds.push_back({kind.name.c_str(), kind.patterns.c_str()});
     }
     dialog->SetFileTypes(static_cast<UINT>(kinds.size()), kinds.data());
-    return ask(*dialog.get());
+    return ask(*dialog.get(), judge_);
 }

@@ -1,16 +1,17 @@
 #pragma once
 
+#include <windows.h>
+
 #include "input/event_gate.h"
-#include "input/long_work.h"
-#include "win32/window/hourglass.h"
-#include "win32/window/input_sieve.h"
+#include "win32/window/pointer.h"
 
 class WinGateKeeper : public GateKeeper {
  public:
-    /// Shown from the beginning of a handler to its end.
-    void setHourglass(bool shown) override {
-        Hourglass::set(shown);
-        if (!shown && LongWork::takeDone()) InputSieve::workEnded();
-    }
+    explicit WinGateKeeper(const Judge& judge) : judge_(judge) {}
+
+    void showPointer() override { ::showPointer(judge_); }
     void quit(int exitCode) override { PostQuitMessage(exitCode); }
+
+ private:
+    const Judge& judge_;
 };

@@ -12,16 +12,7 @@ UINT virtualKey(int place) {
     return key != 0 ? key : static_cast<UINT>('0' + place);
 }
 
-/// The key that is down since it acted, 0 for none.
-UINT_PTR heldKey = 0;
-
 bool isDownNow(UINT_PTR key) { return GetAsyncKeyState(static_cast<int>(key)) < 0; }
-
-void CALLBACK waitUntilUp(HWND window, UINT, UINT_PTR key, DWORD) {
-    if (isDownNow(key)) return;
-    KillTimer(window, key);
-    heldKey = 0;
-}
 
 }  // namespace
 
@@ -49,10 +40,16 @@ void WinHotKeys::release() {
 
 bool WinHotKeys::has(int id) const { return std::ranges::find(taken_, id) != taken_.end(); }
 
-bool WinHotKeys::isHeld(UINT key) const {
+bool WinHotKeys::isHeld(UINT key) {
     if (!isDownNow(key)) return false;
-    if (key == heldKey) return true;
-    heldKey = key;
-    SetTimer(window_, key, USER_TIMER_MINIMUM, waitUntilUp);
+    if (key == held_) return true;
+    held_ = key;
+    SetTimer(window_, key, USER_TIMER_MINIMUM, nullptr);
     return false;
+}
+
+void WinHotKeys::onTimer(UINT_PTR key) {
+    if (key != held_ || isDownNow(key)) return;
+    KillTimer(window_, key);
+    held_ = 0;
 }

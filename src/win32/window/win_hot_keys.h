@@ -25,7 +25,9 @@ class WinHotKeys {
 
     /// Whether a virtual key acts again though it was not let go: not every system heeds
     /// MOD_NOREPEAT. To be asked once a message.
-    bool isHeld(UINT key) const;
+    bool isHeld(UINT key);
+    /// One of the window's timers has run off; that of a held key has the number of the key.
+    void onTimer(UINT_PTR timer);
 
  private:
     bool take(const HotKey& key);
@@ -33,4 +35,5 @@ class WinHotKeys {
     std::span<const HotKey> keys_;
     HWND window_ = nullptr;
     std::vector<int> taken_;
+    UINT_PTR held_ = 0;  ///< the key that is down since it acted
 };

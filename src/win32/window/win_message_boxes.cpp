@@ -43,7 +43,7 @@ DWORD styleOf(const MessageBoxContent& box) {
 }  // namespace
 
 MessageBoxes::Answer WinMessageBoxes::show(const MessageBoxContent& box) {
-    const ModalQuestion question;
+    const ModalQuestion question(judge_);
     const std::wstring text = withBoundQuotes(box.text);
     MSGBOXPARAMSW parameters{};
     parameters.cbSize = sizeof parameters;

@@ -2,25 +2,28 @@
 
 #include <windows.h>
 
-#include <chrono>
-
+#include "input/judge.h"
 #include "ports/search_patience.h"
 #include "win32/process/unique.h"
 
 /// Serves the program's windows while the main thread searches: they are drawn, moved and sized,
-/// answer other programs, and take the key that stops the search. Presses and keys that are not for
-/// the search are dropped here, events that came otherwise at the gate.
+/// answer other programs, and take what stops or replaces the search. The judge lets nothing else
+/// pass.
 ///
 /// A search that is over in no time is one step, as it were: nothing is served.
 class WindowPatience : public SearchPatience {
  public:
-    WindowPatience();
+    explicit WindowPatience(Judge& judge);
 
+    void begin(const EventSink& window, SearchKind kind) override;
+    void end() override;
+    bool stopped() const override { return judge_.searchStopped(); }
     bool serve() override;
     bool wait() override;
     void wake() override { SetEvent(woken_.get()); }
 
  private:
+    Judge& judge_;
     UniqueHandle woken_;  ///< an event that resets itself
-    std::chrono::steady_clock::time_point served_;
+    Moment served_ = 0;
 };

@@ -1,20 +1,25 @@
-// What the message filter answers when a busy program refused a call. Wine never asks it.
+// What the message filter answers when a busy program refused a call, which Wine never asks, and
+// what it does when something comes while one is out.
 
 #include "win32/com/message_filter.h"
 
-#include <gtest/gtest.h>
 #include <objbase.h>
 
+#include "contract/win32/real_windows.h"
 #include "fakes/fake_message_boxes.h"
 #include "fakes/fake_waiting.h"
 #include "rules/patience.h"
+#include "win32/window/win_busy_waiting.h"
 
 namespace {
 
 /// COM keeps a filter for each thread that it serves.
-struct MessageFilterTest : testing::Test {
+struct MessageFilterTest : testing::Test, RealWindows, EventSink {
     MessageFilterTest() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
     ~MessageFilterTest() override { CoUninitialize(); }
+    void raise(int id, Event event) override { raised.emplace_back(id, event); }
+
+    RaisedEvents raised;
 };
 
 }  // namespace
@@ -24,8 +29,8 @@ TEST_F(MessageFilterTest, RepeatsARefusedCallFromTheFirstRefusalOn) {
     constexpr DWORD kGiveUp = static_cast<DWORD>(-1);
     constexpr DWORD kHung = 12'000;
     FakeWaiting clock;
-    FakeMessageBoxes boxes;
-    Patience patience(clock, boxes);
+    FakeMessageBoxes noBoxes;
+    Patience patience(clock, noBoxes, judge);
     MessageFilter filter(patience);
     const std::pair<DWORD, DWORD> answers[] = {
         {0, 0}, {30, 100}, {5'000, 1'000}, {9'999, 1'000}, {10'000, kGiveUp}};
@@ -35,4 +40,22 @@ TEST_F(MessageFilterTest, RepeatsARefusedCallFromTheFirstRefusalOn) {
                   answer)
             << sinceRefusal;
     }
+}
+
+// On Windows it is all that a click on the frame comes to while a call is out.
+TEST_F(MessageFilterTest, HearsTheFrameWhileACallIsOut) {
+    WinBusyWaiting waiting(judge);
+    FakeMessageBoxes noBoxes;
+    Patience patience(waiting, noBoxes, judge);
+    MessageFilter filter(patience);
+    const auto window = factory.create({.dialogId = IDD_CONTRACT}, *this);
+    window->show();
+    gate.run([&] {
+        const CallOut out(judge);
+        PostMessageW(ownWindows().front(), WM_SYSCOMMAND, SC_CLOSE, 0);
+        EXPECT_EQ(filter.MessagePending(nullptr, 0, 0), PENDINGMSG_WAITDEFPROCESS);
+        EXPECT_TRUE(raised.empty());
+        EXPECT_TRUE(judge.situation().closeAsked);
+    });
+    EXPECT_EQ(raised, (RaisedEvents{{kTheWindow, Event::Close}}));
 }

@@ -6,6 +6,7 @@
 #include "unit/unit_test.h"
 #include "win32/process/message_pump.h"
 #include "win32/window/dialog_window.h"
+#include "win32/window/input_sieve.h"
 #include "win32/window/own_windows.h"
 #include "win32/window/win_gate_keeper.h"
 #include "win32/window/win_message_boxes.h"
@@ -28,8 +29,10 @@ struct RealWindows {
         InitCommonControlsEx(&controls);
     }
 
-    WinGateKeeper keeper;
-    WinMessageBoxes boxes;
-    EventGate gate{keeper, boxes};
+    Judge judge{doubleClickLimits(), [] { return Moment{GetTickCount64()}; }};
+    InputSieve sieve{judge};
+    WinGateKeeper keeper{judge};
+    WinMessageBoxes boxes{judge};
+    EventGate gate{keeper, boxes, judge};
     DialogFactory factory{gate};
 };

@@ -2,11 +2,10 @@
 
 #include "win32/window/window_patience.h"
 
-#include <set>
 #include <thread>
+#include <vector>
 
 #include "contract/win32/real_windows.h"
-#include "input/searching.h"
 #include "pickers/tree_walk.h"
 #include "win32/files/pool_workers.h"
 #include "win32/files/win_files.h"
@@ -31,7 +30,7 @@ class SearchOnAWindow : public testing::Test, protected RealWindows, private Eve
     /// or ends the search.
     void search(const std::function<void()>& user) {
         gate.run([&] {
-            const Searching searching;
+            const Searching searching(patience_, *this, SearchKind::Documents);
             const std::jthread other(user);
             end_ = walkTree({*files_, workers_, patience_}, L"c:\\", true, noFile,
                             [](const auto&, const auto&) {});
@@ -42,17 +41,17 @@ class SearchOnAWindow : public testing::Test, protected RealWindows, private Eve
     HWND item(int id) const { return GetDlgItem(dialog(), id); }
 
     std::optional<WalkEnd> end_;
-    std::set<int> raised_;
+    std::vector<int> raised_;
 
  private:
-    bool restartsSearch(int controlId, Event) const override {
-        return controlId == IDC_CONTRACT_TYPED;
+    DuringSearch duringSearch(int controlId, Event) const override {
+        return controlId == IDC_CONTRACT_TYPED ? DuringSearch::Restart : DuringSearch::Drop;
     }
-    void raise(int controlId, Event) override { raised_.insert(controlId); }
+    void raise(int controlId, Event) override { raised_.push_back(controlId); }
 
     SilentFiles* files_ = new SilentFiles;  // its readers may outlive the test
     PoolWorkers workers_;
-    WindowPatience patience_;
+    WindowPatience patience_{judge};
     std::unique_ptr<Window> window_ =
         factory.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);
 };
@@ -66,7 +65,7 @@ TEST_F(SearchOnAWindow, IsOneStepWhenItTakesNoTime) {
     EXPECT_TRUE(raised_.empty());
 }
 
-TEST_F(SearchOnAWindow, AnswersAndDropsAllButWhatIsTypedForANewerOne) {
+TEST_F(SearchOnAWindow, AnswersAndDropsAllButWhatIsTypedOrPressedForANewerOne) {
     // It was not meant for a search that begins later.
     PostMessageW(item(IDC_CONTRACT_BUTTON), WM_KEYDOWN, VK_ESCAPE, 0);
     Sleep(50);
@@ -80,13 +79,17 @@ TEST_F(SearchOnAWindow, AnswersAndDropsAllButWhatIsTypedForANewerOne) {
         for (const UINT key : {WM_KEYDOWN, WM_KEYUP}) PostMessageW(check, key, VK_SPACE, 1);
         PostMessageW(item(IDC_CONTRACT_BUTTON), BM_CLICK, 0, 0);
         PostMessageW(item(IDC_CONTRACT_FIELD), WM_CHAR, 'a', 1);
-        PostMessageW(GetWindow(item(IDC_CONTRACT_TYPED), GW_CHILD), WM_CHAR, 'b', 1);
+        HWND typed = GetWindow(item(IDC_CONTRACT_TYPED), GW_CHILD);
+        for (const WPARAM letter : {'b', 'c'}) PostMessageW(typed, WM_CHAR, letter, 1);
+        for (const UINT mouse : {WM_LBUTTONDOWN, WM_LBUTTONUP})
+            PostMessageW(typed, mouse, 0, MAKELPARAM(3, 3));
     });
     EXPECT_EQ(end_, WalkEnd::Interrupted);
-    EXPECT_EQ(raised_, std::set{IDC_CONTRACT_TYPED});
+    EXPECT_EQ(raised_, std::vector{IDC_CONTRACT_TYPED}) << "however many letters";
+    EXPECT_EQ(GetParent(GetFocus()), item(IDC_CONTRACT_TYPED));
     EXPECT_EQ(IsDlgButtonChecked(dialog(), IDC_CONTRACT_CHECK), BST_UNCHECKED);
     EXPECT_EQ(GetWindowTextLengthW(item(IDC_CONTRACT_FIELD)), 0);
-    EXPECT_EQ(GetWindowTextLengthW(item(IDC_CONTRACT_TYPED)), 1);
+    EXPECT_EQ(GetWindowTextLengthW(item(IDC_CONTRACT_TYPED)), 2);
 }
 
 TEST_F(SearchOnAWindow, IsEndedByEscapeOrWithTheProgramByAFrame) {

@@ -8,7 +8,6 @@
 #include <thread>
 
 #include "contract/win32/real_windows.h"
-#include "win32/window/hourglass.h"
 
 namespace {
 
@@ -263,13 +262,14 @@ TEST_F(WindowsAndBoxes, BoxStandsAboveAWindowThatIsAlwaysVisibleAndUnderNoHourgl
     firstWindow->show();
     firstWindow->setTopmost(true);
     EXPECT_NE(GetWindowLongW(first, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
-    Hourglass::set(true);
-    ask([](HWND box) {
+    judge.handlerBegins(DuringSearch::Drop);
+    const auto pointer = [&] { return pointerIn(judge.situation()); };
+    ask([&](HWND box) {
         EXPECT_NE(GetWindowLongW(box, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
-        EXPECT_FALSE(Hourglass::shown());
+        EXPECT_EQ(pointer(), Pointer::Arrow);
     });
-    EXPECT_TRUE(Hourglass::shown());
-    Hourglass::set(false);
+    EXPECT_EQ(pointer(), Pointer::Wait);
+    judge.handlerEnds();
     ShowWindow(first, SW_MINIMIZE);
     firstWindow->setTopmost(false);
     EXPECT_EQ(GetWindowLongW(first, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);

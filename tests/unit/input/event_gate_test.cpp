@@ -3,15 +3,16 @@
 #include <new>
 
 #include "fakes/fake_message_boxes.h"
-#include "input/searching.h"
 #include "unit/unit_test.h"
 
 namespace {
 
 struct FakeKeeper : GateKeeper {
-    bool hourglass = false;
+    explicit FakeKeeper(const Judge& theJudge) : judge(theJudge) {}
+    const Judge& judge;
+    Pointer pointer = Pointer::Arrow;
     std::vector<int> quits;
-    void setHourglass(bool shown) override { hourglass = shown; }
+    void showPointer() override { pointer = pointerIn(judge.situation()); }
     void quit(int exitCode) override { quits.push_back(exitCode); }
 };
 
@@ -25,9 +26,11 @@ struct FakeSource : EventSource {
 /// Does what the test says for each control.
 struct FakeSink : EventSink {
     std::map<int, std::function<void()>> handlers;
-    int restarting = 0;  ///< the control that asks for another search
+    std::map<int, DuringSearch> searching;  ///< the controls that ask for another search
     std::vector<int> raised;
-    bool restartsSearch(int controlId, Event) const override { return controlId == restarting; }
+    DuringSearch duringSearch(int controlId, Event) const override {
+        return searching.contains(controlId) ? searching.at(controlId) : DuringSearch::Drop;
+    }
     void raise(int controlId, Event) override {
         raised.push_back(controlId);
         if (handlers.contains(controlId)) handlers[controlId]();
@@ -35,9 +38,10 @@ struct FakeSink : EventSink {
 };
 
 struct EventGateTest : testing::Test {
-    FakeKeeper keeper;
+    Judge judge{{}, [] { return Moment{1000}; }};
+    FakeKeeper keeper{judge};
     FakeMessageBoxes boxes;
-    EventGate gate{keeper, boxes};
+    EventGate gate{keeper, boxes, judge};
     FakeSource source;
     FakeSink sink;
 
@@ -52,42 +56,48 @@ struct EventGateTest : testing::Test {
 }  // namespace
 
 TEST_F(EventGateTest, RunsOneHandlerAtATimeUnderTheHourglass) {
-    bool busy = false;
+    Pointer busy{};
     sink.handlers[1] = [&] {
-        busy = keeper.hourglass;
+        busy = keeper.pointer;
         click(2);
         click(3);
         EXPECT_EQ(sink.raised, std::vector{1});
     };
     click(1);
-    EXPECT_TRUE(busy);
+    EXPECT_EQ(busy, Pointer::Wait);
     EXPECT_EQ(sink.raised, (std::vector{1, 2, 3}));
-    EXPECT_FALSE(keeper.hourglass);
+    EXPECT_EQ(keeper.pointer, Pointer::Arrow);
 }
 
-TEST_F(EventGateTest, WhileAHandlerSearchesDropsAllButANewerSearchAndTheEnd) {
-    sink.restarting = 3;
+// However often a newer search is asked for, it is made once; one Escape ends them all.
+TEST_F(EventGateTest, MakesANewerSearchOnceAndNoneThatWasStopped) {
+    sink.searching = {{3, DuringSearch::Restart}, {4, DuringSearch::Reopen}};
+    const Deed escape{.kind = Deed::Kind::Key, .time = 1000, .key = virtual_key::kEscape};
+    std::function<void()> meanwhile;
     sink.handlers[1] = [&] {
-        const Searching searching;
-        click(2);
-        EXPECT_TRUE(Searching::goesOn());
-        Searching::stop();
-        EXPECT_FALSE(Searching::goesOn());
-        EXPECT_TRUE(searching.stopped());
-        click(3);
-        EXPECT_FALSE(Searching::goesOn());
-        EXPECT_FALSE(searching.stopped());
+        judge.searchBegins(sink, SearchKind::Documents);
+        meanwhile();
+        judge.searchEnds();
     };
-    click(1);
-    EXPECT_EQ(sink.raised, (std::vector{1, 3}));
-    sink.handlers[1] = [&] {
-        const Searching searching;
-        gate.deliver(sink, kTheWindow, Event::Close, source);
-        click(3);
-        Searching::goesOn();
+    const auto handledAfterSearch = [&](const std::function<void()>& user) {
+        meanwhile = user;
+        sink.raised.clear();
+        click(1);
+        return sink.raised;
     };
-    click(1);
-    EXPECT_EQ(sink.raised, (std::vector{1, 3, 1}));
+    const auto typeAndChoose = [&] {
+        for (const int id : {2, 3, 3, 4, 3}) click(id);
+    };
+    const auto stop = [&] { judge.take(escape); };
+    EXPECT_EQ(handledAfterSearch(typeAndChoose), (std::vector{1, 3, 4}));
+    EXPECT_EQ(handledAfterSearch([&] { typeAndChoose(), stop(); }), std::vector{1});
+    EXPECT_EQ(handledAfterSearch([&] { click(3), stop(), click(4); }), (std::vector{1, 4}));
+    FakeSink another;
+    const auto closeAnother = [&] { gate.deliver(another, kTheWindow, Event::Close, source); };
+    EXPECT_EQ(handledAfterSearch(closeAnother), std::vector{1});
+    EXPECT_EQ(another.raised, std::vector{kTheWindow});
+    const auto closeThis = [&] { gate.deliver(sink, kTheWindow, Event::Close, source); };
+    handledAfterSearch([&] { closeThis(), judge.searchGoesOn(); });
     expectEnd(0);
 }
 
@@ -135,10 +145,11 @@ TEST(EventGateEnds, WithTheNumberOfWhateverIsThrown) {
         // A window procedure may fail outside any handler; and at times no box can be shown.
         for (const bool outsideHandlers : {false, true}) {
             for (const bool noBox : {false, true}) {
-                FakeKeeper keeper;
+                Judge judge({}, [] { return Moment{}; });
+                FakeKeeper keeper(judge);
                 FakeMessageBoxes boxes;
                 if (noBox) boxes.whileShown = [] { throw std::bad_alloc(); };
-                EventGate gate(keeper, boxes);
+                EventGate gate(keeper, boxes, judge);
                 outsideHandlers ? gate.guard(c.action) : gate.run(c.action);
                 EXPECT_EQ(boxes.shown.size(), noBox ? 0 : c.boxes) << c.code;
                 EXPECT_EQ(gate.exitCode(), c.code);

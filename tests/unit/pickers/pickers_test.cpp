@@ -4,6 +4,7 @@
 #include "fakes/fake_files.h"
 #include "fakes/fake_patience.h"
 #include "pickers/directory_listing.h"
+#include "ports/events.h"
 #include "ports/workers.h"
 #include "unit/unit_test.h"
 
@@ -17,7 +18,10 @@ TEST(DirectoryPicker, ShowsAndOpensAncestorsAndSubdirectories) {
     FakeControl label;
     NoWorkers alone;
     FakePatience patience;
-    DirectoryPicker picker(list, label, {files, alone, patience});
+    const struct : EventSink {
+        void raise(int, Event) override {}
+    } window;
+    DirectoryPicker picker(list, label, {files, alone, patience}, window);
     const auto open = [&](int line) {
         list.select(line, true);
         return picker.openSelected();

@@ -60,7 +60,7 @@ struct FakeServers : ObjectServers {
 struct LateBindingTest : testing::Test {
     FakeWaiting clock;
     FakeMessageBoxes boxes;
-    Patience patience{clock, boxes};
+    Patience patience{clock, boxes, clock.judge};
     FakeServers servers;
     LateBoundAutomation automation{servers, patience};
     Kind parts{.saveNumber = 7};

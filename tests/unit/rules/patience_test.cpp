@@ -11,7 +11,7 @@ using Answer = MessageBoxes::Answer;
 struct PatienceTest : testing::Test {
     FakeWaiting machine;
     FakeMessageBoxes boxes;
-    Patience patience{machine, boxes};
+    Patience patience{machine, boxes, machine.judge};
 
     /// A call that is refused for so long from the first attempt on; each answer takes its time.
     CallResult callRefusedFor(std::uint64_t refused, std::uint64_t answerTime = 10) {
@@ -67,4 +67,29 @@ TEST_F(PatienceTest, SharesOneClockWithTheMessageFilter) {
     EXPECT_EQ(result, call_result::kRetryLater);
     EXPECT_EQ(boxes.shown.size(), 1U);
     EXPECT_EQ(machine.waits.size(), 0U) << "the caller waited once more";
+}
+
+TEST_F(PatienceTest, AsksWhoClosedTheWindowWhetherToWaitForACallThatDoesNotReturn) {
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        boxes.shown.clear();
+        boxes.answers = {answer};
+        patience.call([&] {
+            patience.whilePending();
+            EXPECT_EQ(machine.wakesIn, 0U) << "nobody closed it";
+            machine.judge.judge({.kind = Deed::Kind::Event, .closes = true});
+            patience.whilePending();
+            EXPECT_EQ(std::exchange(machine.wakesIn, 0), 1'000U);
+            machine.time += 30'000;
+            patience.whilePending();
+            patience.whilePending();
+            return 0;
+        });
+        ASSERT_EQ(boxes.shown.size(), 1U);
+        EXPECT_EQ(machine.programEnded, answer == Answer::Yes);
+    }
+    const MessageBoxContent& box = boxes.shown.front();
+    EXPECT_EQ(box.text, L"SolidWorks ne répond pas.\r\nQuitter Tarnwick sans attendre ?");
+    EXPECT_EQ(box.title, L"Tarnwick");
+    EXPECT_EQ(box.buttons, MessageBoxContent::Buttons::YesNo);
+    EXPECT_EQ(box.defaultButton, 2);
 }

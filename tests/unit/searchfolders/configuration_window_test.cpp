@@ -119,7 +119,7 @@ TEST_F(ConfigurationFixture, AddsNothingOfATreeThatIsStoppedOrCantBeRead) {
     click(IDC_FORM4_CMDMODIFIER);
     machine.files.currentDirectories[L'c'] = L"c:\\p";
     chooseDrive(0);
-    machine.serveAfter(L"c:\\p\\1", [] { Searching::stop(); });
+    machine.serveAfter(L"c:\\p\\1", [&] { return machine.patience.stop(); });
     click(IDC_FORM4_CMDAJO2);
     machine.files.unreadable = {L"c:\\p\\2"};
     click(IDC_FORM4_CMDAJO2);

@@ -156,7 +156,7 @@ TEST_F(SelectionSearch, AsksBeforeAWholeDriveIsSearched) {
 
 TEST_F(SelectionSearch, ListsWhatWasFoundWhenItIsStoppedOrBegunAgain) {
     load();
-    machine.serveAfter(L"c:\\plans", [] { Searching::stop(); });
+    machine.serveAfter(L"c:\\plans", [&] { return machine.patience.stop(); });
     tick(true);
     const Texts found = {L"c:\\plans\\axe.slddrw", L"c:\\plans\\Zoe.SLDDRW"};
     EXPECT_EQ(unchosen(), found);
@@ -164,9 +164,11 @@ TEST_F(SelectionSearch, ListsWhatWasFoundWhenItIsStoppedOrBegunAgain) {
     ASSERT_EQ(machine.boxes.shown.size(), 1U);
     EXPECT_EQ(machine.boxes.shown[0].title, L"Tarnwick");
     EXPECT_EQ(machine.boxes.shown[0].text, L"Recherche interrompue : la liste est incomplète.");
+    leaveTypes();
+    EXPECT_EQ(unchosen(), found) << "what was stopped is not searched again";
     machine.serveAfter(L"c:\\plans", [&] {
-        EXPECT_FALSE(Searching::keeps(window().sink, IDC_FORM1_CMD_TRACER, Event::Click));
-        EXPECT_TRUE(Searching::keeps(window().sink, IDC_FORM1_TYPEF, Event::Change));
+        EXPECT_EQ(machine.patience.searching, &window().sink);
+        return false;
     });
     type(L"*.SLDDRW");
     EXPECT_EQ(unchosen(), found);

@@ -1,0 +1,155 @@
+#include "input/verdict.h"
+
+namespace {
+
+using Kind = Deed::Kind;
+using Target = Deed::Target;
+using Wish = Situation::Wish;
+
+/// How long the clock that messages are dated by may stand still (the GetTickCount function).
+constexpr Moment kTick = 16;
+
+Verdict dropIf(bool unmeant) { return unmeant ? Verdict::Drops : Verdict::Counts; }
+
+/// Pressed before the last command was at its end.
+bool isLate(const Situation& now) {
+    return now.press && now.worked && now.press->time <= *now.worked;
+}
+
+bool isOnNewWindow(const Situation& now) { return now.press && now.press->onNewWindow; }
+
+/// A person pressed something that was not meant as a command.
+bool isUnmeant(const Situation& now) {
+    return isLate(now) || isOnNewWindow(now) || (now.press && now.press->repeated);
+}
+
+bool isSecond(const Situation& now) { return now.press && now.press->second; }
+
+/// What is pressed during a call would be a command after it; a box answers for itself.
+bool isCallOut(const Situation& now) { return now.callsOut > 0 && now.questions == 0; }
+
+Verdict onButton(const Situation& now) { return dropIf(isUnmeant(now) || isCallOut(now)); }
+
+bool pressesButton(int key) {
+    using namespace virtual_key;
+    return key == kEnter || key == kSpace || key == kEscape;
+}
+
+Verdict onKey(const Situation& now, const Deed& deed) {
+    const bool opensSystemMenu = deed.withAlt && deed.key == virtual_key::kSpace;
+    if (opensSystemMenu && isLate(now)) return Verdict::Drops;
+    const bool isCommand = deed.target == Target::Button && pressesButton(deed.key);
+    return isCommand ? onButton(now) : Verdict::Counts;
+}
+
+/// What moves, sizes or closes a window waits for its turn, unless it is there by mistake.
+Verdict onFrame(const Situation& now) { return dropIf(isOnNewWindow(now)); }
+
+Verdict onMessage(const Situation& now, const Deed& deed) {
+    switch (deed.kind) {
+        case Kind::Press:
+            return deed.target == Target::Button ? onButton(now) : Verdict::Counts;
+        case Kind::FramePress:
+            return onFrame(now);
+        case Kind::Key:
+            return onKey(now, deed);
+        default:
+            return Verdict::Counts;
+    }
+}
+
+bool stopsSearch(const Deed& deed) {
+    return deed.kind == Kind::Key && deed.key == virtual_key::kEscape && !deed.withAlt;
+}
+
+/// What may reach a window while it searches: its frame, and what asks for a newer search.
+Verdict onMessageDuringSearch(const Situation& now, const Deed& deed) {
+    // A press before the search began was not meant for it.
+    if (stopsSearch(deed)) {
+        const bool before = now.searchingSince && deed.time + kTick < *now.searchingSince;
+        return before ? Verdict::Drops : Verdict::StopsSearch;
+    }
+    switch (deed.kind) {
+        case Kind::Press:
+        case Kind::FramePress:
+        case Kind::Key:
+        case Kind::Typed:
+        case Kind::Scroll:
+            break;
+        case Kind::Menu:
+        case Kind::Click:
+            return Verdict::Drops;
+        default:
+            return Verdict::Counts;
+    }
+    const bool reaches = deed.target == Target::SearchControl || deed.target == Target::Window;
+    return reaches ? onMessage(now, deed) : Verdict::Drops;
+}
+
+bool asksForSearch(const Situation& now, const Deed& deed) {
+    return now.searching && deed.window == now.searching && deed.duringSearch != DuringSearch::Drop;
+}
+
+Verdict onCommand(const Situation& now, const Deed& deed) {
+    if (!now.press || deed.fromProgram) return Verdict::Counts;
+    if (isUnmeant(now) || (isSecond(now) && !deed.takesSecond)) return Verdict::Drops;
+    return dropIf(now.handling && !asksForSearch(now, deed));
+}
+
+/// One that acts without a window in front, so that nothing says later what became of it.
+Verdict onHotKey(const Situation& now, const Deed& deed) {
+    return now.handling || !deed.usable ? Verdict::Drops : onCommand(now, deed);
+}
+
+Verdict onAside(const Situation& now, const Deed& deed) {
+    // A box asks its owner for help, too.
+    return now.handling ? Verdict::Drops : onCommand(now, deed);
+}
+
+Verdict onEvent(const Situation& now, const Deed& deed) {
+    if (!now.searching) return Verdict::Counts;
+    if (deed.closes) {
+        return deed.window == now.searching ? Verdict::EndsProgram : Verdict::Counts;
+    }
+    return asksForSearch(now, deed) ? Verdict::Restarts : Verdict::Drops;
+}
+
+}  // namespace
+
+Verdict verdictOn(const Situation& situation, const Deed& deed) {
+    switch (deed.kind) {
+        case Kind::Activate:
+            return dropIf(isOnNewWindow(situation));
+        case Kind::OpenMenu:
+            // What was pressed next would choose in a menu that nobody saw.
+            return dropIf(isLate(situation));
+        case Kind::Aside:
+            return onAside(situation, deed);
+        case Kind::Command:
+            return onCommand(situation, deed);
+        case Kind::HotKeyCommand:
+            return onHotKey(situation, deed);
+        case Kind::Event:
+            return onEvent(situation, deed);
+        case Kind::WaitedEvent:
+            return dropIf(!deed.usable);
+        default:
+            return situation.searching ? onMessageDuringSearch(situation, deed)
+                                       : onMessage(situation, deed);
+    }
+}
+
+bool searchGoesOn(const Situation& situation) {
+    return situation.wish == Wish::None || (situation.opening && situation.wish == Wish::Restart);
+}
+
+bool callIsOverdue(const Situation& situation, Moment now) {
+    constexpr Moment kLongEnough = 30'000;
+    return isCallOut(situation) && situation.closeAsked &&
+           now >= *situation.closeAsked + kLongEnough;
+}
+
+Pointer pointerIn(const Situation& situation) {
+    if (situation.questions > 0 || !situation.handling) return Pointer::Arrow;
+    return situation.searching ? Pointer::ArrowAtWork : Pointer::Wait;
+}

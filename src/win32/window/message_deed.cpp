@@ -1,0 +1,101 @@
+#include "win32/window/message_deed.h"
+
+#include "win32/window/control_class.h"
+#include "win32/window/dialog_window.h"
+#include "win32/window/focus.h"
+#include "win32/window/input_messages.h"
+#include "win32/window/shortcuts.h"
+
+namespace {
+
+using Kind = Deed::Kind;
+using Target = Deed::Target;
+
+/// A mouse message that Windows made of a touch, whose press came as a pointer message before
+/// (System Events and Mouse Messages).
+bool isMadeOfTouch(UINT message) {
+    constexpr LPARAM kMask = static_cast<LPARAM>(0xFFFFFF00);
+    constexpr LPARAM kSignature = static_cast<LPARAM>(0xFF515700);
+    return isMousePress(message) && (GetMessageExtraInfo() & kMask) == kSignature;
+}
+
+Kind kindOf(UINT message) {
+    if (message == WM_RBUTTONUP) return Kind::Menu;
+    if (isMadeOfTouch(message) || isRelease(message)) return Kind::Release;
+    if (isFramePress(message)) return Kind::FramePress;
+    if (isPress(message)) return Kind::Press;
+    if (isKeyDown(message)) return Kind::Key;
+    if (isKeyUp(message)) return Kind::KeyUp;
+    if (isScroll(message)) return Kind::Scroll;
+    switch (message) {
+        case WM_HOTKEY:
+            return Kind::HotKey;
+        case WM_CHAR:
+            return Kind::Typed;
+        case BM_CLICK:
+            return Kind::Click;
+        default:
+            return Kind::Other;
+    }
+}
+
+/// A posted message tells where it is meant in its own window only.
+POINT placeOf(const MSG& message) {
+    POINT place{static_cast<short>(LOWORD(message.lParam)),
+                static_cast<short>(HIWORD(message.lParam))};
+    if (isMousePress(message.message)) ClientToScreen(message.hwnd, &place);
+    return place;
+}
+
+bool isKey(const MSG& message) { return isKeyDown(message.message) || message.message == WM_CHAR; }
+
+/// Where a key takes effect, when it moves the keyboard or is a shortcut; otherwise where it went.
+HWND receiverOf(const MSG& message, HWND window) {
+    if (!isKey(message)) return message.hwnd;
+    if (message.message == WM_KEYDOWN && message.wParam == VK_TAB) {
+        HWND focus = controlHolding(window, GetFocus());
+        return GetNextDlgTabItem(window, focus, GetKeyState(VK_SHIFT) < 0);
+    }
+    const int shortcut = shortcutIn(window, message);
+    return shortcut != 0 ? GetDlgItem(window, shortcut) : message.hwnd;
+}
+
+/// While a window searches.
+Target targetInSearch(const MSG& message, const EventSink& searching) {
+    DialogWindow* window = DialogWindow::ofEvents(searching);
+    if (!window) return Target::Other;
+    HWND receiver = receiverOf(message, window->handle());
+    if (window->asksForSearch(receiver)) return Target::SearchControl;
+    // The frames of controls are scroll bars; Alt and what is no shortcut belong to the frame.
+    const bool ofFrame = isFramePress(message.message)
+                             ? GetAncestor(message.hwnd, GA_ROOT) == message.hwnd
+                             : message.message == WM_SYSKEYDOWN && receiver == message.hwnd;
+    return ofFrame ? Target::Window : Target::Other;
+}
+
+Target targetOf(const MSG& message, const Judge& judge) {
+    if (const EventSink* searching = judge.situation().searching) {
+        return targetInSearch(message, *searching);
+    }
+    return classOf(message.hwnd) == ControlClass::Button ? Target::Button : Target::Other;
+}
+
+}  // namespace
+
+Deed deedOf(const MSG& message, const Judge& judge) {
+    Deed deed{.kind = kindOf(message.message)};
+    if (deed.kind == Kind::Other) return deed;
+    deed.time = widened(message.time, judge.now());
+    deed.target = targetOf(message, judge);
+    if (deed.kind == Kind::Press || deed.kind == Kind::FramePress) {
+        const POINT place = placeOf(message);
+        deed.x = place.x;
+        deed.y = place.y;
+    }
+    // A hot key is posted when it goes down.
+    deed.key =
+        static_cast<int>(deed.kind == Kind::HotKey ? HIWORD(message.lParam) : message.wParam);
+    deed.repeated = deed.kind == Kind::Key && (HIWORD(message.lParam) & KF_REPEAT) != 0;
+    deed.withAlt = message.message == WM_SYSKEYDOWN;
+    return deed;
+}
