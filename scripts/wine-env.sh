@@ -5,7 +5,7 @@ wine_root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 export WINEPREFIX="${TARNWICK_WINEPREFIX:-$wine_root/build/wine}"
 # File names hold accents, which the C locale of a bare machine could not carry.
 export LC_ALL=C.UTF-8
-export WINEARCH=win64 WINEDEBUG=-all
+export WINEARCH=win64 WINEDEBUG="${WINEDEBUG:--all}"
 # Neither .NET nor the HTML engine is needed, and asking for them would open a box.
 export WINEDLLOVERRIDES="mscoree=;mshtml="
 screen_size=1280x900
