@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <optional>
 
 #include "demo/sample_documents.h"
 #include "driver/text.h"

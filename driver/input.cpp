@@ -1,6 +1,7 @@
 #include "driver/input.h"
 
 #include <stdexcept>
+#include <vector>
 
 #include "driver/text.h"
 #include "driver/wait.h"

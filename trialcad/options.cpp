@@ -1,6 +1,7 @@
 #include "options.h"
 
 #include <algorithm>
+#include <span>
 #include <string_view>
 
 #include "application_object.h"

@@ -1,5 +1,7 @@
 #include "app/command_line.h"
 
+#include <vector>
+
 #include "common/runtime_error.h"
 #include "common/text.h"
 #include "ports/files.h"

@@ -1,5 +1,7 @@
 #include "rules/late_bound_automation.h"
 
+#include <utility>
+
 #include "common/runtime_error.h"
 
 ObjectPtr LateBoundAutomation::attach(const std::wstring& progId) {

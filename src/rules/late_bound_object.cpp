@@ -1,5 +1,7 @@
 #include "rules/late_bound_object.h"
 
+#include <utility>
+
 LateBoundObject::LateBoundObject(std::shared_ptr<ServedObject> object, LateBinding& binding,
                                  std::wstring_view objectClass)
     : object_(std::move(object)),

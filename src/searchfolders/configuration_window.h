@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "input/program_window.h"
 #include "pickers/pickers.h"

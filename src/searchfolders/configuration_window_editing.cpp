@@ -1,6 +1,8 @@
 // The configuration window's second tab: one configuration being edited.
 
 #include <algorithm>
+#include <functional>
+#include <vector>
 
 #include "common/numbers.h"
 #include "common/runtime_error.h"

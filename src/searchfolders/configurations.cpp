@@ -1,5 +1,7 @@
 #include "searchfolders/configurations.h"
 
+#include <utility>
+
 #include "common/letter_case.h"
 #include "common/numbers.h"
 #include "common/runtime_error.h"

@@ -1,5 +1,7 @@
 #include "selection/selection_window.h"
 
+#include <cstdint>
+
 #include "cad/cad_session.h"
 #include "common/numbers.h"
 #include "common/runtime_error.h"

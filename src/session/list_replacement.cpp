@@ -1,6 +1,7 @@
 #include "session/list_replacement.h"
 
 #include <optional>
+#include <string>
 
 #include "common/runtime_error.h"
 #include "ports/files.h"

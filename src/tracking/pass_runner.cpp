@@ -1,5 +1,8 @@
 #include "tracking/pass_runner.h"
 
+#include <cstdint>
+#include <utility>
+
 #include "cad/cad_session.h"
 #include "common/text_decoding.h"
 #include "ports/files.h"

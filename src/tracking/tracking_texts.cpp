@@ -1,5 +1,7 @@
 #include "tracking/tracking_texts.h"
 
+#include <utility>
+
 #include "common/numbers.h"
 #include "worklist/list_file.h"
 

@@ -1,5 +1,7 @@
 #include "tracking/work_list_view.h"
 
+#include <utility>
+
 #include "common/utf8.h"
 #include "ports/controls.h"
 #include "worklist/list_display.h"

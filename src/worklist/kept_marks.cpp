@@ -1,6 +1,7 @@
 #include "worklist/kept_marks.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "common/packed_numbers.h"

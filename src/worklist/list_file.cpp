@@ -1,5 +1,6 @@
 #include "worklist/list_file.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "common/numbers.h"

@@ -1,7 +1,9 @@
 #include "win32/com/win_objects.h"
 
+#include <cstdint>
 #include <objbase.h>
 #include <oleauto.h>
+#include <span>
 
 #include "win32/com/variant_values.h"
 

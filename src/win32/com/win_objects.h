@@ -2,7 +2,10 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <oaidl.h>
+#include <span>
+#include <utility>
 
 #include "rules/late_bound_automation.h"
 #include "win32/com/com_ptr.h"

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <new>
 
 #include "common/runtime_error.h"

@@ -8,6 +8,7 @@
 #include <optional>
 #include <shellapi.h>
 #include <span>
+#include <string>
 #include <typeindex>
 #include <utility>
 #include <vector>

@@ -1,5 +1,7 @@
 // What a window does while another program is in front.
 
+#include <string>
+
 #include "win32/window/dialog_window.h"
 #include "win32/window/system_menu.h"
 

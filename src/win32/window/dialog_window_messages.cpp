@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <utility>
 
 #include "win32/window/control_class.h"
 #include "win32/window/dialog_window.h"

@@ -1,5 +1,7 @@
 // Where a window stands, how large it is and how large its letters are.
 
+#include <utility>
+
 #include "rules/in_sight.h"
 #include "win32/window/areas.h"
 #include "win32/window/combo_field.h"

@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <functional>
 #include <utility>
+#include <vector>
 
 #include "win32/window/widest_line.h"
 #include "win32/window/win_controls.h"
