@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# What the native tests reach of the core: a table by room, branches too. Rooms that only Windows can run (win32, app's start)
+# are not in it. --missing [ROOM...]: also each branch that no test takes one way or the other.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+place=build/coverage
+
+# Clang counts what the source says, so that templates and the library's own code are not counted as ours.
+cmake -B "$place" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=clang++ -DTARNWICK_NO_WERROR=ON \
+    -DCMAKE_CXX_FLAGS='-fprofile-instr-generate -fcoverage-mapping' >"$place.log" 2>&1 &&
+    cmake --build "$place" -j"$(nproc)" --target unit >>"$place.log" 2>&1 || { cat "$place.log" >&2; exit 1; }
+LLVM_PROFILE_FILE="$place/unit.profraw" "$place/tests/unit" --gtest_brief=1 >"$place.log" 2>&1 || { cat "$place.log" >&2; exit 1; }
+llvm-profdata merge -o "$place/unit.profdata" "$place/unit.profraw"
+counts=(-instr-profile "$place/unit.profdata" "$place/tests/unit")
+
+# Ten figures a file, three times how many, how many missed and per cent.
+llvm-cov report "${counts[@]}" "$PWD"/src | awk '
+function share(missed, all) { return all ? sprintf("%5.1f", 100 * (all - missed) / all) : "    -" }
+function row(name, lines, missedLines, branches, missedBranches) {
+    return sprintf("%-14s %6d %s %% %6d %s %%", name, lines, share(missedLines, lines), branches, share(missedBranches, branches))
+}
+BEGIN { printf "%-14s %6s %7s %6s %7s\n", "room", "lines", "", "branches", "" }
+/\.(cpp|h) / {
+    room = $1
+    sub(/^.*src\//, "", room)
+    sub(/\/.*/, "", room)
+    lines[room] += $8; missedLines[room] += $9; branches[room] += $11; missedBranches[room] += $12
+    allLines += $8; allMissed += $9; allBranches += $11; allMissedBranches += $12
+}
+END {
+    for (room in lines) print row(room, lines[room], missedLines[room], branches[room], missedBranches[room]) | "sort"
+    close("sort")
+    print row("all", allLines, allMissed, allBranches, allMissedBranches)
+}'
+
+[[ "${1:-}" == --missing ]] || exit 0
+shift
+(($#)) || set -- .
+for room in "$@"; do
+    llvm-cov show "${counts[@]}" -show-branches=count "$PWD/src/$room" | awk '
+    /^\/.*:$/ { file = $0; sub(/^.*\/src\//, "src/", file) }
+    /^ *[0-9]+\|/ { split($0, part, "|"); source = part[3] }
+    /Branch \(/ && /(True|False): 0[,\]]/ && !/(True: 0, False: 0)/ {
+        match($0, /\([0-9]+/)
+        print file substr($0, RSTART + 1, RLENGTH - 1) ": " ($0 ~ /True: 0/ ? "never true: " : "never false:") source
+    }
+    /^ *[0-9]+\| *0\|/ { split($0, part, "|"); gsub(/ /, "", part[1]); print file part[1] ": never reached:" part[3] }'
+done
