@@ -2,7 +2,7 @@
 # Sets nothing outside the build tree and touches no process that it did not start.
 
 wine_root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-export WINEPREFIX="${TARNWICK_WINEPREFIX:-$wine_root/build/wine}"
+wine_prefixes="$wine_root/build/wine-prefixes"
 # File names hold accents, which the C locale of a bare machine could not carry.
 export LC_ALL=C.UTF-8
 export WINEARCH=win64 WINEDEBUG="${WINEDEBUG:--all}"
@@ -10,17 +10,34 @@ export WINEARCH=win64 WINEDEBUG="${WINEDEBUG:--all}"
 export WINEDLLOVERRIDES="mscoree=;mshtml="
 screen_size=1280x900
 
-# Programs of a prefix are ended and the prefix is made anew without a question, so it must be ours, or nothing yet.
-if [[ -n "$(ls -A "$WINEPREFIX" 2>/dev/null)" && ! -e "$WINEPREFIX/.tarnwick" && ! -e "$WINEPREFIX/.ready-windows10" ]]; then
-    echo "$WINEPREFIX is no Wine prefix of ours and not empty: remove it yourself, or name another directory" >&2
-    exit 1
-fi
-
-# One user of the prefix at a time: the registry and the keyboard focus are shared in it.
-wine_lock() {
+# One user of a prefix at a time: the registry and the keyboard focus are shared in it. $1: the prefix; what follows is
+# flock's own.
+take_prefix() {
+    export WINEPREFIX="$1"
     mkdir -p "$(dirname "$WINEPREFIX")"
     exec {wine_lock_fd}>"$WINEPREFIX.lock"
-    flock "$wine_lock_fd"
+    flock "${@:2}" "$wine_lock_fd" && return
+    exec {wine_lock_fd}>&-
+    return 1
+}
+
+# The prefix that TARNWICK_WINEPREFIX names, or the first of ours that nobody uses, so that runs stand side by side.
+wine_lock() {
+    if [[ -n "${TARNWICK_WINEPREFIX:-}" ]]; then
+        take_prefix "$TARNWICK_WINEPREFIX"
+        require_our_prefix
+        return
+    fi
+    local number
+    for ((number = 1; number <= 8; ++number)); do take_prefix "$wine_prefixes/$number" --nonblock && return; done
+    take_prefix "$wine_prefixes/1"
+}
+
+# Programs of a prefix are ended and the prefix is made anew without a question, so it must be ours, or nothing yet.
+require_our_prefix() {
+    [[ -z "$(ls -A "$WINEPREFIX" 2>/dev/null)" || -e "$WINEPREFIX/.tarnwick" ]] && return
+    echo "$WINEPREFIX is no Wine prefix of ours and not empty: remove it yourself, or name another directory" >&2
+    exit 1
 }
 
 # Runs a command that must not keep the lock when it outlives this script.
@@ -45,11 +62,9 @@ screen_start() {
     export DISPLAY=":$number"
 }
 
-# Creates the prefix on first use. $1: "windowed" shows each window on the screen as its own,
-# "desktop" shows all of them in a desktop of Wine's, which draws frames and manages the focus.
-prefix_start() {
-    unlocked wineserver -k 2>/dev/null || true # left by a run that was cut short
-    [[ -e "$WINEPREFIX/.ready-windows10" ]] && return
+# $1: "windowed" shows each window on the screen as its own, "desktop" shows all of them in a desktop of Wine's, which
+# draws frames and manages the focus.
+make_prefix() {
     rm -rf "$WINEPREFIX"
     mkdir -p "$WINEPREFIX"
     touch "$WINEPREFIX/.tarnwick"
@@ -64,6 +79,27 @@ prefix_start() {
     fi
     unlocked wineserver -k -w || true
     touch "$WINEPREFIX/.ready-windows10"
+}
+
+# A copy of the prefix that is made once. Windows' own files are shared: nobody writes to them.
+copy_prefix() {
+    local made="$wine_prefixes/made" file
+    (
+        flock 9
+        [[ -e "$made/.ready-windows10" ]] || WINEPREFIX="$made" make_prefix desktop 9>&-
+    ) 9>"$made.lock"
+    rm -rf "$WINEPREFIX"
+    mkdir -p "$WINEPREFIX/drive_c"
+    cp -al "$made/drive_c/windows" "$WINEPREFIX/drive_c/"
+    find "$made/drive_c" -mindepth 1 -maxdepth 1 ! -name windows -exec cp -a {} "$WINEPREFIX/drive_c/" \;
+    find "$made" -mindepth 1 -maxdepth 1 ! -name drive_c -exec cp -a {} "$WINEPREFIX/" \;
+}
+
+# Creates the prefix on first use, in the style of make_prefix.
+prefix_start() {
+    unlocked wineserver -k 2>/dev/null || true # left by a run that was cut short
+    [[ -e "$WINEPREFIX/.ready-windows10" ]] && return
+    if [[ -n "${TARNWICK_WINEPREFIX:-}" ]]; then make_prefix "$1"; else copy_prefix; fi
 }
 
 wine_end() {
