@@ -8,3 +8,12 @@ function(compile_quickly target)
     target_precompile_headers(${target} PRIVATE ${ARGN})
   endif()
 endfunction()
+
+# Tests that run Windows programs, and how many seconds they take: the longest are begun first. Under Wine each run has a
+# machine of its own, so that they run side by side; Windows has one desktop and one registry for all.
+function(windows_tests seconds)
+  set_tests_properties(${ARGN} PROPERTIES TIMEOUT 300 COST ${seconds})
+  if(NOT CMAKE_CROSSCOMPILING)
+    set_tests_properties(${ARGN} PROPERTIES RESOURCE_LOCK windows)
+  endif()
+endfunction()
