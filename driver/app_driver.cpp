@@ -123,6 +123,22 @@ void AppDriver::saveAsProposed(const std::string& title, const std::string& file
     waitFor("the dialog to close", [&] { return !IsWindow(dialog); });
 }
 
+void AppDriver::openFile(const std::string& title, const std::filesystem::path& file) const {
+    HWND dialog = window(title);
+    HWND name = nullptr;
+    waitFor("the field for the name", [&] {
+        const auto parts = descendants(dialog);
+        const auto field = std::find_if(parts.begin(), parts.end(), [](HWND part) {
+            return classOf(part) == "Edit" && IsWindowVisible(part);
+        });
+        if (field != parts.end()) name = *field;
+        return name != nullptr;
+    });
+    send(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(file.wstring().c_str()));
+    post(descendant(dialog, IDOK), BM_CLICK);
+    waitFor("the dialog to close", [&] { return !IsWindow(dialog); });
+}
+
 std::string AppDriver::describe() const {
     if (!running()) return "tarnwick does not run\n";
     std::string text;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -65,6 +66,9 @@ class AppDriver {
 
     /// Waits for a dialog of the system with this title that proposes this file, and accepts it.
     void saveAsProposed(const std::string& title, const std::string& file) const;
+
+    /// Waits for a dialog of the system with this title, and opens this file by it.
+    void openFile(const std::string& title, const std::filesystem::path& file) const;
 
     /// All windows of the program with their controls, for the report of a failed test.
     std::string describe() const;

@@ -58,31 +58,3 @@ DirectoryContents listContents(Files& files, const std::wstring& directory,
     sortByName(contents.subdirectories);
     return contents;
 }
-
-bool isDriveRoot(std::wstring_view directory) {
-    return directory.size() == 3 && directory[1] == L':' && directory[2] == L'\\';
-}
-
-std::wstring reportedPath(std::wstring_view directory) {
-    while (directory.ends_with(L'\\') && !isDriveRoot(directory)) directory.remove_suffix(1);
-    std::wstring path(directory);
-    if (path.size() == 2 && path[1] == L':') path += L'\\';
-    return path;
-}
-
-std::wstring childPath(const std::wstring& directory, std::wstring_view name) {
-    std::wstring path = directory;
-    if (!path.ends_with(L'\\')) path += L'\\';
-    path += name;
-    return path;
-}
-
-std::wstring parentPath(const std::wstring& directory) {
-    const std::size_t backslash = directory.find_last_of(L'\\');
-    if (isDriveRoot(directory) || backslash == std::wstring::npos || backslash < 2) {
-        return directory;
-    }
-    // The share is the root of a network path.
-    if (directory.starts_with(L"\\\\") && directory.find(L'\\', 2) == backslash) return directory;
-    return reportedPath(directory.substr(0, backslash + 1));
-}

@@ -25,16 +25,3 @@ using FileFilter = std::function<bool(std::wstring_view name)>;
 /// Reads a directory. Raises 70 or 76.
 DirectoryContents listContents(Files& files, const std::wstring& directory,
                                const FileFilter& wanted);
-
-/// A directory's path as it is reported: a drive root with its trailing backslash (c:\), any
-/// other directory without one.
-std::wstring reportedPath(std::wstring_view directory);
-
-/// The path of an entry of a directory, with one backslash between the two.
-std::wstring childPath(const std::wstring& directory, std::wstring_view name);
-
-/// The directory that holds this one; a root is its own parent.
-std::wstring parentPath(const std::wstring& directory);
-
-/// True for the path of a drive root ("c:\").
-bool isDriveRoot(std::wstring_view directory);

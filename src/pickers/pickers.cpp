@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "common/letter_case.h"
+#include "pickers/paths.h"
 #include "pickers/search_progress.h"
 #include "ports/controls.h"
 #include "ports/files.h"

@@ -5,6 +5,8 @@
 #include <optional>
 #include <utility>
 
+#include "pickers/in_parallel.h"
+#include "pickers/paths.h"
 #include "ports/search_patience.h"
 #include "ports/search_services.h"
 #include "ports/workers.h"
@@ -96,19 +98,6 @@ constexpr int kMostReaders = 8;
 constexpr int kMostWithAwaited = kMostReaders + 1;
 
 using Lock = std::unique_lock<std::mutex>;
-
-/// Does something that may raise; gives what it raised.
-template <class Action>
-std::optional<RuntimeError> errorOf(const Action& action) noexcept {
-    try {
-        action();
-        return std::nullopt;
-    } catch (const RuntimeError& error) {
-        return error;
-    } catch (...) {
-        return errors::outOfMemory();
-    }
-}
 
 }  // namespace
 
@@ -227,24 +216,13 @@ void ReadAhead::meet(TreeDirectory& directory) {
 }
 
 DirectoryId ReadAhead::identify(const std::wstring& directory) {
-    struct Answer {
-        bool given = false;
-        DirectoryId id = {};
-        std::optional<RuntimeError> error = {};
+    const auto id = std::make_shared<DirectoryId>();
+    const auto ask = [&files = desk_->files, id, directory](std::size_t) {
+        *id = files.identify(directory);
     };
-    const auto answer = std::make_shared<Answer>();
-    const auto ask = [desk = desk_, answer, directory] {
-        Answer found{.given = true};
-        found.error = errorOf([&] { found.id = desk->files.identify(directory); });
-        const Lock lock(desk->mutex);
-        *answer = std::move(found);
-        if (!desk->ended) desk->patience->wake();
-    };
-    if (!desk_->workers->start(ask)) return desk_->files.identify(directory);
-    Lock lock(desk_->mutex);
-    while (!answer->given) wait(lock);
-    if (answer->error) throw *answer->error;
-    return answer->id;
+    if (!inParallel({desk_->files, *desk_->workers, patience_}, 1, ask)) throw Interrupted{};
+    served_ = Clock::now();
+    return *id;
 }
 
 void ReadAhead::wait(Lock& lock) {

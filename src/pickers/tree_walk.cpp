@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "pickers/paths.h"
 #include "pickers/read_ahead.h"
 
 namespace {

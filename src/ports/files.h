@@ -41,10 +41,8 @@ class Files {
     /// The same with a text, written in UTF-8. Raises 5 for text that can't be encoded.
     void replaceText(const std::wstring& path, std::wstring_view text);
 
-    /// Raises 70, 75 or 76 when it can't be told.
-    virtual PathKind kindOf(const std::wstring& path) = 0;
-
-    /// The same, nothing where it can't be told, as the system's own FileExists answers.
+    /// What a path leads to, nothing where it can't be told, as the system's own FileExists
+    /// answers.
     PathKind kindOrNothing(const std::wstring& path);
     bool isFile(const std::wstring& path) { return kindOf(path) == PathKind::File; }
 
@@ -55,8 +53,14 @@ class Files {
     /// Deletes a file, even a read-only one. Raises 53, 70, 75 or 76.
     virtual void remove(const std::wstring& file) = 0;
 
-    // The next two may be called by several threads at once, and by threads that outlive their
-    // caller: the object stands until the program ends.
+    // The next four, and readBytes, may be called by several threads at once, and by threads that
+    // outlive their caller: the object stands until the program ends.
+
+    /// Raises 70, 75 or 76 when it can't be told.
+    virtual PathKind kindOf(const std::wstring& path) = 0;
+
+    /// The bytes that a file has. Raises 53, 70, 75 or 76.
+    virtual std::uint64_t sizeOf(const std::wstring& path) = 0;
 
     /// Visits every entry of a directory but "." and "..", in no order. Raises 70 or 76.
     virtual void visit(const std::wstring& directory,
@@ -67,6 +71,9 @@ class Files {
 
     /// The drives present, as lower-case letters in order.
     virtual std::vector<wchar_t> drives() = 0;
+
+    /// The shares (\\server\share) that drives stand for.
+    virtual std::vector<std::wstring> sharesOfDrives() = 0;
 
     /// The program's current directory on a drive, the drive's root when it has none of its own.
     virtual std::wstring currentDirectory(wchar_t drive) = 0;

@@ -37,10 +37,22 @@ bool DocumentKinds::accepts(std::wstring_view fileName) const {
            (drawings_ && isInAnyCase(extension, L"SLDDRW"));
 }
 
+int kindRank(std::wstring_view document) {
+    static const DocumentKinds kinds[] = {DocumentKinds(L"SLDPRT"), DocumentKinds(L"SLDASM"),
+                                          DocumentKinds(L"SLDDRW")};
+    const auto accepts = [&](const DocumentKinds& kind) { return kind.accepts(document); };
+    return static_cast<int>(std::ranges::find_if(kinds, accepts) - kinds);
+}
+
 void FoundDocuments::restart(bool fullPaths) {
     entries_.clear();
     count_ = 0;
     fullPaths_ = fullPaths;
+}
+
+void FoundDocuments::take(const std::vector<std::wstring>& paths) {
+    restart(true);
+    for (const std::wstring& path : paths) entries_[count_++] = path;
 }
 
 void FoundDocuments::beginPass(bool append) {

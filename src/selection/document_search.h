@@ -28,6 +28,10 @@ class DocumentKinds {
     bool drawings_ = false;
 };
 
+/// The place of a document among its kinds in a pass that is ordered: parts, assemblies, drawings,
+/// all else.
+int kindRank(std::wstring_view document);
+
 /// The documents found, in the order of their discovery.
 class FoundDocuments {
  public:
@@ -43,6 +47,9 @@ class FoundDocuments {
 
     /// Empties the table and says what its next entries will be.
     void restart(bool fullPaths);
+
+    /// Replaces all by these documents, given by their full paths. Raises 9 for too many.
+    void take(const std::vector<std::wstring>& paths);
 
     /// Begins a pass over one directory. Unless it appends, the table is emptied but for its very
     /// last entry, which so still counts as present.

@@ -38,3 +38,7 @@
 #define IDC_FORM1_CDMTEST 1142
 #define IDC_FORM1_S 1143
 #define IDC_FORM1_T 1144
+
+// The items of the system menu. Windows keeps the four lowest bits of such an id for itself.
+#define IDM_FORM1_IMPORTER 1152
+#define IDM_FORM1_ORDRE 1168

@@ -6,6 +6,9 @@
 /// Which handler each event of the selection window goes to.
 inline constexpr Binding<SelectionWindow> kSelectionBindings[] = {
     {kTheWindow, Event::Close, &SelectionWindow::Form_Close},
+    {kTheWindow, Event::Drop, &SelectionWindow::Form_Drop},
+    {IDM_FORM1_IMPORTER, Event::Click, &SelectionWindow::Importer_Click, Presses::Single},
+    {IDM_FORM1_ORDRE, Event::Click, &SelectionWindow::Ordre_Click},
     {IDC_FORM1_UNITE, Event::Click, &SelectionWindow::unite_Change, Presses::All,
      DuringSearch::Reopen},
     {IDC_FORM1_REPERT, Event::DoubleClick, &SelectionWindow::repert_DblClick, Presses::All,
@@ -97,6 +100,11 @@ inline constexpr AccessibleName kSelectionNames[] = {
     {IDC_FORM1_CMDAP, L"A Propos de Tarnwick"},
 };
 
+inline constexpr SystemMenuItem kSelectionSystemMenu[] = {
+    {IDM_FORM1_IMPORTER, L"Importer une liste..."},
+    {IDM_FORM1_ORDRE, L"Pièces, puis assemblages, puis mises en plan"},
+};
+
 inline constexpr WindowTemplate kSelectionWindow = {
     .dialogId = IDD_FORM1,
     .tooltips = kSelectionTooltips,
@@ -106,4 +114,6 @@ inline constexpr WindowTemplate kSelectionWindow = {
     .anchors = kSelectionAnchors,
     .names = kSelectionNames,
     .shrinks = {18, 98},
+    .systemMenu = kSelectionSystemMenu,
+    .takesDrops = true,
 };

@@ -1,5 +1,6 @@
 #include "selection/selection_window.h"
 
+#include <algorithm>
 #include <cstdint>
 
 #include "cad/cad_session.h"
@@ -10,6 +11,7 @@
 #include "selection/selection_tables.h"
 #include "session/list_replacement.h"
 #include "session/program_files.h"
+#include "session/setting_values.h"
 #include "session/window_places.h"
 #include "worklist/list_file.h"
 
@@ -52,6 +54,7 @@ void SelectionWindow::Form_Load() {
     typef.setLines(kTypes);
     typef.setText(L"*.SLDDRW");
     hideTrials();
+    if (valueOf(platform_.settings, setting::kByKind)) setByKind(true);
     openWorkingDirectory();
     places_.restore(PlacedWindow::Selection, *window_);
 }
@@ -110,6 +113,16 @@ void SelectionWindow::CmdAP_Click() { exits_.showAbout(); }
 
 void SelectionWindow::CmdRepDef_Click() { exits_.showConfigurations(); }
 
+void SelectionWindow::Ordre_Click() {
+    setByKind(!byKind_);
+    setValue(platform_.settings, setting::kByKind, byKind_);
+}
+
+void SelectionWindow::setByKind(bool on) {
+    byKind_ = on;
+    window_->setMenuMark(IDM_FORM1_ORDRE, on);
+}
+
 void SelectionWindow::cmd_tracer_Click() {
     places_.save(PlacedWindow::Selection, *window_);
     if (!writeList()) return;
@@ -119,14 +132,22 @@ void SelectionWindow::cmd_tracer_Click() {
 
 bool SelectionWindow::writeList() {
     std::string text;
-    // As many lines as the window says there are.
-    const std::int32_t count = numericValue(cptfichier.text());
-    for (std::int32_t i = 0; i < count; ++i) {
-        if (List1.chosen(i)) appendFreshLine(text, fullPath(i));
-    }
+    for (const int line : linesToWrite()) appendFreshLine(text, fullPath(line));
     return replaceList(platform_, files_, [&] {
         platform_.files.replace(files_.list, [&](const ByteSink& file) { file(text); });
     });
+}
+
+std::vector<int> SelectionWindow::linesToWrite() const {
+    std::vector<int> lines;
+    // As many as the window says there are.
+    const std::int32_t count = numericValue(cptfichier.text());
+    for (std::int32_t i = 0; i < count; ++i) {
+        if (List1.chosen(i)) lines.push_back(i);
+    }
+    const auto rank = [&](int line) { return kindRank(found_.entry(line)); };
+    if (byKind_) std::ranges::stable_sort(lines, {}, rank);
+    return lines;
 }
 
 std::wstring SelectionWindow::fullPath(int index) const {

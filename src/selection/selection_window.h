@@ -1,18 +1,25 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "input/program_window.h"
 #include "pickers/pickers.h"
+#include "selection/document_import.h"
 #include "selection/document_search.h"
 #include "selection/selection_list.h"
 #include "worklist/list_display.h"
 
 class CadSession;
 class WindowPlaces;
+struct MessageBoxContent;
 struct Platform;
 struct ProgramFiles;
+
+/// Tells the user who stopped a search what has become of it.
+MessageBoxContent incompleteListBox();
 
 /// Where the selection window leads.
 class SelectionExits {
@@ -44,6 +51,10 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     void typef_Validate();
     void sousrep_Click();
 
+    // Documents from elsewhere become the list, until the next search.
+    void Importer_Click();
+    void Form_Drop();
+
     // Choosing among the documents found.
     void List1_Click();
     void CmdCoche_Click();
@@ -56,6 +67,8 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     // Leaving.
     void CmdAP_Click();
     void CmdRepDef_Click();
+    /// Whether a pass takes parts first, then assemblies, then drawings.
+    void Ordre_Click();
     void cmd_tracer_Click();
     void cmd_sortie_Click();
     void cmd_annuler_Click();
@@ -74,8 +87,17 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     bool rebuild(const SelectionList::Entries& chosen);
     SearchEnd search();
     void showCounts(int filesListed);
+
+    using ImportStep = std::function<DocumentImport::End(DocumentImport&)>;
+    void importDocuments(const ImportStep& gather);
+    /// Does a step before its user's eyes; tells why it did not come to its end.
+    bool completes(DocumentImport& import, const ImportStep& step);
+    void listDocuments(const std::vector<std::wstring>& documents);
+
+    void setByKind(bool on);
     /// False when another program has a list open that would be replaced.
     bool writeList();
+    std::vector<int> linesToWrite() const;
     std::wstring fullPath(int index) const;
 
     Platform& platform_;
@@ -95,4 +117,6 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     std::wstring searched_;                     ///< the directory searched last
     std::wstring searchedKinds_;                ///< the text of the kinds searched last
     std::optional<std::wstring> stoppedKinds_;  ///< what stood there when that search was stopped
+    bool imported_ = false;  ///< what is listed comes from elsewhere
+    bool byKind_ = false;
 };

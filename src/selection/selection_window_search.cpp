@@ -1,7 +1,9 @@
 // The selection window's search: from drive, directory, kinds and sub-directories box to the list.
 
+#include <utility>
+
 #include "common/numbers.h"
-#include "pickers/directory_listing.h"
+#include "pickers/paths.h"
 #include "pickers/search_progress.h"
 #include "ports/files.h"
 #include "ports/message_boxes.h"
@@ -10,15 +12,11 @@
 #include "selection/document_search.h"
 #include "selection/selection_window.h"
 
-namespace {
-
 MessageBoxContent incompleteListBox() {
     return {.text = L"Recherche interrompue : la liste est incomplète.",
             .title = L"Tarnwick",
             .icon = MessageBoxContent::Icon::Warning};
 }
-
-}  // namespace
 
 void SelectionWindow::repert_DblClick() {
     if (repert.openSelected() == Opening::Another) repert_Change();
@@ -75,6 +73,8 @@ void SelectionWindow::typef_Validate() {
     // Leaving the field makes no search that its user has stopped.
     if (typef.text() == stoppedKinds_) return;
     const bool asSearched = typef.text() == searchedKinds_;
+    // Who only passes by doesn't want to lose what came from elsewhere.
+    if (imported_ && asSearched) return;
     rebuild(asSearched ? List1.chosenEntries() : SelectionList::Entries());
 }
 
@@ -98,6 +98,7 @@ bool SelectionWindow::rebuild(const SelectionList::Entries& chosen) {
 SelectionWindow::SearchEnd SelectionWindow::search() {
     const Searching searching(platform_.search.patience, *this, SearchKind::Documents);
     const SearchSign sign(Label4);
+    if (std::exchange(imported_, false)) found_.restart(sousrep.checked());
     found_.beginPass(false);
     showCounts(0);
     Pulse pulse;

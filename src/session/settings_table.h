@@ -63,10 +63,11 @@ inline constexpr TextSetting kLoadingOptions{place::kProgram, place::kStartUp, L
 inline constexpr TextSetting kLoadingOptionsWritten{place::kProgram, place::kStartUp, L"RegCheck",
                                                     L"1111"};
 
-// The marks of the tracking window's system menu.
+// The check marks of the system menus.
 inline constexpr MarkSetting kAlwaysVisible{place::kProgram, place::kOptions, L"toujoursvisible",
                                             false};
 inline constexpr MarkSetting kHotKeys{place::kProgram, place::kOptions, L"touches", false};
+inline constexpr MarkSetting kByKind{place::kProgram, place::kOptions, L"ordre", false};
 inline constexpr MarkSetting kAllReleases{place::kProgram, place::kOptions, L"premierplan", false};
 
 }  // namespace setting

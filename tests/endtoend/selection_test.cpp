@@ -34,4 +34,39 @@ TEST_F(Selection, FindsMarksAndLaunches) {
     expectAlone(kTracking);
 }
 
+// The report, filtered in a spreadsheet: a pass over what the one before has left to do.
+TEST_F(Selection, ImportsWhatTheReportOfAPassSaysIsLeft) {
+    writeListOf({"a.SLDPRT", "b;c.SLDDRW", "d.SLDASM"});
+    sandbox.writeList(listOf({"1", "0", "0"}));
+    cad.start({"--hidden"});
+    startAndResume();
+    app.waitForText(IDC_FORM3_TXTETAT, paths[1]);
+    app.chooseInSystemMenu(kTracking, IDM_FORM3_RAPPORT);
+    app.saveAsProposed("Exporter le rapport", "tarnwick-rapport.csv");
+    std::string report;
+    waitFor("the report", [&] {
+        report = readFileBytes(sandbox.directory() / "tarnwick-rapport.csv").value_or("");
+        return !report.empty();
+    });
+    app.click(IDC_FORM3_CMDSORTIE);
+    EXPECT_EQ(app.waitForExit(), 0);
+    const auto done = report.find("1;Fait;");
+    report.erase(done, report.find('\n', done) + 1 - done);
+    const auto filtered = sandbox.documents() / "reste.csv";
+    writeFileBytes(filtered, report + "4;A faire;absent.SLDPRT\r\n");
+
+    app.start();
+    app.click(IDC_FORM2_CMDANNULE);
+    app.chooseInSystemMenu(kSelection, IDM_FORM1_ORDRE);
+    app.chooseInSystemMenu(kSelection, IDM_FORM1_IMPORTER);
+    app.openFile("Importer une liste", filtered);
+    EXPECT_EQ(app.box().text(), "1 ligne laissée de côté :\r\nabsent.SLDPRT : introuvable");
+    app.box().answer(IDOK);
+    expectLines(IDC_FORM1_LIST1, {kChosen + paths[1], kChosen + paths[2]});
+    app.click(IDC_FORM1_CMD_TRACER);
+    app.waitForText(IDC_FORM3_TXTETAT, paths[2]);
+    expectList(listLine("0", paths[2]) + listLine("0", paths[1]));
+    EXPECT_EQ(settings.get("tarnwick", "options", "ordre").value_or(""), "1");
+}
+
 }  // namespace

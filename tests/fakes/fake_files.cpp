@@ -44,7 +44,15 @@ void FakeFiles::replace(const std::wstring& path, const WriteContent& write) {
     texts[path] = wideText(text);
 }
 
+std::uint64_t FakeFiles::sizeOf(const std::wstring& path) {
+    attempt(path);
+    const auto file = texts.find(path);
+    if (file == texts.end()) throw errors::fileNotFound(path);
+    return file->second.size();
+}
+
 PathKind FakeFiles::kindOf(const std::wstring& path) {
+    beforeEach(path);
     attempt(path);
     if (texts.contains(path)) return PathKind::File;
     return exists(withoutTrailingBackslash(path)) ? PathKind::Directory : PathKind::Nothing;

@@ -16,6 +16,7 @@ struct FakeFiles : Files {
     std::map<std::wstring, int> failing;  ///< looking for, changing: so many times it raises 75
     int wellFor = 0;                      ///< but not the first times
     std::vector<wchar_t> presentDrives = {L'c'};
+    std::vector<std::wstring> driveShares;
     std::map<wchar_t, std::wstring> currentDirectories;
     std::map<std::wstring, int> visits;  ///< how often each directory was read
     std::mutex counting;                 ///< of the visits, by several threads
@@ -30,12 +31,14 @@ struct FakeFiles : Files {
     std::string readBytes(const std::wstring& path) override;
     void replace(const std::wstring& path, const WriteContent& write) override;
     PathKind kindOf(const std::wstring& path) override;
+    std::uint64_t sizeOf(const std::wstring& path) override;
     void keepCopy(const std::wstring& file, const std::wstring& copy) override;
     void remove(const std::wstring& file) override;
     void visit(const std::wstring& directory,
                const std::function<void(const DirectoryEntry&)>& visitor) override;
     DirectoryId identify(const std::wstring& directory) override;
     std::vector<wchar_t> drives() override { return presentDrives; }
+    std::vector<std::wstring> sharesOfDrives() override { return driveShares; }
     std::wstring currentDirectory(wchar_t drive) override;
 
  private:

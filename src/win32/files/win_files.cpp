@@ -6,12 +6,14 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <winnetwk.h>
 
 #include "common/runtime_error.h"
 #include "rules/file_error.h"
 #include "rules/long_path.h"
 #include "win32/files/directory_identity.h"
 #include "win32/files/win_file_replacement.h"
+#include "win32/process/system_function.h"
 #include "win32/process/unique.h"
 
 namespace {
@@ -100,6 +102,14 @@ PathKind WinFiles::kindOf(const std::wstring& path) {
     throw fileError(error, path);
 }
 
+std::uint64_t WinFiles::sizeOf(const std::wstring& path) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (!GetFileAttributesExW(longPath(path).c_str(), GetFileExInfoStandard, &data)) {
+        throw fileError(GetLastError(), path);
+    }
+    return (std::uint64_t{data.nFileSizeHigh} << 32) | data.nFileSizeLow;
+}
+
 void WinFiles::keepCopy(const std::wstring& file, const std::wstring& copy) {
     const std::string bytes = readBytes(file);
     makeWritable(copy);
@@ -152,6 +162,21 @@ std::vector<wchar_t> WinFiles::drives() {
         if (present & (1U << i)) letters.push_back(static_cast<wchar_t>(L'a' + i));
     }
     return letters;
+}
+
+std::vector<std::wstring> WinFiles::sharesOfDrives() {
+    static const auto connectionOf =
+        systemFunction<decltype(WNetGetConnectionW)>(L"mpr", "WNetGetConnectionW");
+    std::vector<std::wstring> shares;
+    for (const wchar_t letter : drives()) {
+        const wchar_t drive[] = {letter, L':', 0};
+        wchar_t share[MAX_PATH] = {};
+        DWORD length = MAX_PATH;
+        if (connectionOf && connectionOf(drive, share, &length) == NO_ERROR) {
+            shares.emplace_back(share);
+        }
+    }
+    return shares;
 }
 
 std::wstring WinFiles::currentDirectory(wchar_t drive) {

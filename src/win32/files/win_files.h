@@ -11,12 +11,14 @@ class WinFiles : public Files {
     std::string readAtMost(const std::wstring& path, std::int64_t most);
     void replace(const std::wstring& path, const WriteContent& write) override;
     PathKind kindOf(const std::wstring& path) override;
+    std::uint64_t sizeOf(const std::wstring& path) override;
     void keepCopy(const std::wstring& file, const std::wstring& copy) override;
     void remove(const std::wstring& file) override;
     void visit(const std::wstring& directory,
                const std::function<void(const DirectoryEntry&)>& visitor) override;
     DirectoryId identify(const std::wstring& directory) override;
     std::vector<wchar_t> drives() override;
+    std::vector<std::wstring> sharesOfDrives() override;
     std::wstring currentDirectory(wchar_t drive) override;
 };
 

@@ -3,7 +3,7 @@
 #include "fakes/fake_controls.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_patience.h"
-#include "pickers/directory_listing.h"
+#include "pickers/paths.h"
 #include "ports/events.h"
 #include "ports/workers.h"
 #include "unit/unit_test.h"
@@ -55,6 +55,34 @@ TEST(DrivePicker, FindsTheDriveOfAPathInAnyCase) {
     EXPECT_EQ(picker.drive(), L'd');
     picker.setDrive(L"\\\\serveur\\part");
     EXPECT_EQ(picker.drive(), L'\0');
+}
+
+TEST(Paths, ShowWhereANameLeadsHoweverItIsSpelled) {
+    const struct {
+        const wchar_t *directory, *name, *path, *server;
+    } cases[] = {
+        {L"c:\\l", L"a.x", L"c:\\l\\a.x", L""},
+        {L"c:\\", L".\\b\\..\\a.x", L"c:\\a.x", L""},
+        {L"c:\\l", L"..\\..\\..\\a.x", L"c:\\a.x", L""},
+        {L"c:\\l", L"d:a.x", L"d:\\a.x", L""},
+        {L"c:\\l", L"D:/p//a.x", L"D:\\p\\a.x", L""},
+        {L"\\\\srv\\part\\l", L"\\p\\a.x", L"\\\\srv\\part\\p\\a.x", L"SRV"},
+        {L"c:\\l", L"//Srv/part/../a.x", L"\\\\Srv\\part\\a.x", L"SRV"},
+        {L"c:\\l", L"\\\\?\\unc\\srv\\part\\a.x", L"\\\\srv\\part\\a.x", L"SRV"},
+        {L"c:\\l", L"\\\\.\\UNC\\srv\\part\\a.x", L"\\\\srv\\part\\a.x", L"SRV"},
+        {L"c:\\l", L"\\??\\d:\\a.x", L"d:\\a.x", L""},
+        {L"c:\\l", L"//./\\\\?/UNC/srv/part/a.x", L"\\\\srv\\part\\a.x", L"SRV"},
+        {L"c:\\l", L"\\\\?\\GLOBALROOT\\Device\\Mup\\srv\\a.x",
+         L"c:\\l\\GLOBALROOT\\Device\\Mup\\srv\\a.x", L""},
+        {L"c:\\l", L"\\\\srv\\a.x", L"\\\\srv\\a.x\\", L"SRV"},
+        {L"c:\\l", L"\\\\srv", L"", L""},
+        {L"c:\\l", L"\\\\srv\\..\\a.x", L"", L""},
+    };
+    for (const auto& c : cases) {
+        const std::wstring path = resolvedPath(c.directory, c.name).value_or(L"");
+        EXPECT_EQ(path, c.path) << c.name;
+        EXPECT_EQ(serverOf(path), c.server) << c.name;
+    }
 }
 
 TEST(DirectoryListing, KnowsThePathsOfDirectories) {

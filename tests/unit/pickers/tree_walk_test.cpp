@@ -8,6 +8,7 @@
 
 #include "fakes/fake_files.h"
 #include "fakes/fake_patience.h"
+#include "pickers/in_parallel.h"
 #include "pickers/read_ahead.h"
 #include "ports/workers.h"
 #include "unit/unit_test.h"
@@ -197,6 +198,23 @@ TEST_F(TreeWalk, LetsOthersReadWhileItIdentifiesALinkItself) {
     workers.most = 1;
     EXPECT_EQ(walk(workers), WalkEnd::Complete);
     EXPECT_TRUE(wentOn);
+}
+
+TEST(InParallel, DoesEachJobOnceAndTellsOfTheFirstThatFails) {
+    FakeFiles files;
+    FakePatience patience;
+    for (const int most : {0, 3, 100}) {
+        JoiningWorkers workers;
+        workers.most = most;
+        std::vector<int> times(500);
+        EXPECT_TRUE(inParallel({files, workers, patience}, times.size(),
+                               [&](std::size_t number) { ++times[number]; }));
+        EXPECT_EQ(times, std::vector<int>(500, 1));
+        const auto fail = [](std::size_t number) {
+            if (number == 7) throw errors::fileNotFound(L"x");
+        };
+        EXPECT_EQ(raised([&] { (void)inParallel({files, workers, patience}, 500, fail); }), 53);
+    }
 }
 
 TEST_F(TreeWalk, LetsThroughWhatThePatienceRaises) {

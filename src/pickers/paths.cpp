@@ -1,0 +1,108 @@
+#include "pickers/paths.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "common/letter_case.h"
+#include "common/text.h"
+
+namespace {
+
+constexpr std::wstring_view kNetwork = L"\\\\";
+
+/// Windows' own spellings of a path ("File path formats on Windows systems", DOS device paths) tell
+/// less plainly where it leads.
+std::wstring withoutDevicePrefix(std::wstring path) {
+    constexpr std::wstring_view kPrefixes[] = {L"\\\\?\\", L"\\\\.\\", L"\\??\\"};
+    const auto begins = [&](std::wstring_view prefix) { return path.starts_with(prefix); };
+    constexpr std::wstring_view kShare = L"UNC\\";
+    // One may hide behind another.
+    while (std::ranges::any_of(kPrefixes, begins)) {
+        path.erase(0, kPrefixes[0].size());
+        const bool share = equalIgnoringCase(path.substr(0, kShare.size()), kShare);
+        if (share) path.replace(0, kShare.size(), kNetwork);
+    }
+    return path;
+}
+
+bool isOnDrive(std::wstring_view path) { return path.size() >= 2 && path[1] == L':'; }
+
+bool isPlainName(std::wstring_view name) { return !name.empty() && name != L"." && name != L".."; }
+
+/// Up to the next backslash.
+std::wstring_view firstName(std::wstring_view path) { return path.substr(0, path.find(L'\\')); }
+
+/// "c:\" or "\\server\share\", with the backslash, also where the path has none; empty for none.
+std::wstring rootOf(std::wstring_view path) {
+    if (isOnDrive(path)) return std::wstring(path.substr(0, 2)) + L'\\';
+    const std::wstring_view server = firstName(path.substr(kNetwork.size()));
+    const std::size_t begin = kNetwork.size() + server.size() + 1;
+    if (begin > path.size()) return {};
+    const std::wstring_view share = firstName(path.substr(begin));
+    if (!isPlainName(server) || !isPlainName(share)) return {};
+    return std::wstring(path.substr(0, begin + share.size())) + L'\\';
+}
+
+/// The names on the way down, ".." taken for what it means.
+std::wstring names(std::wstring_view path) {
+    std::vector<std::wstring_view> way;
+    while (!path.empty()) {
+        const std::wstring_view name = firstName(path);
+        path.remove_prefix(std::min(name.size() + 1, path.size()));
+        if (isPlainName(name)) {
+            way.push_back(name);
+        } else if (name == L".." && !way.empty()) {
+            way.pop_back();
+        }
+    }
+    std::wstring joined;
+    for (const std::wstring_view name : way) (joined += joined.empty() ? L"" : L"\\") += name;
+    return joined;
+}
+
+}  // namespace
+
+bool isDriveRoot(std::wstring_view directory) {
+    return directory.size() == 3 && directory[1] == L':' && directory[2] == L'\\';
+}
+
+std::wstring reportedPath(std::wstring_view directory) {
+    while (directory.ends_with(L'\\') && !isDriveRoot(directory)) directory.remove_suffix(1);
+    std::wstring path(directory);
+    if (path.size() == 2 && path[1] == L':') path += L'\\';
+    return path;
+}
+
+std::wstring childPath(const std::wstring& directory, std::wstring_view name) {
+    std::wstring path = directory;
+    if (!path.ends_with(L'\\')) path += L'\\';
+    path += name;
+    return path;
+}
+
+std::wstring parentPath(const std::wstring& directory) {
+    const std::size_t backslash = directory.find_last_of(L'\\');
+    if (isDriveRoot(directory) || backslash == std::wstring::npos || backslash < 2) {
+        return directory;
+    }
+    // The share is the root of a network path.
+    if (directory.starts_with(L"\\\\") && directory.find(L'\\', 2) == backslash) return directory;
+    return reportedPath(directory.substr(0, backslash + 1));
+}
+
+std::optional<std::wstring> resolvedPath(const std::wstring& directory, std::wstring_view name) {
+    std::wstring path(name);
+    std::ranges::replace(path, L'/', L'\\');
+    path = withoutDevicePrefix(std::move(path));
+    if (!isOnDrive(path) && !path.starts_with(kNetwork)) {
+        path = (path.starts_with(L'\\') ? rootOf(directory) : directory + L'\\') + path;
+    }
+    const std::wstring root = rootOf(path);
+    if (root.empty()) return std::nullopt;
+    return root + names(std::wstring_view(path).substr(std::min(root.size() - 1, path.size())));
+}
+
+std::wstring serverOf(std::wstring_view path) {
+    if (!path.starts_with(kNetwork)) return {};
+    return upperCase(firstName(path.substr(kNetwork.size())));
+}

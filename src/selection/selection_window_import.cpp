@@ -1,0 +1,147 @@
+// Documents from elsewhere: a file that names them, files and directories dropped on the window.
+
+#include <algorithm>
+
+#include "common/numbers.h"
+#include "common/runtime_error.h"
+#include "pickers/search_progress.h"
+#include "ports/file_dialogs.h"
+#include "ports/message_boxes.h"
+#include "ports/platform.h"
+#include "ports/search_patience.h"
+#include "selection/selection_window.h"
+
+namespace {
+
+constexpr wchar_t kUnchanged[] = L"\r\nLa liste reste comme elle était.";
+
+MessageBoxContent importBox(const std::wstring& text) {
+    return {.text = text, .title = L"Tarnwick", .icon = MessageBoxContent::Icon::Warning};
+}
+
+MessageBoxContent notImportedBox(const std::wstring& problem) {
+    return importBox(L"L'importation n'a pas eu lieu.\r\n" + problem + kUnchanged);
+}
+
+MessageBoxContent importStoppedBox() {
+    return importBox(std::wstring(L"Importation interrompue.") + kUnchanged);
+}
+
+MessageBoxContent serversBox(const std::vector<std::wstring>& servers) {
+    std::wstring text = L"Des documents sont sur d'autres serveurs :";
+    for (const std::wstring& server : servers) text += L"\r\n\\\\" + server;
+    return {.text = text + L"\r\nLes y chercher ? Ces serveurs sauront qui le demande.",
+            .title = L"Tarnwick",
+            .buttons = MessageBoxContent::Buttons::YesNo,
+            .icon = MessageBoxContent::Icon::Warning,
+            .defaultButton = 2};
+}
+
+const wchar_t* reason(Presence why) {
+    switch (why) {
+        case Presence::NoDocument:
+            return L"n'est pas un document SolidWorks";
+        case Presence::OutOfReach:
+            return L"inaccessible";
+        case Presence::Refused:
+            return L"serveur non interrogé";
+        default:
+            return L"introuvable";
+    }
+}
+
+/// As much of a line as is needed to find it again.
+std::wstring shownLine(const std::wstring& text) {
+    constexpr std::size_t kLongest = 120;
+    const std::wstring line = text.substr(0, text.find_first_of(L"\r\n"));
+    return line.size() <= kLongest ? line : line.substr(0, kLongest) + L"…";
+}
+
+/// What is told of an import: empty when each line became a document.
+std::wstring remainsText(const ImportRemains& remains) {
+    std::wstring text;
+    if (remains.leftOut == 1) text += L"1 ligne laissée de côté :";
+    if (remains.leftOut > 1) text += decimal(remains.leftOut) + L" lignes laissées de côté :";
+    for (const auto& line : remains.first) {
+        text += L"\r\n" + shownLine(line.text) + L" : " + reason(line.why);
+    }
+    const int more = remains.leftOut - static_cast<int>(remains.first.size());
+    if (more > 0) text += L"\r\net " + decimal(more) + L" de plus";
+    if (remains.repeated == 0) return text;
+    if (!text.empty()) text += L"\r\n";
+    return text + decimal(remains.repeated) +
+           (remains.repeated == 1 ? L" ligne déjà dans la liste." : L" lignes déjà dans la liste.");
+}
+
+}  // namespace
+
+void SelectionWindow::Importer_Click() {
+    const OpenQuestion question{.title = L"Importer une liste",
+                                .kinds = {{L"Textes, tableaux CSV et listes", L"*.txt;*.csv;*.lst"},
+                                          {L"Tous les fichiers", L"*.*"}}};
+    try {
+        const auto file = platform_.fileDialogs.askWhatToOpen(question);
+        if (file) importDocuments([&](DocumentImport& import) { return import.gatherFile(*file); });
+    } catch (const RuntimeError& error) {
+        platform_.messageBoxes.show(notImportedBox(error.text));
+    }
+}
+
+void SelectionWindow::Form_Drop() {
+    Pulse pulse;
+    importDocuments([&](DocumentImport& import) {
+        return import.gatherDropped(window_->droppedPaths(), [&](int documents) {
+            if (!pulse.due()) return;
+            cptfichier.setText(decimal(documents));
+            cptfichier.repaint();
+        });
+    });
+}
+
+void SelectionWindow::importDocuments(const ImportStep& gather) {
+    DocumentImport import(platform_.search);
+    if (!completes(import, gather)) return;
+    const auto servers = import.foreignServers();
+    const auto mayAsk = [&] {
+        return platform_.messageBoxes.show(serversBox(servers)) == MessageBoxes::Answer::Yes;
+    };
+    if (!servers.empty() && !mayAsk()) import.leaveOutServers(servers);
+    if (!completes(import, [](DocumentImport& looking) { return looking.look(); })) return;
+
+    const bool none = import.documents().empty();
+    if (!none) listDocuments(import.documents());
+    std::wstring text = remainsText(import.remains());
+    if (none)
+        text += (text.empty() ? L"Aucun document à importer." : L"") + std::wstring(kUnchanged);
+    if (!text.empty()) platform_.messageBoxes.show(importBox(text));
+}
+
+bool SelectionWindow::completes(DocumentImport& import, const ImportStep& step) {
+    bool stopped = false;
+    DocumentImport::End end;
+    {
+        const Searching searching(platform_.search.patience, *this, SearchKind::Documents);
+        const SearchSign sign(Label4);
+        end = step(import);
+        stopped = searching.stopped();
+    }
+    cptfichier.setText(decimal(found_.count()));
+    if (end == DocumentImport::End::Complete) return true;
+    if (end == DocumentImport::End::Refused) {
+        platform_.messageBoxes.show(notImportedBox(import.problem()));
+    } else if (stopped && !import.documents().empty()) {
+        listDocuments(import.documents());
+        platform_.messageBoxes.show(incompleteListBox());
+    } else if (stopped) {
+        platform_.messageBoxes.show(importStoppedBox());
+    }
+    return false;
+}
+
+void SelectionWindow::listDocuments(const std::vector<std::wstring>& documents) {
+    found_.take(documents);
+    imported_ = true;
+    cptfichier.setText(decimal(found_.count()));
+    List1.fill(NNiveau.levels(), {documents.begin(), documents.end()});
+    List1_Click();
+}

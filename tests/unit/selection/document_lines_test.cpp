@@ -1,0 +1,39 @@
+#include "selection/document_lines.h"
+
+#include "unit/unit_test.h"
+
+namespace {
+
+/// Each line as its number and the document that it names; an exclamation mark for none.
+std::string linesOf(const char* text, bool isList) {
+    std::string lines;
+    (isList ? readListLines : readTable)(text, [&](const DocumentLine& line) {
+        lines += std::to_string(line.number) + (line.namesDocument ? "=" : "!");
+        if (line.namesDocument) lines += line.text;
+        lines += '|';
+    });
+    return lines;
+}
+
+}  // namespace
+
+TEST(DocumentLines, NameTheFirstDocumentOfEachLine) {
+    const struct {
+        const char* text;
+        const char* lines;
+        bool isList = false;
+    } cases[] = {
+        {"C:\\a.SLDPRT\r\nb.sldasm\n\n \t\r c.SlDdRw ", "1=C:\\a.SLDPRT|2=b.sldasm|5=c.SlDdRw|"},
+        {"x;\"b;c.sldprt\";d.sldprt\r\n1\té.sldprt\t", "1=b;c.sldprt|2=é.sldprt|"},
+        {"\"dit \"\"le\"\" a.sldprt\"", "1=dit \"le\" a.sldprt|"},
+        {"1;\"deux\r\nlignes\";a.sldprt\r\nb.sldprt", "1!|2=a.sldprt|3=b.sldprt|"},
+        {"\"sans fin;b.sldprt\r\n3/4\";c.sldprt", "1=b.sldprt|2=c.sldprt|"},
+        {"N°;Etat;Document;Marqué le\r\n1;Fait;a.sldprt\r\nN°;Etat;Document;", "2=a.sldprt|3!|"},
+        {"\"N°\"\tEtat\tDocument\r\n", ""},
+        {";;\t;\r\n  \r\nnotes;a.sldprt.bak;sldprt", "3!|"},
+        {"'=a.sldprt\n'a.sldprt", "1==a.sldprt|2='a.sldprt|"},
+        {"0  c:\\a;b.SLDPRT\r\n12 b.sldprt\r\nété c.sldprt\r\n0\r\n   \r\n1  x.txt",
+         "1=c:\\a;b.SLDPRT|2=b.sldprt|3=c.sldprt|4!|6!|", true},
+    };
+    for (const auto& c : cases) EXPECT_EQ(linesOf(c.text, c.isList), c.lines) << c.text;
+}

@@ -1,0 +1,143 @@
+#include "selection/document_search.h"
+#include "unit/selection/selection_window_fixture.h"
+
+namespace {
+
+constexpr wchar_t kFile[] = L"c:\\listes\\ordre.csv";
+
+struct SelectionImport : SelectionFixture {
+    SelectionImport() { load(); }
+
+    void import(const std::wstring& text, const std::wstring& file = kFile) {
+        machine.files.texts[file] = text;
+        machine.fileDialogs.answer = file;
+        click(IDM_FORM1_IMPORTER);
+    }
+    /// The text of the only box shown since this was asked last.
+    std::wstring box() {
+        EXPECT_EQ(machine.boxes.shown.size(), 1U);
+        const std::wstring text =
+            machine.boxes.shown.empty() ? std::wstring() : machine.boxes.shown.back().text;
+        machine.boxes.shown.clear();
+        return text;
+    }
+    void expectUnchanged() {
+        EXPECT_EQ(unchosen(), (Texts{L"axe.slddrw", L"Zoe.SLDDRW"}));
+        EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"2");
+    }
+    std::wstring written() { return machine.files.texts[machine.programFiles.list]; }
+};
+
+}  // namespace
+
+TEST_F(SelectionImport, DocumentsThatAreThereBecomeTheListAllChosen) {
+    import(
+        L"N°;Etat;Document\r\n1;Fait;..\\plans\\Zoe.SLDDRW\r\n2;Vu;\"c:\\plans\\Bras."
+        L"SLDPRT\"\r\n\r\n"
+        L"C:\\PLANS\\x\\..\\ZOE.slddrw;\r\nabsent.sldprt\r\nnotes.txt;12\r\n");
+    EXPECT_EQ(list().texts(),
+              (Texts{L" X   c:\\plans\\Zoe.SLDDRW", L" X   c:\\plans\\Bras.SLDPRT"}));
+    EXPECT_EQ(text(IDC_FORM1_NBFICH) + L"/" + text(IDC_FORM1_CPTFICHIER), L"2/2");
+    EXPECT_EQ(box(),
+              L"2 lignes laissées de côté :\r\nabsent.sldprt : introuvable\r\n"
+              L"notes.txt;12 : n'est pas un document SolidWorks\r\n1 ligne déjà dans la liste.");
+    EXPECT_FALSE(ticked());
+    leaveTypes();
+    EXPECT_EQ(marks(), L"11") << "nothing is lost by passing through the field";
+    click(IDM_FORM1_ORDRE);
+    EXPECT_EQ(machine.settings.read(L"tarnwick", L"options", L"ordre", L""), L"1");
+    click(IDC_FORM1_CMD_TRACER);
+    EXPECT_EQ(written(), L"0  c:\\plans\\Bras.SLDPRT\r\n0  c:\\plans\\Zoe.SLDDRW\r\n");
+    type(L"*.SLDPRT");
+    EXPECT_EQ(unchosen(), Texts{L"Bras.SLDPRT"}) << "the next search replaces it as ever";
+}
+
+TEST_F(SelectionImport, WhatCantBeImportedLeavesTheListAsItWas) {
+    std::wstring tooMany;
+    for (int i = 0; i <= FoundDocuments::kCapacity; ++i) {
+        const std::wstring name = std::to_wstring(i) + L".sldprt";
+        machine.files.add({L"c:\\n\\" + name});
+        tooMany += L"c:\\n\\" + name + L"\n";
+    }
+    const struct {
+        std::wstring text;
+        const wchar_t* told;
+    } cases[] = {
+        {tooMany, L"plus de 8001 documents"},
+        {std::wstring(L"PK\0\0", 4), L"format CSV"},
+        {std::wstring((16U << 20) + 1, L'x'), L"16 Mo"},
+        {L"a.sldprt\r\nb.sldprt", L"2 lignes laissées de côté :"},
+        {L"a;b", L"1 ligne laissée de côté :"},
+        {L"\r\n", L"Aucun document à importer."},
+    };
+    for (const auto& c : cases) {
+        import(c.text);
+        const std::wstring text = box();
+        EXPECT_NE(text.find(c.told), std::wstring::npos) << text.substr(0, 200);
+        EXPECT_TRUE(text.ends_with(L"\r\nLa liste reste comme elle était.")) << c.told;
+        expectUnchanged();
+    }
+}
+
+TEST_F(SelectionImport, AFaultThatPassesLeavesNothingOut) {
+    machine.files.failing = {
+        {kFile, 1}, {L"c:\\plans\\axe.slddrw", 1}, {L"c:\\plans\\Zoe.SLDDRW", 9}};
+    import(L"c:\\plans\\axe.slddrw\r\nc:\\plans\\Zoe.SLDDRW\r\n");
+    EXPECT_EQ(list().texts(), Texts{L" X   c:\\plans\\axe.slddrw"});
+    EXPECT_EQ(box(), L"1 ligne laissée de côté :\r\nc:\\plans\\Zoe.SLDDRW : inaccessible");
+    machine.files.failing = {{kFile, 9}};
+    import(L"c:\\plans\\axe.slddrw");
+    EXPECT_NE(box().find(kFile), std::wstring::npos);
+}
+
+TEST_F(SelectionImport, AsksBeforeItLooksOnServersThatNobodyUses) {
+    machine.files.add(
+        {L"\\\\ici\\a\\1.sldprt", L"\\\\Autre\\a\\2.sldprt", L"\\\\DISQUE\\a\\3.sldprt"});
+    machine.files.driveShares = {L"\\\\disque\\commun"};
+    Texts looked;
+    machine.files.beforeEach = [&](const std::wstring& path) { looked.push_back(path); };
+    const auto importAll = [&](MessageBoxes::Answer answer) {
+        machine.boxes.shown.clear();
+        machine.boxes.answers = {answer};
+        looked.clear();
+        import(L"..\\1.sldprt\n\\\\?\\unc\\Autre\\a\\2.sldprt\n//DISQUE/a/3.sldprt",
+               L"\\\\ici\\a\\listes\\l.txt");
+    };
+    importAll(MessageBoxes::Answer::No);
+    ASSERT_EQ(machine.boxes.shown.size(), 2U);
+    const MessageBoxContent& question = machine.boxes.shown[0];
+    EXPECT_EQ(question.buttons, MessageBoxContent::Buttons::YesNo);
+    EXPECT_EQ(question.defaultButton, 2);
+    EXPECT_NE(question.text.find(L"\r\n\\\\AUTRE\r\n"), std::wstring::npos) << question.text;
+    EXPECT_EQ(question.text.find(L"DISQUE"), std::wstring::npos);
+    EXPECT_EQ(looked, (Texts{L"\\\\ici\\a\\1.sldprt", L"\\\\DISQUE\\a\\3.sldprt"}));
+    EXPECT_EQ(list().count(), 2);
+    importAll(MessageBoxes::Answer::Yes);
+    EXPECT_EQ(list().count(), 3);
+}
+
+TEST_F(SelectionImport, StoppedItChangesNothing) {
+    machine.hangUntilEscape();
+    import(L"c:\\plans\\axe.slddrw");
+    EXPECT_EQ(box(), L"Importation interrompue.\r\nLa liste reste comme elle était.");
+    window().drop({L"c:\\plans\\moteur\\piston.SLDPRT"});
+    EXPECT_EQ(box(), L"Importation interrompue.\r\nLa liste reste comme elle était.");
+    expectUnchanged();
+}
+
+TEST_F(SelectionImport, WhatIsDroppedComesInItsOrder) {
+    machine.files.texts[kFile] = L"c:\\a.SLDDRW";
+    window().drop(
+        {L"c:\\plans\\Zoe.SLDDRW", kFile, L"c:\\plans\\moteur", L"c:\\x.pdf", L"c:\\a.SLDDRW"});
+    EXPECT_EQ(list().texts(), (Texts{L" X   c:\\plans\\Zoe.SLDDRW", L" X   c:\\a.SLDDRW",
+                                     L" X   c:\\plans\\moteur\\bielle.SLDDRW",
+                                     L" X   c:\\plans\\moteur\\piston.SLDPRT"}));
+    EXPECT_EQ(box(),
+              L"1 ligne laissée de côté :\r\nc:\\x.pdf : n'est pas un document SolidWorks\r\n"
+              L"1 ligne déjà dans la liste.");
+    machine.serveAfter(L"c:\\plans\\moteur", [&] { return machine.patience.stop(); });
+    window().drop({L"c:\\plans", L"d:\\doc"});
+    EXPECT_EQ(list().count(), 6) << "what was found until then";
+    EXPECT_EQ(list().line(0), L" X   c:\\plans\\axe.slddrw");
+    EXPECT_EQ(box(), L"Recherche interrompue : la liste est incomplète.");
+}
