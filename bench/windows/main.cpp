@@ -26,6 +26,8 @@ constexpr NamedRow kRows[] = {
     {"slow", searchOfSlowServer},
     {"answer", answerWhileSearching},
     {"stop", stopOfSearch},
+    {"import", importOfList},
+    {"far", importFromSlowServer},
     {"fill", listFill},
     {"next", nextDocument},
     {"filter", filter},

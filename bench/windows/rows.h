@@ -10,6 +10,10 @@ Row rebuildOfTree(const Setting& setting);
 Row rebuildOfDirectory(const Setting& setting);
 /// A tree whose directories answer late, read ahead, against one after the other.
 Row searchOfSlowServer(const Setting& setting);
+/// The documents that a file names, looked for and listed, against reading the file and asking for
+/// each; and looked for where each answers late, against one after the other.
+Row importOfList(const Setting& setting);
+Row importFromSlowServer(const Setting& setting);
 /// The work list's lines put into its list box, against LB_ADDSTRING with drawing off.
 Row listFill(const Setting& setting);
 /// The window's answer while it searches, and from the key that stops it to the box.
