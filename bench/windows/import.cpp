@@ -5,7 +5,8 @@
 #include <fstream>
 
 #include "common/utf8.h"
-#include "input/searching.h"
+#include "input/judge.h"
+#include "ports/search_patience.h"
 #include "ports/workers.h"
 #include "rows.h"
 #include "sample_tree.h"
@@ -52,7 +53,8 @@ std::wstring fileNaming(const std::vector<std::wstring>& documents, const Settin
 }
 
 void importInto(FoundDocuments& found, const SearchServices& services, const std::wstring& file) {
-    const Searching searching;
+    const NoEvents window;
+    const Searching searching(services.patience, window, SearchKind::Documents);
     DocumentImport import(services);
     const bool all = import.gatherFile(file) == DocumentImport::End::Complete &&
                      import.look() == DocumentImport::End::Complete;
@@ -106,7 +108,8 @@ Row importFromSlowServer(const Setting& setting) {
     const std::wstring file =
         fileNaming(documentsOf(documentTree(setting.directory, size)), setting);
     SlowToTell files;
-    WindowPatience patience;
+    Judge judge(doubleClickLimits(), [] { return Moment{GetTickCount64()}; });
+    WindowPatience patience(judge);
     const auto import = [&](Workers& workers) {
         FoundDocuments found;
         importInto(found, {files, workers, patience}, file);
