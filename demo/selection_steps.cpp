@@ -1,4 +1,5 @@
 #include "demo/steps.h"
+#include "driver/sandbox.h"
 #include "driver/wait.h"
 #include "selection/selection_ids.h"
 
@@ -16,6 +17,21 @@ void playAbout(Stage& stage) {
     waitFor("the About window to close", [&] { return stage.app.shownWindows().size() == 1; });
 }
 
+/// A list from a spreadsheet, of which some lines name no document that is there.
+void playImport(Stage& stage) {
+    stage.tell("Importing a list that comes from a spreadsheet");
+    std::string table = "Ordre;Document;Indice\r\n";
+    for (std::size_t i = 0; i < 4; ++i) table += "M-12;" + stage.documents[i] + ";B\r\n";
+    const auto file = stage.sandbox.documents() / "ordre M-12.csv";
+    writeFileBytes(file, table + "M-12;Presse hydraulique\\Carter.SLDPRT;A\r\n");
+    stage.app.chooseInSystemMenu(kSelection, IDM_FORM1_IMPORTER);
+    stage.app.openFile("Importer une liste", file);
+    const ModalBox box = stage.app.box();
+    stage.app.waitForText(IDC_FORM1_NBFICH, "4");
+    stage.picture("selection-import", box.window(), stage.app.window(kSelection));
+    box.answer(IDOK);
+}
+
 }  // namespace
 
 void playSelectionWindow(Stage& stage) {
@@ -23,6 +39,8 @@ void playSelectionWindow(Stage& stage) {
     stage.app.start();
     stage.app.window(kSelection);
     stage.showCallsUpTo("GetCurrentWorkingDirectory");
+
+    playImport(stage);
 
     stage.tell("Choosing a directory, its sub-directories, parts and assemblies");
     stage.app.open(IDC_FORM1_REPERT, "Presse hydraulique");

@@ -14,6 +14,7 @@ class ModalBox {
 
     static bool isOne(HWND window);
 
+    HWND window() const { return window_; }
     std::string title() const;
     std::string text() const;
 

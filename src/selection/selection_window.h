@@ -117,6 +117,6 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     std::wstring searched_;                     ///< the directory searched last
     std::wstring searchedKinds_;                ///< the text of the kinds searched last
     std::optional<std::wstring> stoppedKinds_;  ///< what stood there when that search was stopped
-    bool imported_ = false;  ///< what is listed comes from elsewhere
+    bool imported_ = false;                     ///< what is listed comes from elsewhere
     bool byKind_ = false;
 };
