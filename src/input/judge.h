@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include "input/verdict.h"
 #include "ports/search_patience.h"
