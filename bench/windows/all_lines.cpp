@@ -19,7 +19,7 @@ Comparison compareAllLines(const Setting& setting, int documents,
     FoundDocuments found;
     fillFound(found, documents);
     SelectionList selection(window->listBox(IDC_FORM1_LIST1), found);
-    selection.fill(0, {});
+    selection.fill(0, [](int) { return false; });
     HWND list = controlOf(IDC_FORM1_LIST1);
     const auto repaint = [&] {
         RedrawWindow(list, nullptr, nullptr,

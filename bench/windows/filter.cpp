@@ -21,7 +21,7 @@ Comparison compareFilter(const Setting& setting, int documents) {
     FoundDocuments found;
     fillFound(found, documents);
     SelectionList selection(list, found);
-    selection.fill(0, {});
+    selection.fill(0, [](int) { return false; });
 
     std::vector<std::wstring> folded;
     for (int i = 0; i < list.count(); ++i) folded.push_back(upperCase(list.line(i)));

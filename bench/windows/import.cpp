@@ -26,21 +26,16 @@ struct SlowToTell : WinFiles {
     }
 };
 
-std::vector<std::wstring> documentsOf(const std::filesystem::path& tree) {
-    WinFiles files;
-    NoWorkers alone;
-    Unwatched unwatched;
-    FoundDocuments found;
-    found.restart(true);
-    DocumentSearch({files, alone, unwatched}, found, DocumentKinds(L"SLDPRT SLDASM SLDDRW"),
-                   [](int) {})
-        .run(tree.wstring(), true);
+std::vector<std::wstring> sampleDocuments(const Setting& setting, int count) {
+    const std::wstring directory = flatDirectory(setting.directory, count).wstring();
     std::vector<std::wstring> paths;
-    for (int i = 0; i < found.count(); ++i) paths.push_back(found.entry(i));
+    WinFiles().visit(directory, [&](const DirectoryEntry& entry) {
+        paths.push_back(directory + L'\\' + std::wstring(entry.name));
+    });
     return paths;
 }
 
-/// A text file with the path of each document of a tree.
+/// A text file with the path of each document.
 std::wstring fileNaming(const std::vector<std::wstring>& documents, const Setting& setting) {
     std::string text;
     for (const std::wstring& path : documents) {
@@ -63,7 +58,7 @@ void importInto(FoundDocuments& found, const SearchServices& services, const std
 }
 
 Comparison compareImport(const Setting& setting, int size) {
-    const auto documents = documentsOf(documentTree(setting.directory, size));
+    const auto documents = sampleDocuments(setting, size);
     const std::wstring file = fileNaming(documents, setting);
     Stage stage;
     NoEvents events;
@@ -80,7 +75,7 @@ Comparison compareImport(const Setting& setting, int size) {
     };
     const auto subject = [&] {
         importInto(found, stage.platform.search, file);
-        list.fill(0, {documents.begin(), documents.end()});
+        list.fill(0, [](int) { return true; });
     };
     const Comparison result = compare(setting.rounds, {floor}, {subject});
     require(list.chosenCount() == size, "all documents listed and chosen");
@@ -105,8 +100,7 @@ Row importOfList(const Setting& setting) {
 
 Row importFromSlowServer(const Setting& setting) {
     const int size = setting.sizes.back();
-    const std::wstring file =
-        fileNaming(documentsOf(documentTree(setting.directory, size)), setting);
+    const std::wstring file = fileNaming(sampleDocuments(setting, size), setting);
     SlowToTell files;
     Judge judge(doubleClickLimits(), [] { return Moment{GetTickCount64()}; });
     WindowPatience patience(judge);

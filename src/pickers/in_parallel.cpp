@@ -1,5 +1,7 @@
 #include "pickers/in_parallel.h"
 
+#include <algorithm>
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <utility>
@@ -13,64 +15,69 @@ namespace {
 /// As many as keep a server busy that answers each after some milliseconds.
 constexpr int kMostAtOnce = 8;
 
-using DeskLock = std::unique_lock<std::mutex>;
-
-/// What the main thread and the workers share. All but its beginning is used under the lock alone.
+/// What the main thread and the workers share.
 struct JobDesk : std::enable_shared_from_this<JobDesk> {
-    std::size_t count;
-    std::function<void(std::size_t)> job;
+    const std::size_t count;
+    const std::function<void(std::size_t)> job;
+    std::atomic<std::size_t> next = 0;
+    std::atomic<std::size_t> done = 0;
+    std::atomic<int> atWork = 0;
+    std::atomic<bool> ended = false;
 
-    std::mutex mutex = {};
-    Workers* workers;          // These two are gone once the jobs
-    SearchPatience* patience;  // are given up.
-    std::size_t next = 0;
-    std::size_t done = 0;
-    int atWork = 0;
+    std::mutex mutex = {};     // of what follows
+    SearchPatience* patience;  ///< gone once the jobs have ended
     std::optional<RuntimeError> error = {};
-    bool ended = false;
 
     JobDesk(std::size_t theCount, std::function<void(std::size_t)> theJob,
-            const SearchServices& services)
-        : count(theCount),
-          job(std::move(theJob)),
-          workers(&services.workers),
-          patience(&services.patience) {}
+            SearchPatience& thePatience)
+        : count(theCount), job(std::move(theJob)), patience(&thePatience) {}
 
-    bool isOver() const { return done == count || error; }
-
-    void callWorkers() {
-        for (auto wanted = count - next; wanted > 0 && atWork < kMostAtOnce; --wanted) {
-            if (!workers->start([desk = shared_from_this()] { desk->work(); })) return;
+    void callWorkers(Workers& workers) {
+        const std::size_t begun = next;
+        for (auto wanted = count - std::min(begun, count); wanted > 0; --wanted) {
+            if (atWork >= kMostAtOnce) return;
             ++atWork;
+            if (workers.start([desk = shared_from_this()] { desk->work(); })) continue;
+            --atWork;
+            return;
         }
     }
 
     void work() noexcept {
-        DeskLock lock(mutex);
-        while (doNext(lock)) {
+        while (doNext()) {
         }
         --atWork;
     }
 
-    /// Does one job, unlocked meanwhile. False when there is none left.
-    bool doNext(DeskLock& lock) noexcept {
-        if (ended || error || next == count) return false;
-        const std::size_t number = next++;
-        lock.unlock();
+    /// Does one job. False when there is none left.
+    bool doNext() noexcept {
+        const std::size_t number = ended ? count : next++;
+        if (number >= count) return false;
         const auto raised = errorOf([&] { job(number); });
-        lock.lock();
-        if (!error) error = raised;
-        ++done;
-        if (!ended && isOver()) patience->wake();
+        if (raised) fail(*raised);
+        if (++done == count) end();
         return true;
+    }
+
+    void fail(const RuntimeError& raised) {
+        {
+            const std::scoped_lock lock(mutex);
+            if (!error) error = raised;
+        }
+        end();
+    }
+
+    void end() {
+        const std::scoped_lock lock(mutex);
+        if (!ended.exchange(true)) patience->wake();
     }
 };
 
-/// Ends the jobs with the scope.
+/// With the scope: from then on nobody wakes the patience.
 struct JobsEnd {
     JobDesk& desk;
     ~JobsEnd() {
-        const DeskLock lock(desk.mutex);
+        const std::scoped_lock lock(desk.mutex);
         desk.ended = true;
     }
 };
@@ -79,17 +86,15 @@ struct JobsEnd {
 
 bool inParallel(const SearchServices& services, std::size_t count,
                 std::function<void(std::size_t)> job) {
-    const auto desk = std::make_shared<JobDesk>(count, std::move(job), services);
+    if (count == 0) return true;
+    const auto desk = std::make_shared<JobDesk>(count, std::move(job), services.patience);
     const JobsEnd end{*desk};
-    DeskLock lock(desk->mutex);
-    while (!desk->isOver()) {
-        desk->callWorkers();
-        const bool alone = desk->atWork == 0;
-        if (alone) desk->doNext(lock);
-        lock.unlock();
+    while (!desk->ended) {
+        desk->callWorkers(services.workers);
+        const bool alone = desk->atWork == 0 && desk->doNext();
         if (!(alone ? services.patience.serve() : services.patience.wait())) return false;
-        lock.lock();
     }
+    const std::scoped_lock lock(desk->mutex);
     if (desk->error) throw *desk->error;
     return true;
 }

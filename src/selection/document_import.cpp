@@ -5,8 +5,6 @@
 #include <memory>
 #include <set>
 #include <thread>
-#include <unordered_map>
-#include <unordered_set>
 #include <utility>
 
 #include "common/letter_case.h"
@@ -120,7 +118,9 @@ DocumentImport::End DocumentImport::gatherDropped(const std::vector<std::wstring
             paths, [&](const std::wstring& path) { return takeDropped(path, progress); });
     });
     if (end == End::Interrupted) {
-        std::erase_if(lines_, [](const Line& line) { return line.presence != Presence::There; });
+        std::erase_if(lines_, [&](const Line& line) {
+            return named_[line.document].presence != Presence::There;
+        });
         settle();
     }
     return end;
@@ -182,7 +182,12 @@ void DocumentImport::takeLines(const std::string& utf8, const std::wstring& file
 
 void DocumentImport::add(const std::wstring& text, const std::wstring& path, Presence presence) {
     if (lines_.size() == kMostLines) throw tooManyDocuments();
-    lines_.push_back({place_++, text, path, presence});
+    const auto [known, isNew] = numbers_.try_emplace(upperCase(path), named_.size());
+    if (isNew) named_.push_back({path, presence});
+    // What was found below a directory is there, whoever named it before.
+    Document& document = named_[known->second];
+    if (presence == Presence::There) document.presence = presence;
+    lines_.push_back({place_++, text, known->second});
 }
 
 void DocumentImport::leaveOut(int place, const std::wstring& text, Presence why) {
@@ -195,10 +200,12 @@ void DocumentImport::leaveOut(int place, const std::wstring& text, Presence why)
 
 std::vector<std::wstring> DocumentImport::foreignServers() const {
     std::set<std::wstring> servers;
-    for (const Line& line : lines_) {
-        if (line.presence == Presence::Unknown) servers.insert(serverOf(line.path));
+    for (const Document& document : named_) {
+        const bool isOnServer = document.path.starts_with(L'\\');
+        if (isOnServer && document.presence == Presence::Unknown) {
+            servers.insert(serverOf(document.path));
+        }
     }
-    servers.erase(L"");
     for (const std::wstring& own : ownServers_) servers.erase(own);
     if (servers.empty()) return {};
     for (const std::wstring& share : services_.files.sharesOfDrives()) {
@@ -208,9 +215,10 @@ std::vector<std::wstring> DocumentImport::foreignServers() const {
 }
 
 void DocumentImport::leaveOutServers(const std::vector<std::wstring>& servers) {
-    for (Line& line : lines_) {
-        const bool isTheirs = std::ranges::find(servers, serverOf(line.path)) != servers.end();
-        if (line.presence == Presence::Unknown && isTheirs) line.presence = Presence::Refused;
+    for (Document& document : named_) {
+        if (document.presence != Presence::Unknown) continue;
+        const bool isTheirs = std::ranges::find(servers, serverOf(document.path)) != servers.end();
+        if (isTheirs) document.presence = Presence::Refused;
     }
 }
 
@@ -232,32 +240,28 @@ bool DocumentImport::lookAtThose(Presence still) {
         std::vector<Presence> answers;
     };
     const auto looks = std::make_shared<Looks>();
-    std::unordered_map<std::wstring, std::size_t> numbers;  // by their paths in capitals
-    for (const Line& line : lines_) {
-        if (line.presence != still) continue;
-        if (numbers.try_emplace(upperCase(line.path), looks->paths.size()).second) {
-            looks->paths.push_back(line.path);
-        }
+    std::vector<Document*> documents;
+    for (Document& document : named_) {
+        if (document.presence != still) continue;
+        documents.push_back(&document);
+        looks->paths.push_back(document.path);
     }
-    looks->answers.resize(looks->paths.size());
+    looks->answers.resize(documents.size());
     const auto ask = [&files = services_.files, looks](std::size_t number) {
         looks->answers[number] = presenceOf(files, looks->paths[number]);
     };
-    if (!inParallel(services_, looks->paths.size(), ask)) return false;
-    for (Line& line : lines_) {
-        if (line.presence != still) continue;
-        line.presence = looks->answers[numbers.at(upperCase(line.path))];
-    }
+    if (!inParallel(services_, documents.size(), ask)) return false;
+    for (std::size_t i = 0; i < documents.size(); ++i) documents[i]->presence = looks->answers[i];
     return true;
 }
 
 void DocumentImport::settle() {
-    std::unordered_set<std::wstring> taken;
     for (const Line& line : lines_) {
-        if (line.presence != Presence::There) {
-            leaveOut(line.place, line.text, line.presence);
-        } else if (taken.insert(upperCase(line.path)).second) {
-            documents_.push_back(line.path);
+        Document& document = named_[line.document];
+        if (document.presence != Presence::There) {
+            leaveOut(line.place, line.text, document.presence);
+        } else if (!std::exchange(document.listed, true)) {
+            documents_.push_back(document.path);
         } else {
             ++remains_.repeated;
         }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "ports/search_services.h"
@@ -58,12 +59,16 @@ class DocumentImport {
     const std::wstring& problem() const { return problem_; }
 
  private:
-    /// A line that names a document.
+    struct Document {
+        std::wstring path;
+        Presence presence;
+        bool listed = false;
+    };
+    /// A line that names a document, by the number of that one.
     struct Line {
         int place;
         std::wstring text;  ///< as it was written
-        std::wstring path;
-        Presence presence;
+        std::size_t document;
     };
 
     template <class Action>
@@ -80,6 +85,8 @@ class DocumentImport {
 
     SearchServices services_;
     std::vector<Line> lines_;
+    std::vector<Document> named_;
+    std::unordered_map<std::wstring, std::size_t> numbers_;  ///< of those, by path in capitals
     std::vector<std::wstring> ownServers_;
     std::vector<std::wstring> documents_;
     ImportRemains remains_;

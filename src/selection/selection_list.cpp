@@ -7,14 +7,15 @@
 #include "selection/document_search.h"
 #include "worklist/list_display.h"
 
-void SelectionList::fill(int depth, const Entries& chosen) {
+void SelectionList::fill(int depth, const std::function<bool(int line)>& isChosen) {
     depth_ = depth;
-    const auto isChosen = [&](int i) { return chosen.contains(found_.entry(i)); };
-    list_.setLines(found_.count(), [&](int i) { return lineText(i, isChosen(i)); });
-    if (chosen.empty()) return;
-    for (int i = 0; i < found_.count(); ++i) {
-        if (isChosen(i)) list_.setMark(i, 1);
-    }
+    std::vector<int> chosen;
+    list_.setLines(found_.count(), [&](int i) {
+        const bool choose = isChosen(i);
+        if (choose) chosen.push_back(i);
+        return lineText(i, choose);
+    });
+    for (const int line : chosen) list_.setMark(line, 1);
 }
 
 SelectionList::Entries SelectionList::chosenEntries() const {

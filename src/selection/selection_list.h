@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -16,8 +17,8 @@ class SelectionList {
 
     SelectionList(ListBox& list, const FoundDocuments& found) : list_(list), found_(found) {}
 
-    /// Draws all lines from the table; those of these entries are chosen.
-    void fill(int depth, const Entries& chosen);
+    /// Draws all lines from the table, and chooses some of them.
+    void fill(int depth, const std::function<bool(int line)>& isChosen);
     /// Draws all lines at another depth; choices are kept.
     void redraw(int depth);
 

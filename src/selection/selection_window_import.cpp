@@ -142,6 +142,6 @@ void SelectionWindow::listDocuments(const std::vector<std::wstring>& documents) 
     found_.take(documents);
     imported_ = true;
     cptfichier.setText(decimal(found_.count()));
-    List1.fill(NNiveau.levels(), {documents.begin(), documents.end()});
+    List1.fill(NNiveau.levels(), [](int) { return true; });
     List1_Click();
 }

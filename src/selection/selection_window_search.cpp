@@ -89,7 +89,7 @@ bool SelectionWindow::rebuild(const SelectionList::Entries& chosen) {
     stoppedKinds_.reset();
     if (end == SearchEnd::Stopped) stoppedKinds_ = typef.text();
     cptfichier.setText(decimal(found_.count()));
-    List1.fill(NNiveau.levels(), chosen);
+    List1.fill(NNiveau.levels(), [&](int line) { return chosen.contains(found_.entry(line)); });
     List1_Click();
     if (end == SearchEnd::Stopped) platform_.messageBoxes.show(incompleteListBox());
     return end == SearchEnd::Complete;
