@@ -15,7 +15,7 @@ struct SearchingWindow : EventSink {
 struct JudgeTest : testing::Test {
     Moment time = 0;
     Judge judge{{.time = 500, .width = 4, .height = 4}, [this] { return time; }};
-    const SearchingWindow window;
+    const SearchingWindow window{};
 
     void at(Moment now, void (Judge::*deed)()) {
         time = now;
