@@ -1,6 +1,7 @@
 #include "pickers/paths.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "common/letter_case.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <set>
 #include <thread>
 #include <utility>
@@ -148,8 +149,9 @@ bool DocumentImport::takeDirectory(const std::wstring& directory, const Progress
         services_, reportedPath(directory), true,
         [kinds = DocumentKinds(kAllKinds)](std::wstring_view name) { return kinds.accepts(name); },
         [&](const std::wstring& path, const std::vector<std::wstring>& names) {
-            for (const std::wstring& name : names)
+            for (const std::wstring& name : names) {
                 add(name, childPath(path, name), Presence::There);
+            }
             progress(static_cast<int>(lines_.size()));
         });
     return end == WalkEnd::Complete;

@@ -1,6 +1,7 @@
 // Documents from elsewhere: a file that names them, files and directories dropped on the window.
 
 #include <algorithm>
+#include <vector>
 
 #include "common/numbers.h"
 #include "common/runtime_error.h"
@@ -111,8 +112,9 @@ void SelectionWindow::importDocuments(const ImportStep& gather) {
     const bool none = import.documents().empty();
     if (!none) listDocuments(import.documents());
     std::wstring text = remainsText(import.remains());
-    if (none)
+    if (none) {
         text += (text.empty() ? L"Aucun document à importer." : L"") + std::wstring(kUnchanged);
+    }
     if (!text.empty()) platform_.messageBoxes.show(importBox(text));
 }
 

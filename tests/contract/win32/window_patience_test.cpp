@@ -81,8 +81,9 @@ TEST_F(SearchOnAWindow, AnswersAndDropsAllButWhatIsTypedOrPressedForANewerOne) {
         PostMessageW(item(IDC_CONTRACT_FIELD), WM_CHAR, 'a', 1);
         HWND typed = GetWindow(item(IDC_CONTRACT_TYPED), GW_CHILD);
         for (const WPARAM letter : {'b', 'c'}) PostMessageW(typed, WM_CHAR, letter, 1);
-        for (const UINT mouse : {WM_LBUTTONDOWN, WM_LBUTTONUP})
+        for (const UINT mouse : {WM_LBUTTONDOWN, WM_LBUTTONUP}) {
             PostMessageW(typed, mouse, 0, MAKELPARAM(3, 3));
+        }
     });
     EXPECT_EQ(end_, WalkEnd::Interrupted);
     EXPECT_EQ(raised_, std::vector{IDC_CONTRACT_TYPED}) << "however many letters";

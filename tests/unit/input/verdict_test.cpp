@@ -64,8 +64,9 @@ struct Row {
 };
 
 void expectVerdicts(const std::vector<Row>& rows) {
-    for (const Row& row : rows)
+    for (const Row& row : rows) {
         EXPECT_EQ(verdictOn(row.situation, row.deed), row.verdict) << row.what;
+    }
 }
 
 using enum Verdict;
