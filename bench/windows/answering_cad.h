@@ -29,5 +29,8 @@ struct AnsweringAutomation : Automation {
     ObjectPtr attach(const std::wstring&) override {
         return std::make_shared<AnsweringObject>(workingDirectory);
     }
+    ObjectPtr attachNamed(const std::wstring&, const std::wstring& progId) override {
+        return attach(progId);
+    }
     ObjectPtr create(const std::wstring&) override { return std::make_shared<AnsweringObject>(); }
 };

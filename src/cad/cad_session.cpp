@@ -1,8 +1,6 @@
 #include "cad/cad_session.h"
 
-#include "cad/document_type.h"
-#include "cad/release_name.h"
-#include "cad/window_title.h"
+#include "cad/cad_names.h"
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
@@ -19,12 +17,48 @@ std::wstring documentClass(const std::wstring& path) {
     return type ? L"document " + decimal(*type) : std::wstring();
 }
 
-/// An error number, 0 when there was none, or a truth.
-std::optional<bool> isSaved(const Value& answer) {
-    if (const auto* number = std::get_if<std::int32_t>(&answer)) return *number == 0;
-    if (const auto* number = std::get_if<std::int16_t>(&answer)) return *number == 0;
-    if (const auto* truth = std::get_if<bool>(&answer)) return *truth;
+/// The code in an answer that is a number, or a truth.
+std::optional<std::int32_t> saveCode(const Value& answer) {
+    constexpr std::int32_t kAnyError = 1;
+    if (const auto* number = std::get_if<std::int32_t>(&answer)) return *number;
+    if (const auto* number = std::get_if<std::int16_t>(&answer)) return *number;
+    if (const auto* truth = std::get_if<bool>(&answer)) return *truth ? 0 : kAnyError;
     return std::nullopt;
+}
+
+/// What is said of a document that was given, or not, with this error code.
+void noteOpening(Remark& remark, bool given, std::int32_t errorCode) {
+    using Opening = Remark::Opening;
+    if (given) {
+        remark.opening = errorCode == 0 ? Opening::Silent : Opening::WithErrors;
+    } else {
+        remark.opening = errorCode == 0 ? Opening::Failed : Opening::Refused;
+    }
+    remark.openingNumber = given || errorCode != 0 ? errorCode : errors::emptyObject().number;
+}
+
+/// Does a part of an opening. False when it failed, which is allowed and the document's doing.
+template <class Action>
+bool attempt(bool mayFail, Remark& remark, const Action& action) {
+    try {
+        action();
+        return true;
+    } catch (const RuntimeError& error) {
+        // Why it was not given has been said already.
+        if (remark.opening != Remark::Opening::Refused) {
+            remark.opening = Remark::Opening::Failed;
+            remark.openingNumber = error.number;
+        }
+        if (!mayFail || error.sessionLost) throw;
+        return false;
+    }
+}
+
+/// With its backslash for a drive's root alone.
+std::wstring directoryOf(const std::wstring& path) {
+    const std::size_t end = path.rfind(L'\\');
+    if (end == std::wstring::npos) return {};
+    return path.substr(0, end == 2 ? 3 : end);
 }
 
 /// Does something with a document. A failure names it.
@@ -41,7 +75,10 @@ void with(const std::wstring& path, const Action& action) {
 }  // namespace
 
 bool CadSession::attach(Automation& automation) {
-    application_ = automation.attach(L"SldWorks.Application");
+    constexpr wchar_t kProgId[] = L"SldWorks.Application";
+    application_ = automation.attach(kProgId);
+    // The class may stand for another release than the one that runs.
+    if (!application_) application_ = automation.attachNamed(L"SolidWorks_PID_", kProgId);
     return application_ != nullptr;
 }
 
@@ -54,28 +91,77 @@ bool CadSession::hasOpen(const std::wstring& path) const {
     return equalIgnoringCase(path, openPath_);
 }
 
-void CadSession::open(const std::wstring& path, const LoadingOptions& options) {
+bool CadSession::open(const std::wstring& path, const LoadingOptions& options, Remark& remark) {
     openPath_ = path;
+    isUsers_ = false;
     typeCode_ = documentType(path).value_or(typeCode_);
-    with(path, [&] { load(path, options); });
+    bool opened = false;
+    with(path, [&] { opened = load(path, options, remark); });
+    if (!opened) forgetDocument();
+    return opened;
 }
 
-void CadSession::load(const std::wstring& path, const LoadingOptions& options) {
-    const std::wstring objectClass = documentClass(path);
+bool CadSession::load(const std::wstring& path, const LoadingOptions& options, Remark& remark) {
+    if (options.worksThere) {
+        movedAway_ = true;
+        changeDirectory(directoryOf(path));
+    }
+    document_ = nullptr;
+    std::int32_t errorCode = 0;
+    const auto opening = [&] { errorCode = openDocument(path, options.silent, remark); };
+    if (!attempt(options.mayRefuse, remark, opening)) return false;
+    const bool given = document_ != nullptr;
+    noteOpening(remark, given, errorCode);
+    if (!given && options.mayRefuse) return false;
+    const auto activation = [&] {
+        activate(path);
+        if (document_) noteOpening(remark, true, errorCode);
+        if (!document_ && given) noteOpening(remark, false, 0);
+    };
+    if (attempt(options.mayRefuse, remark, activation) && (document_ || !options.mayRefuse)) {
+        putProperty(application_, L"Visible", true);
+        if (attempt(options.mayRefuse, remark, [&] { rebuild(options.rebuild); })) return true;
+    }
+    closeDocument();
+    return false;
+}
+
+std::int32_t CadSession::openDocument(const std::wstring& path, bool silent, Remark& remark) {
+    constexpr std::int32_t kAlreadyOpen = 128;  // swFileLoadWarning_e
     std::wstring name = path;
     std::int16_t type = typeCode_;
     std::int32_t errorCode = 0;
-    std::int32_t warningCode = 0;
-    const std::int32_t mode = options.silent ? kOpenSilently : 0;
-    document_ = objectOf(callMethod(application_, L"OpenDoc6",
-                                    {&name, &type, mode, std::wstring(), &errorCode, &warningCode},
-                                    objectClass));
-    name = path;
-    errorCode = 0;
-    document_ =
-        objectOf(callMethod(application_, L"ActivateDoc2", {&name, true, &errorCode}, objectClass));
-    putProperty(application_, L"Visible", true);
-    rebuild(options.rebuild);
+    const std::int32_t mode = silent ? kOpenSilently : 0;
+    document_ = objectOf(callMethod(
+        application_, L"OpenDoc6",
+        {&name, &type, mode, std::wstring(), &errorCode, &remark.warnings}, documentClass(path)));
+    isUsers_ = (remark.warnings & kAlreadyOpen) != 0;
+    return errorCode;
+}
+
+void CadSession::activate(const std::wstring& path) {
+    std::wstring name = path;
+    std::int32_t code = 0;
+    document_ = objectOf(
+        callMethod(application_, L"ActivateDoc2", {&name, true, &code}, documentClass(path)));
+}
+
+void CadSession::changeDirectory(const std::wstring& directory) {
+    try {
+        callMethod(application_, L"SetCurrentWorkingDirectory", {directory});
+    } catch (const RuntimeError& error) {
+        // The document can be opened all the same.
+        if (error.sessionLost) throw;
+    }
+}
+
+void CadSession::restoreWorkingDirectory() {
+    if (!movedAway_) return;
+    try {
+        changeDirectory(workingDirectory_);
+    } catch (const RuntimeError&) {
+        // Nobody is left to mind.
+    }
 }
 
 void CadSession::rebuild(LoadingOptions::Rebuild wanted) {
@@ -84,14 +170,20 @@ void CadSession::rebuild(LoadingOptions::Rebuild wanted) {
     callMethod(document_, L"ForceRebuild3", {wanted == Rebuild::TopLevel});
 }
 
-std::optional<bool> CadSession::save() {
+std::optional<std::int32_t> CadSession::save() {
     Value answer;
     with(openPath_, [&] { answer = callMethod(document_, L"save2", {true}); });
-    return isSaved(answer);
+    return saveCode(answer);
 }
 
 void CadSession::closeDocument() {
+    if (leavesUsers_ && (isUsers_ || openPath_.empty())) return;
     with(openPath_, [&] { callMethod(application_, L"closedoc", {openPath_}); });
+}
+
+void CadSession::forgetDocument() {
+    openPath_.clear();
+    isUsers_ = false;
 }
 
 std::wstring CadSession::title() { return textOf(callMethod(document_, L"GetTitle")); }

@@ -6,6 +6,7 @@
 
 #include "ports/automation.h"
 #include "ports/desktop.h"
+#include "worklist/remark.h"
 
 /// How a document is loaded.
 struct LoadingOptions {
@@ -13,6 +14,8 @@ struct LoadingOptions {
 
     bool silent = false;
     Rebuild rebuild = Rebuild::None;
+    bool mayRefuse = false;   ///< one that does not open is no error
+    bool worksThere = false;  ///< references are looked for in the document's directory first
 };
 
 /// The running CAD application, and the document that the program has open in it. Every call goes
@@ -22,7 +25,8 @@ class CadSession {
  public:
     explicit CadSession(Desktop& desktop) : desktop_(desktop) {}
 
-    /// Attaches to the running application, which is never started. False when there is none.
+    /// Attaches to the running application, which is never started: the one that stands for its
+    /// class, or else the first that goes by its process. False when there is none.
     bool attach(Automation& automation);
     /// Asks it for its release and its working directory.
     void identify();
@@ -32,14 +36,22 @@ class CadSession {
     bool hasOpen(const std::wstring& path) const;
     bool hasAnyOpen() const { return !openPath_.empty(); }
     /// Opens a document, which counts as open from then on, makes it the active one, shows the
-    /// application and rebuilds the document as wanted.
-    void open(const std::wstring& path, const LoadingOptions& options);
-    /// Whether the application says that it saved the document; nothing when it does not say.
-    std::optional<bool> save();
+    /// application and rebuilds the document as wanted. What the application says of it is in
+    /// `remark`, whatever happens. False when it does not open, which the options allow: then it
+    /// is closed again, if it was given at all, and none counts as open.
+    bool open(const std::wstring& path, const LoadingOptions& options, Remark& remark);
+    /// The application's answer: 0 when it saved the document, otherwise its code; nothing when it
+    /// does not say.
+    std::optional<std::int32_t> save();
     /// Closes the open document without saving it, even when none is open. It still counts as
     /// open: see forgetDocument.
     void closeDocument();
-    void forgetDocument() { openPath_.clear(); }
+    void forgetDocument();
+    /// Whether documents that were open before are left so. Then nothing is closed without a name,
+    /// either, for that closes whichever document is active (ISldWorks~CloseDoc).
+    void leaveUsersDocuments(bool leave) { leavesUsers_ = leave; }
+    /// Sets the working directory back to what it was, if `open` changed it; whatever the answer.
+    void restoreWorkingDirectory();
     /// Brings the application's window to the front, if its title is as expected, and zooms the
     /// document to fit.
     void bringForward();
@@ -53,7 +65,11 @@ class CadSession {
     bool setSearchFolders(std::wstring folders);
 
  private:
-    void load(const std::wstring& path, const LoadingOptions& options);
+    bool load(const std::wstring& path, const LoadingOptions& options, Remark& remark);
+    /// Gives the application's error code.
+    std::int32_t openDocument(const std::wstring& path, bool silent, Remark& remark);
+    void activate(const std::wstring& path);
+    void changeDirectory(const std::wstring& directory);
     void rebuild(LoadingOptions::Rebuild wanted);
     std::wstring title();
     Desktop::WindowHandle findWindow();
@@ -66,4 +82,7 @@ class CadSession {
     std::wstring openPath_;  ///< empty when no document counts as open
     std::int16_t typeCode_ = 0;
     bool anyRelease_ = false;
+    bool leavesUsers_ = false;
+    bool isUsers_ = false;  ///< the open document was open before
+    bool movedAway_ = false;
 };

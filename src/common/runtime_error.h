@@ -7,6 +7,7 @@
 struct RuntimeError {
     int number;
     std::wstring text;
+    bool sessionLost = false;  ///< the CAD session itself failed, rather than one document
 
     /// Adds a line that tells more: which document, which file.
     void addLine(const std::wstring& line) { text += L"\r\n" + line; }

@@ -45,6 +45,10 @@ class Automation {
     /// Raises 440 when it is busy and the user gives up waiting.
     virtual ObjectPtr attach(const std::wstring& progId) = 0;
 
+    /// The first running object whose display name begins so, in any letter case; null when there
+    /// is none. `progId` tells what it is. Raises as `attach`.
+    virtual ObjectPtr attachNamed(const std::wstring& beginning, const std::wstring& progId) = 0;
+
     /// A new object of the class `progId`. Raises 440 when the class can't be created.
     virtual ObjectPtr create(const std::wstring& progId) = 0;
 };

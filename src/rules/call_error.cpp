@@ -1,5 +1,7 @@
 #include "rules/call_error.h"
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace {
@@ -31,16 +33,26 @@ std::optional<RuntimeError> numberedError(CallResult code, const std::wstring& d
     return error;
 }
 
-}  // namespace
-
-bool isBusy(CallResult result) {
-    return result == call_result::kRejected || result == call_result::kRetryLater;
+/// Whether nobody is there any more who could answer.
+bool isGone(CallResult result) {
+    constexpr CallResult kGone[] = {call_result::kDisconnected,         call_result::kServerDied,
+                                    call_result::kServerDiedUnexecuted, call_result::kNotConnected,
+                                    call_result::kServerUnavailable,    call_result::kCallFailed,
+                                    call_result::kCallFailedUnexecuted};
+    return std::ranges::find(kGone, result) != std::end(kGone);
 }
 
-RuntimeError callError(const CallFailure& failure) {
+RuntimeError errorOf(const CallFailure& failure) {
     const bool serverSpoke = failure.result == call_result::kException;
     const CallResult code = serverSpoke ? failure.serverCode : failure.result;
     if (auto numbered = numberedError(code, failure.description)) return *numbered;
+    if (isBusy(failure.result)) {
+        return errors::automation(L"SolidWorks est occupé et n'a pas pris l'appel.");
+    }
+    if (isGone(failure.result)) {
+        return errors::automation(
+            L"La session SolidWorks ne répond plus : elle a été fermée ou s'est arrêtée.");
+    }
     switch (failure.result) {
         case call_result::kUnknownName:
         case call_result::kMemberNotFound:
@@ -48,18 +60,19 @@ RuntimeError callError(const CallFailure& failure) {
         case call_result::kTypeMismatch:
             return errors::typeMismatch(L"un argument d'un autre type était attendu par " +
                                         std::wstring(failure.name));
-        case call_result::kRejected:
-        case call_result::kRetryLater:
-            return errors::automation(L"SolidWorks est occupé et n'a pas pris l'appel.");
-        case call_result::kDisconnected:
-        case call_result::kServerDied:
-        case call_result::kServerDiedUnexecuted:
-        case call_result::kNotConnected:
-        case call_result::kServerUnavailable:
-        case call_result::kCallFailed:
-            return errors::automation(
-                L"La session SolidWorks ne répond plus : elle a été fermée ou s'est arrêtée.");
         default:
             return errors::automation(failure.description);
     }
+}
+
+}  // namespace
+
+bool isBusy(CallResult result) {
+    return result == call_result::kRejected || result == call_result::kRetryLater;
+}
+
+RuntimeError callError(const CallFailure& failure) {
+    RuntimeError error = errorOf(failure);
+    error.sessionLost = isBusy(failure.result) || isGone(failure.result);
+    return error;
 }

@@ -24,6 +24,7 @@ inline constexpr CallResult kDisconnected = failure(0x80010108);
 inline constexpr CallResult kNotConnected = failure(0x800401FD);
 inline constexpr CallResult kServerUnavailable = failure(0x800706BA);
 inline constexpr CallResult kCallFailed = failure(0x800706BE);
+inline constexpr CallResult kCallFailedUnexecuted = failure(0x800706BF);
 }  // namespace call_result
 
 /// Whether the application was too busy to take the call, which then never ran.
@@ -37,5 +38,6 @@ struct CallFailure {
     std::wstring description = {};  ///< in the server's own words, empty when it gave none
 };
 
-/// The run-time error for it: 13, 438 or 440, or the one that the server names by its number.
+/// The run-time error for it: 13, 438 or 440, or the one that the server names by its number. The
+/// session is lost when nobody answers any more, or when the user gave up waiting for a busy one.
 RuntimeError callError(const CallFailure& failure);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -14,6 +15,9 @@ class ObjectServers {
     /// it is too busy to be had now.
     virtual CallResult running(const std::wstring& progId,
                                std::shared_ptr<ServedObject>& object) = 0;
+    /// The same of the first one whose display name begins so, in any letter case.
+    virtual CallResult runningNamed(const std::wstring& beginning,
+                                    std::shared_ptr<ServedObject>& object) = 0;
     /// A new object, null when none can be made.
     virtual std::shared_ptr<ServedObject> make(const std::wstring& progId) = 0;
 };
@@ -25,9 +29,13 @@ class LateBoundAutomation : public Automation {
         : servers_(servers), binding_{patience} {}
 
     ObjectPtr attach(const std::wstring& progId) override;
+    ObjectPtr attachNamed(const std::wstring& beginning, const std::wstring& progId) override;
     ObjectPtr create(const std::wstring& progId) override;
 
  private:
+    using Attempt = std::function<CallResult(std::shared_ptr<ServedObject>& object)>;
+    ObjectPtr attachBy(const Attempt& attempt, const std::wstring& progId);
+
     ObjectServers& servers_;
     LateBinding binding_;
 };

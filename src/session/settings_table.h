@@ -69,5 +69,11 @@ inline constexpr MarkSetting kAlwaysVisible{place::kProgram, place::kOptions, L"
 inline constexpr MarkSetting kHotKeys{place::kProgram, place::kOptions, L"touches", false};
 inline constexpr MarkSetting kByKind{place::kProgram, place::kOptions, L"ordre", false};
 inline constexpr MarkSetting kAllReleases{place::kProgram, place::kOptions, L"premierplan", false};
+inline constexpr MarkSetting kPassRefused{place::kProgram, place::kOptions, L"passerrefus", false};
+inline constexpr MarkSetting kKeepUnsaved{place::kProgram, place::kOptions, L"gardernonsauve",
+                                          false};
+inline constexpr MarkSetting kLeaveUsers{place::kProgram, place::kOptions, L"laisserouverts",
+                                         false};
+inline constexpr MarkSetting kWorkThere{place::kProgram, place::kOptions, L"references", false};
 
 }  // namespace setting

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "cad/cad_session.h"
+#include "common/runtime_error.h"
 #include "common/text_decoding.h"
 #include "ports/files.h"
 #include "ports/message_boxes.h"
@@ -16,11 +17,6 @@
 namespace {
 
 using Redraw = PassView::Redraw;
-
-Saved savedOf(std::optional<bool> answer) {
-    if (!answer) return Saved::Unknown;
-    return *answer ? Saved::Yes : Saved::No;
-}
 
 }  // namespace
 
@@ -36,6 +32,8 @@ PassRunner::PassRunner(Platform& platform, CadSession& cad, const ProgramFiles& 
 
 template <class Command>
 void PassRunner::settled(const Command& command) {
+    saveRefused_ = false;
+    view_.showAlert(alert());
     try {
         command();
     } catch (...) {
@@ -43,6 +41,17 @@ void PassRunner::settled(const Command& command) {
         throw;
     }
     marks_.opened();
+    view_.showAlert(alert());
+}
+
+void PassRunner::setOptions(const PassOptions& options) {
+    options_ = options;
+    cad_.leaveUsersDocuments(options.leavesUsers);
+}
+
+Alert PassRunner::alert() const {
+    if (saveRefused_) return Alert::Refusal;
+    return openWarns_ ? Alert::Warning : Alert::None;
 }
 
 void PassRunner::keepMarks(std::optional<std::int32_t> opening) {
@@ -63,8 +72,8 @@ void PassRunner::start(Origin origin) {
     settled([&] {
         // What an earlier run kept is told as it holds now, or gone when it doesn't.
         if (!opens) return endAt(Redraw::Anew);
-        go(origin == Origin::LaunchedAfterDeclining ? Redraw::AllToDo : Redraw::Anew);
-        cad_.bringForward();
+        const bool allToDo = origin == Origin::LaunchedAfterDeclining;
+        if (go(allToDo ? Redraw::AllToDo : Redraw::Anew)) cad_.bringForward();
     });
 }
 
@@ -105,31 +114,66 @@ std::string PassRunner::report() {
     return reportOf(pass_.list(), platform_.clock);
 }
 
-void PassRunner::leave() { cad_.closeDocument(); }
+void PassRunner::leave() {
+    close();
+    end();
+}
+
+void PassRunner::end() { cad_.restoreWorkingDirectory(); }
 
 void PassRunner::advance(LineState mark) {
     settled([&] {
         if (pass_.pastEnd()) return;
-        const Saved saved = mark == LineState::Done ? savedOf(cad_.save()) : Saved::Unknown;
-        cad_.closeDocument();
+        // Nothing is open at a line that was left to do: it can only be skipped.
+        if (stays_) mark = LineState::ToDo;
+        const auto saved = mark == LineState::Done ? save() : Saved::Unknown;
+        if (!saved) return;
+        if (!stays_) close();
         cad_.forgetDocument();
-        if (!pass_.advance(mark, saved)) return endAt(Redraw::InPlace);
-        go(Redraw::InPlace);
+        if (!pass_.advance(mark, *saved)) return endAt(Redraw::InPlace);
+        if (!go(Redraw::InPlace)) return;
         view_.allowStepBack();
         cad_.bringForward();
     });
+}
+
+std::optional<Saved> PassRunner::save() {
+    for (;;) {
+        const auto code = saveOnce();
+        saveRefused_ = code.value_or(0) != 0;
+        if (!code) return Saved::Unknown;
+        if (*code == 0) return Saved::Yes;
+        if (!options_.keepsUnsaved) return Saved::No;
+        const auto box = saveRefusedBox(pass_.currentPath(), saveRefusalText(*code));
+        if (platform_.messageBoxes.show(box) != MessageBoxes::Answer::Retry) return std::nullopt;
+    }
+}
+
+std::optional<std::int32_t> PassRunner::saveOnce() {
+    try {
+        const auto code = cad_.save();
+        const bool refused = code.value_or(0) != 0;
+        pass_.noteSaving(refused ? Remark::Saving::Refused : Remark::Saving::Silent,
+                         code.value_or(0));
+        return code;
+    } catch (const RuntimeError& error) {
+        pass_.noteSaving(Remark::Saving::Failed, error.number);
+        throw;
+    }
+}
+
+void PassRunner::close() {
+    openWarns_ = false;
+    cad_.closeDocument();
 }
 
 void PassRunner::stepBack() {
     settled([&] {
         if (pass_.current() < 0) return;
         // It still counts as open: a document of the same path further up is taken for it.
-        cad_.closeDocument();
-        if (!pass_.stepBack()) {
-            keepMarks();
-            return view_.showTop();
-        }
-        go(Redraw::InPlace);
+        close();
+        if (!pass_.stepBack()) return endAtTop();
+        if (!go(Redraw::InPlace, Direction::Up)) return;
         view_.allowAdvance();
         cad_.bringForward();
     });
@@ -146,8 +190,8 @@ void PassRunner::eliminate(const LineSelected& chosen, Eliminate states) {
 void PassRunner::reset(const LineSelected& selected) {
     settled([&] {
         pass_.reset(selected);
-        follow(true);
-        cad_.bringForward();
+        view_.allowAdvance();
+        if (go(Redraw::Anew)) cad_.bringForward();
     });
 }
 
@@ -165,29 +209,76 @@ void PassRunner::follow(bool inProgress) {
     go(Redraw::Anew);
 }
 
-void PassRunner::go(Redraw redraw) {
-    view_.showCurrent(redraw);
-    openCurrent();
+bool PassRunner::go(Redraw redraw, Direction direction) {
+    stays_ = false;
+    for (int refusals = 1;; ++refusals) {
+        view_.showCurrent(redraw);
+        if (openCurrent()) break;
+        redraw = Redraw::InPlace;
+        pass_.leaveToDo();
+        keepMarks();
+        if (!goesOnAfter(refusals)) return stay(), false;
+        if (!pass_.passOver(direction)) {
+            direction == Direction::Down ? endAt(redraw) : endAtTop();
+            return false;
+        }
+    }
     view_.showDocument();
+    return true;
 }
 
-void PassRunner::openCurrent() {
+bool PassRunner::openCurrent() {
     const std::wstring path = pass_.currentPath();
-    if (cad_.hasOpen(path)) return keepMarks();
+    if (cad_.hasOpen(path)) return keepMarks(), true;
     view_.showOpening();
     closeOther();
     pass_.openCurrent();
     keepMarks(pass_.list().lines[pass_.current()].fileLine);
-    cad_.open(path, view_.loadingOptions());
+    return open(path);
+}
+
+bool PassRunner::open(const std::wstring& path) {
+    LoadingOptions options = view_.loadingOptions();
+    options.mayRefuse = options_.passesRefused;
+    options.worksThere = options_.worksThere;
+    Remark remark;
+    try {
+        const bool opened = cad_.open(path, options, remark);
+        openWarns_ = opened && remark.warns();
+        pass_.noteOpening(remark);
+        return opened;
+    } catch (const RuntimeError&) {
+        pass_.noteOpening(remark);
+        throw;
+    }
+}
+
+bool PassRunner::goesOnAfter(int refusals) {
+    constexpr int kInARow = 5;
+    if (refusals % kInARow != 0) return true;
+    view_.showCurrent(Redraw::InPlace);
+    return platform_.messageBoxes.show(refusedInARowBox()) == MessageBoxes::Answer::Yes;
+}
+
+void PassRunner::stay() {
+    stays_ = true;
+    view_.showDocument();
+    view_.allowAdvance();
+    view_.allowStepBack();
 }
 
 void PassRunner::closeOther() {
     if (!cad_.hasAnyOpen()) return;
     keepMarks();
-    cad_.closeDocument();
+    close();
 }
 
 void PassRunner::endAt(Redraw redraw) {
     keepMarks();
     view_.showEnd(redraw);
+}
+
+void PassRunner::endAtTop() {
+    keepMarks();
+    view_.showTop();
 }

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "ports/window.h"
 #include "session/shared_file.h"
 #include "worklist/mark_keeper.h"
 #include "worklist/pass.h"
@@ -19,6 +20,7 @@ class PassView {
 
     virtual ~PassView() = default;
 
+    /// How the boxes ask for documents to be loaded.
     virtual LoadingOptions loadingOptions() const = 0;
     /// The list, and the current line in it, whose document will be opened unless it is open.
     virtual void showCurrent(Redraw redraw) = 0;
@@ -32,6 +34,15 @@ class PassView {
     virtual void showTop() = 0;
     virtual void allowAdvance() = 0;
     virtual void allowStepBack() = 0;
+    virtual void showAlert(Alert alert) = 0;
+};
+
+/// What a pass does when the session says no. All off: what it always did.
+struct PassOptions {
+    bool passesRefused = false;  ///< documents that don't open are left to do
+    bool keepsUnsaved = false;   ///< none is closed whose save was refused, unless it is told so
+    bool leavesUsers = false;    ///< documents that the user had open stay open
+    bool worksThere = false;     ///< references are looked for beside the document
 };
 
 /// Runs a pass: the one place where its list, its current line, the marks kept of it and the calls
@@ -50,6 +61,9 @@ class PassRunner {
     /// Whether all marks of the pass will be offered at the next start.
     bool keepsMarks() const { return marks_.keeps(); }
 
+    const PassOptions& options() const { return options_; }
+    void setOptions(const PassOptions& options);
+
     /// Reads the list file. Ends the program when it is empty.
     void read();
     /// Begins the pass, with the marks of an earlier run where the user wants them.
@@ -58,8 +72,10 @@ class PassRunner {
     void save(std::int32_t lineCount);
     /// What happened to each document, as a table.
     std::string report();
-    /// Closes the document that is open; the program ends.
+    /// Closes the document that is open: the program ends.
     void leave();
+    /// The program ends, and nothing is closed.
+    void end();
 
     /// The user may have moved the pointer to another line.
     void moveTo(int line) { pass_.moveTo(line); }
@@ -80,13 +96,28 @@ class PassRunner {
     /// What the command did is on disk; a failure to put it there is told once.
     void keepMarks(std::optional<std::int32_t> opening = std::nullopt);
 
-    // The current line is shown and its document opened; or there is none.
-    void go(PassView::Redraw redraw);
-    void openCurrent();
+    using Direction = Pass::Direction;
+
+    /// Shows the current line and opens its document; goes on to the next one, in this direction,
+    /// from one that does not open and may be passed over. False when none is open at the end.
+    bool go(PassView::Redraw redraw, Direction direction = Direction::Down);
+    /// False when it does not open.
+    bool openCurrent();
+    bool open(const std::wstring& path);
+    /// Saves the open document. Nothing when the user would rather leave it open than unsaved.
+    std::optional<Saved> save();
+    std::optional<std::int32_t> saveOnce();
+    void close();
     /// Closes the document that counts as open, if any. None is being opened yet: what goes wrong
     /// now is not the next one's doing.
     void closeOther();
     void endAt(PassView::Redraw redraw);
+    void endAtTop();
+    /// Every few refusals in a row the user is asked whether to go on.
+    bool goesOnAfter(int refusals);
+    /// The current line is one whose document did not open, and the user went no further.
+    void stay();
+    Alert alert() const;
     /// After an edit of the list.
     void follow(bool inProgress);
 
@@ -103,4 +134,8 @@ class PassRunner {
     SharedFile listFile_;
     Pass pass_;
     MarkKeeper marks_;
+    PassOptions options_;
+    bool stays_ = false;        ///< at a line whose document did not open
+    bool saveRefused_ = false;  ///< by the command
+    bool openWarns_ = false;    ///< the open document, when it was opened
 };

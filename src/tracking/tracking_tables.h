@@ -33,6 +33,10 @@ inline constexpr Binding<TrackingWindow> kTrackingBindings[] = {
     {IDM_FORM3_TOUCHES, Event::Click, &TrackingWindow::Touches_Click},
     {IDM_FORM3_PREMIERPLAN, Event::Click, &TrackingWindow::PremierPlan_Click},
     {IDM_FORM3_RAPPORT, Event::Click, &TrackingWindow::Rapport_Click},
+    {IDM_FORM3_PASSERREFUS, Event::Click, &TrackingWindow::PasserRefus_Click},
+    {IDM_FORM3_GARDERNONSAUVE, Event::Click, &TrackingWindow::GarderNonSauve_Click},
+    {IDM_FORM3_LAISSEROUVERTS, Event::Click, &TrackingWindow::LaisserOuverts_Click},
+    {IDM_FORM3_REFERENCES, Event::Click, &TrackingWindow::References_Click},
 };
 
 inline constexpr Tooltip kTrackingTooltips[] = {
@@ -126,6 +130,12 @@ inline constexpr SystemMenuItem kTrackingSystemMenu[] = {
     {IDM_FORM3_TOUCHES, L"Touches actives dans SolidWorks"},
     {IDM_FORM3_PREMIERPLAN, L"SolidWorks au premier plan, toutes versions"},
     {IDM_FORM3_RAPPORT, L"Exporter le rapport..."},
+    {.id = IDM_FORM3_PASSERREFUS,
+     .text = L"Passer les documents qui ne s'ouvrent pas",
+     .startsGroup = true},
+    {IDM_FORM3_GARDERNONSAUVE, L"Ne pas fermer sans enregistrement réussi"},
+    {IDM_FORM3_LAISSEROUVERTS, L"Laisser ouverts les documents qui l'étaient"},
+    {IDM_FORM3_REFERENCES, L"Chercher les références à côté du document"},
 };
 
 inline constexpr HotKey kTrackingHotKeys[] = {

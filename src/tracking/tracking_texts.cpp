@@ -52,6 +52,20 @@ MessageBoxContent interruptedOpeningBox(const std::wstring& path) {
                     L"\r\nPasser au document suivant ?");
 }
 
+MessageBoxContent saveRefusedBox(const std::wstring& path, const std::wstring& reason) {
+    return {.text = L"SolidWorks n'a pas enregistré :\r\n" + path + L"\r\n" + reason,
+            .title = kTitle,
+            .buttons = MessageBoxContent::Buttons::RetryCancel,
+            .icon = MessageBoxContent::Icon::Warning};
+}
+
+MessageBoxContent refusedInARowBox() {
+    MessageBoxContent box =
+        question(L"Cinq documents de suite ne se sont pas ouverts.\r\nContinuer ?");
+    box.defaultButton = 2;
+    return box;
+}
+
 MessageBoxContent marksNotKeptBox() {
     return {.text =
                 L"Libérez de la place sur le disque de la liste : les marques ne peuvent plus être "

@@ -57,6 +57,12 @@ MessageBoxContent keptMarksBox(int documents);
 /// Whether to go past the document whose opening an earlier run did not survive.
 MessageBoxContent interruptedOpeningBox(const std::wstring& path);
 
+/// That the session did not save a document, and why: to be tried again, or left open.
+MessageBoxContent saveRefusedBox(const std::wstring& path, const std::wstring& reason);
+
+/// Whether to go on though five documents in a row did not open.
+MessageBoxContent refusedInARowBox();
+
 /// That marks can't be kept from now on.
 MessageBoxContent marksNotKeptBox();
 

@@ -82,7 +82,10 @@ void TrackingWindow::CmdSortie_Click() {
     throw ProgramEnd{};
 }
 
-void TrackingWindow::Form_Close() { throw ProgramEnd{}; }
+void TrackingWindow::Form_Close() {
+    runner_.end();
+    throw ProgramEnd{};
+}
 
 void TrackingWindow::CmdFichierListe_Click() {
     // As many lines as the window says there are.

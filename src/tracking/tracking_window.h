@@ -53,11 +53,15 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
     void CmdRepA_Click();
     void CmdDeSelect_Click();
 
-    // The system menu: three marks, and the report.
+    // The system menu: what is on or off, and the report.
     void ToujoursVisible_Click();
     void Touches_Click();
     void PremierPlan_Click();
     void Rapport_Click();
+    void PasserRefus_Click();
+    void GarderNonSauve_Click();
+    void LaisserOuverts_Click();
+    void References_Click();
 
     const Pass& pass() const { return runner_.pass(); }
     /// Whether all marks of the pass will be offered at the next start.
@@ -83,6 +87,7 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
     void showTop() override;
     void allowAdvance() override { enableAdvance(true); }
     void allowStepBack() override { enableStepBack(true); }
+    void showAlert(Alert alert) override { window_->showAlert(alert); }
     void showNumbers();
     void drawList(Redraw redraw);
     void enableAdvance(bool enabled);
@@ -97,6 +102,9 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
 
     void setAlwaysVisible(bool on);
     void setAllReleases(bool on);
+    /// What the pass does when the session says no.
+    void setPassOption(int itemId, bool on);
+    void togglePassOption(int itemId);
     /// They stay off when one is taken.
     void setHotKeys(bool on);
     /// Raises 70, 75 or 76.

@@ -1,6 +1,8 @@
 // What the tracking window's system menu offers: how the pass is led while the CAD application is
 // in front, and the report.
 
+#include <algorithm>
+
 #include "cad/cad_session.h"
 #include "common/text.h"
 #include "ports/file_dialogs.h"
@@ -12,11 +14,35 @@
 #include "tracking/tracking_texts.h"
 #include "tracking/tracking_window.h"
 
+namespace {
+
+struct PassOption {
+    int itemId;
+    const MarkSetting& setting;
+    bool PassOptions::*value;
+};
+
+constexpr PassOption kPassOptions[] = {
+    {IDM_FORM3_PASSERREFUS, setting::kPassRefused, &PassOptions::passesRefused},
+    {IDM_FORM3_GARDERNONSAUVE, setting::kKeepUnsaved, &PassOptions::keepsUnsaved},
+    {IDM_FORM3_LAISSEROUVERTS, setting::kLeaveUsers, &PassOptions::leavesUsers},
+    {IDM_FORM3_REFERENCES, setting::kWorkThere, &PassOptions::worksThere},
+};
+
+const PassOption& passOption(int itemId) {
+    return *std::ranges::find(kPassOptions, itemId, &PassOption::itemId);
+}
+
+}  // namespace
+
 void TrackingWindow::takeOptions() {
     Settings& settings = platform_.settings;
     if (valueOf(settings, setting::kAlwaysVisible)) setAlwaysVisible(true);
     if (valueOf(settings, setting::kAllReleases)) setAllReleases(true);
     if (valueOf(settings, setting::kHotKeys)) setHotKeys(true);
+    for (const PassOption& option : kPassOptions) {
+        if (valueOf(settings, option.setting)) setPassOption(option.itemId, true);
+    }
 }
 
 void TrackingWindow::ToujoursVisible_Click() {
@@ -33,6 +59,25 @@ void TrackingWindow::Touches_Click() {
 void TrackingWindow::PremierPlan_Click() {
     setAllReleases(!allReleases_);
     setValue(platform_.settings, setting::kAllReleases, allReleases_);
+}
+
+void TrackingWindow::PasserRefus_Click() { togglePassOption(IDM_FORM3_PASSERREFUS); }
+void TrackingWindow::GarderNonSauve_Click() { togglePassOption(IDM_FORM3_GARDERNONSAUVE); }
+void TrackingWindow::LaisserOuverts_Click() { togglePassOption(IDM_FORM3_LAISSEROUVERTS); }
+void TrackingWindow::References_Click() { togglePassOption(IDM_FORM3_REFERENCES); }
+
+void TrackingWindow::togglePassOption(int itemId) {
+    const PassOption& option = passOption(itemId);
+    const bool on = !(runner_.options().*option.value);
+    setPassOption(itemId, on);
+    setValue(platform_.settings, option.setting, on);
+}
+
+void TrackingWindow::setPassOption(int itemId, bool on) {
+    PassOptions options = runner_.options();
+    options.*passOption(itemId).value = on;
+    runner_.setOptions(options);
+    window_->setMenuMark(itemId, on);
 }
 
 void TrackingWindow::setAlwaysVisible(bool on) {

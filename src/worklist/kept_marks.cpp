@@ -9,44 +9,36 @@
 
 namespace {
 
-using State = KeptLine::State;
-
-StateCode settled(const StateCode& code) {
-    return code == LineState::InProgress ? LineState::ToDo : code;
-}
-
-State keptStateOf(const StateCode& code, const StateCode& inFile) {
-    if (settled(code) == settled(inFile)) return State::AsInFile;
-    if (code == LineState::Done) return State::Done;
-    return code == LineState::Seen ? State::Seen : State::ToDo;
-}
-
-StateCode codeOf(State kept, const StateCode& inFile) {
-    switch (kept) {
-        case State::ToDo:
-            return LineState::ToDo;
-        case State::Done:
-            return LineState::Done;
-        case State::Seen:
-            return LineState::Seen;
-        default:
-            return inFile;
-    }
-}
-
-constexpr std::string_view kMagic = "Tarnwick reprise 1\n";
+constexpr std::string_view kMagic = "Tarnwick reprise 2\n";
+/// Of the release before, which kept no remarks.
+constexpr std::string_view kMagicWithoutRemarks = "Tarnwick reprise 1\n";
 constexpr std::size_t kHeaderSize = kMagic.size() + 8 + 8 + 4 + 8 + 4;
 
-// An entry's first byte: the state, and what follows.
+// An entry's first byte: the state, and what follows. Its second one: the remark, and what follows.
 constexpr unsigned kStateBits = 0x07;
 constexpr unsigned kManyLines = 0x08;  ///< the same for several lines
 constexpr unsigned kMarked = 0x10;     ///< when
 constexpr unsigned kOpened = 0x20;     ///< for how long
 constexpr unsigned kSavedShift = 6;
+constexpr unsigned kRemarkKind = 0x03;  ///< of the opening, and as much for the saving
+constexpr unsigned kSavingShift = 2;
+constexpr unsigned kWarned = 0x10;
 
 std::string sealed(std::string bytes, std::uint32_t seed) {
     appendFixed<std::uint32_t>(bytes, crc32(bytes, seed));
     return bytes;
+}
+
+void appendNumber(std::string& bytes, std::int32_t number) { appendPacked(bytes, zigzag(number)); }
+
+void appendRemark(std::string& bytes, const Remark& remark) {
+    const unsigned head = static_cast<unsigned>(remark.opening) |
+                          static_cast<unsigned>(remark.saving) << kSavingShift |
+                          (remark.warnings != 0 ? kWarned : 0);
+    bytes += static_cast<char>(head);
+    if (remark.opening != Remark::Opening::Silent) appendNumber(bytes, remark.openingNumber);
+    if (remark.saving != Remark::Saving::Silent) appendNumber(bytes, remark.savingNumber);
+    if (remark.warnings != 0) appendNumber(bytes, remark.warnings);
 }
 
 void appendEntry(std::string& bytes, const KeptLine& line, std::size_t many, std::int64_t base) {
@@ -56,6 +48,7 @@ void appendEntry(std::string& bytes, const KeptLine& line, std::size_t many, std
                           (history.secondsOpen >= 0 ? kOpened : 0) |
                           static_cast<unsigned>(history.saved) << kSavedShift;
     bytes += static_cast<char>(head);
+    appendRemark(bytes, history.remark);
     if (many > 1) appendPacked(bytes, many);
     if (history.markedAt != 0) appendPacked(bytes, zigzag(history.markedAt - base));
     if (history.secondsOpen >= 0) {
@@ -76,7 +69,8 @@ std::size_t sameFrom(std::span<const std::size_t> changed, std::span<const KeptL
 /// What one record tells. Reading gives false for bytes that make no sense.
 class RecordReader {
  public:
-    RecordReader(std::string_view entries, std::int64_t base) : bytes_(entries), base_(base) {}
+    RecordReader(std::string_view entries, std::int64_t base, bool withRemarks)
+        : bytes_(entries), base_(base), withRemarks_(withRemarks) {}
 
     bool read(std::size_t lineCount) {
         if (!takePacked(bytes_, opening_) || opening_ > lineCount) return false;
@@ -108,6 +102,7 @@ class RecordReader {
         std::uint8_t head = 0;
         KeptLine kept;
         if (!takePacked(bytes_, skipped) || !takeFixed(bytes_, head)) return false;
+        if (withRemarks_ && !readRemark(kept.history.remark)) return false;
         if ((head & kManyLines) && (!takePacked(bytes_, many) || many == 0)) return false;
         if (!readKept(head, kept)) return false;
         if (skipped > lineCount - next_ || many > lineCount - next_ - skipped) return false;
@@ -124,6 +119,26 @@ class RecordReader {
         kept.state = static_cast<KeptLine::State>(state);
         kept.history.saved = static_cast<Saved>(saved);
         return readTimes(head, kept.history);
+    }
+
+    bool readRemark(Remark& remark) {
+        std::uint8_t head = 0;
+        if (!takeFixed(bytes_, head)) return false;
+        const unsigned saving = (head >> kSavingShift) & kRemarkKind;
+        if (saving > static_cast<unsigned>(Remark::Saving::Failed)) return false;
+        remark.opening = static_cast<Remark::Opening>(head & kRemarkKind);
+        remark.saving = static_cast<Remark::Saving>(saving);
+        const bool opening = remark.opening != Remark::Opening::Silent;
+        return (!opening || readNumber(remark.openingNumber)) &&
+               (saving == 0 || readNumber(remark.savingNumber)) &&
+               (!(head & kWarned) || readNumber(remark.warnings));
+    }
+
+    bool readNumber(std::int32_t& number) {
+        std::uint64_t bits = 0;
+        if (!takePacked(bytes_, bits)) return false;
+        number = static_cast<std::int32_t>(unzigzag(bits));
+        return true;
     }
 
     bool readTimes(std::uint8_t head, LineHistory& history) {
@@ -151,6 +166,7 @@ class RecordReader {
 
     std::string_view bytes_;
     std::int64_t base_;
+    bool withRemarks_;
     std::uint64_t opening_ = 0;
     std::size_t next_ = 0;
     std::vector<Entry> entries_;
@@ -169,8 +185,9 @@ std::optional<std::string_view> takeRecord(std::string_view& bytes, std::uint32_
     return checked.substr(sizeof length);
 }
 
-std::string headerOf(const ContentIdentity& list, std::size_t lineCount, std::int64_t baseTime) {
-    std::string header(kMagic);
+std::string headerOf(std::string_view magic, const ContentIdentity& list, std::size_t lineCount,
+                     std::int64_t baseTime) {
+    std::string header(magic);
     appendFixed<std::uint64_t>(header, list.length());
     appendFixed<std::uint64_t>(header, list.hash());
     appendFixed<std::uint32_t>(header, static_cast<std::uint32_t>(lineCount));
@@ -180,52 +197,11 @@ std::string headerOf(const ContentIdentity& list, std::size_t lineCount, std::in
 
 }  // namespace
 
-std::vector<StateCode> codesOf(const WorkList& list) {
-    std::vector<StateCode> codes;
-    for (int i = 0; i <= list.last; ++i) codes.push_back(list.lines[i].code);
-    return codes;
-}
-
-KeptLine keptLineOf(const WorkLine& line, const StateCode& codeInFile) {
-    return {keptStateOf(line.code, codeInFile), line.history};
-}
-
-std::vector<KeptLine> keptLinesOf(const WorkList& list, std::span<const StateCode> codes) {
-    std::vector<KeptLine> kept(codes.size(), {.state = State::Eliminated, .history = {}});
-    for (int i = 0; i <= list.last; ++i) {
-        const WorkLine& line = list.lines[i];
-        const auto at = static_cast<std::size_t>(line.fileLine);
-        if (at < kept.size()) kept[at] = keptLineOf(line, codes[at]);
-    }
-    return kept;
-}
-
-int changedLines(const WorkList& list, const KeptState& kept) {
-    int changed = 0;
-    for (int i = 0; i <= list.last; ++i) {
-        const State state = kept.lines.at(static_cast<std::size_t>(i)).state;
-        const StateCode& code = list.lines[i].code;
-        changed += state == State::Eliminated || settled(codeOf(state, code)) != settled(code);
-    }
-    return changed;
-}
-
-void restoreLines(WorkList& list, const KeptState& kept) {
-    int left = 0;
-    for (int i = 0; i <= list.last; ++i) {
-        const KeptLine& line = kept.lines.at(static_cast<std::size_t>(i));
-        if (line.state == State::Eliminated) continue;
-        moveLine(list, i, left);
-        const auto edit = list.lines.edit(left++);
-        edit->code = codeOf(line.state, edit->code);
-        edit->history = line.history;
-    }
-    list.last = left - 1;
-}
-
 KeptMarksWriter::KeptMarksWriter(const ContentIdentity& list, std::size_t lineCount,
                                  std::int64_t baseTime)
-    : header_(headerOf(list, lineCount, baseTime)), seed_(crc32(header_, 0)), baseTime_(baseTime) {}
+    : header_(headerOf(kMagic, list, lineCount, baseTime)),
+      seed_(crc32(header_, 0)),
+      baseTime_(baseTime) {}
 
 std::string KeptMarksWriter::record(std::span<const std::size_t> changed,
                                     std::span<const KeptLine> lines,
@@ -253,14 +229,16 @@ std::optional<KeptState> readKeptMarks(std::string_view record, const ContentIde
     std::string_view base = header.substr(kHeaderSize - 12);
     std::uint64_t baseTime = 0;
     takeFixed(base, baseTime);
-    if (header != headerOf(list, lineCount, static_cast<std::int64_t>(baseTime))) {
+    const bool withRemarks = !header.starts_with(kMagicWithoutRemarks);
+    if (header != headerOf(withRemarks ? kMagic : kMagicWithoutRemarks, list, lineCount,
+                           static_cast<std::int64_t>(baseTime))) {
         return std::nullopt;
     }
     KeptState state{std::vector<KeptLine>(lineCount), std::nullopt};
     record.remove_prefix(kHeaderSize);
     const std::uint32_t seed = crc32(header, 0);
     while (const auto entries = takeRecord(record, seed)) {
-        RecordReader reader(*entries, static_cast<std::int64_t>(baseTime));
+        RecordReader reader(*entries, static_cast<std::int64_t>(baseTime), withRemarks);
         if (!reader.read(lineCount)) break;
         reader.applyTo(state);
     }

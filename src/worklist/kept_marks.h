@@ -27,33 +27,17 @@ struct KeptState {
     std::optional<std::int32_t> opening;  ///< the line of the file whose document is being opened
 };
 
-/// The codes of the lines that a list file holds, for comparison.
-std::vector<StateCode> codesOf(const WorkList& list);
-
-/// What a line has become that has this code in the file.
-KeptLine keptLineOf(const WorkLine& line, const StateCode& codeInFile);
-
-/// What a list has become of the file whose lines had these codes.
-std::vector<KeptLine> keptLinesOf(const WorkList& list, std::span<const StateCode> codes);
-
-/// How many lines another state was kept of than a list just read from its file has, eliminated
-/// ones included.
-int changedLines(const WorkList& list, const KeptState& kept);
-
-/// Gives the lines of a list just read from its file the states and histories that were kept, and
-/// removes those that were eliminated. Reload flags stay where they are.
-void restoreLines(WorkList& list, const KeptState& kept);
-
 // The record of kept marks, as bytes. A header says which list file it belongs to; then each record
 // tells, for some lines of that file, what they have become, and which document is being opened.
 // All numbers are little-endian.
 //
-//   header  "Tarnwick reprise 1\n", length and hash of the list (8 bytes each), its number of lines
+//   header  "Tarnwick reprise 2\n", length and hash of the list (8 bytes each), its number of lines
 //           (4), a base for times (8), checksum (4)
 //   record  length of its entries (4), the entries, checksum (4)
 //
 // Checksums are CRC-32 over what stands before them, begun with the header's for a record: one of
 // another list's record is no record here. What doesn't fit is left out, with all that follows.
+// The release before wrote "Tarnwick reprise 1\n", and no remarks; that is still read.
 
 /// Writes a record of kept marks.
 class KeptMarksWriter {

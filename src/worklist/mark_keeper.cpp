@@ -7,6 +7,78 @@
 #include "ports/clock.h"
 #include "worklist/list_file.h"
 
+namespace {
+
+using State = KeptLine::State;
+
+StateCode settled(const StateCode& code) {
+    return code == LineState::InProgress ? LineState::ToDo : code;
+}
+
+State keptStateOf(const StateCode& code, const StateCode& inFile) {
+    if (settled(code) == settled(inFile)) return State::AsInFile;
+    if (code == LineState::Done) return State::Done;
+    return code == LineState::Seen ? State::Seen : State::ToDo;
+}
+
+StateCode codeOf(State kept, const StateCode& inFile) {
+    switch (kept) {
+        case State::ToDo:
+            return LineState::ToDo;
+        case State::Done:
+            return LineState::Done;
+        case State::Seen:
+            return LineState::Seen;
+        default:
+            return inFile;
+    }
+}
+
+std::vector<StateCode> codesOf(const WorkList& list) {
+    std::vector<StateCode> codes;
+    for (int i = 0; i <= list.last; ++i) codes.push_back(list.lines[i].code);
+    return codes;
+}
+
+KeptLine keptLineOf(const WorkLine& line, const StateCode& codeInFile) {
+    return {keptStateOf(line.code, codeInFile), line.history};
+}
+
+std::vector<KeptLine> keptLinesOf(const WorkList& list, std::span<const StateCode> codes) {
+    std::vector<KeptLine> kept(codes.size(), {.state = State::Eliminated, .history = {}});
+    for (int i = 0; i <= list.last; ++i) {
+        const WorkLine& line = list.lines[i];
+        const auto at = static_cast<std::size_t>(line.fileLine);
+        if (at < kept.size()) kept[at] = keptLineOf(line, codes[at]);
+    }
+    return kept;
+}
+
+}  // namespace
+
+int changedLines(const WorkList& list, const KeptState& kept) {
+    int changed = 0;
+    for (int i = 0; i <= list.last; ++i) {
+        const State state = kept.lines.at(static_cast<std::size_t>(i)).state;
+        const StateCode& code = list.lines[i].code;
+        changed += state == State::Eliminated || settled(codeOf(state, code)) != settled(code);
+    }
+    return changed;
+}
+
+void restoreLines(WorkList& list, const KeptState& kept) {
+    int left = 0;
+    for (int i = 0; i <= list.last; ++i) {
+        const KeptLine& line = kept.lines.at(static_cast<std::size_t>(i));
+        if (line.state == State::Eliminated) continue;
+        moveLine(list, i, left);
+        const auto edit = list.lines.edit(left++);
+        edit->code = codeOf(line.state, edit->code);
+        edit->history = line.history;
+    }
+    list.last = left - 1;
+}
+
 KeptLines::KeptLines(const WorkList& list) : codes_(codesOf(list)), lines_(codes_.size()) {
     follow(list);
 }

@@ -13,6 +13,14 @@
 
 class Clock;
 
+/// How many lines another state was kept of than a list just read from its file has, eliminated
+/// ones included.
+int changedLines(const WorkList& list, const KeptState& kept);
+
+/// Gives the lines of a list just read from its file the states and histories that were kept, and
+/// removes those that were eliminated. Reload flags stay where they are.
+void restoreLines(WorkList& list, const KeptState& kept);
+
 /// What the lines of a list file have become, kept up with the list. Looks only at the lines that
 /// may have changed, if they are few.
 class KeptLines {

@@ -5,8 +5,8 @@
 
 #include "common/utf8.h"
 #include "ports/clock.h"
-#include "worklist/kept_marks.h"
 #include "worklist/list_file.h"
+#include "worklist/mark_keeper.h"
 
 PassProgress passProgress(const WorkList& list) {
     PassProgress progress{0, list.lineCount()};
@@ -89,9 +89,12 @@ bool Pass::stepBack() {
 
 void Pass::mark(int line, LineState state, Saved saved) {
     const auto marked = list_.lines.edit(line);
+    LineHistory& history = marked->history;
     marked->code = state;
-    marked->history.markedAt = state == LineState::ToDo ? 0 : clock_.now();
-    marked->history.saved = saved;
+    history.markedAt = state == LineState::ToDo ? 0 : clock_.now();
+    // A save that was refused since the document was opened is the last word on that.
+    const bool refused = saved == Saved::Unknown && history.remark.saving != Remark::Saving::Silent;
+    history.saved = refused ? Saved::No : saved;
 }
 
 bool Pass::change(const LineSelected& selected, LineState state) {
@@ -121,6 +124,31 @@ bool Pass::resumeAt(int line) {
     if (startHere(nextToDo(list_, line - 1))) return true;
     show(list_.last);
     return false;
+}
+
+void Pass::leaveToDo() {
+    open_.reset();
+    if (list_.lines[current_].code == LineState::InProgress) {
+        list_.lines.edit(current_)->code = LineState::ToDo;
+    }
+}
+
+bool Pass::passOver(Direction direction) {
+    if (direction == Direction::Down) return startHere(nextToDo(list_, current_));
+    current_ = previousToDo(list_, current_ - 1);
+    return current_ != kNoLine && startHere(current_);
+}
+
+void Pass::noteOpening(const Remark& remark) {
+    list_.lines.edit(current_)->history.remark = remark;
+}
+
+void Pass::noteSaving(Remark::Saving saving, std::int32_t number) {
+    if (current_ < 0) return;
+    LineHistory& history = list_.lines.edit(current_)->history;
+    history.saved = saving == Remark::Saving::Silent ? Saved::Yes : Saved::No;
+    history.remark.saving = saving;
+    history.remark.savingNumber = number;
 }
 
 void Pass::openCurrent() {

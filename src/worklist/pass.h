@@ -75,8 +75,18 @@ class Pass {
     /// is the current one, whatever its state.
     bool resumeAt(int line);
 
+    enum class Direction { Down, Up };
+    /// The document of the current line did not open: it is left to do, and none is open.
+    void leaveToDo();
+    /// Goes on to the next line to do in this direction, or to the end of it.
+    bool passOver(Direction direction);
+
     /// The document of the current line is about to be opened; the one before is left.
     void openCurrent();
+    /// What the session said while it opened the document of the current line.
+    void noteOpening(const Remark& remark);
+    /// What it said when it was to save that: how, and which number.
+    void noteSaving(Remark::Saving saving, std::int32_t number);
     /// The document that is open is closed: how long it was open is noted.
     void closeOpen();
     /// Notes how long the document that is open has been so by now.

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kHead =
     "\xEF\xBB\xBF"
-    "N°;Etat;Document;Marqué le;Durée (s);Enregistré\r\n";
+    "N°;Etat;Document;Marqué le;Durée (s);Enregistré;Remarque\r\n";
 
 /// In the order of LineState.
 constexpr std::string_view kStates[] = {"A faire", "Fait", "Vu", "En cours"};
@@ -75,6 +75,8 @@ void addHistory(Rows& rows, const LineHistory& history, const Clock& clock) {
     if (history.secondsOpen >= 0) rows.add(history.secondsOpen);
     rows.endField();
     if (history.saved != Saved::Unknown) rows.add(history.saved == Saved::Yes ? "oui" : "non");
+    rows.endField();
+    rows.add(remarkText(history.remark));
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "common/checked_table.h"
+#include "worklist/remark.h"
 
 /// What has become of a document. The commands go by it.
 enum class LineState : std::uint8_t { ToDo, Done, Seen, InProgress, Other };
@@ -43,6 +44,7 @@ struct LineHistory {
     std::int64_t markedAt = 0;      ///< as Clock has it; 0: not marked
     std::int32_t secondsOpen = -1;  ///< -1: it was not open
     Saved saved = Saved::Unknown;
+    Remark remark;
 
     bool operator==(const LineHistory&) const = default;
 };

@@ -50,10 +50,19 @@ Value FakeAutomation::answer(const std::wstring& object, std::wstring_view name,
                              std::span<const Argument> arguments) {
     const auto instead = overrides.find(name);
     if (instead != overrides.end()) return instead->second(arguments);
-    if (name == L"OpenDoc6" || name == L"ActivateDoc2") {
-        const std::wstring path = textArgument(arguments[0]);
-        if (!documentsOpen) return ObjectPtr();
-        return std::make_shared<Object>(*this, path.substr(path.rfind(L'\\') + 1));
+    const bool opens = name == L"OpenDoc6" || name == L"ActivateDoc2";
+    const std::wstring path = opens ? textArgument(arguments[0]) : object;
+    const std::wstring document = path.substr(path.rfind(L'\\') + 1);
+    const auto scripted = documents.find(document);
+    const FakeDocument said = scripted == documents.end() ? FakeDocument() : scripted->second;
+    if (said.fails == name) throw errors::automation(L"");
+    if (opens) {
+        if (name == L"OpenDoc6") {
+            *std::get<std::int32_t*>(arguments[4]) = said.errorCode;
+            *std::get<std::int32_t*>(arguments[5]) = said.warningCode;
+        }
+        if (!documentsOpen || !said.opens) return ObjectPtr();
+        return std::make_shared<Object>(*this, document);
     }
     if (name == L"setsearchfolders") {
         searchFolders = textArgument(arguments[1]);
@@ -64,7 +73,8 @@ Value FakeAutomation::answer(const std::wstring& object, std::wstring_view name,
     if (name == L"GetSearchFolders") return searchFolders;
     if (name == L"GetTitle") return object;
     if (name == L"ForceRebuild3") return true;
-    if (name == L"save2") return std::int32_t{0};
+    if (name == L"save2") return said.saved;
+    if (name == L"SetCurrentWorkingDirectory") return true;
     if (name == L"closedoc" || name == L"ViewZoomtofit2") return {};
     if (name == L"fileExists") return fileExists(textArgument(arguments[0]));
     throw errors::unknownMember(std::wstring(name));
@@ -72,6 +82,13 @@ Value FakeAutomation::answer(const std::wstring& object, std::wstring_view name,
 
 ObjectPtr FakeAutomation::attach(const std::wstring& progId) {
     journal.push_back(L"attach " + progId);
+    if (hasNamedOnly) return nullptr;
+    return std::make_shared<Object>(*this);
+}
+
+ObjectPtr FakeAutomation::attachNamed(const std::wstring& beginning, const std::wstring&) {
+    journal.push_back(L"attach " + beginning + L"…");
+    if (!hasNamedOnly) return nullptr;
     return std::make_shared<Object>(*this);
 }
 

@@ -13,6 +13,14 @@
 /// name in front.
 using CallJournal = std::vector<std::wstring>;
 
+/// What the session says of a document.
+struct FakeDocument {
+    bool opens = true;
+    std::int32_t errorCode = 0, warningCode = 0;
+    Value saved = std::int32_t{0};
+    std::wstring fails = {};  ///< the method that does, for it
+};
+
 /// A running CAD application whose documents open and close, and a file-system object.
 struct FakeAutomation : Automation {
     using Answer = std::function<Value(std::span<const Argument>)>;
@@ -25,10 +33,14 @@ struct FakeAutomation : Automation {
     Value setSearchFoldersResult = true;
     std::function<bool(const std::wstring&)> fileExists = [](const std::wstring&) { return false; };
 
+    std::map<std::wstring, FakeDocument> documents;  ///< by their names, those that are not plain
+
     /// What a method does instead of what it usually does, by its name.
     std::map<std::wstring, Answer, std::less<>> overrides;
 
+    bool hasNamedOnly = false;  ///< found by its display name alone
     ObjectPtr attach(const std::wstring& progId) override;
+    ObjectPtr attachNamed(const std::wstring& beginning, const std::wstring& progId) override;
     ObjectPtr create(const std::wstring& progId) override;
 
     /// The calls since the last time this was asked.

@@ -3,8 +3,8 @@
 
 #include "common/packed_numbers.h"
 #include "fuzz_input.h"
-#include "worklist/kept_marks.h"
 #include "worklist/list_file.h"
+#include "worklist/mark_keeper.h"
 
 namespace {
 

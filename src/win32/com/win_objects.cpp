@@ -5,6 +5,7 @@
 #include <oleauto.h>
 #include <span>
 
+#include "common/text.h"
 #include "win32/com/variant_values.h"
 
 namespace {
@@ -25,6 +26,18 @@ struct ServersWords : EXCEPINFO {
         return textIn(bstrDescription);
     }
 };
+
+std::wstring displayName(IMoniker* moniker) {
+    ComPtr<IBindCtx> context;
+    wchar_t* text = nullptr;
+    if (FAILED(CreateBindCtx(0, context.put())) ||
+        FAILED(moniker->GetDisplayName(context.get(), nullptr, &text))) {
+        return {};
+    }
+    const std::wstring name(text);
+    CoTaskMemFree(text);
+    return name;
+}
 
 void take(const VARIANT& result, ServersReply& reply) {
     if (V_VT(&result) != VT_DISPATCH) {
@@ -81,6 +94,27 @@ CallResult WinObjectServers::running(const std::wstring& progId,
     if (SUCCEEDED(result)) result = found->QueryInterface(IID_IDispatch, dispatch.putVoid());
     if (dispatch) object = std::make_shared<WinObject>(dispatch);
     return result;
+}
+
+CallResult WinObjectServers::runningNamed(const std::wstring& beginning,
+                                          std::shared_ptr<ServedObject>& object) {
+    ComPtr<IRunningObjectTable> table;
+    ComPtr<IEnumMoniker> all;
+    HRESULT result = GetRunningObjectTable(0, table.put());
+    if (SUCCEEDED(result)) result = table->EnumRunning(all.put());
+    if (FAILED(result)) return result;
+    for (ComPtr<IMoniker> each; all->Next(1, each.put(), nullptr) == S_OK;) {
+        const std::wstring name = displayName(each.get());
+        if (!equalIgnoringCase(name.substr(0, beginning.size()), beginning)) continue;
+        ComPtr<IUnknown> found;
+        ComPtr<IDispatch> dispatch;
+        result = table->GetObject(each.get(), found.put());
+        if (SUCCEEDED(result)) result = found->QueryInterface(IID_IDispatch, dispatch.putVoid());
+        if (dispatch) object = std::make_shared<WinObject>(dispatch);
+        // One that died stays in the table for a while.
+        if (object || isBusy(result)) return result;
+    }
+    return MK_E_UNAVAILABLE;
 }
 
 std::shared_ptr<ServedObject> WinObjectServers::make(const std::wstring& progId) {

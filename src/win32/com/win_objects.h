@@ -27,5 +27,7 @@ class WinObject : public ServedObject {
 class WinObjectServers : public ObjectServers {
  public:
     CallResult running(const std::wstring& progId, std::shared_ptr<ServedObject>& object) override;
+    CallResult runningNamed(const std::wstring& beginning,
+                            std::shared_ptr<ServedObject>& object) override;
     std::shared_ptr<ServedObject> make(const std::wstring& progId) override;
 };

@@ -1,6 +1,6 @@
 #include "cad/cad_session.h"
 
-#include "cad/release_name.h"
+#include "cad/cad_names.h"
 #include "fakes/fake_automation.h"
 #include "fakes/fake_desktop.h"
 #include "unit/unit_test.h"
@@ -20,6 +20,7 @@ struct CadSessionTest : testing::Test {
     FakeAutomation automation;
     FakeDesktop desktop;
     CadSession session{desktop};
+    Remark remark;
 };
 
 }  // namespace
@@ -31,15 +32,22 @@ TEST_F(CadSessionTest, KeepsThePathThatTheServerChanges) {
         return ObjectPtr();
     };
     attach();
-    session.open(kPath, {});
+    session.open(kPath, {}, remark);
     EXPECT_TRUE(session.hasOpen(kPath));
     EXPECT_EQ(automation.journal[1], L"ActivateDoc2(&\"c:\\été\\a.SLDPRT\", True, &0:i4)");
+}
+
+TEST_F(CadSessionTest, AttachesToASessionThatGoesByItsProcessAlone) {
+    automation.hasNamedOnly = true;
+    EXPECT_TRUE(session.attach(automation));
+    EXPECT_EQ(automation.journal,
+              (CallJournal{L"attach SldWorks.Application", L"attach SolidWorks_PID_…"}));
 }
 
 TEST_F(CadSessionTest, PassesOnThatThereIsNoSuchWindow) {
     automation.revision = L"14.0";
     attach();
-    session.open(kPath, {});
+    session.open(kPath, {}, remark);
     desktop.windows = {{L"SolidWorks 2006 - a.SLDPRT", 7}};
     session.bringForward();
     EXPECT_EQ(desktop.broughtForward, std::vector<Desktop::WindowHandle>{0});
@@ -50,7 +58,7 @@ TEST_F(CadSessionTest, FailuresNameTheDocument) {
     automation.documentsOpen = false;
     attach();
     const std::function<void()> calls[] = {
-        [&] { session.open(kPath, {.rebuild = Rebuild::TopLevel}); },
+        [&] { session.open(kPath, {.rebuild = Rebuild::TopLevel}, remark); },
         [&] { session.save(); },
         [&] { session.bringForward(); },
     };

@@ -53,6 +53,18 @@ TEST(CallError, TellsWhatWasWrongWithTheCall) {
     }
 }
 
+TEST(CallError, TellsALostSessionFromADocumentsFailure) {
+    using namespace call_result;
+    for (const CallResult lost :
+         {kDisconnected, kServerDied, kServerDiedUnexecuted, kServerUnavailable, kCallFailed,
+          kCallFailedUnexecuted, kNotConnected, kRejected, kRetryLater}) {
+        EXPECT_TRUE(callError({.result = lost, .name = L"OpenDoc6"}).sessionLost) << lost;
+    }
+    for (const CallResult other : {kException, kUnknownName, kMemberNotFound, kTypeMismatch, -1}) {
+        EXPECT_FALSE(callError({.result = other, .name = L"OpenDoc6"}).sessionLost) << other;
+    }
+}
+
 TEST(CallError, TakesTheServersNumberAndWords) {
     constexpr std::uint32_t kControl = 0x800A0000;
     for (const int number : {53, 70, 75, 76}) {

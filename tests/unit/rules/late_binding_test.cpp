@@ -54,6 +54,10 @@ struct FakeServers : ObjectServers {
         if (answer == 0) object = application;
         return answer;
     }
+    CallResult runningNamed(const std::wstring& name,
+                            std::shared_ptr<ServedObject>& object) override {
+        return running(name, object);
+    }
     std::shared_ptr<ServedObject> make(const std::wstring&) override { return nullptr; }
 };
 

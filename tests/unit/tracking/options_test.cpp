@@ -62,7 +62,7 @@ TEST_F(Options, ReportIsWrittenWhereTheUserWantsItOrThePassGoesOnWithoutIt) {
     EXPECT_EQ(asked.directory + L"|" + asked.name, L"c:\\tarnwick|tarnwick-rapport.csv");
     machine.fileDialogs.answer = L"c:\\tarnwick\\r.csv";
     click(IDM_FORM3_RAPPORT);
-    EXPECT_NE(machine.files.texts[L"c:\\tarnwick\\r.csv"].find(L"\r\n2;A faire;c:\\b;;;\r\n"),
+    EXPECT_NE(machine.files.texts[L"c:\\tarnwick\\r.csv"].find(L"\r\n2;A faire;c:\\b;;;;\r\n"),
               std::wstring::npos);
     EXPECT_TRUE(machine.boxes.shown.empty());
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <random>
 
+#include "common/packed_numbers.h"
 #include "fakes/fake_record_files.h"
 #include "unit/worklist/pass_fixture.h"
 #include "worklist/mark_keeper.h"
@@ -120,6 +121,14 @@ TEST_F(KeptMarks, GiveBackTheWorkOfAnyCommands) {
         [&] { pass->advance(upTo(3) ? LineState::Done : LineState::ToDo, Saved::Yes); },
         [&] { pass->current() < 0 || pass->stepBack(); },
         [&] { pass->current() < 0 || pass->pastEnd() ? pass->closeOpen() : pass->openCurrent(); },
+        [&] {
+            if (pass->current() < 0 || pass->pastEnd()) return;
+            Remark remark{.opening = static_cast<Remark::Opening>(upTo(3)),
+                          .warnings = upTo(1) * 130};
+            if (remark.opening != Remark::Opening::Silent) remark.openingNumber = upTo(1) - 1;
+            pass->noteOpening(remark);
+            if (upTo(1)) pass->noteSaving(Remark::Saving::Refused, upTo(400));
+        },
         [&] { pass->moveTo(anyLine()); },
         [&] { pass->startAt(anyLine()); },
         [&] { pass->startAfter(anyLine()); },
@@ -136,11 +145,30 @@ TEST_F(KeptMarks, GiveBackTheWorkOfAnyCommands) {
             begin(listOf(codes));
         }
         clock.seconds += 7;
-        commands.at(std::min({upTo(9), upTo(9), upTo(9)}))();  // those of one line more often
+        commands.at(std::min({upTo(10), upTo(10), upTo(10)}))();  // those of one line more often
         if (upTo(2) != 0) continue;  // a call to the CAD application does not follow on each
         keeper->keep(pass->list());
         expectNothingLost();
     }
+}
+
+TEST_F(KeptMarks, OfTheReleaseBeforeAreStillRead) {
+    begin(listOf("00"));
+    const ListIdentity list(listFile);
+    std::string bytes = "Tarnwick reprise 1\n";
+    appendFixed<std::uint64_t>(bytes, list.length());
+    appendFixed<std::uint64_t>(bytes, list.hash());
+    appendFixed<std::uint32_t>(bytes, 2);
+    appendFixed<std::uint64_t>(bytes, 1'763'000'000);
+    appendFixed<std::uint32_t>(bytes, crc32(bytes));
+    // No document being opened; the second line done, at once, and saved.
+    std::string record("\4\0\0\0\0\1\x51\0", 8);
+    appendFixed<std::uint32_t>(record, crc32(record, crc32(bytes)));
+    const auto kept = read(bytes + record);
+    ASSERT_TRUE(kept);
+    EXPECT_EQ(kept->lines[0], KeptLine());
+    EXPECT_EQ(kept->lines[1],
+              (KeptLine{KeptLine::State::Done, {1'763'000'000, -1, Saved::Yes, {}}}));
 }
 
 TEST_F(KeptMarks, BelongToOneListOnly) {

@@ -134,11 +134,11 @@ TEST_F(Steps, NoteWhenADocumentWasMarkedAndHowLongItWasOpen) {
     pass->countOpenTime();
     EXPECT_EQ(lines[0].history.secondsOpen, 35);
     pass->closeOpen();
-    EXPECT_EQ(lines[0].history, (LineHistory{0, 35, Saved::Unknown}));
-    EXPECT_EQ(lines[1].history, (LineHistory{clock.seconds - 5, 10, Saved::Yes}));
+    EXPECT_EQ(lines[0].history, (LineHistory{0, 35, Saved::Unknown, {}}));
+    EXPECT_EQ(lines[1].history, (LineHistory{clock.seconds - 5, 10, Saved::Yes, {}}));
     // Back to do, a line has not been marked.
     pass->reset(only({1}));
-    EXPECT_EQ(lines[1].history, (LineHistory{0, 10, Saved::Unknown}));
+    EXPECT_EQ(lines[1].history, (LineHistory{0, 10, Saved::Unknown, {}}));
     // A document that is open though its line is gone is nobody's.
     started("011");
     pass->resumeAt(2);
