@@ -66,7 +66,7 @@ class CadSession {
 
  private:
     bool load(const std::wstring& path, const LoadingOptions& options, Remark& remark);
-    /// Gives the application's error code.
+    /// Returns the application's error code.
     std::int32_t openDocument(const std::wstring& path, bool silent, Remark& remark);
     void activate(const std::wstring& path);
     void changeDirectory(const std::wstring& directory);

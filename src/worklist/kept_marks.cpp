@@ -66,7 +66,7 @@ std::size_t sameFrom(std::span<const std::size_t> changed, std::span<const KeptL
     return end;
 }
 
-/// What one record tells. Reading gives false for bytes that make no sense.
+/// What one record tells. Reading returns false for bytes that make no sense.
 class RecordReader {
  public:
     RecordReader(std::string_view entries, std::int64_t base, bool withRemarks)

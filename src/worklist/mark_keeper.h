@@ -29,7 +29,7 @@ class KeptLines {
     /// A list file has just these lines.
     explicit KeptLines(const WorkList& list);
 
-    /// Takes over what has changed; gives the lines of the file that are no longer what they were
+    /// Takes over what has changed; returns the lines of the file that are no longer what they were
     /// before, in their order.
     std::vector<std::size_t> follow(const WorkList& list);
 

@@ -37,7 +37,7 @@ TEST_F(Refusals, PassOverKeepOpenAndLeaveOpen) {
     const ModalBox box = app.box();
     EXPECT_EQ(box.text(),
               "SolidWorks n'a pas enregistré :\r\n" + paths[2] + "\r\nfichier verrouillé (16)");
-    EXPECT_EQ(box.buttons(), (std::vector{IDRETRY, IDCANCEL}));
+    EXPECT_EQ(box.buttons(), (std::vector{IDCANCEL, IDRETRY}));
     EXPECT_EQ(box.defaultButton(), IDRETRY);
     EXPECT_EQ(countOf(calls::closing(paths[2])), 0);
     box.answer(IDRETRY);

@@ -83,7 +83,7 @@ TEST_F(TrackingOptions, KeysLeadThePassInARecentReleaseThatKeepsTheKeyboard) {
 
     const std::string report = exportReport();
     EXPECT_NE(report.find("\r\n1;Fait;" + paths[0] + ";20"), std::string::npos) << report;
-    EXPECT_NE(report.find(";oui\r\n2;En cours;\"" + paths[1] + "\";;"), std::string::npos)
+    EXPECT_NE(report.find(";oui;\r\n2;En cours;\"" + paths[1] + "\";;"), std::string::npos)
         << report;
 
     EXPECT_FALSE(keyIsFree('1'));
