@@ -58,7 +58,7 @@ class Pass {
     /// Makes another line the current one, states unchanged: the user may have moved the pointer.
     void moveTo(int line) { current_ = line; }
 
-    // Each of these returns whether there is a line in progress now, whose document is to be opened.
+    // Each of these returns whether a line is in progress now, whose document is to be opened.
 
     /// Gives the current line this state and goes to the next line to do, or to the end. Raises 9
     /// at the end of a list that fills the table; the line has its state then.

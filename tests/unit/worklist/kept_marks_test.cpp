@@ -154,7 +154,7 @@ TEST_F(KeptMarks, GiveBackTheWorkOfAnyCommands) {
 
 TEST_F(KeptMarks, OfTheReleaseBeforeAreStillRead) {
     begin(listOf("00"));
-    const ListIdentity list(listFile);
+    const ContentIdentity list(listFile);
     std::string bytes = "Tarnwick reprise 1\n";
     appendFixed<std::uint64_t>(bytes, list.length());
     appendFixed<std::uint64_t>(bytes, list.hash());
