@@ -1,83 +1,24 @@
 #include "selection/document_import.h"
 
 #include <algorithm>
-#include <chrono>
 #include <memory>
 #include <optional>
 #include <set>
-#include <thread>
 #include <utility>
 
 #include "common/letter_case.h"
-#include "common/numbers.h"
 #include "common/runtime_error.h"
-#include "common/utf8.h"
 #include "pickers/in_parallel.h"
 #include "pickers/paths.h"
 #include "pickers/tree_walk.h"
 #include "ports/files.h"
-#include "selection/document_lines.h"
 #include "selection/document_search.h"
+#include "selection/imported_file.h"
 
 namespace {
 
-constexpr std::size_t kTold = 5;
-/// Lists are far smaller.
-constexpr std::uint64_t kLargestFile = 16U << 20;
-/// More lines than that name more documents than a list can hold, whichever of them are there.
-constexpr std::size_t kMostLines = 100'000;
-
+constexpr std::size_t kCapacity = FoundDocuments::kCapacity;
 constexpr wchar_t kAllKinds[] = L"SLDPRT SLDASM SLDDRW";
-
-/// Why a file can't be imported.
-struct ImportProblem {
-    std::wstring text;
-};
-
-ImportProblem tooManyDocuments() {
-    return {L"Il y a plus de " + decimal(FoundDocuments::kCapacity) +
-            L" documents : une liste n'en contient pas plus."};
-}
-
-bool endsWith(const std::wstring& path, const wchar_t* ending) {
-    return upperCase(path).ends_with(ending);
-}
-
-bool isListFile(const std::wstring& path) { return endsWith(path, L".LST"); }
-
-bool namesDocuments(const std::wstring& path) {
-    return isListFile(path) || endsWith(path, L".CSV") || endsWith(path, L".TXT");
-}
-
-/// What a file says, in UTF-8.
-struct FileText {
-    std::string utf8;
-    std::wstring problem;
-};
-
-FileText textOf(Files& files, const std::wstring& file) {
-    if (files.sizeOf(file) > kLargestFile) return {"", L"Il est trop grand : 16 Mo au plus."};
-    FileText text{files.read(file), L""};
-    if (text.utf8.find('\0') != std::string::npos) {
-        text.problem =
-            L"Ce n'est pas un texte. D'un tableur, enregistrez la feuille au format CSV.";
-    }
-    return text;
-}
-
-/// Another program may hold a file for a moment: a scanner, or the one that has just written it.
-FileText textAfterAMoment(Files& files, const std::wstring& file) {
-    constexpr std::chrono::milliseconds kMoment(300);
-    for (int attempts = 3;; --attempts) {
-        try {
-            return textOf(files, file);
-        } catch (const RuntimeError& error) {
-            const bool mayPass = error.number == 70 || error.number == 75;
-            if (!mayPass || attempts == 1) throw;
-            std::this_thread::sleep_for(kMoment);
-        }
-    }
-}
 
 Presence presenceOf(Files& files, const std::wstring& path) {
     try {
@@ -123,6 +64,8 @@ DocumentImport::End DocumentImport::gatherDropped(const std::vector<std::wstring
             return named_[line.document].presence != Presence::There;
         });
         settle();
+        // As many as a list can hold: it is incomplete anyway.
+        if (documents_.size() > kCapacity) documents_.resize(kCapacity);
     }
     return end;
 }
@@ -130,7 +73,7 @@ DocumentImport::End DocumentImport::gatherDropped(const std::vector<std::wstring
 bool DocumentImport::takeDropped(const std::wstring& path, const Progress& progress) {
     ownServers_.push_back(serverOf(path));
     if (DocumentKinds(kAllKinds).accepts(path)) {
-        add(path, path, Presence::Unknown);
+        add(place_++, path, path, Presence::Unknown);
         return true;
     }
     const auto kind = std::make_shared<PathKind>();
@@ -139,7 +82,7 @@ bool DocumentImport::takeDropped(const std::wstring& path, const Progress& progr
     };
     if (!inParallel(services_, 1, ask)) return false;
     if (*kind == PathKind::Directory) return takeDirectory(path, progress);
-    if (namesDocuments(path)) return takeFile(path);
+    if (mayNameDocuments(path)) return takeFile(path);
     leaveOut(place_++, path, Presence::NoDocument);
     return true;
 }
@@ -150,7 +93,7 @@ bool DocumentImport::takeDirectory(const std::wstring& directory, const Progress
         [kinds = DocumentKinds(kAllKinds)](std::wstring_view name) { return kinds.accepts(name); },
         [&](const std::wstring& path, const std::vector<std::wstring>& names) {
             for (const std::wstring& name : names) {
-                add(name, childPath(path, name), Presence::There);
+                add(place_++, name, childPath(path, name), Presence::There);
             }
             progress(static_cast<int>(lines_.size()));
         });
@@ -158,46 +101,45 @@ bool DocumentImport::takeDirectory(const std::wstring& directory, const Progress
 }
 
 bool DocumentImport::takeFile(const std::wstring& file) {
-    const auto text = std::make_shared<FileText>();
-    const auto read = [&files = services_.files, text, file](std::size_t) {
-        *text = textAfterAMoment(files, file);
+    const auto found = std::make_shared<FileLines>();
+    const auto read = [&files = services_.files, found, file](std::size_t) {
+        *found = linesOf(files, file);
     };
     if (!inParallel(services_, 1, read)) return false;
-    if (!text->problem.empty()) throw ImportProblem{text->problem};
+    if (found->problem) throw *found->problem;
     ownServers_.push_back(serverOf(file));
-    takeLines(text->utf8, file);
+    for (const FileLines::Line& line : found->lines) {
+        const int place = place_ + line.place;
+        if (line.path) {
+            add(place, line.text, *line.path, Presence::Unknown);
+        } else {
+            leaveOut(place, line.text, Presence::NoDocument);
+        }
+    }
+    remains_.leftOut += std::max(0, found->nameless - FileLines::kTold);
+    place_ += found->count;
     return true;
 }
 
-void DocumentImport::takeLines(const std::string& utf8, const std::wstring& file) {
-    const std::wstring directory = parentPath(file);
-    const auto readLines = isListFile(file) ? readListLines : readTable;
-    readLines(utf8, [&](const DocumentLine& line) {
-        constexpr std::size_t kShown = 200;
-        const std::wstring text = wideText(line.text);
-        const auto path = line.namesDocument ? resolvedPath(directory, text) : std::nullopt;
-        if (path) return add(text, *path, Presence::Unknown);
-        leaveOut(place_++, text.substr(0, kShown),
-                 line.namesDocument ? Presence::NotFound : Presence::NoDocument);
-    });
-}
-
-void DocumentImport::add(const std::wstring& text, const std::wstring& path, Presence presence) {
-    if (lines_.size() == kMostLines) throw tooManyDocuments();
+void DocumentImport::add(int place, const std::wstring& text, const std::wstring& path,
+                         Presence presence) {
+    if (lines_.size() == FileLines::kMost) throw tooManyDocuments();
     const auto [known, isNew] = numbers_.try_emplace(upperCase(path), named_.size());
     if (isNew) named_.push_back({path, presence});
     // What was found below a directory is there, whoever named it before.
     Document& document = named_[known->second];
     if (presence == Presence::There) document.presence = presence;
-    lines_.push_back({place_++, text, known->second});
+    lines_.push_back({place, text, known->second});
 }
 
 void DocumentImport::leaveOut(int place, const std::wstring& text, Presence why) {
     auto& first = remains_.first;
     ++remains_.leftOut;
     const auto isAfter = [&](const ImportRemains::Line& line) { return line.place > place; };
-    first.insert(std::ranges::find_if(first, isAfter), {place, text, why});
-    if (first.size() > kTold) first.pop_back();
+    const auto where = std::ranges::find_if(first, isAfter);
+    if (where == first.end() && std::ssize(first) == FileLines::kTold) return;
+    first.insert(where, {place, text, why});
+    if (std::ssize(first) > FileLines::kTold) first.pop_back();
 }
 
 std::vector<std::wstring> DocumentImport::foreignServers() const {
@@ -231,7 +173,7 @@ DocumentImport::End DocumentImport::look() {
             if (!lookAtThose(still)) return false;
         }
         settle();
-        if (std::ssize(documents_) > FoundDocuments::kCapacity) throw tooManyDocuments();
+        if (documents_.size() > kCapacity) throw tooManyDocuments();
         return true;
     });
 }

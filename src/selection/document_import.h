@@ -76,8 +76,7 @@ class DocumentImport {
     bool takeDropped(const std::wstring& path, const Progress& progress);
     bool takeDirectory(const std::wstring& directory, const Progress& progress);
     bool takeFile(const std::wstring& file);
-    void takeLines(const std::string& utf8, const std::wstring& file);
-    void add(const std::wstring& text, const std::wstring& path, Presence presence);
+    void add(int place, const std::wstring& text, const std::wstring& path, Presence presence);
     void leaveOut(int place, const std::wstring& text, Presence why);
     /// Looks at what is known no better than that.
     bool lookAtThose(Presence still);

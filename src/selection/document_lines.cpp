@@ -119,7 +119,6 @@ void readListLines(std::string_view utf8, const std::function<void(const Documen
         const std::string_view line = takeLine(utf8);
         if (trimmed(line).empty()) continue;
         const std::string_view name = behindCode(line);
-        const bool names = isDocumentName(name);
-        visit({number, names ? name : line, names});
+        visit({number, name.empty() ? line : name, !name.empty()});
     }
 }

@@ -22,5 +22,5 @@ struct DocumentLine {
 /// letter, so that it hides no document. The first line of a report is left out.
 void readTable(std::string_view utf8, const std::function<void(const DocumentLine&)>& visit);
 
-/// A list file: what stands behind the first three characters.
+/// A list file: what stands behind the first three characters, whatever kind of document it is.
 void readListLines(std::string_view utf8, const std::function<void(const DocumentLine&)>& visit);

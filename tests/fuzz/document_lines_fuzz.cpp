@@ -22,7 +22,7 @@ void readAs(bool isList, const std::string& utf8) {
     (isList ? readListLines : readTable)(utf8, [&](const DocumentLine& line) {
         require(line.number > last && !line.text.empty());
         last = line.number;
-        require(!line.namesDocument || isDocumentName(line.text));
+        require(isList || !line.namesDocument || isDocumentName(line.text));
         const auto path = resolvedPath(L"\\\\srv\\part\\l", wideText(line.text));
         if (path) requireFull(*path);
     });

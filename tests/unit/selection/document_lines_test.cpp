@@ -33,7 +33,7 @@ TEST(DocumentLines, NameTheFirstDocumentOfEachLine) {
         {";;\t;\r\n  \r\nnotes;a.sldprt.bak;sldprt", "3!|"},
         {"'=a.sldprt\n'a.sldprt", "1==a.sldprt|2='a.sldprt|"},
         {"0  c:\\a;b.SLDPRT\r\n12 b.sldprt\r\nété c.sldprt\r\n0\r\n   \r\n1  x.txt",
-         "1=c:\\a;b.SLDPRT|2=b.sldprt|3=c.sldprt|4!|6!|", true},
+         "1=c:\\a;b.SLDPRT|2=b.sldprt|3=c.sldprt|4!|6=x.txt|", true},
     };
     for (const auto& c : cases) EXPECT_EQ(linesOf(c.text, c.isList), c.lines) << c.text;
 }
