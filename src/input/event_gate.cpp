@@ -23,7 +23,7 @@ void EventGate::deliver(EventSink& sink, int controlId, Event event,
                                               .window = &sink,
                                               .closes = event == Event::Close,
                                               .duringSearch = asked});
-        if (verdict == Verdict::Drops || verdict == Verdict::EndsProgram) return;
+        if (verdict != Verdict::Counts && verdict != Verdict::Restarts) return;
         const bool restarts = verdict == Verdict::Restarts;
         queue({&sink, controlId, event, &source, restarts ? asked : DuringSearch::Drop, busy()});
         if (!busy()) serve();

@@ -34,7 +34,8 @@ Verdict Judge::judge(const Deed& deed) {
     if (verdict == Verdict::Restarts && situation_.wish != Wish::Reopen) {
         wish(wishOf(deed.duringSearch));
     }
-    const bool closesLater = deed.kind == Kind::Event && deed.closes && situation_.callsOut > 0;
+    const bool closesLater = deed.kind == Kind::Event && deed.closes && situation_.callsOut > 0 &&
+                             verdict != Verdict::StopsSearch;
     if (closesLater) situation_.closeAsked = now();
     return verdict;
 }
@@ -146,6 +147,7 @@ void Judge::searchBegins(const EventSink& window, SearchKind kind) {
     if (!situation_.searchingSince) situation_.searchingSince = searchBegan_;
     situation_.searching = &window;
     situation_.opening = kind == SearchKind::Opening;
+    situation_.alone = kind == SearchKind::Alone;
     if (situation_.wish == Wish::Stop) wish(Wish::None);
 }
 

@@ -62,6 +62,17 @@ bool stopsSearch(const Deed& deed) {
     return deed.kind == Kind::Key && deed.key == virtual_key::kEscape && !deed.withAlt;
 }
 
+/// What stops a pass that goes on alone is not carried out.
+Verdict onStop(const Situation& now) {
+    return isUnmeant(now) ? Verdict::Drops : Verdict::StopsSearch;
+}
+
+bool isButtonPressed(const Deed& deed) {
+    if (deed.target != Target::Button) return false;
+    return deed.kind == Kind::Press || deed.kind == Kind::Click ||
+           (deed.kind == Kind::Key && pressesButton(deed.key));
+}
+
 /// What may reach a window while it searches: its frame, and what asks for a newer search.
 Verdict onMessageDuringSearch(const Situation& now, const Deed& deed) {
     // A press before the search began was not meant for it.
@@ -69,6 +80,7 @@ Verdict onMessageDuringSearch(const Situation& now, const Deed& deed) {
         const bool before = now.searchingSince && deed.time + kTick < *now.searchingSince;
         return before ? Verdict::Drops : Verdict::StopsSearch;
     }
+    if (now.alone && isButtonPressed(deed)) return onStop(now);
     switch (deed.kind) {
         case Kind::Press:
         case Kind::FramePress:
@@ -86,11 +98,18 @@ Verdict onMessageDuringSearch(const Situation& now, const Deed& deed) {
     return reaches ? onMessage(now, deed) : Verdict::Drops;
 }
 
+/// Searches ask nothing on their way; a session that is busy while a pass goes on alone does.
+bool answersBox(const Situation& now) { return now.alone && now.questions > 0; }
+
 bool asksForSearch(const Situation& now, const Deed& deed) {
     return now.searching && deed.window == now.searching && deed.duringSearch != DuringSearch::Drop;
 }
 
+/// While the pass goes on alone; a box that came up meanwhile answers for itself.
+bool isAlone(const Situation& now) { return now.alone && now.searching && now.questions == 0; }
+
 Verdict onCommand(const Situation& now, const Deed& deed) {
+    if (isAlone(now)) return deed.fromProgram ? Verdict::StopsSearch : onStop(now);
     if (!now.press || deed.fromProgram) return Verdict::Counts;
     if (isUnmeant(now) || (isSecond(now) && !deed.takesSecond)) return Verdict::Drops;
     return dropIf(now.handling && !asksForSearch(now, deed));
@@ -98,7 +117,8 @@ Verdict onCommand(const Situation& now, const Deed& deed) {
 
 /// One that acts without a window in front, so that nothing says later what became of it.
 Verdict onHotKey(const Situation& now, const Deed& deed) {
-    return now.handling || !deed.usable ? Verdict::Drops : onCommand(now, deed);
+    const bool drops = !deed.usable || (now.handling && !isAlone(now));
+    return drops ? Verdict::Drops : onCommand(now, deed);
 }
 
 Verdict onAside(const Situation& now, const Deed& deed) {
@@ -109,7 +129,8 @@ Verdict onAside(const Situation& now, const Deed& deed) {
 Verdict onEvent(const Situation& now, const Deed& deed) {
     if (!now.searching) return Verdict::Counts;
     if (deed.closes) {
-        return deed.window == now.searching ? Verdict::EndsProgram : Verdict::Counts;
+        if (deed.window == now.searching) return Verdict::EndsProgram;
+        return now.alone ? Verdict::StopsSearch : Verdict::Counts;
     }
     return asksForSearch(now, deed) ? Verdict::Restarts : Verdict::Drops;
 }
@@ -134,8 +155,9 @@ Verdict verdictOn(const Situation& situation, const Deed& deed) {
         case Kind::WaitedEvent:
             return dropIf(!deed.usable);
         default:
-            return situation.searching ? onMessageDuringSearch(situation, deed)
-                                       : onMessage(situation, deed);
+            return situation.searching && !answersBox(situation)
+                       ? onMessageDuringSearch(situation, deed)
+                       : onMessage(situation, deed);
     }
 }
 

@@ -37,6 +37,7 @@ struct Situation {
     // What is searched.
     const EventSink* searching = nullptr;    ///< the window that does
     bool opening = false;                    ///< it only opens a directory or a drive
+    bool alone = false;                      ///< it searches nothing: its pass goes on alone
     std::optional<Moment> searchingSince{};  ///< the first of those that replaced one another
     Wish wish = Wish::None;                  ///< what the user wants of the search
 

@@ -2,8 +2,9 @@
 
 class EventSink;
 
-/// A directory or a drive that is only opened goes on while something is typed.
-enum class SearchKind { Documents, Opening };
+/// A directory or a drive that is only opened goes on while something is typed. Alone: a pass that
+/// goes on alone is watched as a search is, and stopped by a press on any button, too.
+enum class SearchKind { Documents, Opening, Alone };
 
 /// How the main thread, while it searches, serves its window. What these raise ends the search and
 /// is let through.

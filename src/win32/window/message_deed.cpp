@@ -73,11 +73,10 @@ Target targetInSearch(const MSG& message, const EventSink& searching) {
     return ofFrame ? Target::Window : Target::Other;
 }
 
-Target targetOf(const MSG& message, const Judge& judge) {
-    if (const EventSink* searching = judge.situation().searching) {
-        return targetInSearch(message, *searching);
-    }
-    return classOf(message.hwnd) == ControlClass::Button ? Target::Button : Target::Other;
+Target targetOf(const MSG& message, const Situation& now) {
+    const bool isButton = classOf(message.hwnd) == ControlClass::Button;
+    if (!now.searching) return isButton ? Target::Button : Target::Other;
+    return now.alone && isButton ? Target::Button : targetInSearch(message, *now.searching);
 }
 
 }  // namespace
@@ -86,7 +85,7 @@ Deed deedOf(const MSG& message, const Judge& judge) {
     Deed deed{.kind = kindOf(message.message)};
     if (deed.kind == Kind::Other) return deed;
     deed.time = widened(message.time, judge.now());
-    deed.target = targetOf(message, judge);
+    deed.target = targetOf(message, judge.situation());
     if (deed.kind == Kind::Press || deed.kind == Kind::FramePress) {
         const POINT place = placeOf(message);
         deed.x = place.x;

@@ -36,6 +36,14 @@ class SearchOnAWindow : public testing::Test, protected RealWindows, private Eve
                             [](const auto&, const auto&) {});
         });
     }
+    /// Its pass goes on alone until the user stops it.
+    void goAlone(const std::function<void()>& user) {
+        gate.run([&] {
+            const Searching going(patience_, *this, SearchKind::Alone);
+            const std::jthread other(user);
+            while (patience_.wait()) continue;
+        });
+    }
     void answer() { SetEvent(files_->answers); }
     HWND dialog() const { return ownWindows().front(); }
     HWND item(int id) const { return GetDlgItem(dialog(), id); }
@@ -104,4 +112,20 @@ TEST_F(SearchOnAWindow, IsEndedByEscapeOrWithTheProgramByAFrame) {
     EXPECT_EQ(gate.exitCode(), 0);
     MSG quit;
     EXPECT_TRUE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
+TEST_F(SearchOnAWindow, AsAPassThatGoesOnAloneIsStoppedByAnyButton) {
+    HWND button = item(IDC_CONTRACT_BUTTON);
+    const std::function<void()> presses[] = {
+        [&] { PostMessageW(button, WM_LBUTTONDOWN, 0, MAKELPARAM(3, 3)); },
+        [&] { PostMessageW(button, BM_CLICK, 0, 0); },
+        [&] { SendMessageW(button, BM_CLICK, 0, 0); }};
+    for (const auto& press : presses) {
+        goAlone([&] {
+            DWORD_PTR answered = 0;
+            EXPECT_NE(SendMessageTimeoutW(dialog(), WM_NULL, 0, 0, 0, 60000, &answered), 0);
+            press();
+        });
+        EXPECT_TRUE(raised_.empty());
+    }
 }

@@ -149,6 +149,39 @@ TEST(Verdict, StartsOneCommandAPress) {
     });
 }
 
+TEST(Verdict, StopsAPassThatGoesOnAloneAtAnyPressOnAButton) {
+    Situation alone = kSearching;
+    alone.alone = true;
+    alone.worked = kWorked;
+    Situation asked = alone;
+    asked.questions = 1;
+    Situation called = alone;
+    called.callsOut = 1;
+    const Deed press = message(Kind::Press, Target::Button);
+    const Deed space = message(Kind::Key, Target::Button, virtual_key::kSpace);
+    const Deed hotKey{.kind = Kind::HotKeyCommand, .window = &window};
+    expectVerdicts({
+        {"a press", with(alone, kFresh), press, StopsSearch},
+        {"during a call", with(called, kFresh), press, StopsSearch},
+        {"from before it began", with(alone, kLate), press, kDropped},
+        {"the second of a double click on the answer", with(alone, kOnNewWindow), press, kDropped},
+        {"on the box that came up", with(asked, kFresh), press},
+        {"in that box", with(asked, kFresh), message(Kind::Key, Target::Other, 'O')},
+        {"on no button", with(alone, kFresh), message(Kind::Press, Target::Other), kDropped},
+        {"a key on a button", with(alone, kFresh), space, StopsSearch},
+        {"one that is held since the answer", with(alone, kRepeated), space, kDropped},
+        {"a letter", with(alone, kFresh), message(Kind::Key, Target::Button, 'A'), kDropped},
+        {"Escape", called, escapeAt(kSince + 9), StopsSearch},
+        {"a click that a program posts", alone, message(Kind::Click, Target::Button), StopsSearch},
+        {"or sends", alone, command(false), StopsSearch},
+        {"a key that acts everywhere", with(alone, kFresh), hotKey, StopsSearch},
+        {"moving the window", with(alone, kFresh), message(Kind::FramePress, Target::Window)},
+        {"its frame", called, close(&window), EndsProgram},
+        {"the frame of the window that shows how far it is", alone, close(&other), StopsSearch},
+        {"an event of a list", alone, event(Drop), kDropped},
+    });
+}
+
 TEST(Verdict, GivesAWindowThatSearchesWhatStopsOrReplacesItsSearch) {
     const auto fresh = with(kSearching, kFresh);
     expectVerdicts({
