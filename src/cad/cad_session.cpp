@@ -189,19 +189,27 @@ void CadSession::forgetDocument() {
 std::wstring CadSession::title() { return textOf(callMethod(document_, L"GetTitle")); }
 
 Desktop::WindowHandle CadSession::findWindow() {
-    if (const auto window = desktop_.findWindow(releaseName_ + L" - " + title())) return window;
-    const std::wstring document = title();
-    const auto window = desktop_.findWindow(releaseName_ + L" - [" + document + L"]");
-    if (window != 0 || !anyRelease_) return window;
+    title_ = title();
+    if (const auto window = desktop_.findWindow(releaseName_ + L" - " + title_)) return window;
+    title_ = title();
+    const auto window = desktop_.findWindow(releaseName_ + L" - [" + title_ + L"]");
+    return window != 0 || !anyRelease_ ? window : findWindowOfAnyRelease();
+}
+
+Desktop::WindowHandle CadSession::findWindowOfAnyRelease() {
     return desktop_.findWindow(
-        [&](const std::wstring& title) { return isTitleOfAnyRelease(title, document); });
+        [&](const std::wstring& title) { return isTitleOfAnyRelease(title, title_); });
+}
+
+std::optional<int> CadSession::gdiObjects() {
+    return desktop_.gdiObjects(window_ != 0 ? window_ : findWindowOfAnyRelease());
 }
 
 void CadSession::bringForward() {
     with(openPath_, [&] {
-        const Desktop::WindowHandle window = findWindow();
-        if (anyRelease_) desktop_.restore(window);
-        desktop_.bringToFront(window);
+        window_ = findWindow();
+        if (anyRelease_) desktop_.restore(window_);
+        desktop_.bringToFront(window_);
         callMethod(document_, L"ViewZoomtofit2");
     });
 }

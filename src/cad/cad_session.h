@@ -55,6 +55,9 @@ class CadSession {
     /// Brings the application's window to the front, if its title is as expected, and zooms the
     /// document to fit.
     void bringForward();
+    /// How many GDI objects the application uses; nothing while its window can't be found, by the
+    /// title of any release.
+    std::optional<int> gdiObjects();
     /// Whether its window may also have a title as the releases since 2005 give it, and is restored
     /// when it is minimised.
     void expectAnyRelease(bool any) { anyRelease_ = any; }
@@ -73,13 +76,16 @@ class CadSession {
     void rebuild(LoadingOptions::Rebuild wanted);
     std::wstring title();
     Desktop::WindowHandle findWindow();
+    Desktop::WindowHandle findWindowOfAnyRelease();
 
     Desktop& desktop_;
     ObjectPtr application_;
     ObjectPtr document_;  ///< the one opened last, null when that failed
     std::wstring releaseName_;
     std::wstring workingDirectory_;
-    std::wstring openPath_;  ///< empty when no document counts as open
+    Desktop::WindowHandle window_ = 0;  ///< the one that was brought forward last …
+    std::wstring title_;                ///< … and the document's title by then
+    std::wstring openPath_;             ///< empty when no document counts as open
     std::int16_t typeCode_ = 0;
     bool anyRelease_ = false;
     bool leavesUsers_ = false;

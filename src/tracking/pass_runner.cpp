@@ -18,6 +18,20 @@ namespace {
 
 using Redraw = PassView::Redraw;
 
+/// While it lives what is done is counted there.
+class CountedIn {
+ public:
+    CountedIn(AloneOutcome*& counted, AloneOutcome& outcome) : counted_(counted) {
+        counted_ = &outcome;
+    }
+    ~CountedIn() { counted_ = nullptr; }
+    CountedIn(const CountedIn&) = delete;
+    CountedIn& operator=(const CountedIn&) = delete;
+
+ private:
+    AloneOutcome*& counted_;
+};
+
 }  // namespace
 
 PassRunner::PassRunner(Platform& platform, CadSession& cad, const ProgramFiles& files,
@@ -42,6 +56,7 @@ void PassRunner::settled(const Command& command) {
     }
     marks_.opened();
     view_.showAlert(alert());
+    view_.showChoices();
 }
 
 void PassRunner::setOptions(const PassOptions& options) {
@@ -128,6 +143,7 @@ void PassRunner::advance(LineState mark) {
         if (stays_) mark = LineState::ToDo;
         const auto saved = mark == LineState::Done ? save() : Saved::Unknown;
         if (!saved) return;
+        if (alone_) mark = countedAlone(*saved);
         if (!stays_) close();
         cad_.forgetDocument();
         if (!pass_.advance(mark, *saved)) return endAt(Redraw::InPlace);
@@ -143,7 +159,7 @@ std::optional<Saved> PassRunner::save() {
         saveRefused_ = code.value_or(0) != 0;
         if (!code) return Saved::Unknown;
         if (*code == 0) return Saved::Yes;
-        if (!options_.keepsUnsaved) return Saved::No;
+        if (alone_ || !options_.keepsUnsaved) return Saved::No;
         const auto box = saveRefusedBox(pass_.currentPath(), saveRefusalText(*code));
         if (platform_.messageBoxes.show(box) != MessageBoxes::Answer::Retry) return std::nullopt;
     }
@@ -177,6 +193,53 @@ void PassRunner::stepBack() {
         view_.allowAdvance();
         cad_.bringForward();
     });
+}
+
+void PassRunner::undo() {
+    settled([&] {
+        if (!pass_.canUndo()) return;
+        if (cad_.hasAnyOpen()) close();
+        cad_.forgetDocument();
+        pass_.undo();
+        view_.allowAdvance();
+        if (!go(Redraw::InPlace)) return;
+        view_.allowStepBack();
+        cad_.bringForward();
+    });
+}
+
+bool PassRunner::hasDocument() const {
+    return !stays_ && cad_.hasAnyOpen() && pass_.current() >= 0 && !pass_.pastEnd();
+}
+
+int PassRunner::documentsLeft() const {
+    if (!hasDocument()) return 0;
+    int left = 1;
+    for (int i = pass_.current() + 1; i <= pass_.list().last; ++i) left += pass_.list().isToDo(i);
+    return left;
+}
+
+AloneOutcome PassRunner::goAlone(const std::function<bool()>& goesOn) {
+    using End = AloneOutcome::End;
+    // Of 10,000 that Windows lets a program have by default ("GDI Objects", win32 sysinfo) the CAD
+    // application warns from about 85 % on (vendor's forum, thread 214732).
+    constexpr int kMostGdiObjects = 8'500;
+    AloneOutcome outcome;
+    const CountedIn counting(alone_, outcome);
+    while (hasDocument()) {
+        if (!goesOn()) return outcome.end = End::Stopped, outcome;
+        if (cad_.gdiObjects().value_or(0) > kMostGdiObjects) {
+            return outcome.end = End::ShortOfGdiObjects, outcome;
+        }
+        advance(LineState::Done);
+    }
+    if (stays_) outcome.end = End::FiveRefusals;
+    return outcome;
+}
+
+LineState PassRunner::countedAlone(Saved saved) {
+    ++(saved == Saved::No ? alone_->notSaved : alone_->saved);
+    return saved == Saved::No ? LineState::ToDo : LineState::Done;
 }
 
 void PassRunner::change(const LineSelected& selected, LineState state) {
@@ -239,7 +302,7 @@ bool PassRunner::openCurrent() {
 
 bool PassRunner::open(const std::wstring& path) {
     LoadingOptions options = view_.loadingOptions();
-    options.mayRefuse = options_.passesRefused;
+    options.mayRefuse = alone_ || options_.passesRefused;
     options.worksThere = options_.worksThere;
     Remark remark;
     try {
@@ -255,8 +318,10 @@ bool PassRunner::open(const std::wstring& path) {
 
 bool PassRunner::goesOnAfter(int refusals) {
     constexpr int kInARow = 5;
+    if (alone_) ++alone_->notOpened;
     if (refusals % kInARow != 0) return true;
     view_.showCurrent(Redraw::InPlace);
+    if (alone_) return false;
     return platform_.messageBoxes.show(refusedInARowBox()) == MessageBoxes::Answer::Yes;
 }
 

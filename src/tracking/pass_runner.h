@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -35,6 +36,8 @@ class PassView {
     virtual void allowAdvance() = 0;
     virtual void allowStepBack() = 0;
     virtual void showAlert(Alert alert) = 0;
+    /// What can be undone, and what can be gone on from, may be something else now.
+    virtual void showChoices() = 0;
 };
 
 /// What a pass does when the session says no. All off: what it always did.
@@ -43,6 +46,16 @@ struct PassOptions {
     bool keepsUnsaved = false;   ///< none is closed whose save was refused, unless it is told so
     bool leavesUsers = false;    ///< documents that the user had open stay open
     bool worksThere = false;     ///< references are looked for beside the document
+};
+
+/// What became of the documents while the pass went on alone, and why it ended.
+struct AloneOutcome {
+    enum class End { Finished, Stopped, FiveRefusals, ShortOfGdiObjects };
+
+    int saved = 0;
+    int notOpened = 0;
+    int notSaved = 0;
+    End end = End::Finished;
 };
 
 /// Runs a pass: the one place where its list, its current line, the marks kept of it and the calls
@@ -82,6 +95,17 @@ class PassRunner {
     /// Marks the current line, saves its document when that is Done, and goes on to the next one.
     void advance(LineState mark);
     void stepBack();
+    /// Undoes the last advance of this run, if there is one to undo.
+    void undo();
+
+    /// Whether a document is open, which advancing would close.
+    bool hasDocument() const;
+    /// The document that is open, and those to do below it.
+    int documentsLeft() const;
+    /// Advances, saving, from document to document to the end of the list, and asks nothing:
+    /// documents that don't open are passed over, up to five in a row; one whose save is refused is
+    /// closed and left to do. Before each document `goesOn` tells whether to.
+    AloneOutcome goAlone(const std::function<bool()>& goesOn);
     void change(const LineSelected& selected, LineState state);
     void eliminate(const LineSelected& chosen, Eliminate states);
     void reset(const LineSelected& selected);
@@ -113,7 +137,9 @@ class PassRunner {
     void closeOther();
     void endAt(PassView::Redraw redraw);
     void endAtTop();
-    /// Every few refusals in a row the user is asked whether to go on.
+    /// Going alone: what became of the document, which is left to do unless it was saved.
+    LineState countedAlone(Saved saved);
+    /// Every few refusals in a row the user is asked whether to go on; going alone ends there.
     bool goesOnAfter(int refusals);
     /// The current line is one whose document did not open, and the user went no further.
     void stay();
@@ -135,7 +161,8 @@ class PassRunner {
     Pass pass_;
     MarkKeeper marks_;
     PassOptions options_;
-    bool stays_ = false;        ///< at a line whose document did not open
-    bool saveRefused_ = false;  ///< by the command
-    bool openWarns_ = false;    ///< the open document, when it was opened
+    AloneOutcome* alone_ = nullptr;  ///< while it goes on alone
+    bool stays_ = false;             ///< at a line whose document did not open
+    bool saveRefused_ = false;       ///< by the command
+    bool openWarns_ = false;         ///< the open document, when it was opened
 };

@@ -37,6 +37,8 @@ inline constexpr Binding<TrackingWindow> kTrackingBindings[] = {
     {IDM_FORM3_GARDERNONSAUVE, Event::Click, &TrackingWindow::GarderNonSauve_Click},
     {IDM_FORM3_LAISSEROUVERTS, Event::Click, &TrackingWindow::LaisserOuverts_Click},
     {IDM_FORM3_REFERENCES, Event::Click, &TrackingWindow::References_Click},
+    {IDM_FORM3_REVENIR, Event::Click, &TrackingWindow::Revenir_Click, Presses::Single},
+    {IDM_FORM3_SEUL, Event::Click, &TrackingWindow::Seul_Click, Presses::Single},
 };
 
 inline constexpr Tooltip kTrackingTooltips[] = {
@@ -136,6 +138,10 @@ inline constexpr SystemMenuItem kTrackingSystemMenu[] = {
     {IDM_FORM3_GARDERNONSAUVE, L"Ne pas fermer sans enregistrement réussi"},
     {IDM_FORM3_LAISSEROUVERTS, L"Laisser ouverts les documents qui l'étaient"},
     {IDM_FORM3_REFERENCES, L"Chercher les références à côté du document"},
+    {.id = IDM_FORM3_REVENIR,
+     .text = L"Revenir sur la dernière marque\tCtrl+Z",
+     .startsGroup = true},
+    {IDM_FORM3_SEUL, L"Continuer seul..."},
 };
 
 inline constexpr HotKey kTrackingHotKeys[] = {

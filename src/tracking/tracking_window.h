@@ -63,6 +63,11 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
     void LaisserOuverts_Click();
     void References_Click();
 
+    /// The last mark of this run is undone.
+    void Revenir_Click();
+    /// The pass goes on alone, if the user wants it, until something stops it.
+    void Seul_Click();
+
     const Pass& pass() const { return runner_.pass(); }
     /// Whether all marks of the pass will be offered at the next start.
     bool keepsMarks() const { return runner_.keepsMarks(); }
@@ -87,6 +92,7 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
     void showTop() override;
     void allowAdvance() override { enableAdvance(true); }
     void allowStepBack() override { enableStepBack(true); }
+    void showChoices() override;
     void showAlert(Alert alert) override { window_->showAlert(alert); }
     void showNumbers();
     void drawList(Redraw redraw);
@@ -99,6 +105,10 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
     bool confirm(const Question& question);
     void changeSelection(const Question& question, LineState state);
     void eliminateSelection(const Question& question, Eliminate states);
+
+    AloneOutcome goAlone(int documents);
+    /// Serves the windows between two documents. False when the user stops it.
+    bool goesOn();
 
     void setAlwaysVisible(bool on);
     void setAllReleases(bool on);

@@ -8,6 +8,16 @@
 #include "worklist/list_file.h"
 #include "worklist/mark_keeper.h"
 
+namespace {
+
+std::vector<LineState> statesOf(const WorkList& list) {
+    std::vector<LineState> states;
+    for (int i = 0; i <= list.last; ++i) states.push_back(list.lines[i].code.state());
+    return states;
+}
+
+}  // namespace
+
 PassProgress passProgress(const WorkList& list) {
     PassProgress progress{0, list.lineCount()};
     bool inProgress = false;
@@ -67,7 +77,10 @@ bool Pass::startHere(int line) {
 
 bool Pass::advance(LineState state, Saved saved) {
     closeOpen();
-    if (current_ >= 0) mark(current_, state, saved);
+    if (current_ >= 0) {
+        left_.push_back(current_);
+        markLeft(state, saved);
+    }
     const int next = nextToDo(list_, current_);
     // The search reads the row that it stops at, past the last one, too: at the end of a list that
     // fills the table that raises 9.
@@ -75,7 +88,25 @@ bool Pass::advance(LineState state, Saved saved) {
     return startHere(next);
 }
 
+// A document that was saved before its mark was undone has been saved, whatever it is marked now.
+void Pass::markLeft(LineState state, Saved saved) {
+    const Saved before = list_.lines[current_].history.saved;
+    mark(current_, state, saved == Saved::Unknown ? before : saved);
+}
+
+void Pass::undo() {
+    closeOpen();
+    takeBackInProgress(list_);
+    const int line = left_.back();
+    left_.pop_back();
+    const auto undone = list_.lines.edit(line);
+    undone->code = LineState::InProgress;
+    undone->history.markedAt = 0;
+    show(line);
+}
+
 bool Pass::stepBack() {
+    forgetAdvances();
     closeOpen();
     if (pastEnd()) {
         current_ = list_.last;
@@ -97,29 +128,44 @@ void Pass::mark(int line, LineState state, Saved saved) {
     history.saved = refused ? Saved::No : saved;
 }
 
+template <class Edit>
+bool Pass::edited(const Edit& edit) {
+    const auto before = statesOf(list_);
+    const bool inProgress = edit();
+    if (statesOf(list_) != before) forgetAdvances();
+    return inProgress;
+}
+
 bool Pass::change(const LineSelected& selected, LineState state) {
-    for (int i = 0; i <= list_.last; ++i) {
-        if (list_.lines[i].code != LineState::InProgress && selected(i)) {
-            mark(i, state, Saved::Unknown);
+    return edited([&] {
+        for (int i = 0; i <= list_.last; ++i) {
+            if (list_.lines[i].code != LineState::InProgress && selected(i)) {
+                mark(i, state, Saved::Unknown);
+            }
         }
-    }
-    return reestablish();
+        return reestablish();
+    });
 }
 
 bool Pass::eliminate(const LineSelected& chosen, Eliminate states) {
-    eliminateLines(list_, chosen, states);
-    return reestablish();
+    return edited([&] {
+        eliminateLines(list_, chosen, states);
+        return reestablish();
+    });
 }
 
 void Pass::reset(const LineSelected& selected) {
-    for (int i = 0; i <= list_.last; ++i) {
-        if (selected(i)) mark(i, LineState::ToDo, Saved::Unknown);
-    }
-    takeBackInProgress(list_);
-    startHere(nextToDo(list_, -1));
+    edited([&] {
+        for (int i = 0; i <= list_.last; ++i) {
+            if (selected(i)) mark(i, LineState::ToDo, Saved::Unknown);
+        }
+        takeBackInProgress(list_);
+        return startHere(nextToDo(list_, -1));
+    });
 }
 
 bool Pass::resumeAt(int line) {
+    forgetAdvances();
     takeBackInProgress(list_);
     if (startHere(nextToDo(list_, line - 1))) return true;
     show(list_.last);

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "worklist/work_list.h"
 
@@ -81,6 +82,14 @@ class Pass {
     /// Goes on to the next line to do in this direction, or to the end of it.
     bool passOver(Direction direction);
 
+    /// Whether an advance of this run can be undone.
+    bool canUndo() const { return !left_.empty(); }
+    /// Undoes the last advance: the line that it left is in progress again, at no time marked, and
+    /// the one in progress by now is to do. What was saved stays saved.
+    void undo();
+    /// No advance so far can be undone any more.
+    void forgetAdvances() { left_.clear(); }
+
     /// The document of the current line is about to be opened; the one before is left.
     void openCurrent();
     /// What the session said while it opened the document of the current line.
@@ -100,9 +109,13 @@ class Pass {
 
  private:
     void mark(int line, LineState state, Saved saved);
+    void markLeft(LineState state, Saved saved);
     bool startHere(int line);
     void show(int line);
     bool reestablish();
+    /// Carries out an edit, whose answer it gives; one that changed something forgets the advances.
+    template <class Edit>
+    bool edited(const Edit& edit);
 
     struct OpenDocument {
         std::int32_t fileLine;
@@ -113,5 +126,6 @@ class Pass {
     WorkList list_;
     int current_ = kNoLine;
     int shownNumber_ = 0;
+    std::vector<int> left_;  ///< the lines that were left by the advances that can be undone
     std::optional<OpenDocument> open_;
 };

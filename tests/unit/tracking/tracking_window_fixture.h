@@ -92,6 +92,31 @@ class TrackingFixture : public testing::Test {
     /// Whether the two step-back buttons are enabled; they must be alike.
     bool canStepBack() { return enabledAlike({IDC_FORM3_CMDPRECEDENT, IDC_FORM3_CMD4}); }
 
+    /// Switched on for the windows that are loaded from now on.
+    void switchOn(const wchar_t* key) {
+        machine.settings.write(L"tarnwick", L"options", key, L"1");
+    }
+    FakeDocument& document(const wchar_t* name) { return machine.automation.documents[name]; }
+    void refuse(std::wstring_view names, std::int32_t code = 65536) {
+        for (const wchar_t name : names) {
+            document(std::wstring(1, name).c_str()) = {.opens = false, .errorCode = code};
+        }
+    }
+
+    /// The calls that open, save and close documents, without their arguments but for the name.
+    std::wstring calls() {
+        std::wstring all;
+        for (const std::wstring& call : takeCalls()) {
+            const bool opens = call.starts_with(L"OpenDoc6(");
+            if (opens) all += L"+" + call.substr(call.find(L"c:\\") + 3, 1);
+            if (call.find(L"save2") != std::wstring::npos) all += L"s";
+            if (call == L"closedoc(\"\")") all += L"-";
+            if (call.starts_with(L"closedoc(\"c")) all += L"-" + call.substr(call.size() - 3, 1);
+            if (call.starts_with(L"SetCurrentWorkingDirectory")) all += L"d";
+        }
+        return all;
+    }
+
     const WorkList& work() { return form->pass().list(); }
     std::wstring& listFile() { return machine.files.texts[machine.programFiles.list]; }
 
