@@ -1,6 +1,7 @@
-// tarnwick-kills.exe N: kills the program N times at random moments of a running pass and counts
-// the marks that are not offered at the next start although they were made before the last call
-// that went out. Ends with 1 when there are any, or when a start fails.
+// tarnwick-kills.exe N [alone]: kills the program N times at random moments of a running pass,
+// which is led by presses or goes on alone, and counts the marks that are not offered at the next
+// start although they were made before the last call that went out, and the documents that were
+// marked unsaved. Ends with 1 when there are any, or when a start fails.
 
 #include <windows.h>
 
@@ -28,6 +29,8 @@ const std::string kMarked = "Documents marqués depuis : ";
 
 class Kills {
  public:
+    explicit Kills(bool alone) : alone_(alone) {}
+
     void run(int kills) {
         for (int kill = 0; kill < kills; ++kill) {
             if (kill % kKillsAList == 0) beginAnew();
@@ -37,6 +40,7 @@ class Kills {
     }
 
     int lost = 0;
+    int unsaved = 0;
     int failedStarts = 0;
 
  private:
@@ -76,14 +80,24 @@ class Kills {
     }
 
     void workAndKill() {
+        alone_ ? goAlone() : pressOn();
+        app_.kill();
+        marks_ += newMarks();
+    }
+
+    void pressOn() {
         HWND button = app_.control(IDC_FORM3_CMDSUIV);
         const ULONGLONG end = GetTickCount64() + random_() % 400;
         while (GetTickCount64() < end) {
             post(button, BM_CLICK);
             Sleep(static_cast<DWORD>(random_() % 25));
         }
-        app_.kill();
-        marks_ += newMarks();
+    }
+
+    void goAlone() {
+        app_.chooseInSystemMenu("Tarnwick - suivi du travail -", IDM_FORM3_SEUL);
+        app_.box().answer(IDYES);
+        Sleep(static_cast<DWORD>(random_() % 400));
     }
 
     /// A document that was closed before the next one was asked for has been marked in between.
@@ -91,7 +105,10 @@ class Kills {
         const auto calls = cad_.calls();
         size_t marks = 0;
         for (size_t i = seen_; i + 1 < calls.size(); ++i) {
-            marks += calls[i].find("closedoc") == 0 && calls[i + 1].find("OpenDoc6") == 0;
+            const bool marked =
+                calls[i].find("closedoc") == 0 && calls[i + 1].find("OpenDoc6") == 0;
+            marks += marked;
+            unsaved += marked && (i == 0 || calls[i - 1].find("save2") == std::string::npos);
         }
         seen_ = calls.size();
         return marks;
@@ -102,6 +119,7 @@ class Kills {
     TrialCad cad_{sandbox_};
     AppDriver app_{sandbox_};
     std::mt19937 random_{1};
+    const bool alone_;
     bool begun_ = false;
     size_t seen_ = 0;   ///< calls of the session
     size_t marks_ = 0;  ///< that the next start must offer
@@ -112,9 +130,9 @@ class Kills {
 
 int main(int count, char** arguments) {
     const int kills = count > 1 ? std::atoi(arguments[1]) : 20;
-    driver::Kills run;
+    driver::Kills run(count > 2);
     run.run(kills);
-    std::cout << kills << " kills: " << run.lost << " marks lost, " << run.failedStarts
-              << " starts failed\n";
-    return run.lost + run.failedStarts > 0 ? 1 : 0;
+    std::cout << kills << " kills: " << run.lost << " marks lost, " << run.unsaved
+              << " marked unsaved, " << run.failedStarts << " starts failed\n";
+    return run.lost + run.unsaved + run.failedStarts > 0 ? 1 : 0;
 }
