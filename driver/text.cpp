@@ -1,6 +1,6 @@
 #include "driver/text.h"
 
-#include "common/utf8.h"
+#include "common/encoding.h"
 
 namespace driver {
 

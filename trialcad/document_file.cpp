@@ -6,7 +6,7 @@
 #include <iterator>
 
 #include "common/text.h"
-#include "rules/long_path.h"
+#include "rules/windows_files.h"
 #include "win32/process/unique.h"
 
 namespace {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "common/encoding.h"
 #include "common/runtime_error.h"
-#include "common/utf8.h"
 
 long parseNumber(std::wstring_view text) {
     if (text.empty() || text.size() > 9) return -1;

@@ -10,7 +10,7 @@
 #include "driver/text.h"
 #include "driver/trial_cad.h"
 #include "rows.h"
-#include "rules/late_bound_automation.h"
+#include "rules/late_binding.h"
 #include "rules/patience.h"
 #include "stage.h"
 #include "win32/com/message_filter.h"

@@ -1,6 +1,6 @@
 // The selection window's filter, on the lines that it shows.
 
-#include "common/letter_case.h"
+#include "common/text.h"
 #include "rows.h"
 #include "sample_tree.h"
 #include "selection/document_search.h"

@@ -4,10 +4,9 @@
 
 #include <fstream>
 
-#include "common/utf8.h"
+#include "common/encoding.h"
 #include "input/judge.h"
-#include "ports/search_patience.h"
-#include "ports/workers.h"
+#include "ports/search.h"
 #include "rows.h"
 #include "sample_tree.h"
 #include "selection/document_import.h"

@@ -1,6 +1,6 @@
 // The work list's lines put into the tracking window's list box.
 
-#include "common/utf8.h"
+#include "common/encoding.h"
 #include "rows.h"
 #include "sample_tree.h"
 #include "stage.h"

@@ -8,7 +8,6 @@
 #include "sample_tree.h"
 #include "selection/document_search.h"
 #include "stage.h"
-#include "win32/files/pool_workers.h"
 #include "win32/files/win_files.h"
 #include "win32/window/window_patience.h"
 

@@ -1,8 +1,8 @@
 #include "app/guide.h"
 
-#include "ports/desktop.h"
+#include "ports/dialogs.h"
 #include "ports/files.h"
-#include "ports/message_boxes.h"
+#include "ports/machine.h"
 
 void showGuide(Files& files, Desktop& desktop, MessageBoxes& boxes,
                const std::wstring& programDirectory) {

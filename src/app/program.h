@@ -9,7 +9,6 @@
 #include "resume/existing_list_window.h"
 #include "searchfolders/configuration_window.h"
 #include "selection/selection_window.h"
-#include "session/file_system_object.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
 #include "tracking/tracking_window.h"

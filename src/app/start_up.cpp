@@ -4,8 +4,8 @@
 #include "app/command_line.h"
 #include "app/program.h"
 #include "common/runtime_error.h"
+#include "ports/dialogs.h"
 #include "ports/files.h"
-#include "ports/message_boxes.h"
 #include "session/list_hold.h"
 
 void Program::start() {

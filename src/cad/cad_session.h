@@ -5,7 +5,7 @@
 #include <string>
 
 #include "ports/automation.h"
-#include "ports/desktop.h"
+#include "ports/machine.h"
 #include "worklist/remark.h"
 
 /// How a document is loaded.

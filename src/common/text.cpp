@@ -5,8 +5,6 @@
 #include <cstdint>
 #include <cstring>
 
-#include "common/letter_case.h"
-
 namespace {
 
 template <class View>

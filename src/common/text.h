@@ -13,3 +13,22 @@ bool equalIgnoringCase(std::wstring_view a, std::wstring_view b);
 /// Takes the next line off the front of `rest`: up to CR LF, LF or CR, which is dropped.
 std::wstring_view takeLine(std::wstring_view& rest);
 std::string_view takeLine(std::string_view& rest);
+
+/// Puts a text in upper case by the platform's own tables, letter for letter (lengths are kept),
+/// so that texts which differ in case only become equal. Each platform implements it.
+void makeUpperCase(std::wstring& text);
+
+inline std::wstring upperCase(std::wstring_view text) {
+    std::wstring result(text);
+    makeUpperCase(result);
+    return result;
+}
+
+/// Whether a text holds plain letters alone. They are the same in every encoding, so that the
+/// system need not convert them; most lists hold no others.
+template <class Character>
+bool isPlain(std::basic_string_view<Character> text) {
+    Character all = 0;  // no wider than a character, so that one instruction takes many
+    for (const Character c : text) all = static_cast<Character>(all | c);
+    return (all & ~0x7F) == 0;
+}

@@ -5,7 +5,7 @@
 
 #include "common/numbers.h"
 #include "common/runtime_error.h"
-#include "ports/message_boxes.h"
+#include "ports/dialogs.h"
 
 MessageBoxContent fatalErrorBox(const RuntimeError& error) {
     return {.text = L"Erreur d'exécution '" + decimal(error.number) + L"' :\r\n" + error.text,

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "input/judge.h"
-#include "ports/events.h"
+#include "ports/window.h"
 
 class MessageBoxes;
 struct MessageBoxContent;

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "input/verdict.h"
-#include "ports/search_patience.h"
+#include "ports/search.h"
 
 /// Keeps what the program is busy with and what the user did last, as it is told, and answers
 /// whether something counts now. There is one, which all who take messages, raise events, call or

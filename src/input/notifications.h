@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-#include "ports/events.h"
+#include "ports/window.h"
 
 /// The kinds of controls, as far as they differ in what they tell their window.
 enum class ControlClass { Button, ListBox, ComboBox, Edit, TabStrip, Other };

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "ports/events.h"
+#include "ports/window.h"
 
 /// Milliseconds since the system started.
 using Moment = std::uint64_t;

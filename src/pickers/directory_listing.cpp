@@ -4,7 +4,7 @@
 #include <numeric>
 #include <utility>
 
-#include "common/letter_case.h"
+#include "common/text.h"
 #include "ports/files.h"
 
 namespace {

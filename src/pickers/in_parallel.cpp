@@ -6,9 +6,7 @@
 #include <mutex>
 #include <utility>
 
-#include "ports/search_patience.h"
-#include "ports/search_services.h"
-#include "ports/workers.h"
+#include "ports/search.h"
 
 namespace {
 

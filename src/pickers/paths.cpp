@@ -4,7 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include "common/letter_case.h"
 #include "common/text.h"
 
 namespace {

@@ -4,12 +4,12 @@
 #include <string>
 #include <utility>
 
-#include "common/letter_case.h"
+#include "common/text.h"
 #include "pickers/paths.h"
 #include "pickers/search_progress.h"
 #include "ports/controls.h"
 #include "ports/files.h"
-#include "ports/search_patience.h"
+#include "ports/search.h"
 
 namespace {
 

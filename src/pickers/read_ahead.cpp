@@ -7,9 +7,7 @@
 
 #include "pickers/in_parallel.h"
 #include "pickers/paths.h"
-#include "ports/search_patience.h"
-#include "ports/search_services.h"
-#include "ports/workers.h"
+#include "ports/search.h"
 
 namespace {
 

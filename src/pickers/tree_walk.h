@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "pickers/directory_listing.h"
-#include "ports/search_services.h"
+#include "ports/search.h"
 
 enum class WalkEnd { Complete, Interrupted };
 

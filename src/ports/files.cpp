@@ -1,8 +1,7 @@
 #include "ports/files.h"
 
+#include "common/encoding.h"
 #include "common/runtime_error.h"
-#include "common/text_decoding.h"
-#include "common/utf8.h"
 
 std::string Files::read(const std::wstring& path) { return textInUtf8(readBytes(path)); }
 

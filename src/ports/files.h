@@ -3,11 +3,19 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "ports/directory_entry.h"
+/// One name in a directory, valid only while it is being visited.
+struct DirectoryEntry {
+    std::wstring_view name;
+    bool isDirectory;
+    bool isLeftOut;  ///< neither searched nor shown
+    bool isLink;     ///< a junction or symbolic link: it may lead back up
+};
 
 /// What tells one directory from all others, whatever path leads to it. Where the file system does
 /// not tell its directories apart, all of a volume are alike.
@@ -77,4 +85,33 @@ class Files {
 
     /// The program's current directory on a drive, the drive's root when it has none of its own.
     virtual std::wstring currentDirectory(wchar_t drive) = 0;
+};
+
+/// A small file that grows record by record and survives a crash up to the last one flushed.
+class RecordFile {
+ public:
+    virtual ~RecordFile() = default;
+
+    /// All its bytes; nothing when it isn't there or can't be read.
+    virtual std::optional<std::string> read() = 0;
+    /// Replaces it whole, or creates it; on the disk when this returns. Raises 70, 75 or 76.
+    virtual void replace(std::string_view bytes) = 0;
+
+    enum class Flush { Now, Later };
+    /// Adds bytes at the end of what was replaced last; with Now they are on the disk when this
+    /// returns. Raises 53, 70 or 75, also when somebody has taken the file away.
+    virtual void append(std::string_view bytes, Flush flush) = 0;
+
+    /// Leaves nothing in it: one that was replaced is emptied, any other is removed, if it is
+    /// there. False when it may still hold something.
+    virtual bool clear() = 0;
+    /// Removes it, if it is there. One that can't be removed is emptied or stays.
+    virtual void remove() = 0;
+};
+
+class RecordFiles {
+ public:
+    virtual ~RecordFiles() = default;
+    /// The record file at a full path, whether it is there or not.
+    virtual std::unique_ptr<RecordFile> at(const std::wstring& path) = 0;
 };

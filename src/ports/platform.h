@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "ports/search_services.h"
+#include "ports/search.h"
 
 class Automation;
 class Settings;

@@ -4,8 +4,8 @@
 #include "ports/files.h"
 #include "ports/platform.h"
 #include "resume/existing_list_tables.h"
-#include "session/list_replacement.h"
 #include "session/program_files.h"
+#include "session/saving.h"
 #include "session/window_places.h"
 
 ExistingListWindow::ExistingListWindow(Platform& platform, WindowPlaces& places,

@@ -1,7 +1,6 @@
 #include "rules/file_replacement.h"
 
-#include "rules/file_error.h"
-#include "rules/long_path.h"
+#include "rules/windows_files.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 #include <string_view>
 #include <type_traits>
 
-#include "common/content_identity.h"
-#include "common/letter_case.h"
+#include "common/bytes.h"
 #include "common/numbers.h"
-#include "rules/file_error.h"
+#include "common/text.h"
+#include "rules/windows_files.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "input/judge.h"
-#include "ports/message_boxes.h"
+#include "ports/dialogs.h"
 
 namespace {
 

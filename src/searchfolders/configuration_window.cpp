@@ -1,9 +1,9 @@
 #include "searchfolders/configuration_window.h"
 
 #include "cad/cad_session.h"
-#include "common/utf8.h"
+#include "common/encoding.h"
+#include "ports/dialogs.h"
 #include "ports/files.h"
-#include "ports/message_boxes.h"
 #include "ports/platform.h"
 #include "searchfolders/configuration_tables.h"
 #include "searchfolders/configurations.h"

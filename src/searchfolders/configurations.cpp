@@ -2,14 +2,12 @@
 
 #include <utility>
 
-#include "common/letter_case.h"
+#include "common/encoding.h"
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
-#include "common/text_decoding.h"
-#include "common/utf8.h"
 #include "ports/files.h"
-#include "session/file_system_object.h"
+#include "session/program_files.h"
 
 void clearFrom(Configuration& configuration, int first) {
     configuration.clear(static_cast<std::size_t>(first));

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "common/bytes.h"
 #include "common/checked_table.h"
-#include "common/content_identity.h"
 
 class FileSystemObject;
 class Files;

@@ -6,8 +6,8 @@
 #include <set>
 #include <utility>
 
-#include "common/letter_case.h"
 #include "common/runtime_error.h"
+#include "common/text.h"
 #include "pickers/in_parallel.h"
 #include "pickers/paths.h"
 #include "pickers/tree_walk.h"

@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "ports/search_services.h"
+#include "ports/search.h"
 
 /// What is known of a document that a line names. All but the first two leave the line out.
 enum class Presence : std::uint8_t { Unknown, There, NotFound, NoDocument, OutOfReach, Refused };

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "common/letter_case.h"
+#include "common/text.h"
 
 namespace {
 

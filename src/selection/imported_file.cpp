@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <thread>
 
-#include "common/letter_case.h"
+#include "common/encoding.h"
 #include "common/numbers.h"
 #include "common/runtime_error.h"
-#include "common/utf8.h"
+#include "common/text.h"
 #include "pickers/paths.h"
 #include "ports/files.h"
 #include "selection/document_lines.h"

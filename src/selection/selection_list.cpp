@@ -2,7 +2,7 @@
 
 #include <numeric>
 
-#include "common/letter_case.h"
+#include "common/text.h"
 #include "ports/controls.h"
 #include "selection/document_search.h"
 #include "worklist/list_display.h"

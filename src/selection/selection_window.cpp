@@ -9,9 +9,9 @@
 #include "ports/files.h"
 #include "ports/platform.h"
 #include "selection/selection_tables.h"
-#include "session/list_replacement.h"
 #include "session/program_files.h"
-#include "session/setting_values.h"
+#include "session/saving.h"
+#include "session/settings.h"
 #include "session/window_places.h"
 #include "worklist/list_file.h"
 

@@ -6,10 +6,9 @@
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "pickers/search_progress.h"
-#include "ports/file_dialogs.h"
-#include "ports/message_boxes.h"
+#include "ports/dialogs.h"
 #include "ports/platform.h"
-#include "ports/search_patience.h"
+#include "ports/search.h"
 #include "selection/selection_window.h"
 
 namespace {

@@ -5,10 +5,10 @@
 #include "common/numbers.h"
 #include "pickers/paths.h"
 #include "pickers/search_progress.h"
+#include "ports/dialogs.h"
 #include "ports/files.h"
-#include "ports/message_boxes.h"
 #include "ports/platform.h"
-#include "ports/search_patience.h"
+#include "ports/search.h"
 #include "selection/document_search.h"
 #include "selection/selection_window.h"
 

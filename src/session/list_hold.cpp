@@ -1,8 +1,8 @@
 #include "session/list_hold.h"
 
 #include "common/runtime_error.h"
+#include "ports/dialogs.h"
 #include "ports/list_holds.h"
-#include "ports/message_boxes.h"
 #include "ports/platform.h"
 #include "session/program_files.h"
 

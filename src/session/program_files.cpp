@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/runtime_error.h"
 #include "common/text.h"
 #include "worklist/mark_keeper.h"
 
@@ -16,4 +17,16 @@ bool ProgramFiles::owns(const std::wstring& path) const {
                                 keptMarksFile(previousList())};
     return std::ranges::any_of(
         own, [&](const std::wstring& file) { return equalIgnoringCase(file, path); });
+}
+
+FileSystemObject::FileSystemObject(Automation& automation)
+    : object_(automation.create(L"Scripting.FileSystemObject")) {}
+
+bool FileSystemObject::fileExists(const std::wstring& path) {
+    try {
+        return isTrue(callMethod(object_, L"fileExists", {path}));
+    } catch (RuntimeError& error) {
+        error.addLine(L"Fichier : " + path);
+        throw;
+    }
 }

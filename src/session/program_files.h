@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "ports/automation.h"
 #include "worklist/list_file.h"
 
 /// The files that the program keeps for its user, by their full paths.
@@ -25,4 +26,16 @@ struct ProgramFiles {
     /// Whether a file is one of these, or holds the marks kept of a list: nothing else may be
     /// written there.
     bool owns(const std::wstring& path) const;
+};
+
+/// The system's own object for files (Scripting.FileSystemObject).
+class FileSystemObject {
+ public:
+    /// Raises 440 when it can't be created.
+    explicit FileSystemObject(Automation& automation);
+
+    bool fileExists(const std::wstring& path);
+
+ private:
+    ObjectPtr object_;
 };

@@ -8,8 +8,8 @@
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "ports/window.h"
-#include "rules/in_sight.h"
-#include "session/setting_values.h"
+#include "rules/placement.h"
+#include "session/settings.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ports/message_boxes.h"
+#include "ports/dialogs.h"
 #include "tracking/pass_runner.h"
 
 /// Whether to save and close so many documents.

@@ -4,10 +4,10 @@
 #include <utility>
 
 #include "cad/cad_session.h"
+#include "common/encoding.h"
 #include "common/runtime_error.h"
-#include "common/text_decoding.h"
+#include "ports/dialogs.h"
 #include "ports/files.h"
-#include "ports/message_boxes.h"
 #include "ports/platform.h"
 #include "session/list_hold.h"
 #include "session/program_files.h"

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "ports/window.h"
-#include "session/shared_file.h"
+#include "session/saving.h"
 #include "worklist/mark_keeper.h"
 #include "worklist/pass.h"
 

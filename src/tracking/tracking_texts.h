@@ -3,8 +3,7 @@
 #include <span>
 #include <string>
 
-#include "ports/file_dialogs.h"
-#include "ports/message_boxes.h"
+#include "ports/dialogs.h"
 
 /// What a list command asks before it changes anything.
 struct Question {

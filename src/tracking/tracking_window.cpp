@@ -5,7 +5,7 @@
 #include "common/runtime_error.h"
 #include "ports/platform.h"
 #include "session/program_files.h"
-#include "session/setting_values.h"
+#include "session/settings.h"
 #include "session/window_places.h"
 #include "tracking/tracking_tables.h"
 #include "tracking/tracking_texts.h"

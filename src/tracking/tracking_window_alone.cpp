@@ -5,11 +5,10 @@
 #include <string>
 
 #include "common/runtime_error.h"
-#include "ports/clock.h"
-#include "ports/message_boxes.h"
+#include "ports/dialogs.h"
+#include "ports/machine.h"
 #include "ports/platform.h"
-#include "ports/power.h"
-#include "ports/search_patience.h"
+#include "ports/search.h"
 #include "tracking/alone_texts.h"
 #include "tracking/alone_window.h"
 #include "tracking/tracking_ids.h"

@@ -5,11 +5,11 @@
 
 #include "cad/cad_session.h"
 #include "common/text.h"
-#include "ports/file_dialogs.h"
+#include "ports/dialogs.h"
 #include "ports/files.h"
 #include "ports/platform.h"
 #include "session/program_files.h"
-#include "session/setting_values.h"
+#include "session/settings.h"
 #include "tracking/tracking_ids.h"
 #include "tracking/tracking_texts.h"
 #include "tracking/tracking_window.h"

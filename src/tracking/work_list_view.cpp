@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "common/utf8.h"
+#include "common/encoding.h"
 #include "ports/controls.h"
 #include "worklist/list_display.h"
 #include "worklist/work_list.h"

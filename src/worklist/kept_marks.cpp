@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "common/packed_numbers.h"
+#include "common/bytes.h"
 #include "worklist/work_list.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "common/content_identity.h"
+#include "common/bytes.h"
 #include "worklist/work_list.h"
 
 /// What a line of the list file has become since that was written. A line in progress counts as

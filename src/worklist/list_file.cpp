@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <charconv>
 
+#include "common/encoding.h"
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "common/text.h"
-#include "common/utf8.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "common/runtime_error.h"
-#include "ports/clock.h"
+#include "ports/machine.h"
 #include "worklist/list_file.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ports/record_files.h"
+#include "ports/files.h"
 #include "worklist/kept_marks.h"
 
 class Clock;

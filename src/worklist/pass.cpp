@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <limits>
 
-#include "common/utf8.h"
-#include "ports/clock.h"
+#include "common/encoding.h"
+#include "ports/machine.h"
 #include "worklist/list_file.h"
 #include "worklist/mark_keeper.h"
 

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "common/utf8.h"
+#include "common/encoding.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "ports/clock.h"
+#include "ports/machine.h"
 #include "worklist/work_list.h"
 
 namespace {

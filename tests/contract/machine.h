@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "ports/files.h"
-#include "ports/settings.h"
+#include "ports/machine.h"
 #include "ports/window.h"
 #include "unit/unit_test.h"
 

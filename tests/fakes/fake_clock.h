@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ports/clock.h"
+#include "ports/machine.h"
 
 /// Stands still until a test moves it.
 struct FakeClock : Clock {

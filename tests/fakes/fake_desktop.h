@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "ports/desktop.h"
+#include "ports/machine.h"
 
 /// Knows windows by their titles and records what is brought forward.
 struct FakeDesktop : Desktop {

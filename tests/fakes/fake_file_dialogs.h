@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "ports/file_dialogs.h"
+#include "ports/dialogs.h"
 
 /// Records what is asked, and always has the same answer.
 struct FakeFileDialogs : FileDialogs {

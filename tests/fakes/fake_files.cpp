@@ -2,8 +2,9 @@
 
 #include <functional>
 
+#include "common/encoding.h"
 #include "common/runtime_error.h"
-#include "common/utf8.h"
+#include "rules/windows_files.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "ports/message_boxes.h"
+#include "ports/dialogs.h"
 
 /// Records every box and answers from a queue; a Yes/No box without an answer fails the test.
 struct FakeMessageBoxes : MessageBoxes {

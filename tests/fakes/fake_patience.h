@@ -4,7 +4,7 @@
 #include <functional>
 #include <thread>
 
-#include "ports/search_patience.h"
+#include "ports/search.h"
 
 /// Waits without a window; goes on as long as it is told to.
 struct FakePatience : SearchPatience {

@@ -17,7 +17,6 @@
 #include "fakes/fake_window.h"
 #include "fakes/fake_workers.h"
 #include "ports/platform.h"
-#include "session/file_system_object.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ports/power.h"
+#include "ports/machine.h"
 
 /// Notes whether the machine is held awake, and how often it was.
 struct FakePower : Power {

@@ -4,7 +4,7 @@
 #include <map>
 
 #include "common/runtime_error.h"
-#include "ports/record_files.h"
+#include "ports/files.h"
 
 /// Record files in memory, by path.
 struct FakeRecordFiles : RecordFiles {

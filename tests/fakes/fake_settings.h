@@ -3,8 +3,8 @@
 #include <map>
 #include <tuple>
 
-#include "common/letter_case.h"
-#include "ports/settings.h"
+#include "common/text.h"
+#include "ports/machine.h"
 
 /// Settings in memory, by application, section and key, keys without regard to case.
 struct FakeSettings : Settings {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ports/workers.h"
+#include "ports/search.h"
 
 /// There is no thread to be had, so that all is done at once; or there are threads which wait for a
 /// server that does not answer.

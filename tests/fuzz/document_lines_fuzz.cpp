@@ -1,8 +1,7 @@
 // Any bytes as a file that is imported: each line is handed on once at most, those that name a
 // document with a name of one, and the path that it stands for tells its server.
 
-#include "common/text_decoding.h"
-#include "common/utf8.h"
+#include "common/encoding.h"
 #include "fuzz_input.h"
 #include "pickers/paths.h"
 #include "selection/document_lines.h"

@@ -1,7 +1,7 @@
 // Any bytes as a record of kept marks, and any bytes as the entries of a record that is sound: what
 // is read fits the list, and the list it is taken over into stays one.
 
-#include "common/packed_numbers.h"
+#include "common/bytes.h"
 #include "fuzz_input.h"
 #include "worklist/list_file.h"
 #include "worklist/mark_keeper.h"

@@ -1,7 +1,7 @@
 // Any bytes as a list file: they are read, or refused by one of the two errors that the reader
 // documents; and what was read is written so that it reads the same again.
 
-#include "common/utf8.h"
+#include "common/encoding.h"
 #include "fuzz_input.h"
 #include "worklist/list_file.h"
 

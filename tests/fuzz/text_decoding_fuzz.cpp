@@ -1,9 +1,8 @@
 // Any bytes as a file: what is read is UTF-8, in which a second reading changes nothing; and
 // without a mark each line is read as it would be alone.
 
+#include "common/encoding.h"
 #include "common/text.h"
-#include "common/text_decoding.h"
-#include "common/utf8_check.h"
 #include "fuzz_input.h"
 
 namespace {

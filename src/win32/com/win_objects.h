@@ -7,7 +7,7 @@
 #include <span>
 #include <utility>
 
-#include "rules/late_bound_automation.h"
+#include "rules/late_binding.h"
 #include "win32/com/com_ptr.h"
 
 /// An IDispatch.

@@ -6,15 +6,54 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <utility>
 #include <winnetwk.h>
 
 #include "common/runtime_error.h"
-#include "rules/file_error.h"
-#include "rules/long_path.h"
-#include "win32/files/directory_identity.h"
+#include "rules/windows_files.h"
 #include "win32/files/win_file_replacement.h"
 #include "win32/process/system_function.h"
 #include "win32/process/unique.h"
+
+namespace {
+
+/// File systems without identities of this size give none or all bits (File System Control Codes,
+/// 128-bit file ID).
+bool isGiven(const FILE_ID_128& id) {
+    const auto all = [&](BYTE value) {
+        return std::ranges::all_of(id.Identifier, [&](BYTE one) { return one == value; });
+    };
+    return !all(0) && !all(0xFF);
+}
+
+void put(DWORD value, std::uint8_t* bytes) {
+    for (int i = 0; i < 4; ++i) bytes[i] = static_cast<std::uint8_t>(value >> (8 * i));
+}
+
+}  // namespace
+
+bool IdentityCalls::wide(HANDLE directory, FILE_ID_INFO& identity) {
+    return GetFileInformationByHandleEx(directory, FileIdInfo, &identity, sizeof identity) != FALSE;
+}
+
+bool IdentityCalls::narrow(HANDLE directory, BY_HANDLE_FILE_INFORMATION& information) {
+    return GetFileInformationByHandle(directory, &information) != FALSE;
+}
+
+bool identify(HANDLE directory, DirectoryId& id, IdentityCalls& calls) {
+    FILE_ID_INFO identity{};
+    if (calls.wide(directory, identity) && isGiven(identity.FileId)) {
+        id.volume = identity.VolumeSerialNumber;
+        std::ranges::copy(identity.FileId.Identifier, id.file.begin());
+        return true;
+    }
+    BY_HANDLE_FILE_INFORMATION information{};
+    if (!calls.narrow(directory, information)) return false;
+    id = {.volume = information.dwVolumeSerialNumber, .file = {}};
+    put(information.nFileIndexLow, id.file.data());
+    put(information.nFileIndexHigh, id.file.data() + 4);
+    return true;
+}
 
 namespace {
 
@@ -185,4 +224,25 @@ std::wstring WinFiles::currentDirectory(wchar_t drive) {
     const DWORD length = GetFullPathNameW(relative, MAX_PATH, path, nullptr);
     if (length == 0 || length >= MAX_PATH) return std::wstring(relative) + L"\\";
     return path;
+}
+
+namespace {
+
+using Job = std::function<void()>;
+
+void CALLBACK run(PTP_CALLBACK_INSTANCE, void* job) {
+    (*std::unique_ptr<Job>(static_cast<Job*>(job)))();
+}
+
+}  // namespace
+
+bool PoolWorkers::start(std::function<void()> job) {
+    TP_CALLBACK_ENVIRON environment;
+    InitializeThreadpoolEnvironment(&environment);
+    // A file server may take its time: the pool then makes another thread for the next job.
+    SetThreadpoolCallbackRunsLong(&environment);
+    auto kept = std::make_unique<Job>(std::move(job));
+    if (!TrySubmitThreadpoolCallback(run, kept.get(), &environment)) return false;
+    kept.release();
+    return true;
 }

@@ -6,9 +6,8 @@
 #include <new>
 
 #include "common/runtime_error.h"
-#include "rules/file_error.h"
 #include "rules/file_replacement.h"
-#include "rules/long_path.h"
+#include "rules/windows_files.h"
 #include "win32/files/win_files.h"
 #include "win32/process/unique.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ports/record_files.h"
+#include "ports/files.h"
 
 class WinRecordFiles : public RecordFiles {
  public:

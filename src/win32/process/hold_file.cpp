@@ -1,8 +1,8 @@
 #include "win32/process/hold_file.h"
 
+#include "common/encoding.h"
 #include "common/text.h"
-#include "common/utf8.h"
-#include "rules/long_path.h"
+#include "rules/windows_files.h"
 
 namespace {
 

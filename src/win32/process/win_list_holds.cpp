@@ -2,9 +2,71 @@
 
 #include <lmcons.h>
 
-#include "win32/process/raise_program.h"
+SessionClaim::SessionClaim(const std::wstring& name)
+    : mutex_(CreateMutexW(nullptr, FALSE, (L"Local\\" + name).c_str())),
+      section_(CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(LONG),
+                                  (L"Local\\" + name + L"-programme").c_str())) {
+    if (!section_) return;
+    owner_.reset(
+        static_cast<LONG*>(MapViewOfFile(section_.get(), FILE_MAP_WRITE, 0, 0, sizeof(LONG))));
+}
+
+SessionClaim::~SessionClaim() {
+    if (!taken_) return;
+    if (owner_) InterlockedExchange(owner_.get(), 0);
+    ReleaseMutex(mutex_.get());
+}
+
+bool SessionClaim::take() {
+    if (!mutex_) return true;
+    const DWORD result = WaitForSingleObject(mutex_.get(), 0);
+    taken_ = result == WAIT_OBJECT_0 || result == WAIT_ABANDONED;
+    if (taken_ && owner_) {
+        InterlockedExchange(owner_.get(), static_cast<LONG>(GetCurrentProcessId()));
+    }
+    return taken_;
+}
+
+DWORD SessionClaim::owner() const { return owner_ ? static_cast<DWORD>(*owner_) : 0; }
 
 namespace {
+
+struct Search {
+    DWORD process;
+    HWND found = nullptr;  ///< disabled: only as long as no other is found
+};
+
+/// A window or box, and neither a tooltip nor a list that drops down.
+bool isForUsers(HWND window) {
+    return IsWindowVisible(window) &&
+           (GetWindowLongW(window, GWL_STYLE) & WS_CAPTION) == WS_CAPTION &&
+           !(GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW);
+}
+
+BOOL CALLBACK look(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<Search*>(parameter);
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (process != search.process || !isForUsers(window)) return TRUE;
+    const bool enabled = IsWindowEnabled(window) != FALSE;
+    if (enabled || !search.found) search.found = window;
+    return !enabled;
+}
+
+/// Brings the window of another program to the front that its user would work in: the uppermost
+/// one that is enabled, out of the taskbar if it is minimised. False when it shows none.
+bool raiseProgram(DWORD process) {
+    Search search{process};
+    if (process != 0) EnumWindows(look, reinterpret_cast<LPARAM>(&search));
+    if (!search.found) return false;
+    AllowSetForegroundWindow(process);
+    // Posted: the program may be waiting for an answer.
+    if (IsIconic(search.found)) ShowWindowAsync(search.found, SW_RESTORE);
+    // A box of a minimised window is hidden with it.
+    HWND box = GetLastActivePopup(search.found);
+    SetForegroundWindow(IsWindowVisible(box) ? box : search.found);
+    return true;
+}
 
 std::wstring userName() {
     wchar_t name[UNLEN + 1] = {};

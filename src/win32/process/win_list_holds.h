@@ -1,10 +1,43 @@
 #pragma once
 
+#include <windows.h>
+
+#include <memory>
 #include <optional>
+#include <string>
 
 #include "ports/list_holds.h"
 #include "win32/process/hold_file.h"
-#include "win32/process/session_claim.h"
+#include "win32/process/unique.h"
+
+/// Which program of a session has something for itself, under a name that they agree on. The
+/// claim goes with its program, however that ends: the system then abandons the mutex (Mutex
+/// Objects).
+class SessionClaim {
+ public:
+    /// `name` without backslashes. Other sessions may use it, too (Kernel object namespaces).
+    explicit SessionClaim(const std::wstring& name);
+    ~SessionClaim();
+    SessionClaim(const SessionClaim&) = delete;
+    SessionClaim& operator=(const SessionClaim&) = delete;
+
+    /// Whether this program has the claim now. True, too, when the objects belong to another user
+    /// of the session: nothing can be learned from them.
+    bool take();
+
+    /// The process that has the claim; 0 while it hasn't said so.
+    DWORD owner() const;
+
+ private:
+    struct ViewCloser {
+        void operator()(volatile LONG* view) const { UnmapViewOfFile(const_cast<LONG*>(view)); }
+    };
+
+    UniqueHandle mutex_;
+    UniqueHandle section_;
+    std::unique_ptr<volatile LONG, ViewCloser> owner_;  ///< shared with the other programs
+    bool taken_ = false;
+};
 
 class Files;
 

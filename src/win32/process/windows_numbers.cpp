@@ -4,7 +4,7 @@
 
 #include "input/notifications.h"
 #include "rules/call_error.h"
-#include "rules/file_error.h"
+#include "rules/windows_files.h"
 
 static_assert(windows_error::kFileNotFound == ERROR_FILE_NOT_FOUND);
 static_assert(windows_error::kPathNotFound == ERROR_PATH_NOT_FOUND);

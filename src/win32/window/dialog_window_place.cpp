@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "rules/in_sight.h"
+#include "rules/placement.h"
 #include "win32/window/areas.h"
 #include "win32/window/combo_field.h"
 #include "win32/window/control_class.h"

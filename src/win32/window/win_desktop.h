@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ports/desktop.h"
+#include "ports/machine.h"
 
 class WinDesktop : public Desktop {
  public:

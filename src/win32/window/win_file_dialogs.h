@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ports/file_dialogs.h"
+#include "ports/dialogs.h"
 
 class Judge;
 

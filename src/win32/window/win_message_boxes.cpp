@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "rules/boxes_and_buttons.h"
 #include "win32/process/unique.h"
 #include "win32/window/modal_question.h"
 

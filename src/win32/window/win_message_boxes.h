@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ports/message_boxes.h"
+#include "ports/dialogs.h"
 
 class Judge;
 

@@ -4,7 +4,7 @@
 
 #include <shobjidl.h>
 
-#include "rules/taskbar_progress.h"
+#include "rules/boxes_and_buttons.h"
 #include "win32/com/com_ptr.h"
 
 /// A window's button on the taskbar. A shell that has no such thing shows nothing.

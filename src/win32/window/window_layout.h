@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "rules/control_layout.h"
+#include "rules/placement.h"
 
 /// Puts the controls of a window where its layout says.
 class WindowLayout {

@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "input/judge.h"
-#include "ports/search_patience.h"
+#include "ports/search.h"
 #include "win32/process/unique.h"
 
 /// Serves the program's windows while the main thread searches: they are drawn, moved and sized,

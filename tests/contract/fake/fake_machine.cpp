@@ -1,6 +1,7 @@
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
 #include "fakes/fake_platform.h"
+#include "rules/windows_files.h"
 
 namespace {
 

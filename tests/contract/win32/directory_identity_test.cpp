@@ -1,7 +1,5 @@
 // How directories are told apart, on file systems as Windows describes them.
 
-#include "win32/files/directory_identity.h"
-
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <optional>

@@ -1,10 +1,10 @@
 // The system's thread pool as readers of directories.
 
-#include "win32/files/pool_workers.h"
-
 #include <atomic>
 #include <future>
 #include <gtest/gtest.h>
+
+#include "win32/files/win_files.h"
 
 namespace {
 

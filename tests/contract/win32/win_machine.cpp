@@ -1,10 +1,11 @@
+#include "win32/process/win_machine.h"
+
 #include <windows.h>
 
 #include "contract/machine.h"
 #include "contract/win32/real_windows.h"
-#include "rules/long_path.h"
+#include "rules/windows_files.h"
 #include "win32/files/win_files.h"
-#include "win32/process/registry_settings.h"
 
 namespace {
 

@@ -7,7 +7,6 @@
 
 #include "contract/win32/real_windows.h"
 #include "pickers/tree_walk.h"
-#include "win32/files/pool_workers.h"
 #include "win32/files/win_files.h"
 
 namespace {

@@ -5,7 +5,7 @@
 
 #include <array>
 
-#include "common/utf8.h"
+#include "common/encoding.h"
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
 #include "tracking/work_list_view.h"

@@ -1,8 +1,6 @@
-#include "common/text_decoding.h"
-
 #include <gtest/gtest.h>
 
-#include "common/utf8.h"
+#include "common/encoding.h"
 
 namespace {
 

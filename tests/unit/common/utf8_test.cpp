@@ -1,5 +1,4 @@
-#include "common/utf8.h"
-
+#include "common/encoding.h"
 #include "unit/unit_test.h"
 
 namespace {

@@ -4,8 +4,8 @@
 #include "fakes/fake_files.h"
 #include "fakes/fake_patience.h"
 #include "pickers/paths.h"
-#include "ports/events.h"
-#include "ports/workers.h"
+#include "ports/search.h"
+#include "ports/window.h"
 #include "unit/unit_test.h"
 
 TEST(DirectoryPicker, ShowsAndOpensAncestorsAndSubdirectories) {

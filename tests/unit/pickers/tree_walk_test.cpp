@@ -10,7 +10,8 @@
 #include "fakes/fake_patience.h"
 #include "pickers/in_parallel.h"
 #include "pickers/read_ahead.h"
-#include "ports/workers.h"
+#include "ports/search.h"
+#include "rules/windows_files.h"
 #include "unit/unit_test.h"
 
 namespace {

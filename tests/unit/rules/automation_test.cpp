@@ -2,7 +2,7 @@
 
 #include "fakes/fake_automation.h"
 #include "rules/call_error.h"
-#include "session/file_system_object.h"
+#include "session/program_files.h"
 #include "unit/unit_test.h"
 
 namespace {

@@ -1,7 +1,8 @@
 // What the system shows for us: its message boxes, and a window's button on its taskbar.
 
-#include "ports/message_boxes.h"
-#include "rules/taskbar_progress.h"
+#include "rules/boxes_and_buttons.h"
+
+#include "ports/dialogs.h"
 #include "unit/unit_test.h"
 
 namespace {

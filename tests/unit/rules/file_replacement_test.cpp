@@ -2,7 +2,7 @@
 
 #include "rules/file_replacement.h"
 
-#include "rules/file_error.h"
+#include "rules/windows_files.h"
 #include "unit/unit_test.h"
 
 using namespace windows_error;

@@ -1,6 +1,7 @@
+#include "rules/late_binding.h"
+
 #include "fakes/fake_message_boxes.h"
 #include "fakes/fake_waiting.h"
-#include "rules/late_bound_automation.h"
 #include "unit/unit_test.h"
 
 namespace {

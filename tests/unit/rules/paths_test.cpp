@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "rules/file_error.h"
-#include "rules/long_path.h"
+#include "rules/windows_files.h"
 
 TEST(LongPath, IsTheFormThatWindowsTakesAtAnyLength) {
     EXPECT_EQ(longPath(L"c:\\plans\\a"), L"\\\\?\\c:\\plans\\a");

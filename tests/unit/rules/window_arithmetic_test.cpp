@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "rules/control_layout.h"
-#include "rules/in_sight.h"
+#include "rules/placement.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "selection/document_search.h"
 
 #include "fakes/fake_files.h"
-#include "ports/search_patience.h"
-#include "ports/workers.h"
+#include "ports/search.h"
+#include "rules/windows_files.h"
 #include "unit/unit_test.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "cad/cad_session.h"
-#include "common/utf8.h"
+#include "common/encoding.h"
 #include "fakes/fake_platform.h"
 #include "tracking/tracking_ids.h"
 #include "tracking/tracking_window.h"

@@ -3,7 +3,7 @@
 #include <array>
 #include <random>
 
-#include "common/packed_numbers.h"
+#include "common/bytes.h"
 #include "fakes/fake_record_files.h"
 #include "unit/worklist/pass_fixture.h"
 #include "worklist/mark_keeper.h"

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <vector>
+
+#include "ports/area.h"
+#include "ports/window.h"
+
+/// Where the controls of a window stand: as its dialog template says, measured by the font that
+/// the window uses now, and following the edges of the window when it is larger.
+class ControlLayout {
+ public:
+    /// `client` is the template's area, `unit` the size of an average character of the font that
+    /// it was measured by; `shrinks` is how much smaller than the template the window can be made
+    /// (the controls that grow with it shrink), in dialog units: a quarter of that character
+    /// across, an eighth down (GetDialogBaseUnits).
+    ControlLayout(Size client, Size unit, Size shrinks = {})
+        : client_(client),
+          shrinks_{scaled(shrinks.width, unit.width, 4), scaled(shrinks.height, unit.height, 8)},
+          templateUnit_(unit),
+          unit_(unit) {}
+
+    /// A control's area in the template.
+    void add(const Area& area, Growth across, Growth down);
+
+    /// From now on measures by a font whose average character is of this size.
+    void measureBy(Size unit) { unit_ = unit; }
+
+    /// The area that is as large as the template.
+    Size templateClient() const { return scaledSize(client_); }
+
+    /// The smallest area in which all controls are in sight.
+    Size smallestClient() const;
+
+    /// Where the controls stand in an area of this size, in the order in which they were added.
+    std::vector<Area> arranged(Size client) const;
+
+ private:
+    struct Place {
+        Area area;
+        Growth across;
+        Growth down;
+    };
+
+    int across(int x) const { return scaled(x, unit_.width, templateUnit_.width); }
+    int down(int y) const { return scaled(y, unit_.height, templateUnit_.height); }
+
+    Size scaledSize(Size size) const { return {across(size.width), down(size.height)}; }
+
+    Size client_;  ///< this and all lengths are those of the template
+    Size shrinks_;
+    Size templateUnit_;
+    Size unit_;
+    std::vector<Place> places_;
+};
+
+struct Monitor {
+    Area whole;
+    Area work;  ///< without the taskbar
+};
+
+/// A window's place, moved as little as it takes to stand whole within `work`, and made smaller
+/// where it is larger than that.
+Area inSight(const Area& place, const Area& work);
+
+/// The place on the screen of a window whose normal place is given relative to the work area, as
+/// Windows keeps it for a minimised one (WINDOWPLACEMENT, workspace coordinates).
+Area placeOnScreen(const Area& normalPlace, const Monitor& nearest);
