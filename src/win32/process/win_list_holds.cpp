@@ -2,7 +2,7 @@
 
 #include <lmcons.h>
 
-SessionClaim::SessionClaim(const std::wstring& name)
+SessionHold::SessionHold(const std::wstring& name)
     : mutex_(CreateMutexW(nullptr, FALSE, (L"Local\\" + name).c_str())),
       section_(CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(LONG),
                                   (L"Local\\" + name + L"-programme").c_str())) {
@@ -11,13 +11,13 @@ SessionClaim::SessionClaim(const std::wstring& name)
         static_cast<LONG*>(MapViewOfFile(section_.get(), FILE_MAP_WRITE, 0, 0, sizeof(LONG))));
 }
 
-SessionClaim::~SessionClaim() {
+SessionHold::~SessionHold() {
     if (!taken_) return;
     if (owner_) InterlockedExchange(owner_.get(), 0);
     ReleaseMutex(mutex_.get());
 }
 
-bool SessionClaim::take() {
+bool SessionHold::take() {
     if (!mutex_) return true;
     const DWORD result = WaitForSingleObject(mutex_.get(), 0);
     taken_ = result == WAIT_OBJECT_0 || result == WAIT_ABANDONED;
@@ -27,7 +27,7 @@ bool SessionClaim::take() {
     return taken_;
 }
 
-DWORD SessionClaim::owner() const { return owner_ ? static_cast<DWORD>(*owner_) : 0; }
+DWORD SessionHold::owner() const { return owner_ ? static_cast<DWORD>(*owner_) : 0; }
 
 namespace {
 
@@ -90,10 +90,10 @@ std::wstring nameOf(Files& files, const std::wstring& list) {
 
 class Steps : public HoldSteps {
  public:
-    Steps(SessionClaim& claim, HoldFile& file) : claim_(claim), file_(file) {}
+    Steps(SessionHold& session, HoldFile& file) : session_(session), file_(file) {}
 
-    bool own() override { return claim_.take(); }
-    bool raiseOwner() override { return raiseProgram(claim_.owner()); }
+    bool own() override { return session_.take(); }
+    bool raiseOwner() override { return raiseProgram(session_.owner()); }
     HoldFileState takeFile(const ListHolder& us) override { return file_.take(us); }
     ListHolder fileHolder() override { return file_.holder(); }
     bool hasFile() override { return file_.isOpen(); }
@@ -106,7 +106,7 @@ class Steps : public HoldSteps {
     }
 
  private:
-    SessionClaim& claim_;
+    SessionHold& session_;
     HoldFile& file_;
 };
 
@@ -123,13 +123,13 @@ WinListHolds::WinListHolds(Files& files) : files_(files), us_{userName(), machin
 
 HoldAnswer WinListHolds::take(const std::wstring& list, const std::wstring& holdFile) {
     hold_.emplace(nameOf(files_, list), holdFile);
-    Steps steps(hold_->claim, hold_->file);
+    Steps steps(hold_->session, hold_->file);
     return takeHold(steps, us_);
 }
 
 std::optional<ListHolder> WinListHolds::takeAgain() {
     if (!hold_) return std::nullopt;
-    Steps steps(hold_->claim, hold_->file);
+    Steps steps(hold_->session, hold_->file);
     return renewal_.takeAgain(steps, us_);
 }
 
@@ -137,7 +137,7 @@ std::optional<ListHolder> WinListHolds::whileFree(const std::wstring& list,
                                                   const std::wstring& holdFile,
                                                   const std::function<void()>& deed) {
     Hold hold(nameOf(files_, list), holdFile);
-    QuietSteps steps(hold.claim, hold.file);
+    QuietSteps steps(hold.session, hold.file);
     const HoldAnswer answer = takeHold(steps, us_);
     if (answer.kind == HoldAnswer::Kind::RaisedOther) return us_;
     if (answer.kind == HoldAnswer::Kind::HeldElsewhere) return answer.holder;

@@ -11,21 +11,21 @@
 #include "win32/process/unique.h"
 
 /// Which program of a session has something for itself, under a name that they agree on. The
-/// claim goes with its program, however that ends: the system then abandons the mutex (Mutex
+/// hold goes with its program, however that ends: the system then abandons the mutex (Mutex
 /// Objects).
-class SessionClaim {
+class SessionHold {
  public:
     /// `name` without backslashes. Other sessions may use it, too (Kernel object namespaces).
-    explicit SessionClaim(const std::wstring& name);
-    ~SessionClaim();
-    SessionClaim(const SessionClaim&) = delete;
-    SessionClaim& operator=(const SessionClaim&) = delete;
+    explicit SessionHold(const std::wstring& name);
+    ~SessionHold();
+    SessionHold(const SessionHold&) = delete;
+    SessionHold& operator=(const SessionHold&) = delete;
 
-    /// Whether this program has the claim now. True, too, when the objects belong to another user
+    /// Whether this program has the hold now. True, too, when the objects belong to another user
     /// of the session: nothing can be learned from them.
     bool take();
 
-    /// The process that has the claim; 0 while it hasn't said so.
+    /// The process that has the hold; 0 while it hasn't said so.
     DWORD owner() const;
 
  private:
@@ -41,7 +41,7 @@ class SessionClaim {
 
 class Files;
 
-/// Holds on lists, by a claim in the user's session and a file beside the list.
+/// Holds on lists: in the user's session by a mutex, between machines by a file beside the list.
 class WinListHolds : public ListHolds {
  public:
     explicit WinListHolds(Files& files);
@@ -53,10 +53,10 @@ class WinListHolds : public ListHolds {
  private:
     struct Hold {
         Hold(const std::wstring& name, const std::wstring& holdFile)
-            : claim(name), file(holdFile) {}
+            : session(name), file(holdFile) {}
 
-        SessionClaim claim;
-        // Goes first: who gets the claim then finds no file any more.
+        SessionHold session;
+        // Goes first: who gets the session's hold then finds no file any more.
         HoldFile file;
     };
 
