@@ -70,8 +70,8 @@ Alert PassRunner::alert() const {
 }
 
 void PassRunner::keepMarks(std::optional<std::int32_t> opening) {
-    keepHoldOfList(platform_, files_);
     marks_.keep(pass_.list(), opening);
+    keepHoldOfList(platform_, files_);
     if (marks_.takeFailure()) platform_.messageBoxes.show(marksNotKeptBox());
 }
 
