@@ -1,36 +1,49 @@
 #pragma once
 
+#include <array>
+#include <memory>
 #include <string>
 #include <utility>
 
 #include "ports/automation.h"
 
 /// An object that answers every call at once: a text to a question for one, else a document.
-struct AnsweringObject : AutomationObject {
+struct AnsweringObject : ServedObject {
     explicit AnsweringObject(std::wstring directory = {})
         : workingDirectory(std::move(directory)) {}
     std::wstring workingDirectory;
 
-    Value call(std::wstring_view name, std::span<const Argument>, std::wstring_view) override {
-        if (name == L"GetTitle" || name == L"RevisionNumber") return std::wstring(L"12.0");
-        if (name == L"GetCurrentWorkingDirectory") return workingDirectory;
-        if (name == L"OpenDoc6" || name == L"ActivateDoc2") {
-            return ObjectPtr(std::make_shared<AnsweringObject>());
-        }
-        return true;
+    enum Member : std::int32_t { Title, Directory, Document, Other };
+
+    CallResult lookUp(std::wstring_view name, std::int32_t& member) override {
+        member = name == L"GetTitle" || name == L"RevisionNumber" ? Title
+                 : name == L"GetCurrentWorkingDirectory"          ? Directory
+                 : name == L"OpenDoc6" || name == L"ActivateDoc2" ? Document
+                                                                  : Other;
+        return 0;
     }
-    void put(std::wstring_view, const Argument&) override {}
+    CallResult invoke(std::int32_t member, Access, std::span<const Argument>,
+                      ServersReply& reply) override {
+        if (member == Title) reply.value = std::wstring(L"12.0");
+        if (member == Directory) reply.value = workingDirectory;
+        if (member == Document) reply.object = std::make_shared<AnsweringObject>();
+        if (member == Other) reply.value = true;
+        return 0;
+    }
 };
 
-struct AnsweringAutomation : Automation {
-    explicit AnsweringAutomation(std::wstring directory) : workingDirectory(std::move(directory)) {}
+struct AnsweringServers : ObjectServers {
+    explicit AnsweringServers(std::wstring directory) : workingDirectory(std::move(directory)) {}
     std::wstring workingDirectory;
 
-    ObjectPtr attach(const std::wstring&) override {
-        return std::make_shared<AnsweringObject>(workingDirectory);
+    CallResult running(const std::wstring&, std::shared_ptr<ServedObject>& object) override {
+        object = std::make_shared<AnsweringObject>(workingDirectory);
+        return 0;
     }
-    ObjectPtr attachNamed(const std::wstring&, const std::wstring& progId) override {
-        return attach(progId);
+    std::shared_ptr<ServedObject> make(const std::wstring&) override {
+        return std::make_shared<AnsweringObject>();
     }
-    ObjectPtr create(const std::wstring&) override { return std::make_shared<AnsweringObject>(); }
+    CallResult runningNamed(const std::wstring&, std::shared_ptr<ServedObject>& object) override {
+        return running({}, object);
+    }
 };

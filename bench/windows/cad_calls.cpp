@@ -10,13 +10,9 @@
 #include "driver/text.h"
 #include "driver/trial_cad.h"
 #include "rows.h"
-#include "rules/late_binding.h"
-#include "rules/patience.h"
 #include "stage.h"
 #include "win32/com/message_filter.h"
 #include "win32/com/win_objects.h"
-#include "win32/window/input_sieve.h"
-#include "win32/window/win_busy_waiting.h"
 
 namespace {
 
@@ -82,17 +78,13 @@ Row cadCalls(const Setting& setting) {
     const std::wstring path = driver::wide(sandbox.addDocument("piece.SLDPRT"));
 
     BareDocument bare(path);
-    Judge judge(doubleClickLimits(), [] { return Moment{GetTickCount64()}; });
-    const InputSieve sieve(judge);
-    WinMessageBoxes boxes(judge);
-    WinBusyWaiting waiting(judge);
-    Patience patience(waiting, boxes, judge);
-    MessageFilter filter(patience);
+    Entrance entrance;
     WinObjectServers servers;
-    LateBoundAutomation automation(servers, patience);
     DesktopWithAll desktop;
+    Machine machine(entrance, servers, desktop);
+    MessageFilter filter(machine.patience);
     CadSession cad(desktop);
-    require(cad.attach(automation), "a running session");
+    require(cad.attach(machine.automation), "a running session");
 
     const auto subject = [&] {
         cad.open(path, {.silent = true, .rebuild = LoadingOptions::Rebuild::AllLevels});

@@ -4,14 +4,8 @@
 #include "setting.h"
 
 Stage::Stage(const std::wstring& workingDirectory, const std::wstring& list)
-    : windows_(gate_),
-      automation_{workingDirectory},
-      platform{automation_, settings_, files_,        records_,
-               listHolds_,  clock_,    messageBoxes_, fileDialogs_,
-               desktop_,    power_,    windows_,      {files_, workers_, patience_},
-               L""},
-      files{L"", list, L""} {
-    cad.attach(automation_);
+    : servers_{workingDirectory}, files{L"", list, L""} {
+    cad.attach(machine_.automation);
     cad.identify();
 }
 

@@ -5,23 +5,11 @@
 #include <memory>
 
 #include "answering_cad.h"
+#include "app/machine.h"
 #include "cad/cad_session.h"
-#include "input/event_gate.h"
-#include "ports/machine.h"
-#include "ports/platform.h"
 #include "selection/selection_window.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
-#include "win32/files/win_files.h"
-#include "win32/files/win_record_files.h"
-#include "win32/process/win_list_holds.h"
-#include "win32/process/win_machine.h"
-#include "win32/window/dialog_window.h"
-#include "win32/window/input_sieve.h"
-#include "win32/window/win_file_dialogs.h"
-#include "win32/window/win_gate_keeper.h"
-#include "win32/window/win_message_boxes.h"
-#include "win32/window/window_patience.h"
 
 /// A desktop where every window is found.
 struct DesktopWithAll : Desktop {
@@ -54,29 +42,16 @@ class Stage {
     explicit Stage(const std::wstring& workingDirectory = {}, const std::wstring& list = {});
 
  private:
-    Judge judge_{doubleClickLimits(), [] { return Moment{GetTickCount64()}; }};
-    InputSieve sieve_{judge_};
-    WinGateKeeper keeper_{judge_};
-    WinMessageBoxes messageBoxes_{judge_};
-    EventGate gate_{keeper_, messageBoxes_, judge_};
-    DialogFactory windows_;
-    AnsweringAutomation automation_;
-    RegistrySettings settings_;
-    WinFiles& files_ = *new WinFiles;  // for readers that outlive the stage
-    WinRecordFiles records_;
-    WinListHolds listHolds_{files_};
-    WinClock clock_;
-    WinFileDialogs fileDialogs_{judge_};
+    Entrance entrance_;
+    AnsweringServers servers_;
     DesktopWithAll desktop_;
-    WinPower power_;
-    PoolWorkers workers_;
-    WindowPatience patience_{judge_};
+    Machine machine_{entrance_, servers_, desktop_};
 
  public:
-    Platform platform;
+    Platform& platform = machine_.platform;
     NoExits exits;
     ProgramFiles files;
-    WindowPlaces places{settings_};
+    WindowPlaces places{platform.settings};
     CadSession cad{desktop_};
 };
 

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "ports/automation.h"
 #include "ports/machine.h"
+#include "rules/late_binding.h"
 #include "worklist/remark.h"
 
 /// How a document is loaded.

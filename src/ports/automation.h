@@ -1,12 +1,14 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 #include <memory>
 #include <span>
 #include <string>
 #include <string_view>
 #include <variant>
+
+// Objects of other programs, as the machine offers them: by the numbers of their members. The core
+// drives them by name (rules/late_binding.h).
 
 class AutomationObject;
 using ObjectPtr = std::shared_ptr<AutomationObject>;
@@ -20,52 +22,40 @@ using Value =
 using Argument = std::variant<std::wstring, bool, std::int16_t, std::int32_t, std::wstring*,
                               std::int16_t*, std::int32_t*>;
 
-/// An object of another program, driven late-bound, by the names of its members.
-class AutomationObject {
- public:
-    virtual ~AutomationObject() = default;
+/// What a call answers: a HRESULT (winerror.h), negative when it failed.
+using CallResult = std::int32_t;
 
-    /// Calls the method `name`, spelled as the server is to receive it, arguments in order.
-    /// `resultClass` names the class of an object it returns: objects of one class must answer a
-    /// name alike, for each name is looked up only once per class. An object without a class
-    /// shares none: its names are looked up afresh.
-    /// Raises 13, 438 or 440 as the server refuses or fails.
-    virtual Value call(std::wstring_view name, std::span<const Argument> arguments,
-                       std::wstring_view resultClass) = 0;
-
-    /// Sets the property `name`. Raises as `call` does.
-    virtual void put(std::wstring_view name, const Argument& value) = 0;
+/// What a server answers to a call beside its result code.
+struct ServersReply {
+    Value value = {};                                 ///< what it gave, unless that is an object
+    std::shared_ptr<class ServedObject> object = {};  ///< the object it gave, if any
+    CallResult errorCode = 0;                         ///< why it failed, in its own number …
+    std::wstring description = {};                    ///< … and its own words
 };
 
-class Automation {
+/// An object as its server offers it.
+class ServedObject {
  public:
-    virtual ~Automation() = default;
+    enum class Access { Call, Put };
 
-    /// The running object registered for `progId`; never starts one. Null when there is none.
-    /// Raises 440 when it is busy and the user gives up waiting.
-    virtual ObjectPtr attach(const std::wstring& progId) = 0;
-
-    /// The first running object whose display name begins so, in any letter case; null when there
-    /// is none. `progId` tells what it is. Raises as `attach`.
-    virtual ObjectPtr attachNamed(const std::wstring& beginning, const std::wstring& progId) = 0;
-
-    /// A new object of the class `progId`. Raises 440 when the class can't be created.
-    virtual ObjectPtr create(const std::wstring& progId) = 0;
+    virtual ~ServedObject() = default;
+    virtual CallResult lookUp(std::wstring_view name, std::int32_t& member) = 0;
+    virtual CallResult invoke(std::int32_t member, Access access,
+                              std::span<const Argument> arguments, ServersReply& reply) = 0;
 };
 
-/// Calls a method of an object that may be empty. Raises 91 when it is.
-Value callMethod(const ObjectPtr& object, std::wstring_view name,
-                 std::initializer_list<Argument> arguments = {},
-                 std::wstring_view resultClass = {});
+/// Where objects of other programs are found.
+class ObjectServers {
+ public:
+    virtual ~ObjectServers() = default;
 
-/// Sets a property of an object that may be empty. Raises 91 when it is.
-void putProperty(const ObjectPtr& object, std::wstring_view name, const Argument& value);
-
-/// The text of a call's result. Raises 13 when it is something else.
-std::wstring textOf(const Value& value);
-
-/// The object of a call's result, null when it holds none.
-ObjectPtr objectOf(const Value& value);
-
-/// True for the automation boolean true (all bits set) and nothing else.
-bool isTrue(const Value& value);
+    /// The running object registered for a class; leaves `object` empty when there is none, or when
+    /// it is too busy to be had now.
+    virtual CallResult running(const std::wstring& progId,
+                               std::shared_ptr<ServedObject>& object) = 0;
+    /// The same of the first one whose display name begins so, in any letter case.
+    virtual CallResult runningNamed(const std::wstring& beginning,
+                                    std::shared_ptr<ServedObject>& object) = 0;
+    /// A new object, null when none can be made.
+    virtual std::shared_ptr<ServedObject> make(const std::wstring& progId) = 0;
+};

@@ -5,9 +5,7 @@
 #include <string_view>
 
 #include "common/runtime_error.h"
-
-/// What a late-bound call answers: a HRESULT (winerror.h), negative when it failed.
-using CallResult = std::int32_t;
+#include "ports/automation.h"
 
 namespace call_result {
 inline constexpr CallResult failure(std::uint32_t code) { return static_cast<CallResult>(code); }

@@ -4,24 +4,24 @@
 
 #include "common/runtime_error.h"
 
-LateBoundObject::LateBoundObject(std::shared_ptr<ServedObject> object, LateBinding& binding,
-                                 std::wstring_view objectClass)
+AutomationObject::AutomationObject(std::shared_ptr<ServedObject> object, LateBinding& binding,
+                                   std::wstring_view objectClass)
     : object_(std::move(object)),
       binding_(binding),
       numbers_(objectClass.empty() ? ownNumbers_ : binding.tables[std::wstring(objectClass)]) {}
 
-Value LateBoundObject::call(std::wstring_view name, std::span<const Argument> arguments,
-                            std::wstring_view resultClass) {
+Value AutomationObject::call(std::wstring_view name, std::span<const Argument> arguments,
+                             std::wstring_view resultClass) {
     ServersReply reply = invoke(name, Access::Call, arguments);
     if (!reply.object) return reply.value;
-    return std::make_shared<LateBoundObject>(std::move(reply.object), binding_, resultClass);
+    return std::make_shared<AutomationObject>(std::move(reply.object), binding_, resultClass);
 }
 
-void LateBoundObject::put(std::wstring_view name, const Argument& value) {
+void AutomationObject::put(std::wstring_view name, const Argument& value) {
     invoke(name, Access::Put, {&value, 1});
 }
 
-std::int32_t LateBoundObject::numberOf(std::wstring_view name) {
+std::int32_t AutomationObject::numberOf(std::wstring_view name) {
     if (const auto known = numbers_.find(name); known != numbers_.end()) return known->second;
     std::int32_t member = 0;
     const CallResult result = binding_.patience.call([&] { return object_->lookUp(name, member); });
@@ -30,15 +30,15 @@ std::int32_t LateBoundObject::numberOf(std::wstring_view name) {
     return member;
 }
 
-CallResult LateBoundObject::invokeOnce(std::wstring_view name, Access access,
-                                       std::span<const Argument> arguments, ServersReply& reply) {
+CallResult AutomationObject::invokeOnce(std::wstring_view name, Access access,
+                                        std::span<const Argument> arguments, ServersReply& reply) {
     const std::int32_t member = numberOf(name);
     return binding_.patience.call(
         [&] { return object_->invoke(member, access, arguments, reply); });
 }
 
-ServersReply LateBoundObject::invoke(std::wstring_view name, Access access,
-                                     std::span<const Argument> arguments) {
+ServersReply AutomationObject::invoke(std::wstring_view name, Access access,
+                                      std::span<const Argument> arguments) {
     ServersReply reply;
     CallResult result = invokeOnce(name, access, arguments, reply);
     if (result == call_result::kMemberNotFound) {
@@ -50,25 +50,53 @@ ServersReply LateBoundObject::invoke(std::wstring_view name, Access access,
     return reply;
 }
 
-ObjectPtr LateBoundAutomation::attach(const std::wstring& progId) {
+ObjectPtr Automation::attach(const std::wstring& progId) {
     return attachBy([&](auto& object) { return servers_.running(progId, object); }, progId);
 }
 
-ObjectPtr LateBoundAutomation::attachNamed(const std::wstring& beginning,
-                                           const std::wstring& progId) {
+ObjectPtr Automation::attachNamed(const std::wstring& beginning, const std::wstring& progId) {
     return attachBy([&](auto& object) { return servers_.runningNamed(beginning, object); }, progId);
 }
 
-ObjectPtr LateBoundAutomation::attachBy(const Attempt& attempt, const std::wstring& progId) {
+ObjectPtr Automation::attachBy(const Attempt& attempt, const std::wstring& progId) {
     std::shared_ptr<ServedObject> object;
     const CallResult result = binding_.patience.call([&] { return attempt(object); });
     if (isBusy(result)) throw callError({.result = result, .name = progId});
     if (!object) return nullptr;
-    return std::make_shared<LateBoundObject>(std::move(object), binding_, progId);
+    return std::make_shared<AutomationObject>(std::move(object), binding_, progId);
 }
 
-ObjectPtr LateBoundAutomation::create(const std::wstring& progId) {
+ObjectPtr Automation::create(const std::wstring& progId) {
     auto object = servers_.make(progId);
     if (!object) throw errors::automation(L"L'objet " + progId + L" ne peut pas être créé.");
-    return std::make_shared<LateBoundObject>(std::move(object), binding_, progId);
+    return std::make_shared<AutomationObject>(std::move(object), binding_, progId);
+}
+
+Value callMethod(const ObjectPtr& object, std::wstring_view name,
+                 std::initializer_list<Argument> arguments, std::wstring_view resultClass) {
+    if (!object) throw errors::emptyObject();
+    return object->call(name, {arguments.begin(), arguments.size()}, resultClass);
+}
+
+void putProperty(const ObjectPtr& object, std::wstring_view name, const Argument& value) {
+    if (!object) throw errors::emptyObject();
+    object->put(name, value);
+}
+
+std::wstring textOf(const Value& value) {
+    if (const auto* text = std::get_if<std::wstring>(&value)) return *text;
+    if (std::holds_alternative<std::monostate>(value)) return {};
+    throw errors::typeMismatch(L"un texte était attendu de SolidWorks");
+}
+
+ObjectPtr objectOf(const Value& value) {
+    const auto* object = std::get_if<ObjectPtr>(&value);
+    return object ? *object : nullptr;
+}
+
+bool isTrue(const Value& value) {
+    if (const auto* flag = std::get_if<bool>(&value)) return *flag;
+    if (const auto* number = std::get_if<std::int16_t>(&value)) return *number == -1;
+    if (const auto* number = std::get_if<std::int32_t>(&value)) return *number == -1;
+    return false;
 }

@@ -1,31 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <string>
 
 #include "ports/automation.h"
 #include "rules/patience.h"
-
-/// What a server answers to a call beside its result code.
-struct ServersReply {
-    Value value;                                 ///< what it gave, unless that is an object
-    std::shared_ptr<class ServedObject> object;  ///< the object it gave, if any
-    CallResult errorCode = 0;                    ///< why it failed, in its own number …
-    std::wstring description;                    ///< … and its own words
-};
-
-/// An object as its server offers it: by the numbers of its members.
-class ServedObject {
- public:
-    enum class Access { Call, Put };
-
-    virtual ~ServedObject() = default;
-    virtual CallResult lookUp(std::wstring_view name, std::int32_t& member) = 0;
-    virtual CallResult invoke(std::int32_t member, Access access,
-                              std::span<const Argument> arguments, ServersReply& reply) = 0;
-};
 
 /// The members' numbers already asked for: one table per class of objects.
 using MemberNumbers = std::map<std::wstring, std::int32_t, std::less<>>;
@@ -37,18 +19,26 @@ struct LateBinding {
     MemberTables tables = {};
 };
 
-/// An object of another program, driven by name. Refused calls are repeated with patience.
-class LateBoundObject : public AutomationObject {
+/// An object of another program, driven late-bound, by the names of its members. Refused calls are
+/// repeated with patience.
+class AutomationObject {
  public:
     /// Of an object without a class the names are looked up afresh.
-    LateBoundObject(std::shared_ptr<ServedObject> object, LateBinding& binding,
-                    std::wstring_view objectClass);
-    LateBoundObject(const LateBoundObject&) = delete;
-    LateBoundObject& operator=(const LateBoundObject&) = delete;
+    AutomationObject(std::shared_ptr<ServedObject> object, LateBinding& binding,
+                     std::wstring_view objectClass);
+    AutomationObject(const AutomationObject&) = delete;
+    AutomationObject& operator=(const AutomationObject&) = delete;
 
+    /// Calls the method `name`, spelled as the server is to receive it, arguments in order.
+    /// `resultClass` names the class of an object it returns: objects of one class must answer a
+    /// name alike, for each name is looked up only once per class. An object without a class
+    /// shares none: its names are looked up afresh.
+    /// Raises 13, 438 or 440 as the server refuses or fails.
     Value call(std::wstring_view name, std::span<const Argument> arguments,
-               std::wstring_view resultClass) override;
-    void put(std::wstring_view name, const Argument& value) override;
+               std::wstring_view resultClass);
+
+    /// Sets the property `name`. Raises as `call` does.
+    void put(std::wstring_view name, const Argument& value);
 
  private:
     using Access = ServedObject::Access;
@@ -64,31 +54,22 @@ class LateBoundObject : public AutomationObject {
     MemberNumbers& numbers_;
 };
 
-/// Where objects of other programs are found.
-class ObjectServers {
+/// Objects of other programs, found by their class. Must outlive them.
+class Automation {
  public:
-    virtual ~ObjectServers() = default;
-
-    /// The running object registered for a class; leaves `object` empty when there is none, or when
-    /// it is too busy to be had now.
-    virtual CallResult running(const std::wstring& progId,
-                               std::shared_ptr<ServedObject>& object) = 0;
-    /// The same of the first one whose display name begins so, in any letter case.
-    virtual CallResult runningNamed(const std::wstring& beginning,
-                                    std::shared_ptr<ServedObject>& object) = 0;
-    /// A new object, null when none can be made.
-    virtual std::shared_ptr<ServedObject> make(const std::wstring& progId) = 0;
-};
-
-/// Late-bound objects of those servers. Must outlive the objects.
-class LateBoundAutomation : public Automation {
- public:
-    LateBoundAutomation(ObjectServers& servers, Patience& patience)
+    Automation(ObjectServers& servers, Patience& patience)
         : servers_(servers), binding_{patience} {}
 
-    ObjectPtr attach(const std::wstring& progId) override;
-    ObjectPtr attachNamed(const std::wstring& beginning, const std::wstring& progId) override;
-    ObjectPtr create(const std::wstring& progId) override;
+    /// The running object registered for `progId`; never starts one. Null when there is none.
+    /// Raises 440 when it is busy and the user gives up waiting.
+    ObjectPtr attach(const std::wstring& progId);
+
+    /// The first running object whose display name begins so, in any letter case; null when there
+    /// is none. `progId` tells what it is. Raises as `attach`.
+    ObjectPtr attachNamed(const std::wstring& beginning, const std::wstring& progId);
+
+    /// A new object of the class `progId`. Raises 440 when the class can't be created.
+    ObjectPtr create(const std::wstring& progId);
 
  private:
     using Attempt = std::function<CallResult(std::shared_ptr<ServedObject>& object)>;
@@ -97,3 +78,20 @@ class LateBoundAutomation : public Automation {
     ObjectServers& servers_;
     LateBinding binding_;
 };
+
+/// Calls a method of an object that may be empty. Raises 91 when it is.
+Value callMethod(const ObjectPtr& object, std::wstring_view name,
+                 std::initializer_list<Argument> arguments = {},
+                 std::wstring_view resultClass = {});
+
+/// Sets a property of an object that may be empty. Raises 91 when it is.
+void putProperty(const ObjectPtr& object, std::wstring_view name, const Argument& value);
+
+/// The text of a call's result. Raises 13 when it is something else.
+std::wstring textOf(const Value& value);
+
+/// The object of a call's result, null when it holds none.
+ObjectPtr objectOf(const Value& value);
+
+/// True for the automation boolean true (all bits set) and nothing else.
+bool isTrue(const Value& value);

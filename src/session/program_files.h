@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "ports/automation.h"
+#include "rules/late_binding.h"
 #include "worklist/list_file.h"
 
 /// The files that the program keeps for its user, by their full paths.

@@ -23,33 +23,40 @@ std::wstring textArgument(const Argument& argument) {
 
 }  // namespace
 
-struct FakeAutomation::Object : AutomationObject {
+struct FakeAutomation::Object : ServedObject {
     explicit Object(FakeAutomation& all, std::wstring itsName = {})
         : server(all), name(std::move(itsName)) {}
 
     FakeAutomation& server;
     std::wstring name;
 
-    std::wstring prefix() const { return name.empty() ? name : name + L'.'; }
-    Value call(std::wstring_view method, std::span<const Argument> arguments,
-               std::wstring_view) override {
-        std::wstring line = prefix() + std::wstring(method) + L'(';
-        for (std::size_t i = 0; i < arguments.size(); ++i) {
-            line += (i == 0 ? L"" : L", ") + std::visit(ArgumentText(), arguments[i]);
-        }
-        server.journal.push_back(line + L')');
-        return server.answer(name, method, arguments);
+    CallResult lookUp(std::wstring_view member, std::int32_t& number) override {
+        number = static_cast<std::int32_t>(server.members_.size());
+        server.members_.emplace_back(member);
+        return 0;
     }
-    void put(std::wstring_view property, const Argument& value) override {
-        server.journal.push_back(prefix() + std::wstring(property) + L" = " +
-                                 std::visit(ArgumentText(), value));
+    CallResult invoke(std::int32_t number, Access access, std::span<const Argument> arguments,
+                      ServersReply& reply) override {
+        const std::wstring member = server.members_.at(static_cast<std::size_t>(number));
+        const std::wstring line = (name.empty() ? name : name + L'.') + member;
+        if (access == Access::Put) {
+            server.journal.push_back(line + L" = " + std::visit(ArgumentText(), arguments[0]));
+            return 0;
+        }
+        std::wstring texts;
+        for (const Argument& argument : arguments) {
+            texts += (texts.empty() ? L"" : L", ") + std::visit(ArgumentText(), argument);
+        }
+        server.journal.push_back(line + L'(' + texts + L')');
+        reply = server.answer(name, member, arguments);
+        return 0;
     }
 };
 
-Value FakeAutomation::answer(const std::wstring& object, std::wstring_view name,
-                             std::span<const Argument> arguments) {
+ServersReply FakeAutomation::answer(const std::wstring& object, std::wstring_view name,
+                                    std::span<const Argument> arguments) {
     const auto instead = overrides.find(name);
-    if (instead != overrides.end()) return instead->second(arguments);
+    if (instead != overrides.end()) return {.value = instead->second(arguments)};
     const bool opens = name == L"OpenDoc6" || name == L"ActivateDoc2";
     const std::wstring path = opens ? textArgument(arguments[0]) : object;
     const std::wstring document = path.substr(path.rfind(L'\\') + 1);
@@ -61,38 +68,40 @@ Value FakeAutomation::answer(const std::wstring& object, std::wstring_view name,
             *std::get<std::int32_t*>(arguments[4]) = said.errorCode;
             *std::get<std::int32_t*>(arguments[5]) = said.warningCode;
         }
-        if (!documentsOpen || !said.opens) return ObjectPtr();
-        return std::make_shared<Object>(*this, document);
+        if (!documentsOpen || !said.opens) return {.value = ObjectPtr()};
+        return {.object = std::make_shared<Object>(*this, document)};
     }
     if (name == L"setsearchfolders") {
         searchFolders = textArgument(arguments[1]);
-        return setSearchFoldersResult;
+        return {.value = setSearchFoldersResult};
     }
-    if (name == L"RevisionNumber") return revision;
-    if (name == L"GetCurrentWorkingDirectory") return workingDirectory;
-    if (name == L"GetSearchFolders") return searchFolders;
-    if (name == L"GetTitle") return object;
-    if (name == L"ForceRebuild3") return true;
-    if (name == L"save2") return said.saved;
-    if (name == L"SetCurrentWorkingDirectory") return true;
+    if (name == L"RevisionNumber") return {.value = revision};
+    if (name == L"GetCurrentWorkingDirectory") return {.value = workingDirectory};
+    if (name == L"GetSearchFolders") return {.value = searchFolders};
+    if (name == L"GetTitle") return {.value = object};
+    if (name == L"ForceRebuild3") return {.value = true};
+    if (name == L"save2") return {.value = said.saved};
+    if (name == L"SetCurrentWorkingDirectory") return {.value = true};
     if (name == L"closedoc" || name == L"ViewZoomtofit2") return {};
-    if (name == L"fileExists") return fileExists(textArgument(arguments[0]));
+    if (name == L"fileExists") return {.value = fileExists(textArgument(arguments[0]))};
     throw errors::unknownMember(std::wstring(name));
 }
 
-ObjectPtr FakeAutomation::attach(const std::wstring& progId) {
+CallResult FakeAutomation::running(const std::wstring& progId,
+                                   std::shared_ptr<ServedObject>& object) {
     journal.push_back(L"attach " + progId);
-    if (hasNamedOnly) return nullptr;
-    return std::make_shared<Object>(*this);
+    if (!hasNamedOnly) object = std::make_shared<Object>(*this);
+    return 0;
 }
 
-ObjectPtr FakeAutomation::attachNamed(const std::wstring& beginning, const std::wstring&) {
+CallResult FakeAutomation::runningNamed(const std::wstring& beginning,
+                                        std::shared_ptr<ServedObject>& object) {
     journal.push_back(L"attach " + beginning + L"…");
-    if (!hasNamedOnly) return nullptr;
-    return std::make_shared<Object>(*this);
+    if (hasNamedOnly) object = std::make_shared<Object>(*this);
+    return 0;
 }
 
-ObjectPtr FakeAutomation::create(const std::wstring& progId) {
+std::shared_ptr<ServedObject> FakeAutomation::make(const std::wstring& progId) {
     journal.push_back(L"create " + progId);
     return std::make_shared<Object>(*this, L"Fso");
 }

@@ -6,7 +6,9 @@
 #include <utility>
 #include <vector>
 
-#include "ports/automation.h"
+#include "fakes/fake_message_boxes.h"
+#include "fakes/fake_waiting.h"
+#include "rules/late_binding.h"
 
 /// The calls received by all fake objects, in order, as texts: `name(argument, …)`, texts in
 /// quotes, numbers with their type, by-reference arguments marked &; a document's calls carry its
@@ -22,7 +24,7 @@ struct FakeDocument {
 };
 
 /// A running CAD application whose documents open and close, and a file-system object.
-struct FakeAutomation : Automation {
+struct FakeAutomation : ObjectServers {
     using Answer = std::function<Value(std::span<const Argument>)>;
 
     CallJournal journal;
@@ -39,9 +41,13 @@ struct FakeAutomation : Automation {
     std::map<std::wstring, Answer, std::less<>> overrides;
 
     bool hasNamedOnly = false;  ///< found by its display name alone
-    ObjectPtr attach(const std::wstring& progId) override;
-    ObjectPtr attachNamed(const std::wstring& beginning, const std::wstring& progId) override;
-    ObjectPtr create(const std::wstring& progId) override;
+    CallResult running(const std::wstring& progId, std::shared_ptr<ServedObject>& object) override;
+    CallResult runningNamed(const std::wstring& beginning,
+                            std::shared_ptr<ServedObject>& object) override;
+    std::shared_ptr<ServedObject> make(const std::wstring& progId) override;
+
+    /// It is driven by name, as the real one.
+    operator Automation&() { return byName_; }
 
     /// The calls since the last time this was asked.
     CallJournal takeJournal() { return std::exchange(journal, {}); }
@@ -50,6 +56,12 @@ struct FakeAutomation : Automation {
     struct Object;
 
     /// What the object of this name answers to a call.
-    Value answer(const std::wstring& object, std::wstring_view name,
-                 std::span<const Argument> arguments);
+    ServersReply answer(const std::wstring& object, std::wstring_view name,
+                        std::span<const Argument> arguments);
+
+    std::vector<std::wstring> members_;  ///< by their numbers
+    FakeMessageBoxes boxes_;
+    FakeWaiting waiting_;
+    Patience patience_{waiting_, boxes_, waiting_.judge};
+    Automation byName_{*this, patience_};
 };

@@ -7,7 +7,7 @@
 #include <span>
 #include <utility>
 
-#include "rules/late_binding.h"
+#include "ports/automation.h"
 #include "win32/com/com_ptr.h"
 
 /// An IDispatch.

@@ -100,6 +100,17 @@ DWORD makeLong(const wchar_t* path, wchar_t* buffer, DWORD size) {
 
 }  // namespace
 
+std::wstring programDirectory() {
+    std::wstring path(MAX_PATH, L'\0');
+    DWORD length = 0;
+    while ((length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()))) ==
+           path.size()) {
+        path.resize(path.size() * 2);
+    }
+    path.resize(length);
+    return path.substr(0, path.find_last_of(L'\\'));
+}
+
 std::vector<std::wstring> namedFiles() {
     int count = 0;
     const Unique<wchar_t**, LocalFree> arguments(

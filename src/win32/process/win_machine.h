@@ -21,6 +21,9 @@ class RegistrySettings : public Settings {
                const std::wstring& key, const std::wstring& value) override;
 };
 
+/// The program's own, without a trailing backslash.
+std::wstring programDirectory();
+
 /// The files that the command line names after the program, by their full paths: relative ones are
 /// taken from the current directory, short forms of names made long. What is no path at all stays
 /// as it is.

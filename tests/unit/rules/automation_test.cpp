@@ -1,5 +1,3 @@
-#include "ports/automation.h"
-
 #include "fakes/fake_automation.h"
 #include "rules/call_error.h"
 #include "session/program_files.h"

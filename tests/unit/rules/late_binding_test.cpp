@@ -67,7 +67,7 @@ struct LateBindingTest : testing::Test {
     FakeMessageBoxes boxes;
     Patience patience{clock, boxes, clock.judge};
     FakeServers servers;
-    LateBoundAutomation automation{servers, patience};
+    Automation automation{servers, patience};
     Kind parts{.saveNumber = 7};
     Kind drawings{.saveNumber = 8};
 

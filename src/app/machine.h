@@ -1,0 +1,74 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include "input/event_gate.h"
+#include "input/judge.h"
+#include "ports/platform.h"
+#include "rules/late_binding.h"
+#include "rules/patience.h"
+#include "win32/files/win_files.h"
+#include "win32/files/win_record_files.h"
+#include "win32/process/win_list_holds.h"
+#include "win32/process/win_machine.h"
+#include "win32/window/dialog_window.h"
+#include "win32/window/input_sieve.h"
+#include "win32/window/win_busy_waiting.h"
+#include "win32/window/win_file_dialogs.h"
+#include "win32/window/win_gate_keeper.h"
+#include "win32/window/win_message_boxes.h"
+#include "win32/window/window_patience.h"
+
+/// The way in of events. It stands before all else: what fails behind it becomes a box.
+struct Entrance {
+    Judge judge{doubleClickLimits(), [] { return Moment{GetTickCount64()}; }};
+    WinGateKeeper keeper{judge};
+    WinMessageBoxes boxes{judge};
+    EventGate gate{keeper, boxes, judge};
+};
+
+/// All that the program needs of Windows, put together. What the bench has of its own, the CAD
+/// application and the desktop, comes from outside.
+struct Machine {
+    Machine(Entrance& entrance, ObjectServers& servers, Desktop& desktop,
+            std::function<void()> showHelp = {})
+        : waiting(entrance.judge),
+          patience(waiting, entrance.boxes, entrance.judge),
+          automation(servers, patience),
+          fileDialogs(entrance.judge),
+          windows(entrance.gate, std::move(showHelp)),
+          sieve(entrance.judge),
+          searchPatience(entrance.judge),
+          platform{automation,
+                   settings,
+                   files,
+                   records,
+                   listHolds,
+                   clock,
+                   entrance.boxes,
+                   fileDialogs,
+                   desktop,
+                   power,
+                   windows,
+                   {files, workers, searchPatience},
+                   programDirectory(),
+                   namedFiles()} {}
+
+    WinBusyWaiting waiting;
+    Patience patience;
+    Automation automation;
+    RegistrySettings settings;
+    // Readers that wait for a server which does not answer outlive all that is ours.
+    WinFiles& files = *new WinFiles;
+    PoolWorkers workers;
+    WinRecordFiles records;
+    WinListHolds listHolds{files};
+    WinClock clock;
+    WinFileDialogs fileDialogs;
+    WinPower power;
+    DialogFactory windows;
+    InputSieve sieve;
+    WindowPatience searchPatience;
+    Platform platform;
+};
