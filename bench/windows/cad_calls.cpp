@@ -87,7 +87,8 @@ Row cadCalls(const Setting& setting) {
     require(cad.attach(machine.automation), "a running session");
 
     const auto subject = [&] {
-        cad.open(path, {.silent = true, .rebuild = LoadingOptions::Rebuild::AllLevels});
+        Remark remark;
+        cad.open(path, {.silent = true, .rebuild = LoadingOptions::Rebuild::AllLevels}, remark);
         cad.bringForward();
         cad.save();
         cad.closeDocument();
