@@ -33,6 +33,7 @@ void playScript(const std::filesystem::path& directory) {
     stage.tell("The list file at the end");
     stage.showListFile();
     stage.cad.close();
+    playAlone(stage);
 }
 
 void putAtRightEdge(HWND window) {

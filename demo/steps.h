@@ -19,4 +19,8 @@ void playTrackingWindow(Stage& stage);
 /// Starts again and accepts the list file that the pass left.
 void playResuming(Stage& stage);
 
+/// Has a pass of ten documents go on alone, in a session of its own that refuses one of them and
+/// does not save another.
+void playAlone(Stage& stage);
+
 }  // namespace driver::demo

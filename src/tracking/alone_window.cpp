@@ -1,23 +1,17 @@
 #include "tracking/alone_window.h"
 
-#include <algorithm>
-
 #include "common/numbers.h"
+#include "ports/machine.h"
 #include "tracking/alone_ids.h"
-#include "worklist/time_left.h"
 
 namespace {
 
 constexpr WindowTemplate kAloneWindow = {.dialogId = IDD_ALONE};
 
-std::wstring countText(const AloneProgress& progress) {
-    const int number = std::min(progress.done + 1, progress.total);
-    return L"Document " + decimal(number) + L" sur " + decimal(progress.total);
-}
-
 }  // namespace
 
-AloneWindow::AloneWindow(WindowFactory& windows) : ProgramWindow(windows, kAloneWindow, {}) {}
+AloneWindow::AloneWindow(WindowFactory& windows, const Clock& clock, int documents)
+    : ProgramWindow(windows, kAloneWindow, {}), clock_(clock), documents_(documents) {}
 
 void AloneWindow::showBeside(const Window& other) {
     const Area work = other.workArea();
@@ -26,9 +20,17 @@ void AloneWindow::showBeside(const Window& other) {
     window_->showAside();
 }
 
-void AloneWindow::show(const AloneProgress& progress) {
-    window_->control(IDC_ALONE_COUNT).setText(countText(progress));
-    window_->control(IDC_ALONE_DOCUMENT).setText(progress.document);
-    window_->control(IDC_ALONE_TIMELEFT).setText(timeLeftText(progress.timeLeft));
-    window_->progressBar(IDC_ALONE_PROGRESS).show(progress.done, progress.total);
+void AloneWindow::begin() {
+    const std::int64_t now = clock_.ticks();
+    if (began_) timeLeft_.took(now - *began_);
+    began_ = now;
+}
+
+void AloneWindow::show(const std::wstring& document, int left) {
+    const int done = documents_ - left;
+    window_->control(IDC_ALONE_COUNT)
+        .setText(L"Document " + decimal(done + 1) + L" sur " + decimal(documents_));
+    window_->control(IDC_ALONE_DOCUMENT).setText(document);
+    window_->control(IDC_ALONE_TIMELEFT).setText(timeLeftText(timeLeft_.forDocuments(left)));
+    window_->progressBar(IDC_ALONE_PROGRESS).show(done, documents_);
 }

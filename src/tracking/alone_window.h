@@ -5,23 +5,28 @@
 #include <string>
 
 #include "input/program_window.h"
+#include "worklist/time_left.h"
 
-/// How far going on alone has come.
-struct AloneProgress {
-    int done = 0;  ///< documents
-    int total = 0;
-    std::wstring document;                 ///< the one that is worked on
-    std::optional<std::int64_t> timeLeft;  ///< milliseconds
-};
+class Clock;
 
 /// The small window that shows how far going on alone has come, above all others, and has the
 /// button that stops it. It never takes the keyboard. What is pressed in it is judged as input that
 /// stops, whatever it is, so that nothing here handles it.
 class AloneWindow : public ProgramWindow<AloneWindow> {
  public:
-    explicit AloneWindow(WindowFactory& windows);
+    /// `documents`: how many there are.
+    AloneWindow(WindowFactory& windows, const Clock& clock, int documents);
 
     /// Shows it in the lower right corner of the screen that the other window is on.
     void showBeside(const Window& other);
-    void show(const AloneProgress& progress);
+    /// A command begins; the one before, if any, is done with.
+    void begin();
+    /// This document is worked on, and so many are left, itself included.
+    void show(const std::wstring& document, int left);
+
+ private:
+    const Clock& clock_;
+    int documents_;
+    TimeLeft timeLeft_;
+    std::optional<std::int64_t> began_;  ///< the command
 };

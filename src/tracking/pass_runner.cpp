@@ -213,7 +213,6 @@ bool PassRunner::hasDocument() const {
 }
 
 int PassRunner::documentsLeft() const {
-    if (!hasDocument()) return 0;
     int left = 1;
     for (int i = pass_.current() + 1; i <= pass_.list().last; ++i) left += pass_.list().isToDo(i);
     return left;

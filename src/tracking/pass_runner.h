@@ -100,7 +100,7 @@ class PassRunner {
 
     /// Whether a document is open, which advancing would close.
     bool hasDocument() const;
-    /// The document that is open, and those to do below it.
+    /// How many documents the current line's is, with those to do below it.
     int documentsLeft() const;
     /// Advances, saving, from document to document to the end of the list, and asks nothing:
     /// documents that don't open are passed over, up to five in a row; one whose save is refused is

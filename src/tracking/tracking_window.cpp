@@ -7,6 +7,7 @@
 #include "session/program_files.h"
 #include "session/settings.h"
 #include "session/window_places.h"
+#include "tracking/alone_window.h"
 #include "tracking/tracking_tables.h"
 #include "tracking/tracking_texts.h"
 #include "worklist/pass.h"
@@ -30,6 +31,8 @@ TrackingWindow::TrackingWindow(Platform& platform, WindowPlaces& places, CadSess
       CkRecons(window_->checkBox(IDC_FORM3_CKRECONS)),
       CkRecons2(window_->checkBox(IDC_FORM3_CKRECONS2)),
       lines_(List1) {}
+
+TrackingWindow::~TrackingWindow() = default;
 
 void TrackingWindow::Form_Load(Origin origin) {
     explained([&] { load(origin); });
@@ -115,7 +118,10 @@ void TrackingWindow::showCurrent(Redraw redraw) {
     List1.select(pass().current(), true);
 }
 
-void TrackingWindow::showOpening() { List1.repaint(); }
+void TrackingWindow::showOpening() {
+    List1.repaint();
+    showAlone();
+}
 
 void TrackingWindow::showDocument() { TxtEtat.setText(pass().currentPath()); }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -9,6 +10,7 @@
 #include "tracking/work_list_view.h"
 #include "worklist/list_display.h"
 
+class AloneWindow;
 class CadSession;
 class WindowPlaces;
 struct Platform;
@@ -23,6 +25,8 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
 
     TrackingWindow(Platform& platform, WindowPlaces& places, CadSession& cad,
                    const ProgramFiles& files);
+
+    ~TrackingWindow() override;
 
     /// Reads the list file and opens the first document to do. Ends the program when it is empty.
     void Form_Load(Origin origin);
@@ -107,6 +111,8 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
     void eliminateSelection(const Question& question, Eliminate states);
 
     AloneOutcome goAlone(int documents);
+    /// Which document is worked on now, if the pass goes on alone.
+    void showAlone();
     /// Serves the windows between two documents. False when the user stops it.
     bool goesOn();
 
@@ -125,6 +131,7 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
     CadSession& cad_;
     const ProgramFiles& files_;
     PassRunner runner_;
+    std::unique_ptr<AloneWindow> alone_;  ///< while the pass goes on alone
 
     Control &TxtEtat, &nbfich1, &cptfichier1, &NumFichCour;
     DisplayDepth NNiveau1;
