@@ -4,7 +4,7 @@
 
 #include "rows.h"
 #include "sample_tree.h"
-#include "win32/files/win_record_files.h"
+#include "win32/files/win_written_files.h"
 #include "win32/process/win_machine.h"
 #include "worklist/list_file.h"
 #include "worklist/mark_keeper.h"

@@ -9,7 +9,7 @@
 #include "rules/late_binding.h"
 #include "rules/patience.h"
 #include "win32/files/win_files.h"
-#include "win32/files/win_record_files.h"
+#include "win32/files/win_written_files.h"
 #include "win32/process/win_list_holds.h"
 #include "win32/process/win_machine.h"
 #include "win32/window/dialog_window.h"

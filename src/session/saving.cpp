@@ -8,7 +8,6 @@
 #include "ports/files.h"
 #include "ports/list_holds.h"
 #include "ports/platform.h"
-#include "session/list_hold.h"
 #include "session/program_files.h"
 #include "worklist/mark_keeper.h"
 

@@ -9,7 +9,6 @@
 #include "ports/dialogs.h"
 #include "ports/files.h"
 #include "ports/platform.h"
-#include "session/list_hold.h"
 #include "session/program_files.h"
 #include "tracking/tracking_texts.h"
 #include "worklist/report.h"

@@ -11,7 +11,7 @@
 
 #include "common/runtime_error.h"
 #include "rules/windows_files.h"
-#include "win32/files/win_file_replacement.h"
+#include "win32/files/win_written_files.h"
 #include "win32/process/system_function.h"
 #include "win32/process/unique.h"
 

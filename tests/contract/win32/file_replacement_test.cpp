@@ -1,7 +1,7 @@
 // Every step that a replacement makes fails in turn: the old file stays, nothing beside it.
 
 #include "contract/machine.h"
-#include "win32/files/win_file_replacement.h"
+#include "win32/files/win_written_files.h"
 
 namespace {
 

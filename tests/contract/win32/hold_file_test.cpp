@@ -1,10 +1,9 @@
 // The file that tells who has a list open, as several programs meet it.
 
-#include "win32/process/hold_file.h"
-
 #include <optional>
 
 #include "contract/machine.h"
+#include "win32/process/win_list_holds.h"
 
 namespace {
 

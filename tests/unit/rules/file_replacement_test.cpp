@@ -1,7 +1,5 @@
 // How a file is replaced that another program has open.
 
-#include "rules/file_replacement.h"
-
 #include "rules/windows_files.h"
 #include "unit/unit_test.h"
 

@@ -2,7 +2,8 @@
 
 #include <windows.h>
 
-#include "rules/file_replacement.h"
+#include "ports/files.h"
+#include "rules/windows_files.h"
 #include "win32/process/unique.h"
 
 /// The steps as Windows takes them; a test makes them fail.
@@ -21,4 +22,9 @@ class WinReplacementSteps : public ReplacementSteps {
 
  private:
     UniqueHandle file_{INVALID_HANDLE_VALUE};
+};
+
+class WinRecordFiles : public RecordFiles {
+ public:
+    std::unique_ptr<RecordFile> at(const std::wstring& path) override;
 };
