@@ -36,7 +36,7 @@ Verdict Judge::judge(const Deed& deed) {
     }
     const bool closesLater = deed.kind == Kind::Event && deed.closes && situation_.callsOut > 0 &&
                              verdict != Verdict::StopsSearch;
-    if (closesLater) situation_.closeAsked = now();
+    if (closesLater && !situation_.closeAsked) situation_.closeAsked = now();
     return verdict;
 }
 

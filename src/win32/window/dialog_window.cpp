@@ -63,22 +63,20 @@ DialogWindow::DialogWindow(const WindowTemplate& windowTemplate, EventSink& even
     : events_(events),
       gate_(gate),
       help_(help),
-      headingId_(windowTemplate.headingId),
       focusId_(windowTemplate.focusId),
-      fixedPitchId_(windowTemplate.fixedPitchId),
       liveId_(windowTemplate.liveId),
       menuItems_(windowTemplate.systemMenu),
       window_(makeDialog(windowTemplate.dialogId, procedure)),
-      layout_(window_.get(), windowTemplate),
       tips_(addTooltips(window_.get(), windowTemplate.tooltips)),
+      place_(window_.get(), windowTemplate, tips_),
+      deferred_(window_.get()),
       hotKeys_(windowTemplate.hotKeys),
       taskbarButton_(window_.get()),
       progress_(taskbarButton_) {
     noteUsed(window_.get());
     leaveResolutionToUs(window_.get());
     SetWindowLongPtrW(window_.get(), DWLP_USER, reinterpret_cast<LONG_PTR>(this));
-    chooseFonts();
-    takeTemplateSize();
+    place_.takeTemplateSize();
     tellScreenReaders(window_.get(), windowTemplate.names, liveId_);
     shortcuts_.emplace(window_.get(), windowTemplate.dialogId);
     colourAsTabPages(window_.get());
@@ -141,7 +139,7 @@ void DialogWindow::show() {
     takeForeground(window);
     if (!wasVisible) {
         // Windows may tell a window only now which monitor it is on.
-        standInSight();
+        place_.standInSight();
         focusOn(window, focusId_ != 0 ? item(focusId_) : firstControl(window));
     }
     // The splash is shown before the program serves any messages.
@@ -150,7 +148,7 @@ void DialogWindow::show() {
 
 void DialogWindow::showAside() {
     judge().windowShown();
-    standInSight();
+    place_.standInSight();
     ShowWindow(window_.get(), SW_SHOWNOACTIVATE);
     UpdateWindow(window_.get());
 }

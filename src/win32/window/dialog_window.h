@@ -16,12 +16,11 @@
 #include "input/event_gate.h"
 #include "ports/window.h"
 #include "win32/window/combo_lists.h"
+#include "win32/window/deferred_events.h"
 #include "win32/window/shortcuts.h"
 #include "win32/window/win_hot_keys.h"
 #include "win32/window/win_taskbar_button.h"
-#include "win32/window/window_fonts.h"
-#include "win32/window/window_icons.h"
-#include "win32/window/window_layout.h"
+#include "win32/window/window_place.h"
 
 /// A window of the program, made from a dialog resource. One procedure serves all of them: it
 /// turns notifications into events and sends those through the gate.
@@ -40,10 +39,10 @@ class DialogWindow : public Window, private EventSource {
     TabStrip& tabStrip(int id) override;
     ProgressBar& progressBar(int id) override;
 
-    Area place() const override;
-    void moveTo(const Area& place) override;
-    int dpi() const override;
-    Area workArea() const override;
+    Area place() const override { return place_.place(); }
+    void moveTo(const Area& place) override { place_.moveTo(place); }
+    int dpi() const override { return place_.dpi(); }
+    Area workArea() const override { return place_.workArea(); }
     void showProgress(int done, int total) override { progress_.set(done, total); }
     void showAlert(Alert alert) override { progress_.set(alert); }
     void setMenuMark(int itemId, bool marked) override;
@@ -78,9 +77,6 @@ class DialogWindow : public Window, private EventSource {
     void onKey(int id);
     void onShortcut(HWND control);
     void raise(int id, Event event);
-    /// Raises an event once the message that is being handled is done with, yet before any other.
-    void defer(int id, Event event);
-    void onDeferred();
     void serveDeferred();
     bool serveFirst(int id);
     INT_PTR onSystemCommand(WPARAM command);
@@ -93,14 +89,6 @@ class DialogWindow : public Window, private EventSource {
     bool isAsideMeant(bool takesSecond) const;
     bool isUnmeantCommand(int id, Event event, Deed::Kind kind = Deed::Kind::Command) const;
     Judge& judge() const { return gate_.judge(); }
-    void changeResolution(const RECT& suggested);
-    void changeScreen();
-    void chooseFonts();
-    WindowFonts fittingFonts();
-    void giveFonts(const WindowFonts& fonts);
-    void takeTemplateSize();
-    Size smallestSize() const;
-    void standInSight();
     void destroy();
     HWND item(int id) const { return GetDlgItem(window_.get(), id); }
     template <class Kind>
@@ -109,21 +97,17 @@ class DialogWindow : public Window, private EventSource {
     EventSink& events_;
     EventGate& gate_;
     const std::function<void()>& help_;
-    const int headingId_;
     const int focusId_;
-    const int fixedPitchId_;
     const int liveId_;
     const std::span<const SystemMenuItem> menuItems_;
     UniqueWindow window_;
-    WindowLayout layout_;
     std::optional<WindowShortcuts> shortcuts_;
-    std::optional<WindowFonts> fonts_;
-    std::optional<WindowIcons> icons_;
     HWND tips_;
+    WindowPlace place_;
     /// By id and kind: any control may also be asked for as a plain one.
     std::map<std::pair<int, std::type_index>, std::unique_ptr<Control>> controls_;
     ComboLists comboLists_;
-    std::vector<std::pair<int, Event>> deferred_;
+    DeferredEvents deferred_;
     WinHotKeys hotKeys_;
     std::vector<std::wstring> dropped_;
     WinTaskbarButton taskbarButton_;

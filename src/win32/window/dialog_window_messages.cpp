@@ -19,9 +19,6 @@
 
 namespace {
 
-/// A window's own timers.
-constexpr UINT_PTR kDeferredTimer = 0x100;  // no virtual key: those are of keys that are held
-
 /// A handler closed the window for good.
 bool isOver(HWND window) { return GetWindowLongPtrW(window, DWLP_USER) == 0; }
 
@@ -84,21 +81,21 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
             onHelp();
             return TRUE;
         case WM_SIZE:
-            if (wParam != SIZE_MINIMIZED) layout_.arrange();
+            if (wParam != SIZE_MINIMIZED) place_.sizeChanged();
             return TRUE;
         case WM_GETMINMAXINFO: {
-            const Size size = smallestSize();
+            const Size size = place_.smallestSize();
             reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {size.width, size.height};
             return TRUE;
         }
         case WM_DPICHANGED:
-            changeResolution(*reinterpret_cast<const RECT*>(lParam));
+            place_.changeResolution(*reinterpret_cast<const RECT*>(lParam));
             return TRUE;
         case WM_DISPLAYCHANGE:
-            changeScreen();
+            place_.changeScreen();
             return TRUE;
         case WM_SETTINGCHANGE:
-            if (wParam == SPI_SETWORKAREA) changeScreen();
+            if (wParam == SPI_SETWORKAREA) place_.changeScreen();
             return FALSE;
         case WM_CLOSE:
             raise(kTheWindow, Event::Close);
@@ -112,7 +109,7 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_MOUSEACTIVATE:
             return onMouseActivate();
         case WM_TIMER:
-            wParam == kDeferredTimer ? onDeferred() : hotKeys_.onTimer(wParam);
+            DeferredEvents::isDue(wParam) ? serveDeferred() : hotKeys_.onTimer(wParam);
             return TRUE;
         case WM_ACTIVATE:
             if (LOWORD(wParam) != WA_INACTIVE) noteUsed(window_.get());
@@ -192,29 +189,19 @@ void DialogWindow::onComboBox(int id, WORD code, HWND comboBox) {
     const auto step = comboLists_.notified(comboBox, code);
     if (step == DropDown::Step::Act || step == DropDown::Step::ActLater) {
         showChosenLine(comboBox);
-        return step == DropDown::Step::Act ? raise(id, Event::Click) : defer(id, Event::Click);
+        return step == DropDown::Step::Act ? raise(id, Event::Click)
+                                           : deferred_.add(id, Event::Click);
     }
     const auto event = eventOf(ControlClass::ComboBox, code, focusStaysInWindow(window_.get()));
     if (!event) return;
     // A box in the midst of a change of the focus would take it from who is getting it.
-    *event == Event::Validate ? defer(id, *event) : raise(id, *event);
-}
-
-void DialogWindow::defer(int id, Event event) {
-    deferred_.emplace_back(id, event);
-    SetTimer(window_.get(), kDeferredTimer, USER_TIMER_MINIMUM, nullptr);
-}
-
-// The end of a press that took the focus elsewhere has them served first, and is still this press.
-void DialogWindow::onDeferred() {
-    if (GetKeyState(VK_LBUTTON) >= 0) serveDeferred();
+    *event == Event::Validate ? deferred_.add(id, *event) : raise(id, *event);
 }
 
 void DialogWindow::serveDeferred() {
     HWND window = window_.get();
-    KillTimer(window, kDeferredTimer);
     // A handler may end this object.
-    for (const auto& [id, event] : std::exchange(deferred_, {})) {
+    for (const auto& [id, event] : deferred_.take()) {
         if (isOver(window)) return;
         gate_.deliver(events_, id, event, *this);
     }
@@ -245,7 +232,7 @@ void DialogWindow::raise(int id, Event event) {
     if (isUnmeantCommand(id, event)) return;
     HWND window = window_.get();
     const int focusId = focusId_;
-    std::erase(deferred_, std::pair(id, event));
+    deferred_.drop(id, event);
     if (!deferred_.empty() && event != Event::Close && !serveFirst(id)) return;
     gate_.deliver(events_, id, event, *this);
     if (GetActiveWindow() == window) keepKeyboard(window, GetDlgItem(window, focusId));

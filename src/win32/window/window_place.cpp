@@ -1,4 +1,4 @@
-// Where a window stands, how large it is and how large its letters are.
+#include "win32/window/window_place.h"
 
 #include <utility>
 
@@ -6,7 +6,6 @@
 #include "win32/window/areas.h"
 #include "win32/window/combo_field.h"
 #include "win32/window/control_class.h"
-#include "win32/window/dialog_window.h"
 #include "win32/window/tooltips.h"
 #include "win32/window/win_controls.h"
 
@@ -28,56 +27,64 @@ void putAt(HWND window, const Area& place) {
 
 }  // namespace
 
-Area DialogWindow::place() const {
+WindowPlace::WindowPlace(HWND window, const WindowTemplate& source, HWND tips)
+    : window_(window),
+      headingId_(source.headingId),
+      fixedPitchId_(source.fixedPitchId),
+      tips_(tips),
+      layout_(window, source) {}
+
+Area WindowPlace::place() const {
     RECT area{};
-    GetWindowRect(window_.get(), &area);
-    if (!IsIconic(window_.get()) && !IsZoomed(window_.get())) return areaOfRect(area);
+    GetWindowRect(window_, &area);
+    if (!IsIconic(window_) && !IsZoomed(window_)) return areaOfRect(area);
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
-    GetWindowPlacement(window_.get(), &placement);
+    GetWindowPlacement(window_, &placement);
     const RECT& normal = placement.rcNormalPosition;
     return placeOnScreen(areaOfRect(normal),
                          nearestMonitor(MonitorFromRect(&normal, MONITOR_DEFAULTTONEAREST)));
 }
 
-void DialogWindow::moveTo(const Area& place) {
-    HMONITOR before = monitorOf(window_.get());
-    putAt(window_.get(), place);
-    if (monitorOf(window_.get()) == before) return;
+void WindowPlace::moveTo(const Area& place) {
+    HMONITOR before = monitorOf(window_);
+    putAt(window_, place);
+    if (monitorOf(window_) == before) return;
     chooseFonts();
     layout_.arrange();
 }
 
-void DialogWindow::standInSight() {
-    if (IsIconic(window_.get()) || IsZoomed(window_.get())) return;
+void WindowPlace::standInSight() {
+    if (IsIconic(window_) || IsZoomed(window_)) return;
     const Area whole = inSight(place(), workArea());
     if (whole != place()) moveTo(whole);
 }
 
-int DialogWindow::dpi() const { return dpiOf(window_.get()); }
+int WindowPlace::dpi() const { return dpiOf(window_); }
 
-Area DialogWindow::workArea() const { return nearestMonitor(monitorOf(window_.get())).work; }
+Area WindowPlace::workArea() const { return nearestMonitor(monitorOf(window_)).work; }
 
-Size DialogWindow::smallestSize() const {
+Size WindowPlace::smallestSize() const {
     return smaller(layout_.smallestWindow(), workArea().size());
 }
 
-void DialogWindow::takeTemplateSize() {
-    putAt(window_.get(), areaAt(place().corner(), layout_.templateWindow()));
+void WindowPlace::takeTemplateSize() {
+    chooseFonts();
+    putAt(window_, areaAt(place().corner(), layout_.templateWindow()));
     layout_.arrange();
 }
 
 // The letters first: the window can't be made smaller than they ask for.
-void DialogWindow::changeResolution(const RECT& suggested) {
+void WindowPlace::changeResolution(const RECT& suggested) {
     chooseFonts();
-    putAt(window_.get(), areaOfRect(suggested));
+    putAt(window_, areaOfRect(suggested));
     layout_.arrange();
 }
 
 // Another resolution, another monitor, a taskbar that was moved: Windows leaves a window as large
 // as it was. One that is hidden is looked at when it is shown.
-void DialogWindow::changeScreen() {
-    if (!IsWindowVisible(window_.get())) return;
+void WindowPlace::changeScreen() {
+    if (!IsWindowVisible(window_)) return;
     chooseFonts();
     layout_.arrange();
     standInSight();
@@ -85,7 +92,7 @@ void DialogWindow::changeScreen() {
 
 /// The usual letters; smaller ones where not even the smallest size would stand whole on the
 /// screen, as far as they can be read.
-WindowFonts DialogWindow::fittingFonts() {
+WindowFonts WindowPlace::fittingFonts() {
     constexpr int kLeastPercent = 60;
     constexpr int kStep = 4;
     int percent = 100;
@@ -99,16 +106,15 @@ WindowFonts DialogWindow::fittingFonts() {
     return fonts;
 }
 
-void DialogWindow::chooseFonts() {
+void WindowPlace::chooseFonts() {
     WindowFonts fonts = fittingFonts();
     giveFonts(fonts);
     fonts_ = std::move(fonts);
-    icons_ = WindowIcons(window_.get(), GetDpiForWindow(window_.get()));
+    icons_ = WindowIcons(window_, GetDpiForWindow(window_));
 }
 
-void DialogWindow::giveFonts(const WindowFonts& fonts) {
-    for (HWND child = GetWindow(window_.get(), GW_CHILD); child;
-         child = GetWindow(child, GW_HWNDNEXT)) {
+void WindowPlace::giveFonts(const WindowFonts& fonts) {
+    for (HWND child = GetWindow(window_, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         const int id = GetDlgCtrlID(child);
         HFONT font = fonts.text();
         if (headingId_ != 0 && id == headingId_) font = fonts.heading();
