@@ -151,6 +151,9 @@ TEST_F(JudgeTest, OneEscapeEndsASearchAndThoseThatReplacedIt) {
     EXPECT_TRUE(escapeStops(1500)) << "pressed during the first one";
     EXPECT_TRUE(judge.searchStopped());
     EXPECT_FALSE(judge.searchGoesOn());
+    judge.searchEnds();
+    search(3500);
+    EXPECT_TRUE(judge.searchGoesOn()) << "another one of the same command";
     type();
     EXPECT_FALSE(judge.searchStopped()) << "what is typed afterwards counts";
     judge.searchEnds();
