@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "win32/window/window_fonts.h"
+#include "win32/window/window_look.h"
 
 /// Draws the bar on top of the window that tells what this is: never a real session.
 void drawNameBar(HDC context, const RECT& bar, const WindowFonts& fonts, UINT dpi,

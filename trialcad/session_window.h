@@ -9,7 +9,7 @@
 
 #include "options.h"
 #include "session.h"
-#include "win32/window/window_fonts.h"
+#include "win32/window/window_look.h"
 
 /// The session's main window: its title in the release's way, what is open, the last calls.
 class SessionWindow {

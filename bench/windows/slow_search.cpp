@@ -9,7 +9,7 @@
 #include "selection/document_search.h"
 #include "stage.h"
 #include "win32/files/win_files.h"
-#include "win32/window/window_patience.h"
+#include "win32/window/waiting.h"
 
 namespace {
 

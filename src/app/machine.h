@@ -13,12 +13,10 @@
 #include "win32/process/win_list_holds.h"
 #include "win32/process/win_machine.h"
 #include "win32/window/dialog_window.h"
-#include "win32/window/input_sieve.h"
-#include "win32/window/win_busy_waiting.h"
-#include "win32/window/win_file_dialogs.h"
-#include "win32/window/win_gate_keeper.h"
-#include "win32/window/win_message_boxes.h"
-#include "win32/window/window_patience.h"
+#include "win32/window/message_deed.h"
+#include "win32/window/message_loop.h"
+#include "win32/window/questions.h"
+#include "win32/window/waiting.h"
 
 /// The way in of events. It stands before all else: what fails behind it becomes a box.
 struct Entrance {

@@ -6,13 +6,10 @@
 
 #include "win32/process/require.h"
 #include "win32/process/system_function.h"
-#include "win32/window/control_class.h"
 #include "win32/window/focus.h"
-#include "win32/window/foreground.h"
+#include "win32/window/hints.h"
 #include "win32/window/own_windows.h"
-#include "win32/window/screen_reader.h"
 #include "win32/window/system_menu.h"
-#include "win32/window/tooltips.h"
 #include "win32/window/win_controls.h"
 
 namespace {

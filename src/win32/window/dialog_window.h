@@ -15,11 +15,10 @@
 
 #include "input/event_gate.h"
 #include "ports/window.h"
-#include "win32/window/combo_lists.h"
+#include "win32/window/combo_boxes.h"
 #include "win32/window/deferred_events.h"
-#include "win32/window/shortcuts.h"
-#include "win32/window/win_hot_keys.h"
-#include "win32/window/win_taskbar_button.h"
+#include "win32/window/win_desktop.h"
+#include "win32/window/window_keys.h"
 #include "win32/window/window_place.h"
 
 /// A window of the program, made from a dialog resource. One procedure serves all of them: it

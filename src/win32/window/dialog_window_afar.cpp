@@ -1,6 +1,8 @@
 // What a window does while another program is in front.
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "win32/window/dialog_window.h"
 #include "win32/window/system_menu.h"
@@ -13,8 +15,7 @@ bool isOurs(HWND window) {
     return process == GetCurrentProcessId();
 }
 
-/// What the command asked on its way came to the front: the program that had the keyboard has it
-/// again.
+/// A box that the command showed has taken the keyboard from another program, which gets it back.
 void giveKeyboardBack(HWND before) {
     if (!isOurs(before) && isOurs(GetForegroundWindow())) SetForegroundWindow(before);
 }
@@ -23,6 +24,19 @@ void giveKeyboardBack(HWND before) {
 UniqueWindow hiddenTopmost() {
     return UniqueWindow(CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, L"Static", nullptr,
                                         WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr));
+}
+
+/// The full paths of what was dropped, of any length.
+std::vector<std::wstring> pathsOf(HDROP files) {
+    constexpr UINT kHowMany = 0xFFFFFFFF;
+    std::vector<std::wstring> paths(DragQueryFileW(files, kHowMany, nullptr, 0));
+    for (UINT i = 0; i < paths.size(); ++i) {
+        // Its length does not count the zero at the end, the room asked for does.
+        const UINT length = DragQueryFileW(files, i, nullptr, 0);
+        paths[i].resize(length);
+        DragQueryFileW(files, i, paths[i].data(), length + 1);
+    }
+    return paths;
 }
 
 }  // namespace
@@ -82,4 +96,15 @@ void DialogWindow::pressFromAfar(int id) {
     HWND before = GetForegroundWindow();
     raise(id, Event::Click);
     giveKeyboardBack(before);
+}
+
+// What is dropped while a command is at work, or while a box waits, is left where it was.
+void DialogWindow::onDrop(HDROP files) {
+    auto paths = pathsOf(files);
+    DragFinish(files);
+    if (!isAsideMeant(true) || !IsWindowEnabled(window_.get())) return;
+    dropped_ = std::move(paths);
+    // The program that they come from is still in front.
+    takeForeground(window_.get());
+    raise(kTheWindow, Event::Drop);
 }

@@ -5,17 +5,13 @@
 #include <commctrl.h>
 #include <utility>
 
-#include "win32/window/control_class.h"
 #include "win32/window/dialog_window.h"
-#include "win32/window/dropped_paths.h"
 #include "win32/window/focus.h"
-#include "win32/window/foreground.h"
-#include "win32/window/input_messages.h"
+#include "win32/window/hints.h"
 #include "win32/window/message_deed.h"
+#include "win32/window/message_loop.h"
 #include "win32/window/own_windows.h"
-#include "win32/window/pointer.h"
 #include "win32/window/system_menu.h"
-#include "win32/window/tooltips.h"
 
 namespace {
 
@@ -119,17 +115,6 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-// What is dropped while a command is at work, or while a box waits, is left where it was.
-void DialogWindow::onDrop(HDROP files) {
-    auto paths = pathsOf(files);
-    DragFinish(files);
-    if (!isAsideMeant(true) || !IsWindowEnabled(window_.get())) return;
-    dropped_ = std::move(paths);
-    // The program that they come from is still in front.
-    takeForeground(window_.get());
-    raise(kTheWindow, Event::Drop);
-}
-
 bool DialogWindow::isAsideMeant(bool takesSecond) const {
     return judge().judge({.kind = Deed::Kind::Aside,
                           .takesSecond = takesSecond,
@@ -207,7 +192,8 @@ void DialogWindow::serveDeferred() {
     }
 }
 
-/// What a person types or chooses meanwhile is kept; what a press would start is not.
+/// Whether an event is a command that does not count. What is typed or chosen while a handler runs
+/// is no command: it waits.
 bool DialogWindow::isUnmeantCommand(int id, Event event, Deed::Kind kind) const {
     const bool isClick = event == Event::Click && (!item(id) || isButton(item(id)));
     if (!isClick && event != Event::DoubleClick && event != Event::Enter) return false;

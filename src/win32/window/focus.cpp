@@ -1,7 +1,5 @@
 #include "win32/window/focus.h"
 
-#include "win32/window/control_class.h"
-
 namespace {
 
 /// The list that a drop-down box opens, a window of its own.
@@ -13,6 +11,12 @@ HWND listOf(HWND control) {
 }
 
 }  // namespace
+
+ControlClass classOf(HWND control) {
+    wchar_t name[20] = {};
+    GetClassNameW(control, name, ARRAYSIZE(name));
+    return controlClass(name);
+}
 
 bool canBeUsed(HWND control) {
     return control && IsWindowVisible(control) && IsWindowEnabled(control);

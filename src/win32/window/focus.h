@@ -2,6 +2,10 @@
 
 #include <windows.h>
 
+#include "input/notifications.h"
+
+ControlClass classOf(HWND control);
+
 /// The control is to be seen and enabled.
 bool canBeUsed(HWND control);
 

@@ -3,9 +3,75 @@
 #include <windows.h>
 
 #include "input/judge.h"
+#include "win32/process/unique.h"
+
+// What the messages of mouse, pen, touch and keyboard mean, by their numbers.
+
+/// A mouse button goes down within a window's client area.
+constexpr bool isMousePress(UINT message) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONDBLCLK:
+        case WM_MBUTTONDOWN:
+        case WM_MBUTTONDBLCLK:
+        case WM_XBUTTONDOWN:
+        case WM_XBUTTONDBLCLK:
+            return true;
+        default:
+            return false;
+    }
+}
+
+/// On a window's frame, where it is moved, sized, scrolled or closed.
+constexpr bool isFramePress(UINT message) {
+    return message == WM_NCLBUTTONDOWN || message == WM_NCLBUTTONDBLCLK ||
+           message == WM_NCRBUTTONDOWN || message == WM_NCPOINTERDOWN;
+}
+
+constexpr bool isPress(UINT message) {
+    return isMousePress(message) || isFramePress(message) || message == WM_POINTERDOWN;
+}
+
+constexpr bool isRelease(UINT message) {
+    return message == WM_LBUTTONUP || message == WM_NCLBUTTONUP || message == WM_RBUTTONUP ||
+           message == WM_POINTERUP;
+}
+
+constexpr bool isKeyDown(UINT message) { return message == WM_KEYDOWN || message == WM_SYSKEYDOWN; }
+
+constexpr bool isKeyUp(UINT message) { return message == WM_KEYUP || message == WM_SYSKEYUP; }
+
+/// Wheels and gestures do their work at once.
+constexpr bool isScroll(UINT message) {
+    return message == WM_MOUSEWHEEL || message == WM_MOUSEHWHEEL || message == WM_POINTERWHEEL ||
+           message == WM_TOUCH;
+}
 
 /// What a message that is taken from the queue stands for.
 Deed deedOf(const MSG& message, const Judge& judge);
 
 /// Whether it was sent by another program, which presses nothing.
 inline bool isFromProgram() { return InSendMessageEx(nullptr) != ISMEX_NOSEND; }
+
+/// What makes two presses a double click on this machine.
+Judge::Limits doubleClickLimits();
+
+/// Shows the judge every message that the thread takes from its queue, in whatever loop, those of
+/// message boxes included, and drops those that do not count. While it lives it is the thread's
+/// only one.
+class InputSieve {
+ public:
+    explicit InputSieve(Judge& judge);
+    ~InputSieve();
+    InputSieve(const InputSieve&) = delete;
+    InputSieve& operator=(const InputSieve&) = delete;
+
+ private:
+    static LRESULT CALLBACK onGetMessage(int code, WPARAM wParam, LPARAM lParam);
+
+    // A hook is told nothing of who set it.
+    inline static Judge* hooked_ = nullptr;
+    UniqueHook hook_;
+};

@@ -1,12 +1,24 @@
 #include "win32/window/message_loop.h"
 
+#include <windows.h>
+
 #include "input/judge.h"
 #include "win32/process/message_pump.h"
 #include "win32/window/focus.h"
-#include "win32/window/list_keys.h"
-#include "win32/window/shortcuts.h"
+#include "win32/window/window_keys.h"
 
 namespace {
+
+const wchar_t* cursorOf(Pointer pointer) {
+    switch (pointer) {
+        case Pointer::Wait:
+            return IDC_WAIT;
+        case Pointer::ArrowAtWork:
+            return IDC_APPSTARTING;
+        default:
+            return IDC_ARROW;
+    }
+}
 
 /// Windows itself takes Tab, Alt and the arrows for a use of the keyboard, but no shortcut.
 bool usesKeyboard(const MSG& message) {
@@ -29,6 +41,10 @@ void handle(MSG& message, Judge& judge) {
 }
 
 }  // namespace
+
+void showPointer(const Judge& judge) {
+    SetCursor(LoadCursorW(nullptr, cursorOf(pointerIn(judge.situation()))));
+}
 
 int runMessageLoop(Judge& judge) {
     MSG message;

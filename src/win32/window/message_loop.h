@@ -2,7 +2,21 @@
 
 #include <windows.h>
 
-class Judge;
+#include "input/event_gate.h"
+
+/// The pointer over the program's windows becomes now what the program is busy with.
+void showPointer(const Judge& judge);
+
+class WinGateKeeper : public GateKeeper {
+ public:
+    explicit WinGateKeeper(const Judge& judge) : judge_(judge) {}
+
+    void showPointer() override { ::showPointer(judge_); }
+    void quit(int exitCode) override { PostQuitMessage(exitCode); }
+
+ private:
+    const Judge& judge_;
+};
 
 /// Serves the program's windows until the program ends. Returns the exit code.
 int runMessageLoop(Judge& judge);

@@ -1,6 +1,6 @@
 #include "win32/window/system_menu.h"
 
-#include "win32/window/control_class.h"
+#include "win32/window/focus.h"
 #include "win32/window/handles.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <commctrl.h>
 
-#include "win32/window/screen_reader.h"
+#include "win32/window/hints.h"
 
 void WinLiveLabel::setText(const std::wstring& text) {
     const bool changes = this->text() != text;

@@ -1,6 +1,12 @@
 #pragma once
 
+#include <windows.h>
+
+#include <shobjidl.h>
+
 #include "ports/machine.h"
+#include "rules/boxes_and_buttons.h"
+#include "win32/com/com_ptr.h"
 
 class WinDesktop : public Desktop {
  public:
@@ -10,4 +16,18 @@ class WinDesktop : public Desktop {
     void bringToFront(WindowHandle window) override;
     std::optional<int> gdiObjects(WindowHandle window) override;
     bool open(const std::wstring& document) override;
+};
+
+/// A window's button on the taskbar. A shell that has no such thing shows nothing.
+class WinTaskbarButton : public TaskbarButton {
+ public:
+    explicit WinTaskbarButton(HWND window);
+    void show(const ButtonProgress& progress) override;
+
+    /// The message by which the taskbar says that it has made the button.
+    static UINT madeMessage();
+
+ private:
+    HWND window_;
+    ComPtr<ITaskbarList3> taskbar_;
 };

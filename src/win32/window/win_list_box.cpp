@@ -1,9 +1,11 @@
 #include <algorithm>
+#include <array>
 #include <functional>
+#include <string>
 #include <utility>
 #include <vector>
 
-#include "win32/window/widest_line.h"
+#include "win32/window/handles.h"
 #include "win32/window/win_controls.h"
 
 namespace {
@@ -11,6 +13,52 @@ namespace {
 WPARAM position(int index) { return static_cast<WPARAM>(index); }
 
 LPARAM asLparam(const std::wstring& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
+
+/// The widest of some lines in the font of their list.
+class WidestLine {
+ public:
+    /// `lines`: about how many are to come.
+    WidestLine(HWND list, int lines);
+
+    void add(const std::wstring& line);
+    /// How far a list must scroll for it to be seen: the control leaves a margin before it.
+    int extent() const { return widest_ == 0 ? 0 : widest_ + kMargin; }
+
+ private:
+    static constexpr int kMargin = 8;
+
+    int widthOf(const std::wstring& line) const;
+
+    FontContext context_;
+    /// Of the first characters, when there are many lines: to ask for each of them takes long.
+    std::array<int, 256> widths_{};
+    std::size_t known_ = 0;  ///< characters
+    int widest_ = 0;
+};
+
+WidestLine::WidestLine(HWND list, int lines)
+    : context_(list, reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0))) {
+    constexpr int kMany = 50;
+    if (lines < kMany) return;
+    const auto last = static_cast<UINT>(widths_.size() - 1);
+    if (GetCharWidth32W(context_.get(), 0, last, widths_.data())) known_ = widths_.size();
+}
+
+void WidestLine::add(const std::wstring& line) { widest_ = std::max(widest_, widthOf(line)); }
+
+int WidestLine::widthOf(const std::wstring& line) const {
+    int width = 0;
+    for (const wchar_t character : line) {
+        if (character >= known_) {
+            SIZE size{};
+            GetTextExtentPoint32W(context_.get(), line.c_str(), static_cast<int>(line.size()),
+                                  &size);
+            return size.cx;
+        }
+        width += widths_[character];
+    }
+    return width;
+}
 
 }  // namespace
 

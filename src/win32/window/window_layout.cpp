@@ -2,10 +2,9 @@
 
 #include <algorithm>
 
-#include "win32/window/areas.h"
-#include "win32/window/combo_field.h"
-#include "win32/window/control_class.h"
-#include "win32/window/window_fonts.h"
+#include "win32/window/combo_boxes.h"
+#include "win32/window/focus.h"
+#include "win32/window/window_look.h"
 
 namespace {
 

@@ -4,7 +4,12 @@
 
 #include <vector>
 
+#include "ports/area.h"
 #include "rules/placement.h"
+
+inline Area areaOfRect(const RECT& area) { return {area.left, area.top, area.right, area.bottom}; }
+
+inline int dpiOf(HWND window) { return static_cast<int>(GetDpiForWindow(window)); }
 
 /// Puts the controls of a window where its layout says.
 class WindowLayout {

@@ -3,11 +3,11 @@
 #include <utility>
 
 #include "rules/placement.h"
-#include "win32/window/areas.h"
-#include "win32/window/combo_field.h"
-#include "win32/window/control_class.h"
-#include "win32/window/tooltips.h"
+#include "win32/window/combo_boxes.h"
+#include "win32/window/focus.h"
+#include "win32/window/hints.h"
 #include "win32/window/win_controls.h"
+#include "win32/window/window_layout.h"
 
 namespace {
 

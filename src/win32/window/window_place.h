@@ -4,9 +4,8 @@
 
 #include <optional>
 
-#include "win32/window/window_fonts.h"
-#include "win32/window/window_icons.h"
 #include "win32/window/window_layout.h"
+#include "win32/window/window_look.h"
 
 /// Where a window stands, how large it is, and how large its letters and icons are.
 class WindowPlace {

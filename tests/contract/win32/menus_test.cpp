@@ -1,8 +1,8 @@
 // The items that a window adds to its system menu.
 
 #include "contract/win32/real_windows.h"
-#include "win32/window/shortcuts.h"
 #include "win32/window/system_menu.h"
+#include "win32/window/window_keys.h"
 
 namespace {
 

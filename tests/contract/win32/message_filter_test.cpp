@@ -9,7 +9,7 @@
 #include "fakes/fake_message_boxes.h"
 #include "fakes/fake_waiting.h"
 #include "rules/patience.h"
-#include "win32/window/win_busy_waiting.h"
+#include "win32/window/waiting.h"
 
 namespace {
 

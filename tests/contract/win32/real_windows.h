@@ -6,10 +6,10 @@
 #include "unit/unit_test.h"
 #include "win32/process/message_pump.h"
 #include "win32/window/dialog_window.h"
-#include "win32/window/input_sieve.h"
+#include "win32/window/message_deed.h"
+#include "win32/window/message_loop.h"
 #include "win32/window/own_windows.h"
-#include "win32/window/win_gate_keeper.h"
-#include "win32/window/win_message_boxes.h"
+#include "win32/window/questions.h"
 
 using RaisedEvents = std::vector<std::pair<int, Event>>;
 

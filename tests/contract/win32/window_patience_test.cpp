@@ -1,13 +1,12 @@
 // How the program's windows live while the main thread searches.
 
-#include "win32/window/window_patience.h"
-
 #include <thread>
 #include <vector>
 
 #include "contract/win32/real_windows.h"
 #include "pickers/tree_walk.h"
 #include "win32/files/win_files.h"
+#include "win32/window/waiting.h"
 
 namespace {
 

@@ -2,9 +2,7 @@
 
 #include <initializer_list>
 
-#include "input/drop_down.h"
-#include "input/first_letter.h"
-#include "input/sign_key.h"
+#include "input/typed_keys.h"
 #include "unit/unit_test.h"
 
 TEST(Notification, StandsForTheEventOfItsControl) {

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "ports/dialogs.h"
+
 class Judge;
 
 /// While it lives a box or a dialog of the system asks the user something: the program waits for
@@ -24,4 +26,27 @@ class ModalQuestion {
     Judge& judge_;
     HWND owner_;
     std::vector<HWND> disabled_;
+};
+
+/// Message boxes with French buttons, above the program's active window and modal to all of them.
+class WinMessageBoxes : public MessageBoxes {
+ public:
+    explicit WinMessageBoxes(Judge& judge) : judge_(judge) {}
+
+    Answer show(const MessageBoxContent& box) override;
+
+ private:
+    Judge& judge_;
+};
+
+/// The dialogs of the shell, above the program's active window.
+class WinFileDialogs : public FileDialogs {
+ public:
+    explicit WinFileDialogs(Judge& judge) : judge_(judge) {}
+
+    std::optional<std::wstring> askWhereToSave(const SaveQuestion& question) override;
+    std::optional<std::wstring> askWhatToOpen(const OpenQuestion& question) override;
+
+ private:
+    Judge& judge_;
 };

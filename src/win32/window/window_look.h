@@ -22,3 +22,13 @@ class WindowFonts {
 /// The size of a font's average character, by which dialog templates measure: 4 units across and
 /// 8 down.
 Size averageCharacter(HFONT font);
+
+/// The program's icon on a window, and in its labels that show it, in the sizes of one resolution.
+class WindowIcons {
+ public:
+    WindowIcons(HWND window, UINT dpi);
+
+ private:
+    UniqueIcon small_;
+    UniqueIcon big_;
+};

@@ -4,6 +4,7 @@
 
 #include "input/judge.h"
 #include "ports/search.h"
+#include "rules/patience.h"
 #include "win32/process/unique.h"
 
 /// Serves the program's windows while the main thread searches: they are drawn, moved and sized,
@@ -26,4 +27,20 @@ class WindowPatience : public SearchPatience {
     Judge& judge_;
     UniqueHandle woken_;  ///< an event that resets itself
     Moment served_ = 0;
+};
+
+class WinBusyWaiting : public BusyWaiting {
+ public:
+    explicit WinBusyWaiting(Judge& judge);
+
+    std::uint64_t now() const override { return GetTickCount64(); }
+    void wait(unsigned milliseconds) override;
+    void handleInput() override;
+    void wakeIn(unsigned milliseconds) override;
+    void endProgram() override { TerminateProcess(GetCurrentProcess(), 0); }
+
+ private:
+    Judge& judge_;
+    DWORD thread_ = GetCurrentThreadId();
+    Unique<PTP_TIMER, CloseThreadpoolTimer> timer_;
 };

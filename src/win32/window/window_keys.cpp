@@ -1,10 +1,11 @@
-#include "win32/window/shortcuts.h"
+#include "win32/window/window_keys.h"
 
 #include <algorithm>
 
-#include "input/sign_key.h"
-#include "win32/window/input_messages.h"
-#include "win32/window/list_keys.h"
+#include "input/typed_keys.h"
+#include "win32/window/focus.h"
+#include "win32/window/message_deed.h"
+#include "win32/window/win_controls.h"
 
 namespace {
 
@@ -51,6 +52,22 @@ const WindowShortcuts* shortcutsOf(HWND window) {
     return static_cast<const WindowShortcuts*>(GetPropW(window, kProperty));
 }
 
+/// Windows notifies a window of selections made by its user only: this one counts as such.
+void tellSelection(HWND list) {
+    SendMessageW(GetParent(list), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), LBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(list));
+}
+
+/// The virtual key at this place of the digit row: the row's scan codes follow that of Escape, 1,
+/// on every keyboard (the scan codes of set 1).
+UINT virtualKey(int place) {
+    const UINT key =
+        MapVirtualKeyExW(static_cast<UINT>(place + 1), MAPVK_VSC_TO_VK, GetKeyboardLayout(0));
+    return key != 0 ? key : static_cast<UINT>('0' + place);
+}
+
+bool isDownNow(UINT_PTR key) { return GetAsyncKeyState(static_cast<int>(key)) < 0; }
+
 }  // namespace
 
 WindowShortcuts::WindowShortcuts(HWND window, int dialogId)
@@ -89,4 +106,63 @@ bool translateShortcut(HWND window, MSG& message) {
     if (isSelectAll(message) && selectAllLines(message.hwnd)) return true;
     const WindowShortcuts* shortcuts = shortcutsOf(window);
     return shortcuts && shortcuts->translate(message);
+}
+
+bool selectAllLines(HWND list) {
+    if (classOf(list) != ControlClass::ListBox) return false;
+    if (!WinListBox(list).severalSelectable()) return false;
+    SendMessageW(list, LB_SETSEL, TRUE, -1);
+    tellSelection(list);
+    return true;
+}
+
+bool goToLetter(const MSG& message) {
+    if (message.message != WM_CHAR || classOf(message.hwnd) != ControlClass::ListBox) return false;
+    WinListBox list(message.hwnd);
+    if (list.severalSelectable()) return false;
+    const auto current = static_cast<int>(SendMessageW(message.hwnd, LB_GETCURSEL, 0, 0));
+    const auto line = lineWithLetter(static_cast<wchar_t>(message.wParam), current, list.count(),
+                                     [&](int i) { return list.line(i); });
+    if (!line || list.line(*line).front() != L' ') return false;
+    list.select(*line, true);
+    tellSelection(message.hwnd);
+    return true;
+}
+
+std::vector<std::wstring> WinHotKeys::take(HWND window) {
+    window_ = window;
+    std::vector<std::wstring> refused;
+    for (const HotKey& key : keys_) {
+        if (!take(key)) refused.emplace_back(key.name);
+    }
+    if (!refused.empty()) release();
+    return refused;
+}
+
+bool WinHotKeys::take(const HotKey& key) {
+    constexpr UINT kModifiers = MOD_CONTROL | MOD_SHIFT | MOD_NOREPEAT;
+    if (!RegisterHotKey(window_, key.controlId, kModifiers, virtualKey(key.place))) return false;
+    taken_.push_back(key.controlId);
+    return true;
+}
+
+void WinHotKeys::release() {
+    for (const int id : taken_) UnregisterHotKey(window_, id);
+    taken_.clear();
+}
+
+bool WinHotKeys::has(int id) const { return std::ranges::find(taken_, id) != taken_.end(); }
+
+bool WinHotKeys::isHeld(UINT key) {
+    if (!isDownNow(key)) return false;
+    if (key == held_) return true;
+    held_ = key;
+    SetTimer(window_, key, USER_TIMER_MINIMUM, nullptr);
+    return false;
+}
+
+void WinHotKeys::onTimer(UINT_PTR key) {
+    if (key != held_ || isDownNow(key)) return;
+    KillTimer(window_, key);
+    held_ = 0;
 }

@@ -1,6 +1,6 @@
-#include "win32/window/combo_field.h"
+#include "win32/window/combo_boxes.h"
 
-#include "win32/window/control_class.h"
+#include "win32/window/focus.h"
 #include "win32/window/win_controls.h"
 
 namespace {
@@ -28,4 +28,25 @@ KeptComboField::~KeptComboField() {
     }
     WinComboBox(box_).setText(text_);
     SendMessageW(box_, CB_SETEDITSEL, 0, MAKELPARAM(start_, end_));
+}
+
+DropDown::Step ComboLists::notified(HWND comboBox, WORD code) {
+    Choice& choice = choices_[comboBox];
+    const bool isDown = SendMessageW(comboBox, CB_GETDROPPEDSTATE, 0, 0) != 0;
+    const auto step = choice.list.notified(code, isDown);
+    WinComboBox box(comboBox);
+    if (step == DropDown::Step::Remember) {
+        choice.line = box.selectedLine();
+        choice.text = box.text();
+    } else if (step == DropDown::Step::GoBack) {
+        box.selectLine(choice.line);
+        // Typed text may be no line's.
+        if (box.text() != choice.text) box.setText(choice.text);
+    }
+    return step;
+}
+
+void showChosenLine(HWND comboBox) {
+    WinComboBox box(comboBox);
+    if (const int line = box.selectedLine(); line >= 0) box.selectLine(line);
 }

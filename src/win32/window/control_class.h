@@ -1,7 +1,0 @@
-#pragma once
-
-#include <windows.h>
-
-#include "input/notifications.h"
-
-ControlClass classOf(HWND control);
