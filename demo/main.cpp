@@ -17,19 +17,24 @@
 namespace driver::demo {
 namespace {
 
-void startCad(Stage& stage) {
+void startCad(Stage& stage, const std::vector<std::string>& options = {}) {
     stage.tell("Starting the trial CAD session");
-    stage.cad.start({"--working-directory", utf8(stage.sandbox.documents().wstring())});
+    std::vector<std::string> all{"--working-directory", utf8(stage.sandbox.documents().wstring())};
+    all.insert(all.end(), options.begin(), options.end());
+    stage.cad.start(all);
 }
 
 void playScript(const std::filesystem::path& directory) {
     const Settings settings;
     SetCursorPos(GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));  // no tooltips
     Stage stage(directory);
-    startCad(stage);
+    const std::filesystem::path script = stage.sandbox.directory() / "documents.txt";
+    writeFileBytes(script, documentsThatSayNo());
+    startCad(stage, {"--documents", utf8(script.wstring())});
     playSelectionWindow(stage);
     playTrackingWindow(stage);
     playResuming(stage);
+    playRefusals(stage);
     stage.tell("The list file at the end");
     stage.showListFile();
     stage.cad.close();

@@ -19,6 +19,12 @@ void playTrackingWindow(Stage& stage);
 /// Starts again and accepts the list file that the pass left.
 void playResuming(Stage& stage);
 
+/// What the session must be told for playRefusals: the file of its documents.
+std::string documentsThatSayNo();
+
+/// Works through another list, whose documents do not open or are not saved.
+void playRefusals(Stage& stage);
+
 /// Has a pass of ten documents go on alone, in a session of its own that refuses one of them and
 /// does not save another.
 void playAlone(Stage& stage);

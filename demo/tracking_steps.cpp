@@ -47,11 +47,11 @@ void pictureSystemMenu(Stage& stage) {
     waitFor("the menu to close", [] { return FindWindowW(L"#32768", nullptr) == nullptr; });
 }
 
-void exportReport(Stage& stage) {
+void exportReport(Stage& stage, const std::string& file) {
     stage.tell("Exporting the report");
     stage.app.chooseInSystemMenu(kTracking, IDM_FORM3_RAPPORT);
-    stage.app.saveAsProposed("Exporter le rapport", "tarnwick-rapport.csv");
-    stage.showFile("tarnwick-rapport.csv");
+    stage.app.saveAsProposed("Exporter le rapport", file);
+    stage.showFile(file);
 }
 
 /// Both windows as a user has them, the tracking window in a corner of the screen.
@@ -64,6 +64,14 @@ void pictureBesideCad(Stage& stage) {
     moveTo(window, left, top);
     stage.picture("tracking-beside-cad", window, stage.cad.window());
     moveTo(window, place.left, place.top);
+}
+
+void answerRefusedSave(Stage& stage) {
+    const ModalBox box = stage.app.box();
+    stage.picture("tracking-not-saved", FindWindowW(L"#32770", L"Tarnwick"),
+                  stage.app.window(kTracking));
+    std::cout << box.text() << "\n  [Réessayer]" << std::endl;
+    box.answer(IDRETRY);
 }
 
 }  // namespace
@@ -86,7 +94,7 @@ void playTrackingWindow(Stage& stage) {
     stage.picture("tracking-later", stage.app.window(kTracking));
     pictureBesideCad(stage);
     pictureSystemMenu(stage);
-    exportReport(stage);
+    exportReport(stage, "tarnwick-rapport.csv");
     stage.picture("trial-cad", stage.cad.window());
     saveListAndLeave(stage);
 }
@@ -99,6 +107,37 @@ void playResuming(Stage& stage) {
     stage.showCallsUpTo(kDocumentShown);
     stage.showLines(IDC_FORM3_LIST1);
     stage.picture("tracking-resumed", stage.app.window(kTracking));
+    saveListAndLeave(stage);
+}
+
+std::string documentsThatSayNo() {
+    return "Étau d'établi.SLDASM;error=2;warning=32\nMors fixe.SLDPRT;refuse=65536\n"
+           "Mors mobile.SLDPRT;save=16:1\nVis de manœuvre.SLDPRT;open\n";
+}
+
+void playRefusals(Stage& stage) {
+    stage.tell("Another list, of documents that the session refuses, with the marks for that");
+    std::string list;
+    for (const std::string& document : stage.documents)
+        if (document.find("Étau d'établi\\") != document.npos) list += "0  " + document + "\r\n";
+    writeFileBytes(stage.sandbox.directory() / "etau.lst", list);
+    stage.app.start({"etau.lst"});
+    stage.press(IDC_FORM2_CMDOK);
+    stage.showCallsUpTo(kDocumentShown);
+    for (const int item :
+         {IDM_FORM3_PASSERREFUS, IDM_FORM3_GARDERNONSAUVE, IDM_FORM3_LAISSEROUVERTS})
+        stage.app.chooseInSystemMenu(kTracking, item);
+    stage.tell("Saved, though a component is missing; the next one does not open and is passed");
+    pressAndShow(stage, IDC_FORM3_CMDSUIV);
+    stage.tell("Not saved: tried again");
+    stage.press(IDC_FORM3_CMDSUIV);
+    answerRefusedSave(stage);
+    stage.showCallsUpTo(kDocumentShown);
+    stage.tell("The user had this one open: it stays open");
+    pressAndShow(stage, IDC_FORM3_CMDSUIV);
+    stage.showLines(IDC_FORM3_LIST1);
+    exportReport(stage, "etau-rapport.csv");
+    stage.picture("trial-cad-refusals", stage.cad.window());
     saveListAndLeave(stage);
 }
 

@@ -1,6 +1,7 @@
 // A session that says no, answered as the system menu's options say.
 
 #include <algorithm>
+#include <sstream>
 
 #include "scenario.h"
 
@@ -20,6 +21,22 @@ struct Refusals : Scenario {
         startAndResume();
     }
 
+    /// The remarks in the report, in the order of the lines.
+    Lines remarks() const {
+        app.chooseInSystemMenu(kTracking, IDM_FORM3_RAPPORT);
+        app.saveAsProposed("Exporter le rapport", "tarnwick-rapport.csv");
+        std::string report;
+        waitFor("the report", [&] {
+            report = readFileBytes(sandbox.directory() / "tarnwick-rapport.csv").value_or("");
+            return !report.empty();
+        });
+        Lines found;
+        std::istringstream lines(report.substr(report.find('\n') + 1));
+        for (std::string line; std::getline(lines, line);)
+            found.push_back(line.substr(line.rfind(';') + 1, line.size() - line.rfind(';') - 2));
+        return found;
+    }
+
     int countOf(const std::string& call) const {
         const calls::Calls all = cad.calls();
         return static_cast<int>(std::ranges::count(all, call));
@@ -27,7 +44,9 @@ struct Refusals : Scenario {
 };
 
 TEST_F(Refusals, PassOverKeepOpenAndLeaveOpen) {
-    start("b.SLDPRT;refuse=65536\nc.SLDPRT;save=16:1\nd.SLDPRT;open\n");
+    start(
+        "a.SLDPRT;error=2;warning=32\nb.SLDPRT;refuse=65536\nc.SLDPRT;save=16:1\n"
+        "d.SLDPRT;open\n");
     app.waitForText(IDC_FORM3_TXTETAT, paths[0]);
     app.click(IDC_FORM3_CMDSUIV);
     app.waitForText(IDC_FORM3_TXTETAT, paths[2]);
@@ -45,11 +64,16 @@ TEST_F(Refusals, PassOverKeepOpenAndLeaveOpen) {
     app.waitForCommandEnd(IDC_FORM3_LIST1, IDC_FORM3_CMDDESELECT);
     expectLines(IDC_FORM3_LIST1, {"0001  " + kDone + paths[0], "0002  " + kToDo + paths[1],
                                   "0003  " + kDone + paths[2], "0004  " + kInProgress + paths[3]});
+    EXPECT_EQ(remarks(), (Lines{"Ouvert avec erreur : fichier ou composant introuvable (2) | "
+                                "A reconstruire (32)",
+                                "Non ouvert : un document de même nom est déjà ouvert (65536)", "",
+                                "Déjà ouvert (128)"}));
     app.click(IDC_FORM3_CMDSORTIE);
     expectEnd();
     EXPECT_EQ(countOf(calls::closing(paths[3])), 0);
     EXPECT_EQ(cad.calls().back().substr(0, 27), "SetCurrentWorkingDirectory(");
     EXPECT_EQ(cad.calls().back().find("documents"), std::string::npos) << cad.calls().back();
+    EXPECT_EQ(callByName(cad.application().get(), L"GetDocumentCount").number, 1);
 }
 
 }  // namespace
