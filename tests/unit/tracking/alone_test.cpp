@@ -34,8 +34,9 @@ struct Alone : TrackingFixture {
         machine.boxes.answers = {kYes};
         click(IDM_FORM3_SEUL);
         std::wstring text = machine.boxes.shown.back().text;
-        for (auto end = text.find(L"\r\n"); end != std::wstring::npos; end = text.find(L"\r\n"))
+        for (auto end = text.find(L"\r\n"); end != std::wstring::npos; end = text.find(L"\r\n")) {
             text.replace(end, 2, L" ");
+        }
         return text;
     }
 
@@ -168,8 +169,9 @@ TEST_F(Alone, DoesWhatAPersonWouldWhoPressesTheFirstButton) {
         }
         Trace traces[2];
         for (const bool alone : {false, true}) {
-            for (const wchar_t* mark : {L"passerrefus", L"gardernonsauve"})
+            for (const wchar_t* mark : {L"passerrefus", L"gardernonsauve"}) {
                 machine.settings.write(L"tarnwick", L"options", mark, L"1");
+            }
             machine.settings.write(L"tarnwick", L"options", L"laisserouverts",
                                    seed % 3 == 0 ? L"1" : L"0");
             machine.boxes.answers = {kNo, kNo};

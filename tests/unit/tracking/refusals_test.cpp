@@ -42,8 +42,9 @@ TEST_F(Refusals, ArePassedOverInTheDirectionOfTheCommand) {
         refuse(c.refused);
         std::wstring list;
         wchar_t name = L'a';
-        for (const wchar_t* state = c.states; *state; ++state)
+        for (const wchar_t* state = c.states; *state; ++state) {
             list += *state + (L"  c:\\" + std::wstring{name++}) + L"\r\n";
+        }
         load(list);
         clickAll(c.buttons);
         EXPECT_EQ(calls(), c.calls);
