@@ -34,6 +34,8 @@ constexpr NamedRow kRows[] = {
     {"depth", depthOfLines},
     {"choice", choiceOfLines},
     {"cad", cadCalls},
+    {"alone", documentsAlone},
+    {"halt", stopOfAlone},
     {"start", start},
     {"save", listFileSave},
     {"load", listFileLoad},

@@ -29,6 +29,10 @@ Row depthOfLines(const Setting& setting);
 Row choiceOfLines(const Setting& setting);
 /// A document's eight CAD calls, against Invoke with member numbers known.
 Row cadCalls(const Setting& setting);
+/// A pass that goes on alone, against the same calls made bare; from the key that stops it to the
+/// box.
+Row documentsAlone(const Setting& setting);
+Row stopOfAlone(const Setting& setting);
 /// From the process's creation to its first window, against a bare dialog.
 Row start(const Setting& setting);
 /// The list file saved, against one write, flush and replace.
