@@ -53,7 +53,7 @@ void PassRunner::settled(const Command& command) {
         marks_.keepOn(pass_.list());
         throw;
     }
-    marks_.opened();
+    marks_.settle(pass_.list());
     view_.showAlert(alert());
     view_.showChoices();
 }

@@ -176,13 +176,15 @@ void MarkKeeper::keep(const WorkList& list, std::optional<std::int32_t> opening)
     }
 }
 
-void MarkKeeper::opened() {
-    if (!std::exchange(opening_, std::nullopt) || trouble_) return;
+void MarkKeeper::settle(const WorkList& list) {
+    const std::vector<std::size_t> changed = lines_.follow(list);
+    const bool wasOpening = std::exchange(opening_, std::nullopt).has_value();
+    if (trouble_ || (!wasOpening && changed.empty())) return;
     if (lines_.allAsInFile()) {
         forget();
     } else {
-        // What is on disk holds without this, too: the next start would ask once too often.
-        put({}, std::nullopt, RecordFile::Flush::Later);
+        // The marks on disk hold without this, too: the next start would ask once too often.
+        put(changed, std::nullopt, RecordFile::Flush::Later);
     }
 }
 

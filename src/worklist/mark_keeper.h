@@ -73,8 +73,9 @@ class MarkKeeper {
     void keep(const WorkList& list, std::optional<std::int32_t> opening = std::nullopt);
     /// The same; the document that is being opened, if any, still is.
     void keepOn(const WorkList& list) { keep(list, opening_); }
-    /// The document that was being opened is open.
-    void opened();
+    /// The command has made its last call: the document that was being opened is open. What was
+    /// said of it is kept with the marks, if there are any.
+    void settle(const WorkList& list);
 
     /// Whether there are marks, and all of them are on disk, to be offered at the next start.
     bool keeps() const { return written_ > 0 && !behind_ && !lines_.allAsInFile(); }

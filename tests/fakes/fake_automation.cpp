@@ -37,6 +37,7 @@ struct FakeAutomation::Object : ServedObject {
     }
     CallResult invoke(std::int32_t number, Access access, std::span<const Argument> arguments,
                       ServersReply& reply) override {
+        server.beforeEach();
         const std::wstring member = server.members_.at(static_cast<std::size_t>(number));
         const std::wstring line = (name.empty() ? name : name + L'.') + member;
         if (access == Access::Put) {

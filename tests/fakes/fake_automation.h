@@ -40,6 +40,7 @@ struct FakeAutomation : ObjectServers {
     /// What a method does instead of what it usually does, by its name.
     std::map<std::wstring, Answer, std::less<>> overrides;
 
+    std::function<void()> beforeEach = [] {};  ///< looks on before a call arrives
     bool hasNamedOnly = false;  ///< found by its display name alone
     CallResult running(const std::wstring& progId, std::shared_ptr<ServedObject>& object) override;
     CallResult runningNamed(const std::wstring& beginning,

@@ -254,3 +254,103 @@ TEST_F(Refusals, ReferencesAreLookedForBesideTheDocument) {
     EXPECT_EQ(states(), L"0 3");
     EXPECT_THROW(window().close(), ProgramEnd);
 }
+
+namespace {
+
+/// What each document of a long pass does, in turn; most do nothing special.
+const struct {
+    FakeDocument said;
+    const wchar_t* calls;   ///< of its own command
+    const char* code;       ///< of its line at the end
+    const wchar_t* remark;  ///< its beginning
+} kWays[] = {
+    {{}, L"+s-", "1", L""},
+    {{.opens = false, .errorCode = 65536}, L"+", "0", L"Non ouvert : un document"},
+    {{.warningCode = 128}, L"+s", "1", L"Déjà ouvert (128)"},
+    {{.saved = std::int32_t{2}}, L"+s-", "1", L"Non enregistré : document en lecture seule (2)"},
+    {{.fails = L"ActivateDoc2"}, L"+-", "0", L"Non ouvert : l'appel a échoué (440)"},
+    {{.errorCode = 2}, L"+s-", "1", L"Ouvert avec erreur : fichier"},
+    {{}, L"+s-", "1", L""},
+    {{.opens = false}, L"+", "0", L"Non ouvert : document non rendu (91)"},
+    {{.fails = L"OpenDoc6"}, L"+", "0", L"Non ouvert : l'appel a échoué (440)"},
+};
+
+struct LongPass : Refusals {
+    /// A list of so many documents, each in its way; the first one is plain.
+    void loadWays(int count) {
+        switchOn(L"passerrefus");
+        switchOn(L"laisserouverts");
+        std::wstring text;
+        for (int i = 0; i < count; ++i) {
+            const std::wstring name = std::to_wstring(i);
+            machine.automation.documents[name] = way(i).said;
+            text += L"0  c:\\" + name + L"\r\n";
+        }
+        load(text);
+    }
+    static decltype(kWays[0])& way(int i) {
+        return kWays[static_cast<std::size_t>(i) * 7 % std::size(kWays)];
+    }
+    void goOnToTheEnd() {
+        while (canAdvance()) click(IDC_FORM3_CMDSUIV);
+    }
+};
+
+}  // namespace
+
+TEST_F(LongPass, OfTwoThousandDocumentsGoesAsEachOfThemSays) {
+    constexpr int kCount = 2000;
+    loadWays(kCount);
+    goOnToTheEnd();
+    std::wstring expected;
+    for (int i = 0; i < kCount; ++i) {
+        for (const wchar_t* call = way(i).calls; *call; ++call) {
+            expected += *call;
+            if (*call != L's') expected += std::to_wstring(i);
+        }
+        EXPECT_EQ(work().lines[i].code.text(), way(i).code) << i;
+        EXPECT_TRUE(remark(i).starts_with(way(i).remark)) << i;
+        EXPECT_EQ(remark(i).empty(), !*way(i).remark) << i;
+    }
+    std::wstring made;
+    for (const std::wstring& call : takeCalls()) {
+        const std::wstring path = call.substr(call.find(L'\\') + 1);
+        if (call.starts_with(L"OpenDoc6(")) made += L"+" + path.substr(0, path.find(L'"'));
+        if (call.starts_with(L"closedoc(")) made += L"-" + path.substr(0, path.find(L'"'));
+        if (call.find(L"save2") != std::wstring::npos) made += L"s";
+    }
+    EXPECT_EQ(made, expected);
+}
+
+TEST_F(LongPass, KilledAtAnyCallKeepsEveryMarkAndWhatWasSaidOfMarkedLines) {
+    loadWays(20);
+    struct Moment {
+        std::map<std::wstring, std::string> records;
+        std::vector<WorkLine> lines;
+    };
+    std::vector<Moment> moments;
+    machine.automation.beforeEach = [&] {
+        moments.push_back({machine.records.contents, {}});
+        for (int i = 0; i < 20; ++i) moments.back().lines.push_back(work().lines[i]);
+    };
+    goOnToTheEnd();
+    machine.automation.beforeEach = [] {};
+    const auto window = std::move(form);  // its texts are those of the lines
+    ASSERT_GT(moments.size(), 60U);
+    for (const Moment& moment : moments) {
+        Pass next(machine.clock);
+        const std::string bytes = machine.files.readBytes(machine.programFiles.list);
+        next.read(bytes);
+        const auto record = moment.records.begin();
+        const auto kept = record == moment.records.end()
+                              ? std::nullopt
+                              : readKeptMarks(record->second, ContentIdentity(bytes), 20);
+        if (kept) next.restore(*kept);
+        for (int i = 0; i < 20; ++i) {
+            const WorkLine& then = moment.lines[static_cast<std::size_t>(i)];
+            if (then.code != LineState::Done) continue;
+            EXPECT_EQ(next.list().lines[i].code, then.code) << i;
+            EXPECT_EQ(next.list().lines[i].history, then.history) << i;
+        }
+    }
+}

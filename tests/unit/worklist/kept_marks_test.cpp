@@ -27,7 +27,7 @@ struct KeptMarks : PassFixture {
     void open(bool succeeds = true) {
         pass->openCurrent();
         keeper->keep(pass->list(), pass->list().lines[pass->current()].fileLine);
-        if (succeeds) keeper->opened();
+        if (succeeds) keeper->settle(pass->list());
     }
 
     void advance(LineState mark, Saved saved = Saved::Unknown) {
@@ -88,7 +88,7 @@ TEST_F(KeptMarks, AreThereOnlyWhileThereIsSomethingToOffer) {
     begin(listOf("000"));
     open(false);
     EXPECT_EQ(read(record())->opening, 0);
-    keeper->opened();
+    keeper->settle(pass->list());
     EXPECT_FALSE(hasRecord() || keeper->keeps());
     advance(LineState::ToDo);
     EXPECT_FALSE(hasRecord());
