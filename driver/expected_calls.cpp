@@ -20,16 +20,15 @@ std::string closing(const std::string& path) { return "closedoc(" + quoted(path)
 
 std::string saving(const std::string& path) { return title(path) + ".save2(True)"; }
 
-Calls opening(const std::string& path, bool silent, Rebuild rebuild) {
-    Calls calls{"OpenDoc6(&" + quoted(path) + ", &" + std::to_string(typeCode(path)) + ":i2, " +
-                    (silent ? "1" : "0") + ":i4, \"\", &0:i4, &0:i4)",
-                "ActivateDoc2(&" + quoted(path) + ", True, &0:i4)", "Visible = True"};
+Calls opening(const std::string& path) {
     const std::string document = title(path);
-    if (rebuild == Rebuild::AllLevels) calls.push_back(document + ".ForceRebuild3(False)");
-    if (rebuild == Rebuild::TopLevel) calls.push_back(document + ".ForceRebuild3(True)");
-    calls.push_back(document + ".GetTitle()");
-    calls.push_back(document + ".ViewZoomtofit2()");
-    return calls;
+    return {"OpenDoc6(&" + quoted(path) + ", &" + std::to_string(typeCode(path)) +
+                ":i2, 1:i4, \"\", &0:i4, &0:i4)",
+            "ActivateDoc2(&" + quoted(path) + ", True, &0:i4)",
+            "Visible = True",
+            document + ".ForceRebuild3(False)",
+            document + ".GetTitle()",
+            document + ".ViewZoomtofit2()"};
 }
 
 Calls together(const std::vector<Calls>& parts) {

@@ -8,8 +8,6 @@ namespace driver::calls {
 
 using Calls = std::vector<std::string>;
 
-enum class Rebuild { None, TopLevel, AllLevels };
-
 /// The type by which a document is opened.
 int typeCode(const std::string& path);
 
@@ -19,8 +17,8 @@ Calls atStartUp();
 std::string closing(const std::string& path);
 std::string saving(const std::string& path);
 
-/// Opening a document, bringing it forward and zooming, as the loading options say.
-Calls opening(const std::string& path, bool silent = true, Rebuild rebuild = Rebuild::AllLevels);
+/// Opening a document with the loading options of a first run, bringing it forward and zooming.
+Calls opening(const std::string& path);
 
 Calls together(const std::vector<Calls>& parts);
 

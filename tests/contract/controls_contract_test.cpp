@@ -3,18 +3,6 @@
 
 using ControlContract = ContractTest;
 
-TEST_F(ControlContract, TextIsReadBackAsItWasSet) {
-    for (const int id : {IDC_CONTRACT_LABEL, IDC_CONTRACT_FIELD, IDC_CONTRACT_BUTTON}) {
-        Control& control = window.control(id);
-        for (const std::wstring& text :
-             {std::wstring(L"1-Sauver+Suiv >>"), std::wstring(L"&Été && \"œuvre\"  "),
-              std::wstring(), std::wstring(L"\U0001F527"), std::wstring(2000, L'x')}) {
-            control.setText(text);
-            EXPECT_EQ(control.text(), text) << id;
-        }
-    }
-}
-
 TEST_F(ControlContract, ComboBoxShowsTheLineThatIsSelected) {
     const std::wstring lines[] = {L"c:", L"d:", L"c:"};
     for (const int id : {IDC_CONTRACT_TYPED, IDC_CONTRACT_CHOSEN}) {

@@ -93,34 +93,4 @@ TEST_F(TrackingPass, GoesThroughTheListBackAndForthAndEditsIt) {
     EXPECT_EQ(settings.get("tarnwick", "startup", "RegCheck"), "1111");
 }
 
-TEST_F(TrackingPass, ResumesWhereItStoppedWithWindowAndOptionsAsLeft) {
-    sandbox.writeList(listOf({"1", "0", "0"}));
-    cad.start();
-    startAndResume();
-    expectCalls(together({calls::atStartUp(), opening(paths[1])}));
-    moveTo(app.window(kTracking), 210, 120);
-    app.click(IDC_FORM3_CKSILENT);
-    app.click(IDC_FORM3_CKRECONS2);
-    app.click(IDC_FORM3_CMDFICHIERLISTE);
-    app.click(IDC_FORM3_CMDSORTIE);
-    expectEnd();
-    expectCalls({closing(paths[1])});
-    EXPECT_EQ(settings.get("tarnwick", "startup", "leftpos3"), "3150");
-    EXPECT_EQ(settings.get("tarnwick", "startup", "toppos3"), "1800");
-    EXPECT_EQ(settings.get("tarnwick", "startup", "regcheck"), "1010");
-
-    startAndResume();
-    expectCalls(together({calls::atStartUp(), opening(paths[1], false, calls::Rebuild::TopLevel)}));
-    expectLabels({kDone, kInProgress, kToDo});
-    const RECT place = placeOf(app.window(kTracking));
-    EXPECT_EQ(std::pair(place.left, place.top), std::pair(LONG{210}, LONG{120}));
-    // After the first document our own window is in front.
-    app.click(IDC_FORM3_CMDSUIVSAUTER);
-    waitFor("the CAD window in front", [this] { return GetForegroundWindow() == cad.window(); });
-    app.click(IDC_FORM3_CKSILENT);
-    expectEnd(kTracking);
-    EXPECT_EQ(settings.get("tarnwick", "startup", "regcheck"), "1010");
-    EXPECT_EQ(sandbox.readList(), listOf({"1", "3", "0"}));
-}
-
 }  // namespace

@@ -91,14 +91,13 @@ ServersReply FakeAutomation::answer(const std::wstring& object, std::wstring_vie
 CallResult FakeAutomation::running(const std::wstring& progId,
                                    std::shared_ptr<ServedObject>& object) {
     journal.push_back(L"attach " + progId);
-    if (!hasNamedOnly) object = std::make_shared<Object>(*this);
+    object = std::make_shared<Object>(*this);
     return 0;
 }
 
 CallResult FakeAutomation::runningNamed(const std::wstring& beginning,
-                                        std::shared_ptr<ServedObject>& object) {
+                                        std::shared_ptr<ServedObject>&) {
     journal.push_back(L"attach " + beginning + L"…");
-    if (hasNamedOnly) object = std::make_shared<Object>(*this);
     return 0;
 }
 

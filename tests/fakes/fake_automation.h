@@ -41,7 +41,6 @@ struct FakeAutomation : ObjectServers {
     std::map<std::wstring, Answer, std::less<>> overrides;
 
     std::function<void()> beforeEach = [] {};  ///< looks on before a call arrives
-    bool hasNamedOnly = false;  ///< found by its display name alone
     CallResult running(const std::wstring& progId, std::shared_ptr<ServedObject>& object) override;
     CallResult runningNamed(const std::wstring& beginning,
                             std::shared_ptr<ServedObject>& object) override;

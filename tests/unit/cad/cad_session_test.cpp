@@ -37,23 +37,6 @@ TEST_F(CadSessionTest, KeepsThePathThatTheServerChanges) {
     EXPECT_EQ(automation.journal[1], L"ActivateDoc2(&\"c:\\été\\a.SLDPRT\", True, &0:i4)");
 }
 
-TEST_F(CadSessionTest, AttachesToASessionThatGoesByItsProcessAlone) {
-    automation.hasNamedOnly = true;
-    EXPECT_TRUE(session.attach(automation));
-    EXPECT_EQ(automation.journal,
-              (CallJournal{L"attach SldWorks.Application", L"attach SolidWorks_PID_…"}));
-}
-
-TEST_F(CadSessionTest, PassesOnThatThereIsNoSuchWindow) {
-    automation.revision = L"14.0";
-    attach();
-    session.open(kPath, {}, remark);
-    desktop.windows = {{L"SolidWorks 2006 - a.SLDPRT", 7}};
-    session.bringForward();
-    EXPECT_EQ(desktop.broughtForward, std::vector<Desktop::WindowHandle>{0});
-    EXPECT_EQ(automation.journal.back(), L"a.SLDPRT.ViewZoomtofit2()");
-}
-
 TEST_F(CadSessionTest, FailuresNameTheDocument) {
     automation.documentsOpen = false;
     attach();

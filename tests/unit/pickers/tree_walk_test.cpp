@@ -218,16 +218,6 @@ TEST(InParallel, DoesEachJobOnceAndTellsOfTheFirstThatFails) {
     }
 }
 
-TEST_F(TreeWalk, LetsThroughWhatThePatienceRaises) {
-    files.add({L"c:\\r\\a.SLDPRT"});
-    patience.goesOn = []() -> bool { throw ProgramEnd{}; };
-    files.beforeEach = [](const std::wstring&) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    };
-    JoiningWorkers workers;
-    EXPECT_THROW(walk(workers), ProgramEnd);
-}
-
 namespace {
 
 /// Reads a directory: these are in it, those that end with an arrow as links.

@@ -114,11 +114,3 @@ TEST_F(SelectionLeaving, OnlySortieSavesTheWindowsPlace) {
     EXPECT_EQ(savedPlace(), L"450 -75");
     EXPECT_FALSE(machine.files.texts.contains(machine.programFiles.list));
 }
-
-TEST_F(SelectionLeaving, OpensTheOtherWindowsBesideItself) {
-    load();
-    click(IDC_FORM1_CMDAP);
-    click(IDC_FORM1_CMDREPDEF);
-    EXPECT_EQ(exits.taken, (Texts{L"closeSplash", L"showAbout", L"showConfigurations"}));
-    EXPECT_EQ(window().state, FakeWindow::State::Shown);
-}

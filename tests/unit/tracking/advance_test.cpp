@@ -61,33 +61,6 @@ TEST_F(Advance, LoadsAsTheOptionsSay) {
     }
 }
 
-TEST_F(StepBack, OpensTheNearestLineToDoAbove) {
-    for (const int button : {IDC_FORM3_CMDPRECEDENT, IDC_FORM3_CMD4}) {
-        loadStates(L"00120");
-        // From a to b, to e, to the end, and back to e.
-        for (int i = 0; i < 3; ++i) click(IDC_FORM3_CMDSUIVSAUTER);
-        click(button);
-        takeCalls();
-        click(button);
-        // The name of the document just closed is kept, so that it is closed a second time.
-        CallJournal expected = openingB();
-        expected.insert(expected.begin(), 2, L"closedoc(\"c:\\e\")");
-        EXPECT_EQ(takeCalls(), expected);
-        EXPECT_EQ(states(), L"0 3 1 2 0");
-        EXPECT_EQ(shown(), L"1: 2/5 c:\\b");
-        EXPECT_EQ(list().selection(), std::vector{1});
-    }
-}
-
-TEST_F(StepBack, FromTheFirstLineToDoLeavesNoCurrentLine) {
-    loadStates(L"100");
-    click(IDC_FORM3_CMDPRECEDENT);
-    EXPECT_EQ(takeCalls(), CallJournal{L"closedoc(\"c:\\b\")"});
-    EXPECT_EQ(states(), L"1 0 0");
-    EXPECT_EQ(shown(), L"-1: 2/3 aucun");
-    EXPECT_TRUE(list().selection().empty() && canAdvance() && !canStepBack());
-}
-
 TEST_F(StepBack, TakesADocumentOfTheSamePathAsOpen) {
     load(L"0  c:\\Été.SLDPRT\r\n0  C:\\éTÉ.sldprt\r\n");
     click(IDC_FORM3_CMDSUIVSAUTER);

@@ -99,7 +99,7 @@ TEST_F(Undo, GoesBackThroughTheWholeRunAcrossItsEnd) {
     loadStates(L"000");
     clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIVSAUTER, IDC_FORM3_CMDSUIVQUITTER});
     EXPECT_FALSE(canAdvance());
-    takeCalls();
+    EXPECT_EQ(calls(), L"s-a+b-b+c-c");
     const wchar_t* const steps[][2] = {{L"1 0 3", L"+c"}, {L"1 3 0", L"-c+b"}, {L"3 0 0", L"-b+a"}};
     for (const auto& [after, expected] : steps) {
         click(IDM_FORM3_REVENIR);

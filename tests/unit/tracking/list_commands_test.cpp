@@ -122,22 +122,3 @@ TEST_F(ListCommands, ChangeOrRemoveLinesAndKeepTheCurrentOneOpen) {
         EXPECT_EQ(takeCalls().size(), calls);
     }
 }
-
-TEST_F(ListCommands, WithNothingLeftToDoThePassIsOver) {
-    loadStates(L"000");
-    clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIV});
-    takeCalls();
-    click(IDC_FORM3_CMDSUIV);
-    EXPECT_EQ(takeCalls(), (CallJournal{L"c.save2(True)", L"closedoc(\"c:\\c\")"}));
-    EXPECT_EQ(shown(), L"3: 3/3 Aucun");
-    EXPECT_EQ(list().texts()[2], L"0003   Fait          c:\\c");
-    EXPECT_TRUE(list().selection().empty() && canStepBack() && cad->hasOpen(L""));
-    command(IDC_FORM3_CMDELIF, {0, 2});
-    EXPECT_EQ(states(), L"1");
-    EXPECT_FALSE(canAdvance());
-    EXPECT_EQ(shown().substr(2), L" 3/1 Aucun");
-    click(IDC_FORM3_CMDFICHIERLISTE);
-    EXPECT_EQ(listFile(), L"1  c:\\b\r\n");
-    command(IDC_FORM3_CMDPURGE, {});
-    EXPECT_EQ(list().count(), 0);
-}
