@@ -324,11 +324,11 @@ TEST_F(LongPass, OfTwoThousandDocumentsGoesAsEachOfThemSays) {
 
 TEST_F(LongPass, KilledAtAnyCallKeepsEveryMarkAndWhatWasSaidOfMarkedLines) {
     loadWays(20);
-    struct Moment {
+    struct KilledHere {
         std::map<std::wstring, std::string> records;
         std::vector<WorkLine> lines;
     };
-    std::vector<Moment> moments;
+    std::vector<KilledHere> moments;
     machine.automation.beforeEach = [&] {
         moments.push_back({machine.records.contents, {}});
         for (int i = 0; i < 20; ++i) moments.back().lines.push_back(work().lines[i]);
@@ -337,7 +337,7 @@ TEST_F(LongPass, KilledAtAnyCallKeepsEveryMarkAndWhatWasSaidOfMarkedLines) {
     machine.automation.beforeEach = [] {};
     const auto window = std::move(form);  // its texts are those of the lines
     ASSERT_GT(moments.size(), 60U);
-    for (const Moment& moment : moments) {
+    for (const KilledHere& moment : moments) {
         Pass next(machine.clock);
         const std::string bytes = machine.files.readBytes(machine.programFiles.list);
         next.read(bytes);
