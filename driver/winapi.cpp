@@ -87,6 +87,10 @@ RECT placeOf(HWND window) {
     return place;
 }
 
+void moveTo(HWND window, int left, int top) {
+    SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 std::vector<std::string> listLines(HWND list) {
     std::vector<std::string> lines;
     const LRESULT count = send(list, LB_GETCOUNT);

@@ -31,6 +31,9 @@ void post(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 /// Where a window stands on the screen.
 RECT placeOf(HWND window);
 
+/// Moves a window's top left corner.
+void moveTo(HWND window, int left, int top);
+
 /// The lines of a list box of another process.
 std::vector<std::string> listLines(HWND list);
 
