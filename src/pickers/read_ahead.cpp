@@ -79,7 +79,7 @@ TreeDirectory& ReadingPlan::plan(TreeDirectory& directory, std::size_t index,
 }
 
 TreeDirectory& ReadingPlan::subdirectory(TreeDirectory& directory, std::size_t index) {
-    std::unique_ptr<TreeDirectory>& one = directory.below[index];
+    const std::unique_ptr<TreeDirectory>& one = directory.below[index];
     // A link, which the walk waits for: it comes before all else.
     return one ? *one : plan(directory, index, toRead_.begin());
 }

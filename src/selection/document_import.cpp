@@ -127,8 +127,7 @@ void DocumentImport::add(int place, const std::wstring& text, const std::wstring
     const auto [known, isNew] = numbers_.try_emplace(upperCase(path), named_.size());
     if (isNew) named_.push_back({path, presence});
     // What was found below a directory is there, whoever named it before.
-    Document& document = named_[known->second];
-    if (presence == Presence::There) document.presence = presence;
+    if (presence == Presence::There) named_[known->second].presence = presence;
     lines_.push_back({place, text, known->second});
 }
 

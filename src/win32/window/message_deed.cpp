@@ -114,8 +114,8 @@ InputSieve::InputSieve(Judge& judge)
 InputSieve::~InputSieve() { hooked_ = nullptr; }
 
 LRESULT CALLBACK InputSieve::onGetMessage(int code, WPARAM wParam, LPARAM lParam) {
-    auto& message = *reinterpret_cast<MSG*>(lParam);
     if (code == HC_ACTION && wParam == PM_REMOVE && hooked_) {
+        auto& message = *reinterpret_cast<MSG*>(lParam);
         const Verdict verdict = hooked_->take(deedOf(message, *hooked_));
         if (verdict != Verdict::Counts) message.message = WM_NULL;
     }

@@ -27,6 +27,16 @@ struct StartUp : testing::Test {
 
 }  // namespace
 
+TEST_F(StartUp, GoesThroughItsStepsInOrder) {
+    program.start();
+    EXPECT_EQ(machine.automation.journal,
+              (CallJournal{L"attach SldWorks.Application", L"RevisionNumber()",
+                           L"GetCurrentWorkingDirectory()", L"create Scripting.FileSystemObject"}));
+    EXPECT_EQ(machine.listHolds.asked, Texts{L"c:\\tarnwick\\tarnwick.verrou"});
+    EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
+    EXPECT_EQ(about().state, State::Unloaded);
+}
+
 TEST_F(StartUp, ReadsThePlacesFirst) {
     machine.settings.write(L"mervale", L"listerepert", L"leftpos4", L"à gauche");
     const RuntimeError error = raisedError([&] { program.start(); });

@@ -43,6 +43,17 @@ TEST(ControlLayout, MeasuresByTheFontInUse) {
     EXPECT_EQ(layout.arranged({610, 600}).front(), (Area{25, 40, 115, 80}));
 }
 
+TEST(InSight, MovesAWindowNoFurtherThanItMust) {
+    const Area above{0, -1200, 1600, -40};
+    const std::pair<Area, Area> cases[] = {
+        {{100, -600, 500, -100}, {100, -600, 500, -100}},
+        {{-5, -1201, 395, -701}, {0, -1200, 400, -700}},
+        {{1500, -100, 1900, 400}, {1200, -540, 1600, -40}},
+        {{200, -900, 1900, 900}, {0, -1200, 1600, -40}},
+    };
+    for (const auto& [place, seen] : cases) EXPECT_EQ(inSight(place, above), seen);
+}
+
 TEST(InSight, FindsThePlaceOfAMinimisedWindow) {
     const Monitor taskbarOnTop{{0, 0, 1920, 1080}, {0, 40, 1920, 1080}};
     EXPECT_EQ(placeOnScreen({100, 200, 700, 800}, taskbarOnTop), (Area{100, 240, 700, 840}));
