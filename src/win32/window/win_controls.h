@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <array>
+
 #include "ports/controls.h"
 
 /// What every control can do, for each of the control interfaces.
@@ -54,6 +56,9 @@ class WinCheckBox : public ControlOf<CheckBox> {
     void setChecked(bool checked) override;
 };
 
+/// What the two scroll bars show: least, most, page and place of each.
+using ScrollBars = std::array<std::array<int, 4>, 2>;
+
 class WinListBox : public ControlOf<ListBox> {
  public:
     using ControlOf::ControlOf;
@@ -82,6 +87,7 @@ class WinListBox : public ControlOf<ListBox> {
 
     int pauses_ = 0;
     bool paused_ = false;  ///< whether the control knows of it
+    ScrollBars drawnBars_{};
 };
 
 class WinComboBox : public ControlOf<ComboBox> {

@@ -60,6 +60,19 @@ int WidestLine::widthOf(const std::wstring& line) const {
     return width;
 }
 
+ScrollBars scrollBarsOf(HWND list) {
+    ScrollBars bars;
+    const int kinds[] = {SB_HORZ, SB_VERT};
+    for (std::size_t i = 0; i < bars.size(); ++i) {
+        SCROLLINFO info{};
+        info.cbSize = sizeof info;
+        info.fMask = SIF_ALL;
+        GetScrollInfo(list, kinds[i], &info);
+        bars[i] = {info.nMin, info.nMax, static_cast<int>(info.nPage), info.nPos};
+    }
+    return bars;
+}
+
 }  // namespace
 
 int WinListBox::count() const { return sendForInt(LB_GETCOUNT); }
@@ -169,12 +182,15 @@ void WinListBox::measureLines() {
 void WinListBox::stopDrawing() {
     if (pauses_++ != 0) return;
     paused_ = (GetWindowLongW(handle(), GWL_STYLE) & WS_VISIBLE) != 0;
-    if (paused_) send(WM_SETREDRAW, FALSE);
+    if (!paused_) return;
+    drawnBars_ = scrollBarsOf(handle());
+    send(WM_SETREDRAW, FALSE);
 }
 
 void WinListBox::resumeDrawing() {
     if (--pauses_ != 0 || !paused_) return;
     send(WM_SETREDRAW, TRUE);
-    RedrawWindow(handle(), nullptr, nullptr,
-                 RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
+    // The scroll bars stand in the frame; to draw them takes longer than the lines.
+    const UINT frame = scrollBarsOf(handle()) == drawnBars_ ? 0 : RDW_FRAME;
+    RedrawWindow(handle(), nullptr, nullptr, RDW_ERASE | RDW_INVALIDATE | RDW_ALLCHILDREN | frame);
 }
