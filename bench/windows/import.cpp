@@ -53,7 +53,7 @@ void importInto(FoundDocuments& found, const SearchServices& services, const std
     const bool all = import.gatherFile(file) == DocumentImport::End::Complete &&
                      import.look() == DocumentImport::End::Complete;
     require(all && import.remains().leftOut == 0, "all documents imported");
-    found.take(import.documents());
+    found.take(import.takeDocuments());
 }
 
 Comparison compareImport(const Setting& setting, int size) {

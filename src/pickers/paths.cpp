@@ -45,19 +45,19 @@ std::wstring rootOf(std::wstring_view path) {
 
 /// The names on the way down, ".." taken for what it means.
 std::wstring names(std::wstring_view path) {
-    std::vector<std::wstring_view> way;
+    std::wstring way;
+    way.reserve(path.size());
     while (!path.empty()) {
         const std::wstring_view name = firstName(path);
         path.remove_prefix(std::min(name.size() + 1, path.size()));
         if (isPlainName(name)) {
-            way.push_back(name);
-        } else if (name == L".." && !way.empty()) {
-            way.pop_back();
+            (way += way.empty() ? L"" : L"\\") += name;
+        } else if (name == L"..") {
+            const std::size_t last = way.rfind(L'\\');
+            way.resize(last == std::wstring::npos ? 0 : last);
         }
     }
-    std::wstring joined;
-    for (const std::wstring_view name : way) (joined += joined.empty() ? L"" : L"\\") += name;
-    return joined;
+    return way;
 }
 
 }  // namespace

@@ -108,10 +108,11 @@ bool DocumentImport::takeFile(const std::wstring& file) {
     if (!inParallel(services_, 1, read)) return false;
     if (found->problem) throw *found->problem;
     ownServers_.push_back(serverOf(file));
-    for (const FileLines::Line& line : found->lines) {
+    reserve(found->lines.size());
+    for (FileLines::Line& line : found->lines) {
         const int place = place_ + line.place;
         if (line.path) {
-            add(place, line.text, *line.path, Presence::Unknown);
+            add(place, std::move(line.text), std::move(*line.path), Presence::Unknown);
         } else {
             leaveOut(place, line.text, Presence::NoDocument);
         }
@@ -121,14 +122,19 @@ bool DocumentImport::takeFile(const std::wstring& file) {
     return true;
 }
 
-void DocumentImport::add(int place, const std::wstring& text, const std::wstring& path,
-                         Presence presence) {
+void DocumentImport::reserve(std::size_t more) {
+    lines_.reserve(lines_.size() + more);
+    named_.reserve(named_.size() + more);
+    numbers_.reserve(numbers_.size() + more);
+}
+
+void DocumentImport::add(int place, std::wstring text, std::wstring path, Presence presence) {
     if (lines_.size() == FileLines::kMost) throw tooManyDocuments();
     const auto [known, isNew] = numbers_.try_emplace(upperCase(path), named_.size());
-    if (isNew) named_.push_back({path, presence});
+    if (isNew) named_.push_back({std::move(path), presence});
     // What was found below a directory is there, whoever named it before.
     if (presence == Presence::There) named_[known->second].presence = presence;
-    lines_.push_back({place, text, known->second});
+    lines_.push_back({place, std::move(text), known->second});
 }
 
 void DocumentImport::leaveOut(int place, const std::wstring& text, Presence why) {
@@ -178,6 +184,8 @@ DocumentImport::End DocumentImport::look() {
 }
 
 bool DocumentImport::lookAtThose(Presence still) {
+    // Jobs that hang own the paths: lent until all have answered, for when they haven't nothing is
+    // imported.
     struct Looks {
         std::vector<std::wstring> paths;
         std::vector<Presence> answers;
@@ -187,24 +195,28 @@ bool DocumentImport::lookAtThose(Presence still) {
     for (Document& document : named_) {
         if (document.presence != still) continue;
         documents.push_back(&document);
-        looks->paths.push_back(document.path);
+        looks->paths.push_back(std::move(document.path));
     }
     looks->answers.resize(documents.size());
     const auto ask = [&files = services_.files, looks](std::size_t number) {
         looks->answers[number] = presenceOf(files, looks->paths[number]);
     };
     if (!inParallel(services_, documents.size(), ask)) return false;
-    for (std::size_t i = 0; i < documents.size(); ++i) documents[i]->presence = looks->answers[i];
+    for (std::size_t i = 0; i < documents.size(); ++i) {
+        documents[i]->path = std::move(looks->paths[i]);
+        documents[i]->presence = looks->answers[i];
+    }
     return true;
 }
 
 void DocumentImport::settle() {
+    documents_.reserve(lines_.size());
     for (const Line& line : lines_) {
         Document& document = named_[line.document];
         if (document.presence != Presence::There) {
             leaveOut(line.place, line.text, document.presence);
         } else if (!std::exchange(document.listed, true)) {
-            documents_.push_back(document.path);
+            documents_.push_back(std::move(document.path));
         } else {
             ++remains_.repeated;
         }

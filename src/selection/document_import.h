@@ -42,7 +42,7 @@ class DocumentImport {
     End gatherFile(const std::wstring& file);
 
     /// Takes files and directories as they were dropped. Interrupted where directories are among
-    /// them, it leaves in documents() what was found below them.
+    /// them, it leaves in takeDocuments() what was found below them.
     End gatherDropped(const std::vector<std::wstring>& paths, const Progress& progress);
 
     /// The servers, in capitals, that would be asked about documents, though neither the files
@@ -53,8 +53,8 @@ class DocumentImport {
     /// Finds out which documents are there.
     End look();
 
-    /// In order, each once.
-    const std::vector<std::wstring>& documents() const { return documents_; }
+    /// In order, each once; handed over.
+    std::vector<std::wstring> takeDocuments() { return std::move(documents_); }
     const ImportRemains& remains() const { return remains_; }
     const std::wstring& problem() const { return problem_; }
 
@@ -76,7 +76,9 @@ class DocumentImport {
     bool takeDropped(const std::wstring& path, const Progress& progress);
     bool takeDirectory(const std::wstring& directory, const Progress& progress);
     bool takeFile(const std::wstring& file);
-    void add(int place, const std::wstring& text, const std::wstring& path, Presence presence);
+    /// Room for so many more lines.
+    void reserve(std::size_t more);
+    void add(int place, std::wstring text, std::wstring path, Presence presence);
     void leaveOut(int place, const std::wstring& text, Presence why);
     /// Looks at what is known no better than that.
     bool lookAtThose(Presence still);

@@ -50,9 +50,9 @@ void FoundDocuments::restart(bool fullPaths) {
     fullPaths_ = fullPaths;
 }
 
-void FoundDocuments::take(const std::vector<std::wstring>& paths) {
+void FoundDocuments::take(std::vector<std::wstring> paths) {
     restart(true);
-    for (const std::wstring& path : paths) entries_[count_++] = path;
+    for (std::wstring& path : paths) entries_[count_++] = std::move(path);
 }
 
 void FoundDocuments::beginPass(bool append) {

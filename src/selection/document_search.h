@@ -49,7 +49,7 @@ class FoundDocuments {
     void restart(bool fullPaths);
 
     /// Replaces all by these documents, given by their full paths. Raises 9 for too many.
-    void take(const std::vector<std::wstring>& paths);
+    void take(std::vector<std::wstring> paths);
 
     /// Begins a pass over one directory. Unless it appends, the table is emptied but for its very
     /// last entry, which so still counts as present.

@@ -26,9 +26,8 @@ bool isListFile(const std::wstring& path) { return endsWith(path, L".LST"); }
 
 void take(FileLines& lines, const DocumentLine& line, const std::wstring& directory) {
     if (line.namesDocument || lines.nameless < FileLines::kTold) {
-        const std::wstring text = wideText(line.text);
-        lines.lines.push_back({lines.count, text, std::nullopt});
-        if (line.namesDocument) lines.lines.back().path = resolvedPath(directory, text);
+        auto& kept = lines.lines.emplace_back(lines.count, wideText(line.text), std::nullopt);
+        if (line.namesDocument) kept.path = resolvedPath(directory, kept.text);
     }
     if (!line.namesDocument) ++lines.nameless;
     ++lines.count;

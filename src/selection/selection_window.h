@@ -92,7 +92,8 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     void importDocuments(const ImportStep& gather);
     /// Does a step before its user's eyes; tells why it did not come to its end.
     bool completes(DocumentImport& import, const ImportStep& step);
-    void listDocuments(const std::vector<std::wstring>& documents);
+    /// False when there is none: the list stays as it was.
+    bool listDocuments(std::vector<std::wstring> documents);
 
     void setByKind(bool on);
     /// False when another program has a list open that would be replaced.

@@ -108,10 +108,9 @@ void SelectionWindow::importDocuments(const ImportStep& gather) {
     if (!servers.empty() && !mayAsk()) import.leaveOutServers(servers);
     if (!completes(import, [](DocumentImport& looking) { return looking.look(); })) return;
 
-    const bool none = import.documents().empty();
-    if (!none) listDocuments(import.documents());
+    const bool any = listDocuments(import.takeDocuments());
     std::wstring text = remainsText(import.remains());
-    if (none) {
+    if (!any) {
         text += (text.empty() ? L"Aucun document à importer." : L"") + std::wstring(kUnchanged);
     }
     if (!text.empty()) platform_.messageBoxes.show(importBox(text));
@@ -130,8 +129,7 @@ bool SelectionWindow::completes(DocumentImport& import, const ImportStep& step) 
     if (end == DocumentImport::End::Complete) return true;
     if (end == DocumentImport::End::Refused) {
         platform_.messageBoxes.show(notImportedBox(import.problem()));
-    } else if (stopped && !import.documents().empty()) {
-        listDocuments(import.documents());
+    } else if (stopped && listDocuments(import.takeDocuments())) {
         platform_.messageBoxes.show(incompleteListBox());
     } else if (stopped) {
         platform_.messageBoxes.show(importStoppedBox());
@@ -139,10 +137,12 @@ bool SelectionWindow::completes(DocumentImport& import, const ImportStep& step) 
     return false;
 }
 
-void SelectionWindow::listDocuments(const std::vector<std::wstring>& documents) {
-    found_.take(documents);
+bool SelectionWindow::listDocuments(std::vector<std::wstring> documents) {
+    if (documents.empty()) return false;
+    found_.take(std::move(documents));
     imported_ = true;
     cptfichier.setText(decimal(found_.count()));
     List1.fill(NNiveau.levels(), [](int) { return true; });
     List1_Click();
+    return true;
 }
