@@ -26,8 +26,16 @@ class SearchingProgram {
         list_ = app_.control(IDC_FORM1_LIST1);
     }
 
-    /// Has it search, or not, with sub-directories.
-    void toggle() const { app_.click(IDC_FORM1_SOUSREP); }
+    /// Has it search with sub-directories, or without. What is pressed before the end of a search
+    /// is dropped: it is waited for, and what came in its last moment is pressed again.
+    void toggle() const {
+        const bool before = checked();
+        while (checked() == before) {
+            while (app_.textOf(IDC_FORM1_LABEL4) == "Recherche…") Sleep(1);
+            app_.click(IDC_FORM1_SOUSREP);
+            for (int i = 0; i < 1000 && checked() == before; ++i) Sleep(1);
+        }
+    }
     int found() const { return static_cast<int>(SendMessageW(list_, LB_GETCOUNT, 0, 0)); }
     void answer() const { SendMessageW(GetAncestor(list_, GA_ROOT), WM_NULL, 0, 0); }
 
@@ -42,6 +50,8 @@ class SearchingProgram {
     }
 
  private:
+    bool checked() const { return app_.checked(IDC_FORM1_SOUSREP); }
+
     driver::Sandbox sandbox_;
     driver::Settings settings_;
     driver::TrialCad trial_{sandbox_};
