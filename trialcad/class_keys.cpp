@@ -3,7 +3,7 @@
 #include <objbase.h>
 #include <string>
 
-#include "win32/process/unique.h"
+#include "win32/process/handles.h"
 
 namespace {
 

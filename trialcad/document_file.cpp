@@ -7,7 +7,7 @@
 
 #include "common/text.h"
 #include "rules/windows_files.h"
-#include "win32/process/unique.h"
+#include "win32/process/handles.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "win32/process/unique.h"
+#include "win32/process/handles.h"
 
 /// The file that records the calls received, one UTF-8 line each, readable while it is written.
 class Journal {

@@ -5,7 +5,6 @@
 #include "sample_tree.h"
 #include "stage.h"
 #include "tracking/tracking_ids.h"
-#include "tracking/work_list_view.h"
 #include "worklist/list_display.h"
 #include "worklist/work_list.h"
 

@@ -5,7 +5,7 @@
 
 #include "input/event_gate.h"
 #include "input/judge.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "rules/late_binding.h"
 #include "rules/patience.h"
 #include "win32/files/win_files.h"

@@ -1,5 +1,9 @@
 #include "app/program.h"
 
+#include "ports/dialogs.h"
+#include "ports/files.h"
+#include "ports/machine.h"
+
 Program::Program(const Platform& platform)
     : platform_(platform),
       files_{platform.programDirectory, L"", platform.programDirectory + L"\\tarnwick.cfg"},
@@ -53,4 +57,11 @@ void Program::declineList() {
 void Program::launchPass() {
     using Origin = TrackingWindow::Origin;
     showTracking(listDeclined_ ? Origin::LaunchedAfterDeclining : Origin::Launched);
+}
+
+void showGuide(Files& files, Desktop& desktop, MessageBoxes& boxes,
+               const std::wstring& programDirectory) {
+    const std::wstring page = programDirectory + L"\\guide.html";
+    if (files.kindOrNothing(page) == PathKind::File && desktop.open(page)) return;
+    boxes.warn(L"Le guide ne peut pas être ouvert :\r\n" + page);
 }

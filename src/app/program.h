@@ -2,16 +2,21 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 
 #include "about/about_window.h"
 #include "cad/cad_session.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "resume/existing_list_window.h"
 #include "searchfolders/configuration_window.h"
 #include "selection/selection_window.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
 #include "tracking/tracking_window.h"
+
+class Desktop;
+class Files;
+class MessageBoxes;
 
 /// The program: what lives as long as it does, its windows, and the way from one to the next.
 class Program : public ExistingListExits, public SelectionExits {
@@ -53,3 +58,9 @@ class Program : public ExistingListExits, public SelectionExits {
     std::unique_ptr<TrackingWindow> tracking_;
     std::unique_ptr<ConfigurationWindow> configuration_;
 };
+
+/// Has the system's browser show the guide, a page beside the program; tells the user when it
+/// can't. A page that isn't there is not asked for: Windows would start a program of that name
+/// ("guide.html.exe") in its place.
+void showGuide(Files& files, Desktop& desktop, MessageBoxes& boxes,
+               const std::wstring& programDirectory);

@@ -6,7 +6,6 @@
 
 #include "common/text.h"
 #include "pickers/paths.h"
-#include "pickers/search_progress.h"
 #include "ports/controls.h"
 #include "ports/files.h"
 #include "ports/search.h"

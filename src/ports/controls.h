@@ -3,7 +3,6 @@
 #include <functional>
 #include <span>
 #include <string>
-#include <vector>
 
 // The controls of a window as the forms see them. What code changes through these interfaces
 // never raises an event; a form that owes itself one calls its own handler.
@@ -59,11 +58,6 @@ class DrawingPause {
  private:
     ListBox& list_;
 };
-
-/// Gives these lines other texts, the quicker way: a single change takes the longer the more lines
-/// there are.
-void changeLines(ListBox& list, const std::vector<int>& lines,
-                 const std::function<std::wstring(int)>& line);
 
 /// A drop-down list; its text is typed in or that of the selected line.
 class ComboBox : public Control {

@@ -9,6 +9,9 @@
 #include <string_view>
 #include <vector>
 
+#include "common/encoding.h"
+#include "common/runtime_error.h"
+
 /// One name in a directory, valid only while it is being visited.
 struct DirectoryEntry {
     std::wstring_view name;
@@ -40,18 +43,28 @@ class Files {
     /// The bytes of a file. Raises 53, 70, 75 or 76.
     virtual std::string readBytes(const std::wstring& path) = 0;
     /// The text of a file, in UTF-8, whatever it was written in (textInUtf8).
-    std::string read(const std::wstring& path);
-    std::wstring readText(const std::wstring& path);
+    std::string read(const std::wstring& path) { return textInUtf8(readBytes(path)); }
+    std::wstring readText(const std::wstring& path) { return wideText(read(path)); }
 
     /// Creates or replaces a file whole with what `write` puts into its sink: an interrupted write
     /// leaves the old one. Raises 70, 75 or 76.
     virtual void replace(const std::wstring& path, const WriteContent& write) = 0;
     /// The same with a text, written in UTF-8. Raises 5 for text that can't be encoded.
-    void replaceText(const std::wstring& path, std::wstring_view text);
+    void replaceText(const std::wstring& path, std::wstring_view text) {
+        std::string utf8;
+        appendUtf8(utf8, text);
+        replace(path, [&](const ByteSink& file) { file(utf8); });
+    }
 
     /// What a path leads to, nothing where it can't be told, as the system's own FileExists
     /// answers.
-    PathKind kindOrNothing(const std::wstring& path);
+    PathKind kindOrNothing(const std::wstring& path) {
+        try {
+            return kindOf(path);
+        } catch (const RuntimeError&) {
+            return PathKind::Nothing;
+        }
+    }
     bool isFile(const std::wstring& path) { return kindOf(path) == PathKind::File; }
 
     /// Keeps a copy of a file, byte for byte. What stood in its place, even a read-only file, is

@@ -4,6 +4,17 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
+
+#include "ports/search.h"
+
+class Automation;
+class FileDialogs;
+class Files;
+class ListHolds;
+class MessageBoxes;
+class RecordFiles;
+class WindowFactory;
 
 /// A time as the user's clocks and calendars show it.
 struct LocalTime {
@@ -86,4 +97,22 @@ class Awake {
 
  private:
     Power& power_;
+};
+
+/// All that the program needs from the machine it runs on.
+struct Platform {
+    Automation& automation;
+    Settings& settings;
+    Files& files;
+    RecordFiles& records;
+    ListHolds& listHolds;
+    const Clock& clock;
+    MessageBoxes& messageBoxes;
+    FileDialogs& fileDialogs;
+    Desktop& desktop;
+    Power& power;
+    WindowFactory& windows;
+    SearchServices search;
+    std::wstring programDirectory;              ///< without a trailing backslash
+    std::vector<std::wstring> namedFiles = {};  ///< on the command line, by their full paths
 };

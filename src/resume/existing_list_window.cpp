@@ -2,7 +2,7 @@
 
 #include "common/runtime_error.h"
 #include "ports/files.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "resume/existing_list_tables.h"
 #include "session/program_files.h"
 #include "session/saving.h"

@@ -4,6 +4,7 @@
 
 #include "input/judge.h"
 #include "ports/dialogs.h"
+#include "rules/late_binding.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <utility>
 
-#include "rules/call_error.h"
+#include "ports/automation.h"
 
 class Judge;
 class MessageBoxes;

@@ -4,7 +4,7 @@
 #include "common/encoding.h"
 #include "ports/dialogs.h"
 #include "ports/files.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "searchfolders/configuration_tables.h"
 #include "searchfolders/configurations.h"
 #include "session/program_files.h"

@@ -1,7 +1,10 @@
 #include "selection/imported_file.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <thread>
 
 #include "common/encoding.h"
@@ -10,8 +13,124 @@
 #include "common/text.h"
 #include "pickers/paths.h"
 #include "ports/files.h"
-#include "selection/document_lines.h"
 #include "selection/document_search.h"
+
+namespace {
+
+bool isFieldEnd(char c) { return c == ';' || c == '\t'; }
+
+/// The length of a quoted field at the front, with its quotes; none when they aren't closed before
+/// the field's end.
+std::optional<std::size_t> quotedLength(std::string_view text) {
+    std::size_t end = 1;
+    while ((end = text.find('"', end)) != std::string_view::npos) {
+        const bool doubled = end + 1 < text.size() && text[end + 1] == '"';
+        if (!doubled) break;
+        end += 2;
+    }
+    if (end == std::string_view::npos) return std::nullopt;
+    return ++end == text.size() || isFieldEnd(text[end]) ? std::optional(end) : std::nullopt;
+}
+
+std::string unquoted(std::string_view field) {
+    std::string text;
+    for (std::size_t i = 1; i + 1 < field.size(); ++i) {
+        text += field[i];
+        if (field[i] == '"') ++i;
+    }
+    return text;
+}
+
+/// A spreadsheet takes what begins so for a formula, unless an apostrophe stands before it.
+std::string_view withoutApostrophe(std::string_view field) {
+    constexpr std::string_view kFormulas = "=+-@";
+    const bool guarded =
+        field.size() > 1 && field[0] == '\'' && kFormulas.find(field[1]) != std::string_view::npos;
+    return field.substr(guarded ? 1 : 0);
+}
+
+/// The fields of a line, one after the other.
+class Fields {
+ public:
+    explicit Fields(std::string_view line) : rest_(line) {}
+
+    std::optional<std::string> next() {
+        if (atEnd_) return std::nullopt;
+        const auto quoted = rest_.starts_with('"') ? quotedLength(rest_) : std::nullopt;
+        const auto plain = std::ranges::find_if(rest_, isFieldEnd) - rest_.begin();
+        const auto field = rest_.substr(0, quoted.value_or(static_cast<std::size_t>(plain)));
+        atEnd_ = field.size() == rest_.size();
+        rest_.remove_prefix(field.size() + (atEnd_ ? 0 : 1));
+        return quoted ? unquoted(field) : std::string(field);
+    }
+
+ private:
+    std::string_view rest_;
+    bool atEnd_ = false;
+};
+
+/// The first field that names a document, empty for none.
+std::string documentIn(std::string_view line) {
+    Fields fields(line);
+    while (const auto field = fields.next()) {
+        const std::string_view name = withoutApostrophe(trimmed(*field));
+        if (isDocumentName(name)) return std::string(name);
+    }
+    return {};
+}
+
+bool isReportHead(std::string_view line) {
+    Fields fields(line);
+    return fields.next() == "N°" && fields.next() == "Etat" && fields.next() == "Document";
+}
+
+bool isBlankRow(std::string_view line) {
+    return line.find_first_not_of(" ;\t\"") == std::string_view::npos;
+}
+
+/// What stands from the fourth character of a line on, which may have several bytes each.
+std::string_view behindCode(std::string_view line) {
+    const auto continues = [&](std::size_t i) {
+        return i < line.size() && (line[i] & 0xC0) == 0x80;
+    };
+    std::size_t end = 0;
+    for (int characters = 0; characters < 3 && end < line.size(); ++characters) {
+        do ++end;
+        while (continues(end));
+    }
+    return trimmed(line.substr(end));
+}
+
+}  // namespace
+
+bool isDocumentName(std::string_view utf8) {
+    constexpr std::string_view kEnds[] = {".sldprt", ".sldasm", ".slddrw"};
+    return std::ranges::any_of(kEnds, [&](std::string_view end) {
+        if (utf8.size() < end.size()) return false;
+        const std::string_view last = utf8.substr(utf8.size() - end.size());
+        return std::ranges::equal(last, end, [](char c, char lower) {
+            return c == lower || (c >= 'A' && c <= 'Z' && c - 'A' + 'a' == lower);
+        });
+    });
+}
+
+void readTable(std::string_view utf8, const std::function<void(const DocumentLine&)>& visit) {
+    for (int number = 1; !utf8.empty(); ++number) {
+        const std::string_view line = takeLine(utf8);
+        if (isBlankRow(line) || (number == 1 && isReportHead(line))) continue;
+        const std::string name = documentIn(line);
+        visit({number, name.empty() ? line : name, !name.empty()});
+    }
+}
+
+void readListLines(std::string_view utf8, const std::function<void(const DocumentLine&)>& visit) {
+    for (int number = 1; !utf8.empty(); ++number) {
+        const std::string_view line = takeLine(utf8);
+        if (trimmed(line).empty()) continue;
+        const std::string_view name = behindCode(line);
+        visit({number, name.empty() ? line : name, !name.empty()});
+    }
+}
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 #include "ports/files.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "selection/selection_tables.h"
 #include "session/program_files.h"
 #include "session/saving.h"

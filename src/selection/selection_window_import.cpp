@@ -5,9 +5,9 @@
 
 #include "common/numbers.h"
 #include "common/runtime_error.h"
-#include "pickers/search_progress.h"
+#include "pickers/pickers.h"
 #include "ports/dialogs.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "ports/search.h"
 #include "selection/selection_window.h"
 

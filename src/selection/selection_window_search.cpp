@@ -4,10 +4,10 @@
 
 #include "common/numbers.h"
 #include "pickers/paths.h"
-#include "pickers/search_progress.h"
+#include "pickers/pickers.h"
 #include "ports/dialogs.h"
 #include "ports/files.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "ports/search.h"
 #include "selection/document_search.h"
 #include "selection/selection_window.h"

@@ -6,7 +6,7 @@
 #include "common/text.h"
 #include "ports/dialogs.h"
 #include "ports/list_holds.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "worklist/mark_keeper.h"
 
 bool ProgramFiles::owns(const std::wstring& path) const {

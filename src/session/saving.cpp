@@ -7,7 +7,7 @@
 #include "ports/dialogs.h"
 #include "ports/files.h"
 #include "ports/list_holds.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "session/program_files.h"
 #include "worklist/mark_keeper.h"
 

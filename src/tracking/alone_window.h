@@ -3,11 +3,27 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "input/program_window.h"
-#include "worklist/time_left.h"
 
 class Clock;
+
+/// Tells how long the rest of a list will take, by the median of the last twenty documents: one
+/// that took far longer than the others changes nothing.
+class TimeLeft {
+ public:
+    /// A document is done with.
+    void took(std::int64_t milliseconds);
+    /// Milliseconds for so many documents; nothing before the first one is done with.
+    std::optional<std::int64_t> forDocuments(int count) const;
+
+ private:
+    std::vector<std::int64_t> last_;
+};
+
+/// As the user reads it, rounded as far as it can be known.
+std::wstring timeLeftText(std::optional<std::int64_t> milliseconds);
 
 /// The small window that shows how far going on alone has come, above all others, and has the
 /// button that stops it. It never takes the keyboard. What is pressed in it is judged as input that

@@ -8,7 +8,7 @@
 #include "common/runtime_error.h"
 #include "ports/dialogs.h"
 #include "ports/files.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "session/program_files.h"
 #include "tracking/tracking_texts.h"
 #include "worklist/report.h"

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "ports/dialogs.h"
+#include "tracking/pass_runner.h"
 
 /// What a list command asks before it changes anything.
 struct Question {
@@ -73,3 +74,7 @@ SaveQuestion reportQuestion(const std::wstring& listFile);
 
 /// That there is no report, and why.
 MessageBoxContent reportNotWrittenBox(const std::wstring& reason);
+
+/// Whether to save and close so many documents.
+MessageBoxContent aloneQuestion(int documents);
+MessageBoxContent aloneEndBox(const AloneOutcome& outcome);

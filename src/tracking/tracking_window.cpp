@@ -3,7 +3,7 @@
 #include "cad/cad_session.h"
 #include "common/numbers.h"
 #include "common/runtime_error.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "session/program_files.h"
 #include "session/settings.h"
 #include "session/window_places.h"

@@ -7,7 +7,6 @@
 
 #include "input/program_window.h"
 #include "tracking/pass_runner.h"
-#include "tracking/work_list_view.h"
 #include "worklist/list_display.h"
 
 class AloneWindow;

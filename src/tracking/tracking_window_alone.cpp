@@ -5,11 +5,10 @@
 #include "common/runtime_error.h"
 #include "ports/dialogs.h"
 #include "ports/machine.h"
-#include "ports/platform.h"
 #include "ports/search.h"
-#include "tracking/alone_texts.h"
 #include "tracking/alone_window.h"
 #include "tracking/tracking_ids.h"
+#include "tracking/tracking_texts.h"
 #include "tracking/tracking_window.h"
 
 void TrackingWindow::showChoices() {

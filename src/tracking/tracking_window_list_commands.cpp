@@ -1,6 +1,6 @@
 // The tracking window's list commands: many lines at once, and where the pass goes on.
 
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "tracking/tracking_texts.h"
 #include "tracking/tracking_window.h"
 

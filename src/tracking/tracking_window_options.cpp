@@ -7,7 +7,7 @@
 #include "common/text.h"
 #include "ports/dialogs.h"
 #include "ports/files.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "session/program_files.h"
 #include "session/settings.h"
 #include "tracking/tracking_ids.h"

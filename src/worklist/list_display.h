@@ -1,10 +1,15 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "worklist/work_list.h"
+
+class Control;
+class ListBox;
 
 /// What stands before a path in the lists. The widths differ on purpose.
 namespace label {
@@ -34,8 +39,6 @@ void addShownPath(std::wstring& line, std::wstring_view path, int depth);
 /// and two blanks, the label of its state, its path at the display depth. Raises 9 as shortPath.
 std::wstring displayLine(int index, std::wstring_view label, std::wstring_view path, int depth);
 
-class Control;
-
 /// The number of leading directory levels that a window hides in the paths of its list, 0 to 9,
 /// with the label that shows it between the buttons "-" and "+".
 class DisplayDepth {
@@ -55,3 +58,27 @@ class DisplayDepth {
     Control& label_;
     int levels_ = 0;
 };
+
+/// Draws the work list in a list box and remembers what it drew, so that a redraw in place
+/// touches the lines that changed and no others.
+class WorkListView {
+ public:
+    explicit WorkListView(ListBox& list) : list_(list) {}
+
+    /// Draws all lines anew; with `allToDo` every line but the first shows as to do.
+    void rebuild(const WorkList& list, int depth, bool allToDo);
+
+    /// Leaves the list as if every line had been removed and inserted again in its place:
+    /// none is selected.
+    void update(const WorkList& list, int depth);
+
+ private:
+    ListBox& list_;
+    std::vector<std::wstring_view> drawnLabels_;
+    int drawnDepth_ = 0;
+};
+
+/// Gives these lines other texts, the quicker way: a single change takes the longer the more lines
+/// there are.
+void changeLines(ListBox& list, const std::vector<int>& lines,
+                 const std::function<std::wstring(int)>& line);

@@ -16,7 +16,7 @@
 #include "fakes/fake_settings.h"
 #include "fakes/fake_window.h"
 #include "fakes/fake_workers.h"
-#include "ports/platform.h"
+#include "ports/machine.h"
 #include "session/program_files.h"
 #include "session/window_places.h"
 

@@ -4,7 +4,7 @@
 #include "common/encoding.h"
 #include "fuzz_input.h"
 #include "pickers/paths.h"
-#include "selection/document_lines.h"
+#include "selection/imported_file.h"
 
 namespace {
 

@@ -12,8 +12,8 @@
 #include "common/runtime_error.h"
 #include "rules/windows_files.h"
 #include "win32/files/win_written_files.h"
-#include "win32/process/system_function.h"
-#include "win32/process/unique.h"
+#include "win32/process/handles.h"
+#include "win32/process/require.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include "common/runtime_error.h"
 #include "rules/windows_files.h"
 #include "win32/files/win_files.h"
-#include "win32/process/unique.h"
+#include "win32/process/handles.h"
 
 namespace {
 

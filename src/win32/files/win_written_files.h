@@ -4,7 +4,7 @@
 
 #include "ports/files.h"
 #include "rules/windows_files.h"
-#include "win32/process/unique.h"
+#include "win32/process/handles.h"
 
 /// The steps as Windows takes them; a test makes them fail.
 class WinReplacementSteps : public ReplacementSteps {

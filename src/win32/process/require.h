@@ -18,3 +18,12 @@ inline void requireSuccess(HRESULT result, const wchar_t* what) {
     SetLastError(static_cast<DWORD>(result));
     require(SUCCEEDED(result), what);
 }
+
+/// A function that not every Windows has, or of a library that isn't needed to start: loaded from
+/// the system's directory, never from beside the program, and kept. Null where it is missing.
+template <class Function>
+Function* systemFunction(const wchar_t* library, const char* name) {
+    const HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    const FARPROC function = module ? GetProcAddress(module, name) : nullptr;
+    return reinterpret_cast<Function*>(reinterpret_cast<void*>(function));
+}

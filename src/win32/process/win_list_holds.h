@@ -8,7 +8,7 @@
 
 #include "ports/list_holds.h"
 #include "rules/hold_protocol.h"
-#include "win32/process/unique.h"
+#include "win32/process/handles.h"
 
 /// The file that tells other users and machines who has a list open: hidden, beside the list, held
 /// open against writers. The system deletes it when its program ends, however it does; one that a

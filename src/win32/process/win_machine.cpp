@@ -6,8 +6,8 @@
 #include <shellapi.h>
 
 #include "common/runtime_error.h"
+#include "win32/process/handles.h"
 #include "win32/process/require.h"
-#include "win32/process/unique.h"
 
 namespace {
 

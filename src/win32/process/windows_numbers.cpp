@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "input/notifications.h"
-#include "rules/call_error.h"
+#include "rules/late_binding.h"
 #include "rules/windows_files.h"
 
 static_assert(windows_error::kFileNotFound == ERROR_FILE_NOT_FOUND);

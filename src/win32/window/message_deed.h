@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "input/judge.h"
-#include "win32/process/unique.h"
+#include "win32/process/handles.h"
 
 // What the messages of mouse, pen, touch and keyboard mean, by their numbers.
 

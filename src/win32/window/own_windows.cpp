@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "win32/window/handles.h"
+#include "win32/process/handles.h"
 
 namespace {
 

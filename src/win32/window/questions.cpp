@@ -8,8 +8,8 @@
 #include "input/judge.h"
 #include "rules/boxes_and_buttons.h"
 #include "win32/com/com_ptr.h"
+#include "win32/process/handles.h"
 #include "win32/process/require.h"
-#include "win32/process/unique.h"
 #include "win32/window/message_loop.h"
 #include "win32/window/own_windows.h"
 

@@ -1,7 +1,7 @@
 #include "win32/window/system_menu.h"
 
+#include "win32/process/handles.h"
 #include "win32/window/focus.h"
-#include "win32/window/handles.h"
 
 namespace {
 

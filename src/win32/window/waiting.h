@@ -5,7 +5,7 @@
 #include "input/judge.h"
 #include "ports/search.h"
 #include "rules/patience.h"
-#include "win32/process/unique.h"
+#include "win32/process/handles.h"
 
 /// Serves the program's windows while the main thread searches: they are drawn, moved and sized,
 /// answer other programs, and take what stops or replaces the search. The judge lets nothing else

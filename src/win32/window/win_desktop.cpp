@@ -5,7 +5,7 @@
 #include <shellapi.h>
 #include <string>
 
-#include "win32/process/unique.h"
+#include "win32/process/handles.h"
 
 namespace {
 

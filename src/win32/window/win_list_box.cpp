@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "win32/window/handles.h"
+#include "win32/process/handles.h"
 #include "win32/window/win_controls.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "ports/window.h"
-#include "win32/window/handles.h"
+#include "win32/process/handles.h"
 
 /// The shortcuts of a window, as long as it lives: the accelerator resource of its dialog's id,
 /// if there is one. Its ASCII entries are signs: Ctrl and the key that bears the sign on the layout

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ports/area.h"
-#include "win32/window/handles.h"
+#include "win32/process/handles.h"
 
 /// The fonts of a window at one resolution, made from the one the system uses in its own boxes,
 /// `percent` of its size.

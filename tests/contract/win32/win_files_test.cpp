@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "contract/machine.h"
-#include "win32/process/unique.h"
+#include "win32/process/handles.h"
 
 namespace {
 

@@ -8,7 +8,6 @@
 #include "common/encoding.h"
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
-#include "tracking/work_list_view.h"
 #include "worklist/list_display.h"
 #include "worklist/work_list.h"
 

@@ -1,5 +1,4 @@
-#include "app/guide.h"
-
+#include "app/program.h"
 #include "fakes/fake_platform.h"
 #include "unit/unit_test.h"
 

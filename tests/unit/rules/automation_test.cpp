@@ -1,5 +1,5 @@
 #include "fakes/fake_automation.h"
-#include "rules/call_error.h"
+#include "rules/late_binding.h"
 #include "session/program_files.h"
 #include "unit/unit_test.h"
 

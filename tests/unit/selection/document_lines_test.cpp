@@ -1,5 +1,4 @@
-#include "selection/document_lines.h"
-
+#include "selection/imported_file.h"
 #include "unit/unit_test.h"
 
 namespace {

@@ -1,5 +1,4 @@
-#include "worklist/time_left.h"
-
+#include "tracking/alone_window.h"
 #include "unit/unit_test.h"
 
 TEST(TimeLeft, IsToldByTheMedianOfTheLastTwentyDocuments) {
