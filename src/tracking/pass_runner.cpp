@@ -15,8 +15,6 @@
 
 namespace {
 
-using Redraw = PassView::Redraw;
-
 /// While it lives what is done is counted there.
 class CountedIn {
  public:
@@ -152,36 +150,6 @@ void PassRunner::advance(LineState mark) {
     });
 }
 
-std::optional<Saved> PassRunner::save() {
-    for (;;) {
-        const auto code = saveOnce();
-        saveRefused_ = code.value_or(0) != 0;
-        if (!code) return Saved::Unknown;
-        if (*code == 0) return Saved::Yes;
-        if (alone_ || !options_.keepsUnsaved) return Saved::No;
-        const auto box = saveRefusedBox(pass_.currentPath(), saveRefusalText(*code));
-        if (platform_.messageBoxes.show(box) != MessageBoxes::Answer::Retry) return std::nullopt;
-    }
-}
-
-std::optional<std::int32_t> PassRunner::saveOnce() {
-    try {
-        const auto code = cad_.save();
-        const bool refused = code.value_or(0) != 0;
-        pass_.noteSaving(refused ? Remark::Saving::Refused : Remark::Saving::Silent,
-                         code.value_or(0));
-        return code;
-    } catch (const RuntimeError& error) {
-        pass_.noteSaving(Remark::Saving::Failed, error.number);
-        throw;
-    }
-}
-
-void PassRunner::close() {
-    openWarns_ = false;
-    cad_.closeDocument();
-}
-
 void PassRunner::stepBack() {
     settled([&] {
         if (pass_.current() < 0) return;
@@ -268,80 +236,4 @@ void PassRunner::follow(bool inProgress) {
     if (!inProgress) return endAt(Redraw::Anew);
     view_.allowAdvance();
     go(Redraw::Anew);
-}
-
-bool PassRunner::go(Redraw redraw, Direction direction) {
-    stays_ = false;
-    for (int refusals = 1;; ++refusals) {
-        view_.showCurrent(redraw);
-        if (openCurrent()) break;
-        redraw = Redraw::InPlace;
-        pass_.leaveToDo();
-        keepMarks();
-        if (!goesOnAfter(refusals)) return stay(), false;
-        if (!pass_.passOver(direction)) {
-            direction == Direction::Down ? endAt(redraw) : endAtTop();
-            return false;
-        }
-    }
-    view_.showDocument();
-    return true;
-}
-
-bool PassRunner::openCurrent() {
-    const std::wstring path = pass_.currentPath();
-    if (cad_.hasOpen(path)) return keepMarks(), true;
-    view_.showOpening();
-    closeOther();
-    pass_.openCurrent();
-    keepMarks(pass_.list().lines[pass_.current()].fileLine);
-    return open(path);
-}
-
-bool PassRunner::open(const std::wstring& path) {
-    LoadingOptions options = view_.loadingOptions();
-    options.mayRefuse = alone_ || options_.passesRefused;
-    options.worksThere = options_.worksThere;
-    Remark remark;
-    try {
-        const bool opened = cad_.open(path, options, remark);
-        openWarns_ = opened && remark.warns();
-        pass_.noteOpening(remark);
-        return opened;
-    } catch (const RuntimeError&) {
-        pass_.noteOpening(remark);
-        throw;
-    }
-}
-
-bool PassRunner::goesOnAfter(int refusals) {
-    constexpr int kInARow = 5;
-    if (alone_) ++alone_->notOpened;
-    if (refusals % kInARow != 0) return true;
-    view_.showCurrent(Redraw::InPlace);
-    if (alone_) return false;
-    return platform_.messageBoxes.show(refusedInARowBox()) == MessageBoxes::Answer::Yes;
-}
-
-void PassRunner::stay() {
-    stays_ = true;
-    view_.showDocument();
-    view_.allowAdvance();
-    view_.allowStepBack();
-}
-
-void PassRunner::closeOther() {
-    if (!cad_.hasAnyOpen()) return;
-    keepMarks();
-    close();
-}
-
-void PassRunner::endAt(Redraw redraw) {
-    keepMarks();
-    view_.showEnd(redraw);
-}
-
-void PassRunner::endAtTop() {
-    keepMarks();
-    view_.showTop();
 }

@@ -121,10 +121,11 @@ class PassRunner {
     void keepMarks(std::optional<std::int32_t> opening = std::nullopt);
 
     using Direction = Pass::Direction;
+    using Redraw = PassView::Redraw;
 
     /// Shows the current line and opens its document; goes on to the next one, in this direction,
     /// from one that does not open and may be passed over. False when none is open at the end.
-    bool go(PassView::Redraw redraw, Direction direction = Direction::Down);
+    bool go(Redraw redraw, Direction direction = Direction::Down);
     /// False when it does not open.
     bool openCurrent();
     bool open(const std::wstring& path);
@@ -135,7 +136,7 @@ class PassRunner {
     /// Closes the document that counts as open, if any. None is being opened yet: what goes wrong
     /// now is not the next one's doing.
     void closeOther();
-    void endAt(PassView::Redraw redraw);
+    void endAt(Redraw redraw);
     void endAtTop();
     /// Going alone: what became of the document, which is left to do unless it was saved.
     LineState countedAlone(Saved saved);
