@@ -11,7 +11,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 } | awk '
 BEGIN {
     # From the top down; what stands in one row may include its neighbours, but not in a circle.
-    rows = split("app|resume selection tracking searchfolders about|cad session|worklist pickers|input rules|ports|common", row, "|")
+    rows = split("app|resume selection tracking searchfolders about|cad storage|worklist pickers|input rules|ports|common", row, "|")
     for (i = 1; i <= rows; ++i) {
         count = split(row[i], names, " ")
         for (j = 1; j <= count; ++j) height[names[j]] = rows - i

@@ -8,8 +8,8 @@
 #include "app/machine.h"
 #include "cad/cad_session.h"
 #include "selection/selection_window.h"
-#include "session/program_files.h"
-#include "session/window_places.h"
+#include "storage/program_files.h"
+#include "storage/window_places.h"
 
 /// A desktop where every window is found.
 struct DesktopWithAll : Desktop {

@@ -10,8 +10,8 @@
 #include "resume/existing_list_window.h"
 #include "searchfolders/configuration_window.h"
 #include "selection/selection_window.h"
-#include "session/program_files.h"
-#include "session/window_places.h"
+#include "storage/program_files.h"
+#include "storage/window_places.h"
 #include "tracking/tracking_window.h"
 
 class Desktop;

@@ -4,9 +4,9 @@
 #include "ports/files.h"
 #include "ports/machine.h"
 #include "resume/existing_list_tables.h"
-#include "session/program_files.h"
-#include "session/saving.h"
-#include "session/window_places.h"
+#include "storage/program_files.h"
+#include "storage/saving.h"
+#include "storage/window_places.h"
 
 ExistingListWindow::ExistingListWindow(Platform& platform, WindowPlaces& places,
                                        const ProgramFiles& files, ExistingListExits& exits)

@@ -7,8 +7,8 @@
 #include "ports/machine.h"
 #include "searchfolders/configuration_tables.h"
 #include "searchfolders/configurations.h"
-#include "session/program_files.h"
-#include "session/window_places.h"
+#include "storage/program_files.h"
+#include "storage/window_places.h"
 
 namespace {
 

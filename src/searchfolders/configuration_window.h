@@ -7,7 +7,7 @@
 #include "input/program_window.h"
 #include "pickers/pickers.h"
 #include "searchfolders/configurations.h"
-#include "session/saving.h"
+#include "storage/saving.h"
 #include "worklist/list_display.h"
 
 class CadSession;

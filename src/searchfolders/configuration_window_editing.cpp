@@ -14,8 +14,8 @@
 #include "ports/machine.h"
 #include "ports/search.h"
 #include "searchfolders/configuration_window.h"
-#include "session/program_files.h"
-#include "session/window_places.h"
+#include "storage/program_files.h"
+#include "storage/window_places.h"
 #include "worklist/list_display.h"
 
 namespace {

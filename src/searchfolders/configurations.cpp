@@ -7,7 +7,7 @@
 #include "common/runtime_error.h"
 #include "common/text.h"
 #include "ports/files.h"
-#include "session/program_files.h"
+#include "storage/program_files.h"
 
 void clearFrom(Configuration& configuration, int first) {
     configuration.clear(static_cast<std::size_t>(first));

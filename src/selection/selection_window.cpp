@@ -9,10 +9,10 @@
 #include "ports/files.h"
 #include "ports/machine.h"
 #include "selection/selection_tables.h"
-#include "session/program_files.h"
-#include "session/saving.h"
-#include "session/settings.h"
-#include "session/window_places.h"
+#include "storage/program_files.h"
+#include "storage/saving.h"
+#include "storage/settings.h"
+#include "storage/window_places.h"
 #include "worklist/list_file.h"
 
 namespace {

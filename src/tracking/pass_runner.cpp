@@ -9,7 +9,7 @@
 #include "ports/dialogs.h"
 #include "ports/files.h"
 #include "ports/machine.h"
-#include "session/program_files.h"
+#include "storage/program_files.h"
 #include "tracking/tracking_texts.h"
 #include "worklist/report.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "ports/window.h"
-#include "session/saving.h"
+#include "storage/saving.h"
 #include "worklist/mark_keeper.h"
 #include "worklist/pass.h"
 

@@ -17,8 +17,8 @@
 #include "fakes/fake_window.h"
 #include "fakes/fake_workers.h"
 #include "ports/machine.h"
-#include "session/program_files.h"
-#include "session/window_places.h"
+#include "storage/program_files.h"
+#include "storage/window_places.h"
 
 /// A whole machine in memory.
 struct FakePlatform {

@@ -1,6 +1,6 @@
 #include "fakes/fake_automation.h"
 #include "rules/late_binding.h"
-#include "session/program_files.h"
+#include "storage/program_files.h"
 #include "unit/unit_test.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "session/window_places.h"
+#include "storage/window_places.h"
 
 #include <gtest/gtest.h>
 

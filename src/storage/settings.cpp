@@ -1,4 +1,4 @@
-#include "session/settings.h"
+#include "storage/settings.h"
 
 #include "common/numbers.h"
 #include "common/runtime_error.h"

@@ -1,4 +1,4 @@
-#include "session/saving.h"
+#include "storage/saving.h"
 
 #include <optional>
 #include <string>
@@ -8,7 +8,7 @@
 #include "ports/files.h"
 #include "ports/list_holds.h"
 #include "ports/machine.h"
-#include "session/program_files.h"
+#include "storage/program_files.h"
 #include "worklist/mark_keeper.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "session/program_files.h"
+#include "storage/program_files.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "session/window_places.h"
+#include "storage/window_places.h"
 
 #include <algorithm>
 #include <limits>
@@ -9,7 +9,7 @@
 #include "common/runtime_error.h"
 #include "ports/window.h"
 #include "rules/placement.h"
-#include "session/settings.h"
+#include "storage/settings.h"
 
 namespace {
 
