@@ -92,12 +92,15 @@ namespace {
 // Virus scanners, indexers and backups hold a file for a moment.
 constexpr int kReplacementPauses = 2000 / kReplacementPause;
 
-/// Whether nothing was done because another program has the file open. Windows then speaks of
-/// denied access as often as of sharing (the MoveFileEx function): opening it tells which.
-bool isHeld(const std::wstring& file, std::uint32_t error, ReplacementSteps& steps) {
-    if (error == windows_error::kAccessDenied) error = steps.openAlone(file);
-    // What can be opened now was let go of in the meantime.
-    return error == 0 || error == windows_error::kSharingViolation;
+/// Does something again and again while `isHeld` says of its error that another program is in the
+/// way.
+template <class Deed, class IsHeld, class Pause>
+std::uint32_t retried(const Deed& deed, const IsHeld& isHeld, const Pause& pause) {
+    for (int pauses = 0;; ++pauses) {
+        const std::uint32_t error = deed();
+        if (error == 0 || pauses == kReplacementPauses || !isHeld(error)) return error;
+        pause();
+    }
 }
 
 /// The file written beside the old one. Removed unless it took the old one's place.
@@ -120,7 +123,7 @@ class TemporaryFile {
         if (const std::uint32_t error = steps_.flush()) return error;
         steps_.close();
         const std::uint32_t error =
-            withPatience(target, steps_, [&] { return steps_.move(path_, target); });
+            doWhenFree(target, steps_, [&] { return steps_.move(path_, target); });
         stays_ = error != 0;
         return error;
     }
@@ -134,26 +137,29 @@ class TemporaryFile {
 
 }  // namespace
 
-std::uint32_t openPatiently(const std::function<std::uint32_t()>& open,
-                            const std::function<void()>& pause) {
-    for (int pauses = 0;; ++pauses) {
-        const std::uint32_t error = open();
-        const bool held = error == windows_error::kSharingViolation ||
-                          error == windows_error::kLockViolation ||
-                          error == windows_error::kAccessDenied;
-        if (!held || pauses == kReplacementPauses) return error;
-        pause();
-    }
+std::uint32_t openWhenFree(const std::function<std::uint32_t()>& open,
+                           const std::function<void()>& pause) {
+    const auto isInTheWay = [](std::uint32_t error) {
+        return error == windows_error::kSharingViolation ||
+               error == windows_error::kLockViolation || error == windows_error::kAccessDenied;
+    };
+    return retried(open, isInTheWay, pause);
 }
 
-std::uint32_t withPatience(const std::wstring& path, ReplacementSteps& steps,
-                           const std::function<std::uint32_t()>& deed) {
-    for (int pauses = 0;; ++pauses) {
+std::uint32_t doWhenFree(const std::wstring& path, ReplacementSteps& steps,
+                         const std::function<std::uint32_t()>& deed) {
+    const auto isHeld = [](std::uint32_t error) {
+        return error == windows_error::kSharingViolation;
+    };
+    const auto told = [&] {
         const std::uint32_t error = deed();
-        if (error == 0 || !isHeld(path, error, steps)) return error;
-        if (pauses == kReplacementPauses) return windows_error::kSharingViolation;
-        steps.pause();
-    }
+        if (error != windows_error::kAccessDenied) return error;
+        // Windows speaks of denied access as often as of sharing (the MoveFileEx function): opening
+        // the file tells which. One that can be opened was let go of in the meantime.
+        const std::uint32_t looking = steps.openAlone(path);
+        return looking == 0 || isHeld(looking) ? windows_error::kSharingViolation : error;
+    };
+    return retried(told, isHeld, [&] { steps.pause(); });
 }
 
 void replaceFile(const std::wstring& path, const WriteContent& write, ReplacementSteps& steps) {

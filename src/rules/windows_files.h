@@ -82,13 +82,13 @@ inline constexpr int kReplacementPause = 50;  ///< milliseconds
 /// it open, or it is about to go (Windows then denies access until its last user lets go of it).
 /// `open` and this return Windows' error number, 0 for success. `pause` lets kReplacementPause
 /// pass.
-std::uint32_t openPatiently(const std::function<std::uint32_t()>& open,
-                            const std::function<void()>& pause);
+std::uint32_t openWhenFree(const std::function<std::uint32_t()>& open,
+                           const std::function<void()>& pause);
 
 /// Does something with a file, again and again for two seconds while another program has the file
 /// open. Returns Windows' error number of the last try.
-std::uint32_t withPatience(const std::wstring& path, ReplacementSteps& steps,
-                           const std::function<std::uint32_t()>& deed);
+std::uint32_t doWhenFree(const std::wstring& path, ReplacementSteps& steps,
+                         const std::function<std::uint32_t()>& deed);
 
 /// Replaces a file whole: written beside it, flushed, then moved over it, so that at any moment
 /// the path holds all of the old bytes or all of the new. Raises 70, 75 or 76, or lets through what

@@ -5,25 +5,46 @@
 #include <objbase.h>
 #include <oleauto.h>
 #include <span>
+#include <string>
 #include <utility>
+#include <variant>
+#include <vector>
 
 #include "common/text.h"
 
-OwnedVariant::OwnedVariant() { VariantInit(this); }
+namespace {
 
-OwnedVariant::~OwnedVariant() { VariantClear(this); }
+/// A VARIANT that clears itself.
+struct OwnedVariant : VARIANT {
+    OwnedVariant() { VariantInit(this); }
+    ~OwnedVariant() { VariantClear(this); }
+    OwnedVariant(const OwnedVariant&) = delete;
+    OwnedVariant& operator=(const OwnedVariant&) = delete;
+};
 
-OwnedBstr::OwnedBstr(const std::wstring& text)
-    : text_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {
-    if (!text_) throw std::bad_alloc();
-}
+/// A BSTR that frees itself.
+class OwnedBstr {
+ public:
+    explicit OwnedBstr(const std::wstring& text)
+        : text_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {
+        if (!text_) throw std::bad_alloc();
+    }
+    OwnedBstr(OwnedBstr&& other) noexcept : text_(other.release()) {}
+    OwnedBstr& operator=(OwnedBstr&&) = delete;
+    ~OwnedBstr() { SysFreeString(text_); }
 
-OwnedBstr::~OwnedBstr() { SysFreeString(text_); }
+    BSTR* address() { return &text_; }
+    /// Leaves it to someone else to free.
+    BSTR release() { return std::exchange(text_, nullptr); }
 
-BSTR OwnedBstr::release() { return std::exchange(text_, nullptr); }
+ private:
+    BSTR text_;
+};
 
+/// The text of a BSTR, which may be null.
 std::wstring textIn(BSTR text) { return text ? std::wstring(text, SysStringLen(text)) : L""; }
 
+/// What a VARIANT holds, unless it is an object.
 Value valueIn(const VARIANT& variant) {
     switch (V_VT(&variant)) {
         case VT_BSTR:
@@ -39,57 +60,66 @@ Value valueIn(const VARIANT& variant) {
     }
 }
 
-CallArguments::CallArguments(std::span<const Argument> arguments) : variants_(arguments.size()) {
-    // The VARIANTs point into this table, which therefore must not move.
-    texts_.reserve(arguments.size());
-    auto variant = variants_.rbegin();
-    for (const Argument& argument : arguments) {
-        std::visit([&](const auto& value) { set(*variant, value); }, argument);
-        ++variant;
+/// The arguments of one call as Invoke wants them: the last one first. By-reference arguments
+/// are written back by `writeBack`, after the call.
+class CallArguments {
+ public:
+    explicit CallArguments(std::span<const Argument> arguments) : variants_(arguments.size()) {
+        // The VARIANTs point into this table, which therefore must not move.
+        texts_.reserve(arguments.size());
+        auto variant = variants_.rbegin();
+        for (const Argument& argument : arguments) {
+            std::visit([&](const auto& value) { set(*variant, value); }, argument);
+            ++variant;
+        }
     }
-}
 
-void CallArguments::set(VARIANT& variant, const std::wstring& text) {
-    V_BSTR(&variant) = OwnedBstr(text).release();
-    V_VT(&variant) = VT_BSTR;
-}
+    VARIANT* data() { return variants_.data(); }
+    UINT count() const { return static_cast<UINT>(variants_.size()); }
+    void writeBack() {
+        for (TextReference& text : texts_) *text.target = textIn(*text.reference.address());
+    }
 
-void CallArguments::set(VARIANT& variant, bool flag) {
-    V_VT(&variant) = VT_BOOL;
-    V_BOOL(&variant) = flag ? VARIANT_TRUE : VARIANT_FALSE;
-}
+ private:
+    /// A text that the server may replace.
+    struct TextReference {
+        std::wstring* target;
+        OwnedBstr reference;
+    };
 
-void CallArguments::set(VARIANT& variant, std::int16_t number) {
-    V_VT(&variant) = VT_I2;
-    V_I2(&variant) = number;
-}
+    static void set(VARIANT& variant, const std::wstring& text) {
+        V_BSTR(&variant) = OwnedBstr(text).release();
+        V_VT(&variant) = VT_BSTR;
+    }
+    static void set(VARIANT& variant, bool flag) {
+        V_VT(&variant) = VT_BOOL;
+        V_BOOL(&variant) = flag ? VARIANT_TRUE : VARIANT_FALSE;
+    }
+    static void set(VARIANT& variant, std::int16_t number) {
+        V_VT(&variant) = VT_I2;
+        V_I2(&variant) = number;
+    }
+    static void set(VARIANT& variant, std::int32_t number) {
+        V_VT(&variant) = VT_I4;
+        V_I4(&variant) = number;
+    }
+    void set(VARIANT& variant, std::wstring* text) {
+        texts_.push_back({text, OwnedBstr(*text)});
+        V_VT(&variant) = VT_BYREF | VT_BSTR;
+        V_BSTRREF(&variant) = texts_.back().reference.address();
+    }
+    static void set(VARIANT& variant, std::int16_t* number) {
+        V_VT(&variant) = VT_BYREF | VT_I2;
+        V_I2REF(&variant) = number;
+    }
+    static void set(VARIANT& variant, std::int32_t* number) {
+        V_VT(&variant) = VT_BYREF | VT_I4;
+        V_I4REF(&variant) = reinterpret_cast<LONG*>(number);
+    }
 
-void CallArguments::set(VARIANT& variant, std::int32_t number) {
-    V_VT(&variant) = VT_I4;
-    V_I4(&variant) = number;
-}
-
-void CallArguments::set(VARIANT& variant, std::wstring* text) {
-    texts_.push_back({text, OwnedBstr(*text)});
-    V_VT(&variant) = VT_BYREF | VT_BSTR;
-    V_BSTRREF(&variant) = texts_.back().text.address();
-}
-
-void CallArguments::set(VARIANT& variant, std::int16_t* number) {
-    V_VT(&variant) = VT_BYREF | VT_I2;
-    V_I2REF(&variant) = number;
-}
-
-void CallArguments::set(VARIANT& variant, std::int32_t* number) {
-    V_VT(&variant) = VT_BYREF | VT_I4;
-    V_I4REF(&variant) = reinterpret_cast<LONG*>(number);
-}
-
-void CallArguments::writeBack() {
-    for (TextReference& reference : texts_) *reference.target = textIn(*reference.text.address());
-}
-
-namespace {
+    std::vector<TextReference> texts_;
+    std::vector<OwnedVariant> variants_;
+};
 
 /// What the server said of its failure. Freed when read.
 struct ServersWords : EXCEPINFO {

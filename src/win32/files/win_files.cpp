@@ -86,7 +86,7 @@ UniqueHandle openToRead(const std::wstring& path) {
     const std::wstring where = longPath(path);
     UniqueHandle file;
     WinReplacementSteps steps;
-    const auto error = withPatience(where, steps, [&]() -> std::uint32_t {
+    const auto error = doWhenFree(where, steps, [&]() -> std::uint32_t {
         file.reset(CreateFileW(where.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
                                FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
         return isValid(file) ? 0 : GetLastError();
@@ -159,7 +159,7 @@ void WinFiles::remove(const std::wstring& file) {
     makeWritable(file);
     const std::wstring path = longPath(file);
     WinReplacementSteps steps;
-    const auto error = withPatience(path, steps, [&] { return steps.remove(path); });
+    const auto error = doWhenFree(path, steps, [&] { return steps.remove(path); });
     if (error != 0) throw fileError(error, file);
 }
 

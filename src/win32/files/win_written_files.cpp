@@ -127,7 +127,7 @@ class WinRecordFile : public RecordFile {
                                     FILE_ATTRIBUTE_NORMAL, nullptr));
             return isValid(file_) ? 0 : GetLastError();
         };
-        return openPatiently(open, [] { Sleep(kReplacementPause); });
+        return openWhenFree(open, [] { Sleep(kReplacementPause); });
     }
 
     void require(bool succeeded) const {

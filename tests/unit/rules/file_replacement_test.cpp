@@ -51,7 +51,7 @@ TEST(FileReplacement, OpensAFileOnceNobodyIsInTheWay) {
         int opened = 0, pauses = 0;
         const auto open = [&] { return opened++ < c.failing ? c.error : 0; };
         const bool gone = c.error == kFileNotFound || c.failing == 1000;
-        EXPECT_EQ(openPatiently(open, [&] { ++pauses; }), gone ? c.error : 0);
+        EXPECT_EQ(openWhenFree(open, [&] { ++pauses; }), gone ? c.error : 0);
         EXPECT_EQ(pauses, c.pauses);
     }
 }
