@@ -48,7 +48,7 @@ std::wstring fileNaming(const std::vector<std::wstring>& documents, const Settin
 
 void importInto(FoundDocuments& found, const SearchServices& services, const std::wstring& file) {
     const NoEvents window;
-    const Searching searching(services.patience, window, SearchKind::Documents);
+    const Searching searching(services.watch, window, SearchKind::Documents);
     DocumentImport import(services);
     const bool all = import.gatherFile(file) == DocumentImport::End::Complete &&
                      import.look() == DocumentImport::End::Complete;
@@ -102,10 +102,10 @@ Row importFromSlowServer(const Setting& setting) {
     const std::wstring file = fileNaming(sampleDocuments(setting, size), setting);
     SlowToTell files;
     Judge judge(doubleClickLimits(), [] { return Moment{GetTickCount64()}; });
-    WindowPatience patience(judge);
+    WinSearchWatch watch(judge);
     const auto import = [&](Workers& workers) {
         FoundDocuments found;
-        importInto(found, {files, workers, patience}, file);
+        importInto(found, {files, workers, watch}, file);
         require(found.count() == size, "all documents imported");
     };
     NoWorkers alone;

@@ -29,13 +29,13 @@ Row searchOfSlowServer(const Setting& setting) {
     const std::wstring tree = documentTree(setting.directory, documents).wstring();
     SlowFiles files;
     Judge judge(doubleClickLimits(), [] { return Moment{GetTickCount64()}; });
-    WindowPatience patience(judge);
+    WinSearchWatch watch(judge);
     const NoEvents window;
     const auto search = [&](Workers& workers) {
-        const Searching searching(patience, window, SearchKind::Documents);
+        const Searching searching(watch, window, SearchKind::Documents);
         FoundDocuments found;
         found.restart(true);
-        DocumentSearch({files, workers, patience}, found,
+        DocumentSearch({files, workers, watch}, found,
                        DocumentKinds(L"*.SLDPRT ; *.SLDASM ; *.SLDDRW"), [](int) {})
             .run(tree, true);
         require(found.count() == documents, "all documents found");

@@ -37,7 +37,7 @@ struct Machine {
           fileDialogs(entrance.judge),
           windows(entrance.gate, std::move(showHelp)),
           sieve(entrance.judge),
-          searchPatience(entrance.judge),
+          searchWatch(entrance.judge),
           platform{automation,
                    settings,
                    files,
@@ -49,7 +49,7 @@ struct Machine {
                    desktop,
                    power,
                    windows,
-                   {files, workers, searchPatience},
+                   {files, workers, searchWatch},
                    programDirectory(),
                    namedFiles()} {}
 
@@ -67,6 +67,6 @@ struct Machine {
     WinPower power;
     DialogFactory windows;
     InputSieve sieve;
-    WindowPatience searchPatience;
+    WinSearchWatch searchWatch;
     Platform platform;
 };

@@ -22,13 +22,12 @@ struct JobDesk : std::enable_shared_from_this<JobDesk> {
     std::atomic<int> atWork = 0;
     std::atomic<bool> ended = false;
 
-    std::mutex mutex = {};     // of what follows
-    SearchPatience* patience;  ///< gone once the jobs have ended
+    std::mutex mutex = {};  // of what follows
+    SearchWatch* watch;     ///< gone once the jobs have ended
     std::optional<RuntimeError> error = {};
 
-    JobDesk(std::size_t theCount, std::function<void(std::size_t)> theJob,
-            SearchPatience& thePatience)
-        : count(theCount), job(std::move(theJob)), patience(&thePatience) {}
+    JobDesk(std::size_t theCount, std::function<void(std::size_t)> theJob, SearchWatch& theWatch)
+        : count(theCount), job(std::move(theJob)), watch(&theWatch) {}
 
     void callWorkers(Workers& workers) {
         const std::size_t begun = next;
@@ -67,11 +66,11 @@ struct JobDesk : std::enable_shared_from_this<JobDesk> {
 
     void end() {
         const std::scoped_lock lock(mutex);
-        if (!ended.exchange(true)) patience->wake();
+        if (!ended.exchange(true)) watch->wake();
     }
 };
 
-/// With the scope: from then on nobody wakes the patience.
+/// With the scope: from then on nobody wakes the watch.
 struct JobsEnd {
     JobDesk& desk;
     ~JobsEnd() {
@@ -85,12 +84,12 @@ struct JobsEnd {
 bool inParallel(const SearchServices& services, std::size_t count,
                 std::function<void(std::size_t)> job) {
     if (count == 0) return true;
-    const auto desk = std::make_shared<JobDesk>(count, std::move(job), services.patience);
+    const auto desk = std::make_shared<JobDesk>(count, std::move(job), services.watch);
     const JobsEnd end{*desk};
     while (!desk->ended) {
         desk->callWorkers(services.workers);
         const bool alone = desk->atWork == 0 && desk->doNext();
-        if (!(alone ? services.patience.serve() : services.patience.wait())) return false;
+        if (!(alone ? services.watch.serve() : services.watch.wait())) return false;
     }
     const std::scoped_lock lock(desk->mutex);
     if (desk->error) throw *desk->error;

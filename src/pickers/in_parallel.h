@@ -9,8 +9,8 @@
 struct SearchServices;
 
 /// Calls `job` with each number below `count`, several at a time, by workers, while the window is
-/// served; without workers one after the other. Raises what a job raised, and what the patience
-/// raises. False when the patience ended: jobs that hang are abandoned, so each owns all that it
+/// served; without workers one after the other. Raises what a job raised, and what the watch
+/// raises. False when the watch ended: jobs that hang are abandoned, so each owns all that it
 /// works on.
 [[nodiscard]] bool inParallel(const SearchServices& services, std::size_t count,
                               std::function<void(std::size_t number)> job);

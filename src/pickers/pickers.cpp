@@ -56,7 +56,7 @@ wchar_t DrivePicker::drive() const {
 
 Opening DirectoryPicker::open(const std::wstring& path) {
     std::wstring wanted = reportedPath(path);
-    const Searching opening(services_.patience, window_, SearchKind::Opening);
+    const Searching opening(services_.watch, window_, SearchKind::Opening);
     const SearchSign sign(label_);
     auto subdirectories = readSubdirectories(services_, wanted);
     if (!subdirectories) return Opening::GivenUp;

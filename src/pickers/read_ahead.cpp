@@ -108,7 +108,7 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
     ReadingPlan plan;
     // These two are gone once the walk has ended.
     Workers* workers;
-    SearchPatience* patience;
+    SearchWatch* watch;
     TreeDirectory* awaited = nullptr;          ///< by the main thread
     int unseen = 0;                            ///< directories read since the walk was woken
     int readers = 0;                           ///< workers that read, or will
@@ -116,12 +116,12 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
     bool ended = false;
 
     Desk(Files& theFiles, FileFilter theWanted, ReadingPlan thePlan, Workers* theWorkers,
-         SearchPatience* thePatience)
+         SearchWatch* theWatch)
         : files(theFiles),
           wanted(std::move(theWanted)),
           plan(std::move(thePlan)),
           workers(theWorkers),
-          patience(thePatience) {}
+          watch(theWatch) {}
 
     /// Lets one more worker read if there is something to be read. Each calls the next one.
     void callReader() {
@@ -140,7 +140,7 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
         --readers;
         if (ended || !error) return;
         failure = error;
-        patience->wake();
+        watch->wake();
     }
 
     /// Reads one directory, unlocked meanwhile. False when there was none to be read.
@@ -159,14 +159,14 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
         return true;
     }
 
-    /// Once for several directories: they are there sooner than a thread wakes. A patience that
+    /// Once for several directories: they are there sooner than a thread wakes. A watch that
     /// waits looks by itself, too, before a slow server has read so many.
     void wakeWalk() {
         constexpr int kSeveral = 16;
         const bool readIt = awaited && awaited->state == TreeDirectory::State::Read;
         if (!readIt || (unseen < kSeveral && plan.hasNext(awaited))) return;
         unseen = 0;
-        patience->wake();
+        watch->wake();
     }
 };
 
@@ -174,8 +174,8 @@ ReadAhead::ReadAhead(const SearchServices& services, FileFilter wanted, const st
                      bool withSubdirectories)
     : desk_(std::make_shared<Desk>(services.files, std::move(wanted),
                                    ReadingPlan(root, withSubdirectories), &services.workers,
-                                   &services.patience)),
-      patience_(services.patience) {}
+                                   &services.watch)),
+      watch_(services.watch) {}
 
 ReadAhead::~ReadAhead() {
     const Lock lock(desk_->mutex);
@@ -218,14 +218,14 @@ DirectoryId ReadAhead::identify(const std::wstring& directory) {
     const auto ask = [&files = desk_->files, id, directory](std::size_t) {
         *id = files.identify(directory);
     };
-    if (!inParallel({desk_->files, *desk_->workers, patience_}, 1, ask)) throw Interrupted{};
+    if (!inParallel({desk_->files, *desk_->workers, watch_}, 1, ask)) throw Interrupted{};
     served_ = Clock::now();
     return *id;
 }
 
 void ReadAhead::wait(Lock& lock) {
     lock.unlock();
-    const bool goesOn = patience_.wait();
+    const bool goesOn = watch_.wait();
     served_ = Clock::now();
     lock.lock();
     if (!goesOn) throw Interrupted{};
@@ -234,6 +234,6 @@ void ReadAhead::wait(Lock& lock) {
 void ReadAhead::serveNowAndThen() {
     constexpr std::chrono::milliseconds kInterval(20);
     if (Clock::now() - served_ < kInterval) return;
-    if (!patience_.serve()) throw Interrupted{};
+    if (!watch_.serve()) throw Interrupted{};
     served_ = Clock::now();
 }

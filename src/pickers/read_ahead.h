@@ -12,7 +12,7 @@
 #include "pickers/directory_listing.h"
 #include "ports/files.h"
 
-class SearchPatience;
+class SearchWatch;
 struct SearchServices;
 
 /// A directory of a tree that is being walked, and what was read of it. Before it has been read it
@@ -100,13 +100,13 @@ class ReadAhead {
     TreeDirectory& root();
     TreeDirectory& subdirectory(TreeDirectory& directory, std::size_t index);
 
-    /// Waits until a directory has been read. Raises 70 or 76 if it can't be, and what the patience
+    /// Waits until a directory has been read. Raises 70 or 76 if it can't be, and what the watch
     /// raises.
     void meet(TreeDirectory& directory);
     /// The walk is through with a directory and all below it.
     void leave(TreeDirectory& directory);
 
-    /// Files::identify, with the same patience.
+    /// Files::identify, with the same watch.
     DirectoryId identify(const std::wstring& directory);
 
  private:
@@ -118,6 +118,6 @@ class ReadAhead {
     void serveNowAndThen();
 
     std::shared_ptr<Desk> desk_;  ///< shared with the workers
-    SearchPatience& patience_;
+    SearchWatch& watch_;
     Clock::time_point served_ = Clock::now();
 };

@@ -3,16 +3,17 @@
 #include <functional>
 
 class EventSink;
+class Files;
 
-/// A directory or a drive that is only opened goes on while something is typed. Alone: a pass that
-/// goes on alone is watched as a search is, and stopped by a press on any button, too.
+/// What is watched. Opening, of a directory or a drive, goes on while something is typed. Alone: a
+/// pass that goes on alone, which a press on any button stops, too.
 enum class SearchKind { Documents, Opening, Alone };
 
-/// How the main thread, while it searches, serves its window. What these raise ends the search and
-/// is let through.
-class SearchPatience {
+/// Serves the window while the main thread searches, and knows when the search is to stop. What
+/// these raise ends the search and is passed on.
+class SearchWatch {
  public:
-    virtual ~SearchPatience() = default;
+    virtual ~SearchWatch() = default;
 
     /// A search begins in this window's name, or ends. Use Searching.
     virtual void begin(const EventSink& window, SearchKind kind) = 0;
@@ -23,38 +24,36 @@ class SearchPatience {
     /// Does what has come for the window, without waiting. False: the search is to stop.
     virtual bool serve() = 0;
 
-    /// The same, but waits first: until wake() is called, of which one call that came before
-    /// counts, or a few milliseconds.
+    /// The same, but waits first, for wake() or a few milliseconds. One call of wake() that came
+    /// before the wait counts.
     virtual bool wait() = 0;
 
-    /// Ends a wait, or the next one when there is none. Called by any thread, and waits for none.
+    /// Ends a wait, or the next one when there is none. May be called by any thread, and does not
+    /// block.
     virtual void wake() = 0;
 };
 
-/// While it lives a command searches, before its user's eyes and while the program's windows live.
-/// What the user does meanwhile is no command: it stops the search, has it begin again, ends the
-/// program, or is dropped.
+/// While it lives a command searches, and the program's windows stay responsive. What the user does
+/// meanwhile is no command: it stops the search, restarts it, ends the program, or is dropped.
 class Searching {
  public:
-    /// `window`: the one that searches. Its frame ends the program, its controls may ask for a
-    /// newer search.
-    Searching(SearchPatience& patience, const EventSink& window, SearchKind kind)
-        : patience_(patience) {
-        patience_.begin(window, kind);
+    /// `window` searches: its frame ends the program, its controls may ask for a newer search.
+    Searching(SearchWatch& watch, const EventSink& window, SearchKind kind) : watch_(watch) {
+        watch_.begin(window, kind);
     }
-    ~Searching() { patience_.end(); }
+    ~Searching() { watch_.end(); }
     Searching(const Searching&) = delete;
     Searching& operator=(const Searching&) = delete;
 
-    /// Whether the user gave up what has not been found yet.
-    bool stopped() const { return patience_.stopped(); }
+    /// Whether the user gave the search up.
+    bool stopped() const { return watch_.stopped(); }
 
  private:
-    SearchPatience& patience_;
+    SearchWatch& watch_;
 };
 
-/// For searches that nobody watches and that wait for nobody.
-class Unwatched : public SearchPatience {
+/// For searches that no window is served during.
+class Unwatched : public SearchWatch {
  public:
     void begin(const EventSink&, SearchKind) override {}
     void end() override {}
@@ -69,25 +68,21 @@ class Workers {
  public:
     virtual ~Workers() = default;
 
-    /// Runs a job on a thread of its own, sooner or later. It owns all that it works on, for nobody
-    /// waits for its end, and raises nothing. False, and the job is not run, when there is no
-    /// thread to be had. Called by any thread.
+    /// Runs a job on a thread of its own, sooner or later. Nobody waits for its end, so it owns all
+    /// that it works on, and it raises nothing. False when no thread can be had: the job is not
+    /// run. May be called by any thread.
     virtual bool start(std::function<void()> job) = 0;
 };
 
-/// For callers that do all their work themselves.
+/// Refuses every job: its callers do all their work themselves.
 class NoWorkers : public Workers {
  public:
     bool start(std::function<void()>) override { return false; }
 };
 
-class Files;
-class SearchPatience;
-class Workers;
-
-/// By whom a search reads, and who may end it.
+/// What a search needs: what it reads, who reads ahead, and who may end it.
 struct SearchServices {
     Files& files;
     Workers& workers;
-    SearchPatience& patience;
+    SearchWatch& watch;
 };

@@ -148,7 +148,7 @@ void ConfigurationWindow::CmdAjo2_Click() {
 }
 
 void ConfigurationWindow::addTree(TreeAddition& tree) {
-    const Searching searching(platform_.search.patience, *this, SearchKind::Documents);
+    const Searching searching(platform_.search.watch, *this, SearchKind::Documents);
     const SearchSign sign(Label5);
     Pulse pulse;
     const WalkEnd end =

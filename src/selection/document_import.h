@@ -26,12 +26,12 @@ struct ImportRemains {
 
 /// Documents on their way into the list: named by files, dropped, or found below directories that
 /// were dropped. First they are gathered, then, once it is known which servers may be asked, looked
-/// for. Both raise what the patience raises.
+/// for. Both raise what the watch raises.
 class DocumentImport {
  public:
     enum class End {
         Complete,
-        Interrupted,  ///< by the patience
+        Interrupted,  ///< by the watch
         Refused       ///< problem() tells why
     };
     using Progress = std::function<void(int documents)>;

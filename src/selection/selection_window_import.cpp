@@ -120,7 +120,7 @@ bool SelectionWindow::completes(DocumentImport& import, const ImportStep& step) 
     bool stopped = false;
     DocumentImport::End end;
     {
-        const Searching searching(platform_.search.patience, *this, SearchKind::Documents);
+        const Searching searching(platform_.search.watch, *this, SearchKind::Documents);
         const SearchSign sign(Label4);
         end = step(import);
         stopped = searching.stopped();

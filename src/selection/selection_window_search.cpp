@@ -96,7 +96,7 @@ bool SelectionWindow::rebuild(const SelectionList::Entries& chosen) {
 }
 
 SelectionWindow::SearchEnd SelectionWindow::search() {
-    const Searching searching(platform_.search.patience, *this, SearchKind::Documents);
+    const Searching searching(platform_.search.watch, *this, SearchKind::Documents);
     const SearchSign sign(Label4);
     if (std::exchange(imported_, false)) found_.restart(sousrep.checked());
     found_.beginPass(false);

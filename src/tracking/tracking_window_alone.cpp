@@ -30,7 +30,7 @@ void TrackingWindow::Seul_Click() {
 
 AloneOutcome TrackingWindow::goAlone(int documents) {
     const Awake awake(platform_.power);
-    const Searching watched(platform_.search.patience, *this, SearchKind::Alone);
+    const Searching watched(platform_.search.watch, *this, SearchKind::Alone);
     alone_ = std::make_unique<AloneWindow>(platform_.windows, platform_.clock, documents);
     alone_->showBeside(*window_);
     const AloneOutcome outcome = runner_.goAlone([&] {
@@ -48,7 +48,7 @@ void TrackingWindow::showAlone() {
 
 bool TrackingWindow::goesOn() {
     try {
-        return platform_.search.patience.serve();
+        return platform_.search.watch.serve();
     } catch (const ProgramEnd&) {
         runner_.end();
         throw;

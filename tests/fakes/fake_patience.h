@@ -7,7 +7,7 @@
 #include "ports/search.h"
 
 /// Waits without a window; goes on as long as it is told to.
-struct FakePatience : SearchPatience {
+struct FakePatience : SearchWatch {
     std::function<bool()> goesOn = [] { return true; };
     const EventSink* searching = nullptr;
 

@@ -20,21 +20,21 @@ void CALLBACK wake(PTP_CALLBACK_INSTANCE, void* thread, PTP_TIMER) {
 
 }  // namespace
 
-WindowPatience::WindowPatience(Judge& judge)
+WinSearchWatch::WinSearchWatch(Judge& judge)
     : judge_(judge), woken_(require(CreateEventW(nullptr, FALSE, FALSE, nullptr), L"un signal")) {}
 
 // It shows from the first moment that it goes on, though nothing is found yet.
-void WindowPatience::begin(const EventSink& window, SearchKind kind) {
+void WinSearchWatch::begin(const EventSink& window, SearchKind kind) {
     judge_.searchBegins(window, kind);
     showPointer(judge_);
 }
 
-void WindowPatience::end() {
+void WinSearchWatch::end() {
     judge_.searchEnds();
     showPointer(judge_);
 }
 
-bool WindowPatience::serve() {
+bool WinSearchWatch::serve() {
     const bool isTime = judge_.searchLasts() >= kNoTime && judge_.now() - served_ >= kServing;
     if (!isTime) return judge_.searchGoesOn();
     const bool programGoesOn = handleWaitingMessages(judge_);
@@ -42,7 +42,7 @@ bool WindowPatience::serve() {
     return judge_.searchGoesOn() && programGoesOn;
 }
 
-bool WindowPatience::wait() {
+bool WinSearchWatch::wait() {
     constexpr DWORD kFew = 5;
     WaitForSingleObject(woken_.get(), kFew);
     return serve();

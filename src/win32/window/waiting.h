@@ -12,9 +12,9 @@
 /// pass.
 ///
 /// A search that is over in no time is one step, as it were: nothing is served.
-class WindowPatience : public SearchPatience {
+class WinSearchWatch : public SearchWatch {
  public:
-    explicit WindowPatience(Judge& judge);
+    explicit WinSearchWatch(Judge& judge);
 
     void begin(const EventSink& window, SearchKind kind) override;
     void end() override;

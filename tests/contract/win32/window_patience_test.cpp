@@ -57,7 +57,7 @@ class SearchOnAWindow : public testing::Test, protected RealWindows, private Eve
 
     SilentFiles* files_ = new SilentFiles;  // its readers may outlive the test
     PoolWorkers workers_;
-    WindowPatience patience_{judge};
+    WinSearchWatch patience_{judge};
     std::unique_ptr<Window> window_ =
         factory.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);
 };
