@@ -71,9 +71,9 @@ std::size_t illFormedLength(std::string_view text) { return firstSequence(text).
 
 namespace {
 
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-constexpr std::string_view kUtf16LittleEndianMark = "\xFF\xFE";
-constexpr std::string_view kUtf16BigEndianMark = "\xFE\xFF";
+constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf16LittleEndianBom = "\xFF\xFE";
+constexpr std::string_view kUtf16BigEndianBom = "\xFE\xFF";
 constexpr char32_t kReplacement = 0xFFFD;
 
 bool isUtf8(std::string_view bytes) {
@@ -179,9 +179,9 @@ std::string lineByLine(std::string_view bytes) {
 
 std::string textInUtf8(std::string bytes) {
     const std::string_view view = bytes;
-    if (view.starts_with(kUtf16LittleEndianMark)) return fromUtf16(view.substr(2), false);
-    if (view.starts_with(kUtf16BigEndianMark)) return fromUtf16(view.substr(2), true);
-    if (view.starts_with(kUtf8Mark)) return withReplacements(view.substr(kUtf8Mark.size()));
+    if (view.starts_with(kUtf16LittleEndianBom)) return fromUtf16(view.substr(2), false);
+    if (view.starts_with(kUtf16BigEndianBom)) return fromUtf16(view.substr(2), true);
+    if (view.starts_with(kUtf8Bom)) return withReplacements(view.substr(kUtf8Bom.size()));
     if (!isUtf8(view)) return lineByLine(view);
     return bytes;
 }

@@ -25,7 +25,7 @@ class CheckBox : public Control {
     virtual void setChecked(bool checked) = 0;
 };
 
-/// A list of lines (zero-based), each with a number beside it that the user doesn't see.
+/// A list of lines (zero-based), each with a number that the user doesn't see, its data.
 class ListBox : public Control {
  public:
     virtual int count() const = 0;
@@ -33,9 +33,9 @@ class ListBox : public Control {
     virtual bool selected(int index) const = 0;
     virtual void select(int index, bool selected) = 0;
     virtual void clearSelection() = 0;
-    virtual int mark(int index) const = 0;
-    virtual void setMark(int index, int mark) = 0;
-    /// Replaces all lines; none is selected and every mark is 0.
+    virtual int data(int index) const = 0;
+    virtual void setData(int index, int data) = 0;
+    /// Replaces all lines; none is selected and every number is 0.
     virtual void setLines(int count, const std::function<std::wstring(int)>& line) = 0;
     /// Gives a line another text; it stays selected or not, and where it is on the screen.
     virtual void changeText(int index, const std::wstring& line) = 0;

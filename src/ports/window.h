@@ -91,7 +91,7 @@ class Window {
     /// The colour of that progress: yellow for a warning, red for a refusal.
     virtual void showAlert(Alert alert) = 0;
     /// The check mark of an item of the system menu.
-    virtual void setMenuMark(int itemId, bool marked) = 0;
+    virtual void setMenuItemChecked(int itemId, bool checked) = 0;
     /// Whether an item of the system menu can be chosen; at first all can.
     virtual void setMenuItemEnabled(int itemId, bool enabled) = 0;
     /// Above the windows of all programs, or among them.

@@ -15,7 +15,7 @@ void SelectionList::fill(int depth, const std::function<bool(int line)>& isChose
         if (choose) chosen.push_back(i);
         return lineText(i, choose);
     });
-    for (const int line : chosen) list_.setMark(line, 1);
+    for (const int line : chosen) list_.setData(line, 1);
 }
 
 SelectionList::Entries SelectionList::chosenEntries() const {
@@ -29,7 +29,7 @@ SelectionList::Entries SelectionList::chosenEntries() const {
 void SelectionList::redraw(int depth) {
     depth_ = depth;
     DrawingPause pause(list_);
-    list_.changeTexts([&](int i) { return lineText(i, list_.mark(i) != 0); });
+    list_.changeTexts([&](int i) { return lineText(i, list_.data(i) != 0); });
     list_.clearSelection();
 }
 
@@ -47,12 +47,12 @@ std::wstring SelectionList::lineText(int line, bool chosen) const {
 int SelectionList::chosenCount() const {
     int chosen = 0;
     for (int i = 0; i < found_.count(); ++i) {
-        if (list_.mark(i) == 1) ++chosen;
+        if (list_.data(i) == 1) ++chosen;
     }
     return chosen;
 }
 
-bool SelectionList::chosen(int line) const { return list_.mark(line) == 1; }
+bool SelectionList::chosen(int line) const { return list_.data(line) == 1; }
 
 void SelectionList::toggle(const std::vector<int>& lines) {
     if (lines.empty()) return;
@@ -62,7 +62,7 @@ void SelectionList::toggle(const std::vector<int>& lines) {
     for (const int line : lines) choose[static_cast<std::size_t>(line)] = !chosen(line);
     DrawingPause pause(list_);
     changeLines(list_, lines, [&](int line) { return lineText(line, chooses(line)); });
-    for (const int line : lines) list_.setMark(line, chooses(line) ? 1 : 0);
+    for (const int line : lines) list_.setData(line, chooses(line) ? 1 : 0);
 }
 
 void SelectionList::toggleHighlighted() {
@@ -89,7 +89,7 @@ std::vector<int> SelectionList::matching(std::wstring_view filter, bool chosen) 
         makeUpperCase(text);
         const bool matches = text.find(folded) != std::wstring::npos;
         // The list is asked about the lines that match alone: it answers slowly.
-        if (matches && (list_.mark(i) == 1) == chosen) lines.push_back(i);
+        if (matches && (list_.data(i) == 1) == chosen) lines.push_back(i);
     }
     return lines;
 }

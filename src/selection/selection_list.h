@@ -9,7 +9,7 @@
 class FoundDocuments;
 class ListBox;
 
-/// The documents found as lines of a list, each chosen or not: its mark, 1 or 0, and an "X" in
+/// The documents found as lines of a list, each chosen or not: its data, 1 or 0, and an "X" in
 /// front. The list's own selection (the highlight) is another thing.
 class SelectionList {
  public:

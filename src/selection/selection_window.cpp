@@ -120,7 +120,7 @@ void SelectionWindow::Ordre_Click() {
 
 void SelectionWindow::setByKind(bool on) {
     byKind_ = on;
-    window_->setMenuMark(IDM_FORM1_ORDRE, on);
+    window_->setMenuItemChecked(IDM_FORM1_ORDRE, on);
 }
 
 void SelectionWindow::cmd_tracer_Click() {

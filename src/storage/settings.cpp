@@ -6,7 +6,7 @@
 
 namespace {
 
-const wchar_t* markText(bool marked) { return marked ? L"1" : L"0"; }
+const wchar_t* switchText(bool on) { return on ? L"1" : L"0"; }
 
 }  // namespace
 
@@ -26,9 +26,9 @@ std::wstring valueOf(Settings& settings, const TextSetting& setting) {
     return settings.read(setting.application, setting.section, setting.key, setting.otherwise);
 }
 
-bool valueOf(Settings& settings, const MarkSetting& setting) {
+bool valueOf(Settings& settings, const SwitchSetting& setting) {
     return settings.read(setting.application, setting.section, setting.key,
-                         markText(setting.otherwise)) == markText(true);
+                         switchText(setting.otherwise)) == switchText(true);
 }
 
 void setValue(Settings& settings, const NumberSetting& setting, std::int16_t value) {
@@ -39,6 +39,6 @@ void setValue(Settings& settings, const TextSetting& setting, const std::wstring
     settings.write(setting.application, setting.section, setting.key, value);
 }
 
-void setValue(Settings& settings, const MarkSetting& setting, bool marked) {
-    settings.write(setting.application, setting.section, setting.key, markText(marked));
+void setValue(Settings& settings, const SwitchSetting& setting, bool on) {
+    settings.write(setting.application, setting.section, setting.key, switchText(on));
 }

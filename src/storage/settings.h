@@ -14,7 +14,7 @@ struct Setting {
 
 using NumberSetting = Setting<std::int16_t>;
 using TextSetting = Setting<const wchar_t*>;
-using MarkSetting = Setting<bool>;
+using SwitchSetting = Setting<bool>;
 
 /// Every setting there is. Adding one takes a line here and the one who uses it.
 namespace setting {
@@ -65,17 +65,19 @@ inline constexpr TextSetting kLoadingOptionsWritten{place::kProgram, place::kSta
                                                     L"1111"};
 
 // The check marks of the system menus.
-inline constexpr MarkSetting kAlwaysVisible{place::kProgram, place::kOptions, L"toujoursvisible",
+inline constexpr SwitchSetting kAlwaysVisible{place::kProgram, place::kOptions, L"toujoursvisible",
+                                              false};
+inline constexpr SwitchSetting kHotKeys{place::kProgram, place::kOptions, L"touches", false};
+inline constexpr SwitchSetting kByKind{place::kProgram, place::kOptions, L"ordre", false};
+inline constexpr SwitchSetting kAllReleases{place::kProgram, place::kOptions, L"premierplan",
                                             false};
-inline constexpr MarkSetting kHotKeys{place::kProgram, place::kOptions, L"touches", false};
-inline constexpr MarkSetting kByKind{place::kProgram, place::kOptions, L"ordre", false};
-inline constexpr MarkSetting kAllReleases{place::kProgram, place::kOptions, L"premierplan", false};
-inline constexpr MarkSetting kPassRefused{place::kProgram, place::kOptions, L"passerrefus", false};
-inline constexpr MarkSetting kKeepUnsaved{place::kProgram, place::kOptions, L"gardernonsauve",
-                                          false};
-inline constexpr MarkSetting kLeaveUsers{place::kProgram, place::kOptions, L"laisserouverts",
-                                         false};
-inline constexpr MarkSetting kWorkThere{place::kProgram, place::kOptions, L"references", false};
+inline constexpr SwitchSetting kPassRefused{place::kProgram, place::kOptions, L"passerrefus",
+                                            false};
+inline constexpr SwitchSetting kKeepUnsaved{place::kProgram, place::kOptions, L"gardernonsauve",
+                                            false};
+inline constexpr SwitchSetting kLeaveUsers{place::kProgram, place::kOptions, L"laisserouverts",
+                                           false};
+inline constexpr SwitchSetting kWorkThere{place::kProgram, place::kOptions, L"references", false};
 
 }  // namespace setting
 
@@ -87,8 +89,8 @@ class Settings;
 std::int16_t valueOf(Settings& settings, const NumberSetting& setting);
 std::wstring valueOf(Settings& settings, const TextSetting& setting);
 /// Kept as "0" or "1"; any other text is no mark.
-bool valueOf(Settings& settings, const MarkSetting& setting);
+bool valueOf(Settings& settings, const SwitchSetting& setting);
 
 void setValue(Settings& settings, const NumberSetting& setting, std::int16_t value);
 void setValue(Settings& settings, const TextSetting& setting, const std::wstring& value);
-void setValue(Settings& settings, const MarkSetting& setting, bool marked);
+void setValue(Settings& settings, const SwitchSetting& setting, bool on);

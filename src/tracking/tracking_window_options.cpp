@@ -18,7 +18,7 @@ namespace {
 
 struct PassOption {
     int itemId;
-    const MarkSetting& setting;
+    const SwitchSetting& setting;
     bool PassOptions::*value;
 };
 
@@ -77,19 +77,19 @@ void TrackingWindow::setPassOption(int itemId, bool on) {
     PassOptions options = runner_.options();
     options.*passOption(itemId).value = on;
     runner_.setOptions(options);
-    window_->setMenuMark(itemId, on);
+    window_->setMenuItemChecked(itemId, on);
 }
 
 void TrackingWindow::setAlwaysVisible(bool on) {
     alwaysVisible_ = on;
     window_->setTopmost(on);
-    window_->setMenuMark(IDM_FORM3_TOUJOURSVISIBLE, on);
+    window_->setMenuItemChecked(IDM_FORM3_TOUJOURSVISIBLE, on);
 }
 
 void TrackingWindow::setAllReleases(bool on) {
     allReleases_ = on;
     cad_.expectAnyRelease(on);
-    window_->setMenuMark(IDM_FORM3_PREMIERPLAN, on);
+    window_->setMenuItemChecked(IDM_FORM3_PREMIERPLAN, on);
 }
 
 void TrackingWindow::setHotKeys(bool on) {
@@ -103,7 +103,7 @@ void TrackingWindow::setHotKeys(bool on) {
         window_->releaseHotKeys();
     }
     hotKeys_ = on;
-    window_->setMenuMark(IDM_FORM3_TOUCHES, on);
+    window_->setMenuItemChecked(IDM_FORM3_TOUCHES, on);
 }
 
 // The pass goes on, whatever becomes of the report.

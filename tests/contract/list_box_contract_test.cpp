@@ -29,13 +29,13 @@ TEST_F(ListBoxContract, HoldsTheLinesThatItWasGivenLast) {
     for (ListBox* list : {&several, &one}) {
         fill(*list, 20);
         list->select(3, true);
-        list->setMark(3, 1);
+        list->setData(3, 1);
         list->setLines(4, [&](int i) { return lines[i]; });
         EXPECT_EQ(list->count(), 4);
         EXPECT_EQ(selection(*list), Lines());
         for (int i = 0; i < 4; ++i) {
             EXPECT_EQ(list->line(i), lines[i]);
-            EXPECT_EQ(list->mark(i), 0);
+            EXPECT_EQ(list->data(i), 0);
         }
     }
     // Several lines can be selected at once.
@@ -51,9 +51,9 @@ TEST_F(ListBoxContract, DoesNotMindALineThatIsNotThere) {
     for (ListBox* list : {&several, &one}) {
         fill(*list, 3);
         list->select(3, true);
-        list->setMark(3, 7);
+        list->setData(3, 7);
         EXPECT_FALSE(list->selected(3));
-        EXPECT_EQ(list->mark(3), -1);
+        EXPECT_EQ(list->data(3), -1);
         EXPECT_EQ(list->line(3), L"");
         EXPECT_EQ(list->count(), 3);
         EXPECT_EQ(selection(*list), Lines());
@@ -64,7 +64,7 @@ TEST_F(ListBoxContract, ChangedTextLeavesTheRest) {
     for (ListBox* list : {&several, &one}) {
         fill(*list, 4);
         list->select(2, true);
-        list->setMark(2, 5);
+        list->setData(2, 5);
         list->changeText(2, L"autre");
         list->changeText(1, L"une");
         EXPECT_EQ(list->line(1), L"une");
@@ -74,6 +74,6 @@ TEST_F(ListBoxContract, ChangedTextLeavesTheRest) {
         EXPECT_EQ(list->line(3), L"ligne 3s");
         EXPECT_EQ(list->line(2), L"autres");
         EXPECT_EQ(selection(*list), Lines{2});
-        EXPECT_EQ(list->mark(2), 5);
+        EXPECT_EQ(list->data(2), 5);
     }
 }

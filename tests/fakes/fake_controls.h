@@ -32,7 +32,7 @@ struct FakeListBox : FakeControlOf<ListBox> {
     struct Line {
         std::wstring text;
         bool selected = false;
-        int mark = 0;
+        int data = 0;
     };
     std::vector<Line> lines;
     bool severalSelectable = true;
@@ -48,8 +48,8 @@ struct FakeListBox : FakeControlOf<ListBox> {
     void clearSelection() override {
         for (Line& line : lines) line.selected = false;
     }
-    int mark(int index) const override { return at(index).mark; }
-    void setMark(int index, int mark) override { change(index).mark = mark; }
+    int data(int index) const override { return at(index).data; }
+    void setData(int index, int data) override { change(index).data = data; }
     void setLines(int count, const std::function<std::wstring(int)>& line) override {
         lines.clear();
         for (int i = 0; i < count; ++i) lines.push_back({line(i)});
@@ -82,7 +82,7 @@ struct FakeListBox : FakeControlOf<ListBox> {
     bool has(int index) const { return index >= 0 && index < count(); }
     /// A line; for one that is not there, what a list answers then.
     Line at(int index) const {
-        return has(index) ? lines[static_cast<std::size_t>(index)] : Line{.text = L"", .mark = -1};
+        return has(index) ? lines[static_cast<std::size_t>(index)] : Line{.text = L"", .data = -1};
     }
     Line& change(int index) {
         return has(index) ? lines[static_cast<std::size_t>(index)] : nowhere_;

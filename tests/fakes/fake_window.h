@@ -56,7 +56,7 @@ struct FakeWindow : Window {
         progressTotal = total;
     }
     void showAlert(Alert value) override { alert = value; }
-    void setMenuMark(int itemId, bool marked) override {
+    void setMenuItemChecked(int itemId, bool marked) override {
         marked ? void(menuMarks.insert(itemId)) : void(menuMarks.erase(itemId));
     }
     void setMenuItemEnabled(int itemId, bool enabled) override {

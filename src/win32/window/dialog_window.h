@@ -65,7 +65,7 @@ class DialogWindow : public Window, private EventSource {
     Area workArea() const override { return place_.workArea(); }
     void showProgress(int done, int total) override { progress_.set(done, total); }
     void showAlert(Alert alert) override { progress_.set(alert); }
-    void setMenuMark(int itemId, bool marked) override;
+    void setMenuItemChecked(int itemId, bool checked) override;
     void setMenuItemEnabled(int itemId, bool enabled) override;
     void setTopmost(bool topmost) override;
     std::vector<std::wstring> takeHotKeys() override;

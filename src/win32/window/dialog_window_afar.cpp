@@ -41,9 +41,9 @@ std::vector<std::wstring> pathsOf(HDROP files) {
 
 }  // namespace
 
-void DialogWindow::setMenuMark(int itemId, bool marked) {
+void DialogWindow::setMenuItemChecked(int itemId, bool checked) {
     CheckMenuItem(GetSystemMenu(window_.get(), FALSE), static_cast<UINT>(itemId),
-                  MF_BYCOMMAND | (marked ? MF_CHECKED : MF_UNCHECKED));
+                  MF_BYCOMMAND | (checked ? MF_CHECKED : MF_UNCHECKED));
 }
 
 void DialogWindow::setMenuItemEnabled(int itemId, bool enabled) {

@@ -74,8 +74,8 @@ class WinListBox : public ControlOf<ListBox> {
     bool selected(int index) const override;
     void select(int index, bool selected) override;
     void clearSelection() override;
-    int mark(int index) const override;
-    void setMark(int index, int mark) override;
+    int data(int index) const override;
+    void setData(int index, int data) override;
     void setLines(int count, const std::function<std::wstring(int)>& line) override;
     void changeText(int index, const std::wstring& line) override;
     void changeTexts(const std::function<std::wstring(int)>& line) override;

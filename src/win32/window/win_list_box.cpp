@@ -107,9 +107,9 @@ void WinListBox::clearSelection() {
     }
 }
 
-int WinListBox::mark(int index) const { return sendForInt(LB_GETITEMDATA, position(index)); }
+int WinListBox::data(int index) const { return sendForInt(LB_GETITEMDATA, position(index)); }
 
-void WinListBox::setMark(int index, int mark) { send(LB_SETITEMDATA, position(index), mark); }
+void WinListBox::setData(int index, int data) { send(LB_SETITEMDATA, position(index), data); }
 
 void WinListBox::setLines(int count, const std::function<std::wstring(int)>& line) {
     DrawingPause pause(*this);
@@ -160,11 +160,11 @@ void WinListBox::changeTexts(const std::function<std::wstring(int)>& line) {
     std::vector<std::pair<std::wstring, int>> changed(lines);
     for (std::size_t i = 0; i < lines; ++i) {
         const int index = static_cast<int>(i);
-        changed[i] = {line(index), mark(index)};
+        changed[i] = {line(index), data(index)};
     }
     setLines(count(), [&](int i) { return changed[static_cast<std::size_t>(i)].first; });
     for (std::size_t i = 0; i < lines; ++i) {
-        if (changed[i].second != 0) setMark(static_cast<int>(i), changed[i].second);
+        if (changed[i].second != 0) setData(static_cast<int>(i), changed[i].second);
     }
     for (const int index : selected) select(index, true);
     constexpr LPARAM kEvenHalfSeen = TRUE;  // not to be scrolled to

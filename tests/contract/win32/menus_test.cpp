@@ -46,7 +46,7 @@ TEST_F(Menus, StandBelowSeparatorsAndAreClickedUnlessGreyed) {
     EXPECT_EQ(idsIn(menu, count - 4),
               (std::vector<UINT>{0, IDM_CONTRACT_ONE, 0, IDM_CONTRACT_TWO}));
     for (const auto& [marked, state] : {std::pair(true, MF_CHECKED), {false, MF_UNCHECKED}}) {
-        window_->setMenuMark(IDM_CONTRACT_ONE, marked);
+        window_->setMenuItemChecked(IDM_CONTRACT_ONE, marked);
         EXPECT_EQ(GetMenuState(menu, IDM_CONTRACT_ONE, MF_BYCOMMAND), state);
         EXPECT_EQ(GetMenuState(menu, IDM_CONTRACT_TWO, MF_BYCOMMAND), MF_UNCHECKED);
     }
@@ -62,7 +62,7 @@ TEST_F(Menus, StandBelowSeparatorsAndAreClickedUnlessGreyed) {
 
 TEST_F(Menus, AlsoComeUpByThemselves) {
     window_->show();
-    window_->setMenuMark(IDM_CONTRACT_ONE, true);
+    window_->setMenuItemChecked(IDM_CONTRACT_ONE, true);
     window_->setMenuItemEnabled(IDM_CONTRACT_TWO, false);
     static std::vector<UINT> items;
     static UINT states = 0;

@@ -13,7 +13,7 @@ struct SelectionChoosing : SelectionFixture {
     /// Lines and marks agree, and the counter with them; then the marks.
     std::wstring chosen() {
         for (const auto& line : list().lines) {
-            const std::wstring prefix = line.mark == 1 ? L" X   " : std::wstring(14, L' ');
+            const std::wstring prefix = line.data == 1 ? L" X   " : std::wstring(14, L' ');
             EXPECT_TRUE(line.text.starts_with(prefix + L"c:")) << line.text;
         }
         const std::wstring result = marks();

@@ -88,7 +88,7 @@ struct SelectionFixture : testing::Test {
     /// The marks of the lines, one digit each.
     std::wstring marks() {
         std::wstring result;
-        for (const auto& line : list().lines) result += std::to_wstring(line.mark);
+        for (const auto& line : list().lines) result += std::to_wstring(line.data);
         return result;
     }
 
