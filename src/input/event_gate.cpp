@@ -9,7 +9,6 @@
 
 MessageBoxContent fatalErrorBox(const RuntimeError& error) {
     return {.text = L"Erreur d'exécution '" + decimal(error.number) + L"' :\r\n" + error.text,
-            .title = L"Tarnwick",
             .icon = MessageBoxContent::Icon::Stop};
 }
 

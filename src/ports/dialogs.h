@@ -10,7 +10,7 @@ struct MessageBoxContent {
     enum class Icon { None = 0, Stop = 0x10, Warning = 0x30 };
 
     std::wstring text;
-    std::wstring title;
+    std::wstring title = L"Tarnwick";
     Buttons buttons = Buttons::Ok;
     Icon icon = Icon::None;
     int defaultButton = 1;       ///< one-based
@@ -27,9 +27,9 @@ class MessageBoxes {
 
     /// Shows the box, modal to the whole program, until the user answers.
     virtual Answer show(const MessageBoxContent& box) = 0;
-    /// A box of the program's own with a warning sign.
+    /// A box with a warning sign.
     void warn(const std::wstring& text) {
-        show({.text = text, .title = L"Tarnwick", .icon = MessageBoxContent::Icon::Warning});
+        show({.text = text, .icon = MessageBoxContent::Icon::Warning});
     }
 };
 

@@ -40,7 +40,6 @@ void Patience::whilePending() {
 
 bool Patience::userLeaves() {
     return boxes_.show({.text = L"SolidWorks ne répond pas.\r\nQuitter Tarnwick sans attendre ?",
-                        .title = L"Tarnwick",
                         .buttons = MessageBoxContent::Buttons::YesNo,
                         .icon = MessageBoxContent::Icon::Warning,
                         .defaultButton = 2}) == MessageBoxes::Answer::Yes;
@@ -64,7 +63,6 @@ std::optional<unsigned> Patience::afterRefusal() {
 bool Patience::userGoesOn() {
     const bool marksKept = marksKept_ && marksKept_();
     return boxes_.show({.text = std::wstring(kBusy) + (marksKept ? kMarksKept : L""),
-                        .title = L"Tarnwick",
                         .buttons = MessageBoxContent::Buttons::RetryCancel,
                         .icon = MessageBoxContent::Icon::Warning}) == MessageBoxes::Answer::Retry;
 }

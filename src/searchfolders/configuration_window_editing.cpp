@@ -20,12 +20,6 @@
 
 namespace {
 
-MessageBoxContent nothingAddedBox() {
-    return {.text = L"Recherche interrompue : rien n'a été ajouté.",
-            .title = L"Tarnwick",
-            .icon = MessageBoxContent::Icon::Warning};
-}
-
 MessageBoxContent leftOutBox(const std::vector<std::wstring>& directories) {
     constexpr std::size_t kNamed = 5;
     std::wstring text =
@@ -143,7 +137,9 @@ void ConfigurationWindow::CmdAjo2_Click() {
     if (tree.complete) configurations_.edited = tree.edited;
     showEditedCount(tree.complete ? tree.count : before);
     if (editedCount() != before) showEdited();
-    if (tree.stopped) platform_.messageBoxes.show(nothingAddedBox());
+    if (tree.stopped) {
+        platform_.messageBoxes.warn(L"Recherche interrompue : rien n'a été ajouté.");
+    }
     if (tree.complete && !tree.leftOut.empty()) tellLeftOut(tree.leftOut);
 }
 

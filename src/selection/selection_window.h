@@ -14,12 +14,11 @@
 
 class CadSession;
 class WindowPlaces;
-struct MessageBoxContent;
 struct Platform;
 struct ProgramFiles;
 
 /// Tells the user who stopped a search what has become of it.
-MessageBoxContent incompleteListBox();
+inline constexpr wchar_t kIncompleteList[] = L"Recherche interrompue : la liste est incomplète.";
 
 /// Where the selection window leads.
 class SelectionExits {

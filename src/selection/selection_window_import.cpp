@@ -15,23 +15,14 @@ namespace {
 
 constexpr wchar_t kUnchanged[] = L"\r\nLa liste reste comme elle était.";
 
-MessageBoxContent importBox(const std::wstring& text) {
-    return {.text = text, .title = L"Tarnwick", .icon = MessageBoxContent::Icon::Warning};
-}
-
-MessageBoxContent notImportedBox(const std::wstring& problem) {
-    return importBox(L"L'importation n'a pas eu lieu.\r\n" + problem + kUnchanged);
-}
-
-MessageBoxContent importStoppedBox() {
-    return importBox(std::wstring(L"Importation interrompue.") + kUnchanged);
+std::wstring notImportedText(const std::wstring& problem) {
+    return L"L'importation n'a pas eu lieu.\r\n" + problem + kUnchanged;
 }
 
 MessageBoxContent serversBox(const std::vector<std::wstring>& servers) {
     std::wstring text = L"Des documents sont sur d'autres serveurs :";
     for (const std::wstring& server : servers) text += L"\r\n\\\\" + server;
     return {.text = text + L"\r\nLes y chercher ? Ces serveurs sauront qui le demande.",
-            .title = L"Tarnwick",
             .buttons = MessageBoxContent::Buttons::YesNo,
             .icon = MessageBoxContent::Icon::Warning,
             .defaultButton = 2};
@@ -83,7 +74,7 @@ void SelectionWindow::Importer_Click() {
         const auto file = platform_.fileDialogs.askWhatToOpen(question);
         if (file) importDocuments([&](DocumentImport& import) { return import.gatherFile(*file); });
     } catch (const RuntimeError& error) {
-        platform_.messageBoxes.show(notImportedBox(error.text));
+        platform_.messageBoxes.warn(notImportedText(error.text));
     }
 }
 
@@ -113,7 +104,7 @@ void SelectionWindow::importDocuments(const ImportStep& gather) {
     if (!any) {
         text += (text.empty() ? L"Aucun document à importer." : L"") + std::wstring(kUnchanged);
     }
-    if (!text.empty()) platform_.messageBoxes.show(importBox(text));
+    if (!text.empty()) platform_.messageBoxes.warn(text);
 }
 
 bool SelectionWindow::completes(DocumentImport& import, const ImportStep& step) {
@@ -128,11 +119,11 @@ bool SelectionWindow::completes(DocumentImport& import, const ImportStep& step) 
     cptfichier.setText(decimal(found_.count()));
     if (end == DocumentImport::End::Complete) return true;
     if (end == DocumentImport::End::Refused) {
-        platform_.messageBoxes.show(notImportedBox(import.problem()));
+        platform_.messageBoxes.warn(notImportedText(import.problem()));
     } else if (stopped && listDocuments(import.takeDocuments())) {
-        platform_.messageBoxes.show(incompleteListBox());
+        platform_.messageBoxes.warn(kIncompleteList);
     } else if (stopped) {
-        platform_.messageBoxes.show(importStoppedBox());
+        platform_.messageBoxes.warn(std::wstring(L"Importation interrompue.") + kUnchanged);
     }
     return false;
 }

@@ -12,12 +12,6 @@
 #include "selection/document_search.h"
 #include "selection/selection_window.h"
 
-MessageBoxContent incompleteListBox() {
-    return {.text = L"Recherche interrompue : la liste est incomplète.",
-            .title = L"Tarnwick",
-            .icon = MessageBoxContent::Icon::Warning};
-}
-
 void SelectionWindow::repert_DblClick() {
     if (repert.openSelected() == Opening::Another) repert_Change();
 }
@@ -91,7 +85,7 @@ bool SelectionWindow::rebuild(const SelectionList::Entries& chosen) {
     cptfichier.setText(decimal(found_.count()));
     List1.fill(NNiveau.levels(), [&](int line) { return chosen.contains(found_.entry(line)); });
     List1_Click();
-    if (end == SearchEnd::Stopped) platform_.messageBoxes.show(incompleteListBox());
+    if (end == SearchEnd::Stopped) platform_.messageBoxes.warn(kIncompleteList);
     return end == SearchEnd::Complete;
 }
 

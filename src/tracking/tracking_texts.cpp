@@ -10,15 +10,27 @@ namespace {
 constexpr wchar_t kHelpFile[] = L"DEMO.HLP";
 constexpr int kHelpContext = 1000;
 
-constexpr wchar_t kTitle[] = L"Tarnwick";
+constexpr wchar_t kFiveRefused[] = L"Cinq documents de suite ne se sont pas ouverts.";
 
-MessageBoxContent question(std::wstring text) {
-    return {.text = std::move(text), .title = kTitle, .buttons = MessageBoxContent::Buttons::YesNo};
+enum class Default { Yes = 1, No = 2 };
+
+MessageBoxContent question(std::wstring text, Default button = Default::Yes) {
+    return {.text = std::move(text),
+            .buttons = MessageBoxContent::Buttons::YesNo,
+            .defaultButton = static_cast<int>(button)};
 }
 
-MessageBoxContent warning(std::wstring text) {
-    return {
-        .text = std::move(text), .title = L"Tarnwick", .icon = MessageBoxContent::Icon::Warning};
+/// Why the pass that went on alone stopped by itself; nothing when it did not.
+std::wstring reasonOf(AloneOutcome::End end) {
+    switch (end) {
+        case AloneOutcome::End::FiveRefusals:
+            return std::wstring(L"\r\n") + kFiveRefused;
+        case AloneOutcome::End::ShortOfGdiObjects:
+            return L"\r\nSolidWorks utilise trop d'objets graphiques de Windows (GDI) : "
+                   L"redémarrez-le, puis reprenez la liste.";
+        default:
+            return {};
+    }
 }
 
 }  // namespace
@@ -54,16 +66,12 @@ MessageBoxContent interruptedOpeningBox(const std::wstring& path) {
 
 MessageBoxContent saveRefusedBox(const std::wstring& path, const std::wstring& reason) {
     return {.text = L"SolidWorks n'a pas enregistré :\r\n" + path + L"\r\n" + reason,
-            .title = kTitle,
             .buttons = MessageBoxContent::Buttons::RetryCancel,
             .icon = MessageBoxContent::Icon::Warning};
 }
 
 MessageBoxContent refusedInARowBox() {
-    MessageBoxContent box =
-        question(L"Cinq documents de suite ne se sont pas ouverts.\r\nContinuer ?");
-    box.defaultButton = 2;
-    return box;
+    return question(std::wstring(kFiveRefused) + L"\r\nContinuer ?", Default::No);
 }
 
 MessageBoxContent marksNotKeptBox() {
@@ -73,15 +81,14 @@ MessageBoxContent marksNotKeptBox() {
                 L"pas la liste avant : un enregistrement qui échoue arrête Tarnwick. Si son "
                 L"répertoire est en lecture seule, ou ne répond plus, « Exporter le "
                 L"rapport... » garde ailleurs l'état de chaque document.\r\nLe passage "
-                L"continue.",
-            .title = kTitle};
+                L"continue."};
 }
 
-MessageBoxContent takenKeysBox(std::span<const std::wstring> keys) {
+std::wstring takenKeysText(std::span<const std::wstring> keys) {
     std::wstring text = keys.size() == 1 ? L"Cette touche est déjà prise par un autre programme :"
                                          : L"Ces touches sont déjà prises par un autre programme :";
     for (const std::wstring& key : keys) text += L"\r\n" + key;
-    return warning(text + L"\r\nLes touches ne sont pas actives dans SolidWorks.");
+    return text + L"\r\nLes touches ne sont pas actives dans SolidWorks.";
 }
 
 SaveQuestion reportQuestion(const std::wstring& listFile) {
@@ -94,39 +101,17 @@ SaveQuestion reportQuestion(const std::wstring& listFile) {
             .extension = L"csv"};
 }
 
-MessageBoxContent reportNotWrittenBox(const std::wstring& reason) {
-    return warning(L"Le rapport n'a pas pu être écrit.\r\n" + reason +
-                   L"\r\nS'il est ouvert dans un tableur, fermez-le, ou choisissez un autre nom ou "
-                   L"un autre répertoire.");
+std::wstring reportNotWrittenText(const std::wstring& reason) {
+    return L"Le rapport n'a pas pu être écrit.\r\n" + reason +
+           L"\r\nS'il est ouvert dans un tableur, fermez-le, ou choisissez un autre nom ou "
+           L"un autre répertoire.";
 }
-
-namespace {
-
-constexpr wchar_t kAloneTitle[] = L"Tarnwick";
-
-/// Why it stopped by itself; nothing when it did not.
-std::wstring reasonOf(AloneOutcome::End end) {
-    switch (end) {
-        case AloneOutcome::End::FiveRefusals:
-            return L"\r\nCinq documents de suite ne se sont pas ouverts.";
-        case AloneOutcome::End::ShortOfGdiObjects:
-            return L"\r\nSolidWorks utilise trop d'objets graphiques de Windows (GDI) : "
-                   L"redémarrez-le, puis reprenez la liste.";
-        default:
-            return {};
-    }
-}
-
-}  // namespace
 
 MessageBoxContent aloneQuestion(int documents) {
     const std::wstring what = documents == 1 ? L"Enregistrer et fermer 1 document"
                                              : L"Enregistrer et fermer " + decimal(documents) +
                                                    L" documents l'un après l'autre";
-    return {.text = what + L", jusqu'à la fin de la liste ?",
-            .title = kAloneTitle,
-            .buttons = MessageBoxContent::Buttons::YesNo,
-            .defaultButton = 2};
+    return question(what + L", jusqu'à la fin de la liste ?", Default::No);
 }
 
 MessageBoxContent aloneEndBox(const AloneOutcome& outcome) {
@@ -134,6 +119,5 @@ MessageBoxContent aloneEndBox(const AloneOutcome& outcome) {
     return {.text = (finished ? L"Passage terminé.\r\nEnregistrés : "
                               : L"Passage interrompu.\r\nEnregistrés : ") +
                     decimal(outcome.saved) + L"\r\nNon ouverts : " + decimal(outcome.notOpened) +
-                    L"\r\nNon enregistrés : " + decimal(outcome.notSaved) + reasonOf(outcome.end),
-            .title = kAloneTitle};
+                    L"\r\nNon enregistrés : " + decimal(outcome.notSaved) + reasonOf(outcome.end)};
 }

@@ -20,7 +20,7 @@ inline constexpr Question kQuestionChaV = {L"Voulez vous vraiment passer les lig
 inline constexpr Question kQuestionChaRaz = {
     L"Voulez vous vraiment passer les lignes sélectionnées ", L"en mode 'à traiter'",
     L"Passage en mode 'A Traiter'"};
-// It names 'F' alone and removes seen lines too; its title says so.
+// The text names 'F' alone although seen lines are removed, too, as the title says.
 inline constexpr Question kQuestionEliF = {
     L"Voulez vous vraiment supprimer les fichiers marqués 'F' ", L"parmi les lignes sélectionnées",
     L"Elimination 'F' et 'V' "};
@@ -34,7 +34,7 @@ inline constexpr Question kQuestionPurge = {
     L"Voulez vous vraiment supprimer tous les fichiers marqués 'F' et 'V'",
     L"sans tenir compte des lignes sélectionnées ? ", L"Elimination 'F' et 'V' "};
 
-// The two texts differ in one word, and both are meant.
+// The two texts differ in one word, on purpose.
 inline constexpr wchar_t kNothingSelected[] =
     L"Pour cette fonction , il faut avoir sélectionné au moins une ligne ";
 inline constexpr wchar_t kNothingSelectedToResume[] =
@@ -46,35 +46,37 @@ MessageBoxContent boxOf(const Question& question);
 /// The box that a command shows when no line is selected.
 MessageBoxContent missingSelectionBox(const wchar_t* text);
 
-/// What the box of an error says when marks were kept.
+/// What the box of a fatal error adds when marks were kept.
 inline constexpr wchar_t kMarksAreKept[] =
     L"Les marques posées depuis le dernier enregistrement de la liste sont conservées : elles vous "
     L"seront proposées au prochain démarrage.";
 
-/// Whether the marks of an earlier run are to be found again: so many documents.
+/// Asks whether to restore the marks of an earlier run, which concern so many documents.
 MessageBoxContent keptMarksBox(int documents);
 
-/// Whether to go past the document whose opening an earlier run did not survive.
+/// Asks whether to pass over the document whose opening an earlier run did not survive.
 MessageBoxContent interruptedOpeningBox(const std::wstring& path);
 
-/// That the session did not save a document, and why: to be tried again, or left open.
+/// Tells that the session did not save a document, and why; asks whether to try again or leave it
+/// open.
 MessageBoxContent saveRefusedBox(const std::wstring& path, const std::wstring& reason);
 
-/// Whether to go on though five documents in a row did not open.
+/// Asks whether to go on although five documents in a row did not open.
 MessageBoxContent refusedInARowBox();
 
-/// That marks can't be kept from now on.
+/// Tells that marks can't be kept from now on.
 MessageBoxContent marksNotKeptBox();
 
-/// That these keys belong to another program, and that none is active therefore.
-MessageBoxContent takenKeysBox(std::span<const std::wstring> keys);
+/// Tells that these keys belong to another program, so that none is active.
+std::wstring takenKeysText(std::span<const std::wstring> keys);
 
-/// Where the report of a list is to go: beside the list, unless the user has a better place.
+/// Asks where to save the report of a list: beside the list, unless the user chooses otherwise.
 SaveQuestion reportQuestion(const std::wstring& listFile);
 
-/// That there is no report, and why.
-MessageBoxContent reportNotWrittenBox(const std::wstring& reason);
+/// Tells that there is no report, and why.
+std::wstring reportNotWrittenText(const std::wstring& reason);
 
-/// Whether to save and close so many documents.
+/// Asks whether to save and close so many documents.
 MessageBoxContent aloneQuestion(int documents);
+/// Tells how that went.
 MessageBoxContent aloneEndBox(const AloneOutcome& outcome);

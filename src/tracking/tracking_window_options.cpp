@@ -96,7 +96,7 @@ void TrackingWindow::setHotKeys(bool on) {
     if (on) {
         const auto taken = window_->takeHotKeys();
         if (!taken.empty()) {
-            platform_.messageBoxes.show(takenKeysBox(taken));
+            platform_.messageBoxes.warn(takenKeysText(taken));
             return;
         }
     } else {
@@ -112,7 +112,7 @@ void TrackingWindow::Rapport_Click() {
         const auto path = platform_.fileDialogs.askWhereToSave(reportQuestion(files_.list));
         if (path) writeReport(*path);
     } catch (const RuntimeError& error) {
-        platform_.messageBoxes.show(reportNotWrittenBox(error.text));
+        platform_.messageBoxes.warn(reportNotWrittenText(error.text));
     }
 }
 
