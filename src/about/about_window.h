@@ -2,7 +2,8 @@
 
 #include "input/program_window.h"
 
-/// The About window: name, version and date of the program. Enter, Escape or its frame close it.
+/// The About window, with the program's name, version and date. Enter, Escape and its frame close
+/// it.
 class AboutWindow : public ProgramWindow<AboutWindow> {
  public:
     explicit AboutWindow(WindowFactory& windows);

@@ -18,7 +18,7 @@
 #include "win32/window/questions.h"
 #include "win32/window/waiting.h"
 
-/// The way in of events. It stands before all else: what fails behind it becomes a box.
+/// Where events come in. It is made first, so that whatever fails afterwards becomes a box.
 struct Entrance {
     Judge judge{doubleClickLimits(), [] { return Moment{GetTickCount64()}; }};
     WinGateKeeper keeper{judge};
@@ -26,8 +26,8 @@ struct Entrance {
     EventGate gate{keeper, boxes, judge};
 };
 
-/// All that the program needs of Windows, put together. What the bench has of its own, the CAD
-/// application and the desktop, comes from outside.
+/// All that the program needs of Windows, put together. The CAD application and the desktop are
+/// passed in, since the bench has its own.
 struct Machine {
     Machine(Entrance& entrance, ObjectServers& servers, Desktop& desktop,
             std::function<void()> showHelp = {})
@@ -57,7 +57,7 @@ struct Machine {
     Patience patience;
     Automation automation;
     RegistrySettings settings;
-    // Readers that wait for a server which does not answer outlive all that is ours.
+    // Never deleted: readers that wait for a server which does not answer outlive the rest.
     WinFiles& files = *new WinFiles;
     PoolWorkers workers;
     WinRecordFiles records;

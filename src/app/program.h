@@ -18,17 +18,16 @@ class Desktop;
 class Files;
 class MessageBoxes;
 
-/// The program: what lives as long as it does, its windows, and the way from one to the next.
+/// The program: its windows, the way from one to the next, and all that lasts as long as it runs.
 class Program : public ExistingListExits, public SelectionExits {
  public:
     explicit Program(const Platform& platform);
 
-    /// Start-up, before any window of its own: ends with the first window shown, or with the
-    /// program's end when no CAD session runs or this user's program has the list open already.
-    /// Raises 70 when someone else has it open.
+    /// Starts up and shows the first window. Ends the program when no CAD session runs, or when a
+    /// program of this user has the list open already. Raises 70 when someone else has it open.
     void start();
 
-    /// Whether a pass runs all of whose marks will be offered at the next start.
+    /// Whether a pass is running and all its marks will be offered at the next start.
     bool keepsMarks() const { return tracking_ && tracking_->keepsMarks(); }
 
  private:
@@ -50,7 +49,7 @@ class Program : public ExistingListExits, public SelectionExits {
     CadSession cad_;
     std::optional<FileSystemObject> fileSystem_;
     Configurations configurations_;
-    bool listDeclined_ = false;  ///< an old list was there, and the user went past it
+    bool listDeclined_ = false;  ///< the user didn't want to use the existing list
 
     std::unique_ptr<AboutWindow> about_;
     std::unique_ptr<ExistingListWindow> existingList_;
@@ -59,8 +58,7 @@ class Program : public ExistingListExits, public SelectionExits {
     std::unique_ptr<ConfigurationWindow> configuration_;
 };
 
-/// Has the system's browser show the guide, a page beside the program; tells the user when it
-/// can't. A page that isn't there is not asked for: Windows would start a program of that name
-/// ("guide.html.exe") in its place.
+/// Opens the guide, a page beside the program, in the browser; tells the user when that fails. A
+/// page that doesn't exist is not opened: Windows might start "guide.html.exe" instead.
 void showGuide(Files& files, Desktop& desktop, MessageBoxes& boxes,
                const std::wstring& programDirectory);

@@ -1,5 +1,5 @@
-// The start-up sequence. Its order is observable: by the CAD application, and by what already
-// shows when a step fails.
+// The start-up sequence. Its order can be observed: by the CAD application, and by what is shown
+// already when a step fails.
 
 #include <string>
 #include <string_view>
@@ -15,8 +15,8 @@
 
 namespace {
 
-/// Whether a full path can be a list's: a name that ends with ".lst" and that Windows lets a file
-/// have (Naming Files, Paths, and Namespaces; a colon would name a stream within one).
+/// Whether a full path can be that of a list: its name ends with ".lst" and is one that Windows
+/// allows (Naming Files, Paths, and Namespaces; a colon would name a stream within a file).
 bool namesAList(const std::wstring& path) {
     constexpr std::wstring_view kExtension = L".lst";
     const std::size_t separator = path.rfind(L'\\');
@@ -37,9 +37,9 @@ RuntimeError tooMany(const std::vector<std::wstring>& files) {
     return error;
 }
 
-/// The list file to work on: the one that the command line names (a list dropped on the program's
-/// icon comes so, too), else the program's own. Raises 5 for anything but a list file, and for more
-/// than one name.
+/// The list file to work on: the one named on the command line, as when a list is dropped on the
+/// program's icon, or the program's own. Raises 5 for more than one name, and for any file that is
+/// no list.
 std::wstring listToWorkOn(const Platform& platform) {
     const std::vector<std::wstring>& named = platform.namedFiles;
     if (named.empty()) return platform.programDirectory + L"\\tarnwick.lst";

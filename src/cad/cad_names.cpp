@@ -20,7 +20,7 @@ std::wstring releaseName(std::wstring_view revision) {
 
 bool isTitleOfAnyRelease(std::wstring_view title, std::wstring_view documentTitle) {
     constexpr std::wstring_view kName = L"SolidWorks";
-    // Every title contains an empty one.
+    // Every title would contain an empty one.
     if (documentTitle.empty()) return false;
     return equalIgnoringCase(title.substr(0, kName.size()), kName) &&
            title.find(documentTitle, kName.size()) != std::wstring_view::npos;

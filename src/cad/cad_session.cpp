@@ -8,16 +8,16 @@
 namespace {
 
 constexpr std::int32_t kOpenSilently = 1;
-constexpr std::int32_t kReferencedDocuments = 0;  // the search folders for those
+constexpr std::int32_t kReferencedDocuments = 0;  // what the search folders are for
 
-/// Documents of one type answer a name alike; parts, assemblies and drawings each in their way.
-/// Of a document whose ending tells no type nothing is known.
+/// Documents of one type have the same numbers for their members. A document whose path tells no
+/// type shares them with no other.
 std::wstring documentClass(const std::wstring& path) {
     const auto type = documentType(path);
     return type ? L"document " + decimal(*type) : std::wstring();
 }
 
-/// The code in an answer that is a number, or a truth.
+/// The code in an answer that is a number or a boolean.
 std::optional<std::int32_t> saveCode(const Value& answer) {
     constexpr std::int32_t kAnyError = 1;
     if (const auto* number = std::get_if<std::int32_t>(&answer)) return *number;
@@ -26,7 +26,7 @@ std::optional<std::int32_t> saveCode(const Value& answer) {
     return std::nullopt;
 }
 
-/// What is said of a document that was given, or not, with this error code.
+/// Notes what the error code says about a document that was returned, or was not.
 void noteOpening(Remark& remark, bool given, std::int32_t errorCode) {
     using Opening = Remark::Opening;
     if (given) {
@@ -37,14 +37,14 @@ void noteOpening(Remark& remark, bool given, std::int32_t errorCode) {
     remark.openingNumber = given || errorCode != 0 ? errorCode : errors::emptyObject().number;
 }
 
-/// Does a part of an opening. False when it failed, which is allowed and the document's doing.
+/// Does a step of an opening. False when it failed because of the document, and may fail.
 template <class Action>
 bool attempt(bool mayFail, Remark& remark, const Action& action) {
     try {
         action();
         return true;
     } catch (const RuntimeError& error) {
-        // Why it was not given has been said already.
+        // The session has already said why it did not return the document.
         if (remark.opening != Remark::Opening::Refused) {
             remark.opening = Remark::Opening::Failed;
             remark.openingNumber = error.number;
@@ -54,14 +54,14 @@ bool attempt(bool mayFail, Remark& remark, const Action& action) {
     }
 }
 
-/// With its backslash for a drive's root alone.
+/// The directory of a path, without a trailing backslash unless it is a drive's root.
 std::wstring directoryOf(const std::wstring& path) {
     const std::size_t end = path.rfind(L'\\');
     if (end == std::wstring::npos) return {};
     return path.substr(0, end == 2 ? 3 : end);
 }
 
-/// Does something with a document. A failure names it.
+/// Does something with a document, which the text of a failure names.
 template <class Action>
 void with(const std::wstring& path, const Action& action) {
     try {
@@ -77,7 +77,7 @@ void with(const std::wstring& path, const Action& action) {
 bool CadSession::attach(Automation& automation) {
     constexpr wchar_t kProgId[] = L"SldWorks.Application";
     application_ = automation.attach(kProgId);
-    // The class may stand for another release than the one that runs.
+    // The class may belong to another release than the running one.
     if (!application_) application_ = automation.attachNamed(L"SolidWorks_PID_", kProgId);
     return application_ != nullptr;
 }
@@ -160,7 +160,7 @@ void CadSession::restoreWorkingDirectory() {
     try {
         changeDirectory(workingDirectory_);
     } catch (const RuntimeError&) {
-        // Nobody is left to mind.
+        // The program ends: nobody needs to know.
     }
 }
 

@@ -14,57 +14,58 @@ struct LoadingOptions {
 
     bool silent = false;
     Rebuild rebuild = Rebuild::None;
-    bool mayRefuse = false;   ///< one that does not open is no error
-    bool worksThere = false;  ///< references are looked for in the document's directory first
+    bool mayRefuse = false;   ///< a document that does not open is no error
+    bool worksThere = false;  ///< references are first looked for in the document's directory
 };
 
-/// The running CAD application, and the document that the program has open in it. Every call goes
-/// out by the name and with the arguments that the application knows. All but `attach` raise what
-/// it answers (438, 440), and 91 when there is no document to call.
+/// The running CAD application, and the document that the program has open in it. Every call has
+/// exactly the name and the arguments that the application expects. All functions but `attach`
+/// raise what it answers (438, 440), and 91 when there is no document to call.
 class CadSession {
  public:
     explicit CadSession(Desktop& desktop) : desktop_(desktop) {}
 
-    /// Attaches to the running application, which is never started: the one that stands for its
-    /// class, or else the first that goes by its process. False when there is none.
+    /// Attaches to the running application, and never starts one: to the one registered for its
+    /// class, or else to the first one registered under its process. False when there is none.
     bool attach(Automation& automation);
-    /// Asks it for its release and its working directory.
+    /// Asks the application for its release and its working directory.
     void identify();
     const std::wstring& workingDirectory() const { return workingDirectory_; }
 
     /// Whether this is the document that counts as open, in any letter case.
     bool hasOpen(const std::wstring& path) const;
     bool hasAnyOpen() const { return !openPath_.empty(); }
-    /// Opens a document, which counts as open from then on, makes it the active one, shows the
-    /// application and rebuilds the document as wanted. What the application says of it is in
-    /// `remark`, whatever happens. False when it does not open, which the options allow: then it
-    /// is closed again, if it was given at all, and none counts as open.
+    /// Opens a document, which counts as open from then on, activates it, shows the application and
+    /// rebuilds the document as wanted. Whatever happens, `remark` holds what the application said.
+    /// False when the document does not open although the options allow that: then it is closed
+    /// again if the application had returned it, and none counts as open.
     bool open(const std::wstring& path, const LoadingOptions& options, Remark& remark);
     /// The application's answer: 0 when it saved the document, otherwise its code; nothing when it
     /// does not say.
     std::optional<std::int32_t> save();
-    /// Closes the open document without saving it, even when none is open. It still counts as
-    /// open: see forgetDocument.
+    /// Closes the open document without saving it; the call goes out even when none is open. The
+    /// document still counts as open until forgetDocument.
     void closeDocument();
     void forgetDocument();
-    /// Whether documents that were open before are left so. Then nothing is closed without a name,
-    /// either, for that closes whichever document is active (ISldWorks~CloseDoc).
+    /// Whether documents that the user had open are left open. Then no call goes out without a
+    /// path, either, since that closes whichever document is active (ISldWorks~CloseDoc).
     void leaveUsersDocuments(bool leave) { leavesUsers_ = leave; }
-    /// Sets the working directory back to what it was, if `open` changed it; whatever the answer.
+    /// Sets the working directory back to what it was, if `open` changed it. Ignores failures.
     void restoreWorkingDirectory();
     /// Brings the application's window to the front, if its title is as expected, and zooms the
     /// document to fit.
     void bringForward();
-    /// How many GDI objects the application uses; nothing while its window can't be found, by the
-    /// title of any release.
+    /// How many GDI objects the application uses; nothing when its window isn't found by the title
+    /// of any release.
     std::optional<int> gdiObjects();
-    /// Whether its window may also have a title as the releases since 2005 give it, and is restored
-    /// when it is minimised.
+    /// Whether its window may also have a title of the releases since 2005, and is restored if it
+    /// is minimised.
     void expectAnyRelease(bool any) { anyRelease_ = any; }
 
-    /// The directories where it looks for referenced documents, separated by semicolons.
+    /// The directories where the application looks for referenced documents, separated by
+    /// semicolons.
     std::wstring searchFolders();
-    /// True when it took them.
+    /// Sets them. True when the application took them.
     bool setSearchFolders(std::wstring folders);
 
  private:
@@ -83,12 +84,12 @@ class CadSession {
     ObjectPtr document_;  ///< the one opened last, null when that failed
     std::wstring releaseName_;
     std::wstring workingDirectory_;
-    Desktop::WindowHandle window_ = 0;  ///< the one that was brought forward last …
-    std::wstring title_;                ///< … and the document's title by then
+    Desktop::WindowHandle window_ = 0;  ///< the window last brought forward …
+    std::wstring title_;                ///< … and the document's title then
     std::wstring openPath_;             ///< empty when no document counts as open
     std::int16_t typeCode_ = 0;
     bool anyRelease_ = false;
     bool leavesUsers_ = false;
-    bool isUsers_ = false;  ///< the open document was open before
+    bool isUsers_ = false;  ///< the user had the open document open already
     bool movedAway_ = false;
 };

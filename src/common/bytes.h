@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-// Numbers as bytes, for files of our own. Taking removes what was taken from the front, and is
-// false, with nothing taken, when the bytes end too soon.
+// Numbers as bytes, for files of our own. The `take` functions remove a number from the front, or
+// return false and remove nothing when there are too few bytes.
 
-/// In as many bytes as the type has, the lowest first.
+/// A number in as many bytes as its type has, the lowest first.
 template <class Number>
 void appendFixed(std::string& bytes, Number number) {
     for (unsigned i = 0; i < sizeof number; ++i) {
@@ -27,7 +27,7 @@ bool takeFixed(std::string_view& bytes, Number& number) {
     return true;
 }
 
-/// In one byte for every seven bits that it needs (LEB128).
+/// A number with one byte for every seven bits that it needs (LEB128).
 void appendPacked(std::string& bytes, std::uint64_t number);
 bool takePacked(std::string_view& bytes, std::uint64_t& number);
 
@@ -40,17 +40,17 @@ constexpr std::int64_t unzigzag(std::uint64_t bits) {
     return static_cast<std::int64_t>((bits >> 1) ^ (bits & 1 ? ~std::uint64_t{0} : 0));
 }
 
-/// The checksum of bytes as zlib and PNG have it (CRC-32, ISO 3309), begun with that of others.
+/// The checksum used by zlib and PNG (CRC-32, ISO 3309). `before`: the checksum of preceding bytes.
 std::uint32_t crc32(std::string_view bytes, std::uint32_t before = 0);
 
-/// Tells one content of a file from another, by its length and its hash (Fowler, Noll and Vo's
-/// FNV-1a, 64 bits).
+/// Identifies the content of a file by its length and its hash (Fowler, Noll and Vo's FNV-1a, 64
+/// bits).
 class ContentIdentity {
  public:
     ContentIdentity() = default;
     explicit ContentIdentity(std::string_view bytes) { add(bytes); }
 
-    /// The next bytes.
+    /// Adds the next bytes of the content.
     void add(std::string_view bytes) {
         constexpr std::uint64_t kPrime = 0x100000001B3;
         length_ += bytes.size();

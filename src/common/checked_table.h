@@ -8,8 +8,8 @@
 #include "common/runtime_error.h"
 
 /// A table of fixed size. Reaching past it raises subscript out of range (9) with `limit`, which
-/// tells the user what the table has room for. Room for its entries is made as they are written to,
-/// a page at a time; an entry stays where it is.
+/// tells the user how much the table can hold. Memory is allocated in pages as entries are written,
+/// and entries never move.
 template <class Entry, std::size_t Size, const wchar_t* limit>
 class CheckedTable {
  public:
@@ -26,7 +26,7 @@ class CheckedTable {
         return isMade(place) ? pages_[place / kPage][place % kPage] : kNew;
     }
 
-    /// Makes the entries from `first` to before `end` new.
+    /// Resets the entries from `first` to just before `end`.
     void clear(std::size_t first = 0, std::size_t end = Size) {
         for (std::size_t place = first; place < end; ++place) {
             if (isMade(place)) pages_[place / kPage][place % kPage] = Entry();

@@ -8,15 +8,15 @@
 
 namespace {
 
-/// The bytes of one character of UTF-8, or as many as could have begun one.
+/// The bytes of one character in UTF-8, or those that could have begun one.
 struct Sequence {
     std::size_t length;
     bool wellFormed;
 };
 
-/// How a character of more than one byte begins: how many bytes it has and between which values
-/// its second lies (The Unicode Standard, table of well-formed UTF-8 byte sequences). No bytes:
-/// none begins so.
+/// What the first byte of a longer character tells: how many bytes it has, and the range of the
+/// second one (The Unicode Standard, table of well-formed UTF-8 byte sequences). Length 0: no
+/// character begins so.
 struct Lead {
     std::size_t length;
     unsigned char least;
@@ -44,7 +44,7 @@ Sequence firstSequence(std::string_view text) {
     return lead.length == 0 ? Sequence{1, false} : Sequence{lead.length, true};
 }
 
-/// Whether the eight bytes that stand there are plain letters.
+/// Whether the next eight bytes are plain letters.
 bool isPlainWord(const char* bytes) {
     std::uint64_t word = 0;
     std::memcpy(&word, bytes, sizeof word);
@@ -112,7 +112,7 @@ std::string withReplacements(std::string_view bytes) {
     }
 }
 
-/// The units of UTF-16 in some bytes, one after the other. Half a one is no character.
+/// The units of UTF-16 in some bytes, one after the other. Half a unit at the end is no character.
 class Units {
  public:
     Units(std::string_view bytes, bool bigEndian) : bytes_(bytes), bigEndian_(bigEndian) {}

@@ -18,7 +18,7 @@ std::size_t digitsAt(std::wstring_view text, std::size_t from) {
     return end - from;
 }
 
-/// Where the decimals stand against one half: negative below, 0 exactly half, positive above.
+/// Compares decimals with one half: negative below, 0 for exactly half, positive above.
 int againstHalf(std::wstring_view decimals) {
     if (decimals.empty() || decimals[0] < L'5') return -1;
     if (decimals[0] > L'5') return 1;

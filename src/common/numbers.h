@@ -4,12 +4,12 @@
 #include <string>
 #include <string_view>
 
-/// The value of the text's leading digits, 0 when it starts with none.
-/// Values past the largest 32-bit number stay there.
+/// The value of the text's leading digits; 0 when there are none, and the largest 32-bit number
+/// when the value is larger.
 std::int32_t numericValue(std::wstring_view text);
 
-/// The whole number that the text spells: blanks around, a sign and decimals are allowed,
-/// halves go to the even neighbour. Raises 13 for anything but a number, 6 outside 16 bits.
+/// The whole number in a text. Blanks around it, a sign and decimals are allowed; halves are
+/// rounded to the even neighbour. Raises 13 for anything but a number, 6 outside 16 bits.
 std::int16_t wholeNumber(std::wstring_view text);
 
 /// The decimal text of a number.

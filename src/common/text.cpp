@@ -23,8 +23,9 @@ std::size_t lineLength(std::wstring_view text) {
     return static_cast<std::size_t>(std::ranges::find_if(text, isLineEnd<wchar_t>) - text.begin());
 }
 
-/// Where, of eight bytes, the first is that may be a line end: 8 for none. A byte under 14 alone
-/// borrows its highest bit, and so do at most some of the bytes after it.
+/// The place, among eight bytes, of the first one that may end a line; 8 for none. In the
+/// subtraction a byte below 14 borrows its highest bit, and apart from such bytes only some that
+/// follow one do.
 std::size_t firstControl(const char* bytes) {
     static_assert(std::endian::native == std::endian::little);
     constexpr std::uint64_t kEach = 0x0101010101010101U;
@@ -34,7 +35,7 @@ std::size_t firstControl(const char* bytes) {
     return static_cast<std::size_t>(std::countr_zero(borrowed)) / 8;
 }
 
-// Lists are read byte by byte nowhere else, and are long.
+// Eight bytes at a time, since lists are long.
 std::size_t lineLength(std::string_view text) {
     std::size_t length = 0;
     while (length + 8 <= text.size()) {

@@ -29,7 +29,7 @@ void EventGate::deliver(EventSink& sink, int controlId, Event event,
     });
 }
 
-// However often a newer search is asked for, it is made once.
+// A newer search is made once, however often it was asked for.
 void EventGate::queue(const Delivery& delivery) {
     const bool asksAgain = delivery.duringSearch != DuringSearch::Drop &&
                            std::ranges::find(deliveries_, delivery) != deliveries_.end();
@@ -58,7 +58,7 @@ void EventGate::serve() {
     }
 }
 
-// One key ends the search and all that were asked for before it was pressed.
+// One press of Escape ends the search, and those that were asked for before it.
 void EventGate::dropStoppedSearches() {
     if (!judge_.searchStopped()) return;
     std::erase_if(deliveries_,
@@ -92,7 +92,7 @@ void EventGate::endIfFailed() noexcept {
     try {
         tellWhy();
     } catch (...) {
-        // There is not even memory for the box: the exit code is known all the same.
+        // There is not even memory for the box, but the exit code is known.
     }
     keeper_.quit(exitCode_);
 }

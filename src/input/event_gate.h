@@ -11,34 +11,33 @@ class MessageBoxes;
 struct MessageBoxContent;
 struct RuntimeError;
 
-/// What tells the user why a run-time error ends the program.
+/// The box that tells the user why a run-time error ends the program.
 MessageBoxContent fatalErrorBox(const RuntimeError& error);
 
-/// The window that an event comes from, as the gate asks about it.
+/// What the gate asks of the window that an event comes from.
 class EventSource {
  public:
     virtual ~EventSource() = default;
 
     virtual bool isShown() const = 0;
-    /// Whether the user may use the control, which is to be seen and enabled; true when the window
-    /// has none of this id.
+    /// Whether the control is visible and enabled; true when the window has none of this id.
     virtual bool canUse(int controlId) const = 0;
 };
 
-/// What the gate has the machine do.
+/// What the gate needs of the machine.
 class GateKeeper {
  public:
     virtual ~GateKeeper() = default;
 
-    /// A handler begins or ends: the pointer says whether the user has to wait.
+    /// A handler has begun or ended, and the pointer shows whether the user has to wait.
     virtual void showPointer() = 0;
     /// Lets the message loop end.
     virtual void quit(int exitCode) = 0;
 };
 
-/// The one door through which events reach the windows' handlers, and where errors end the
-/// program: whatever is thrown behind it becomes a box. One handler runs at a time: an event that
-/// arrives meanwhile waits until it has ended.
+/// The one door through which events reach the windows' handlers, and the place where errors end
+/// the program: whatever a handler throws becomes a box. One handler runs at a time; events that
+/// arrive meanwhile wait.
 class EventGate {
  public:
     EventGate(GateKeeper& keeper, MessageBoxes& boxes, Judge& judge)
@@ -46,15 +45,15 @@ class EventGate {
 
     Judge& judge() const { return judge_; }
 
-    /// Runs the handler of an event now, or after the one that runs; then only if the user could
-    /// still do what it stands for. While that one searches, only if the judge lets it.
+    /// Runs the handler of an event now, or after the one that is running, if the user could then
+    /// still do what it stands for. During a search the judge decides which events wait at all.
     void deliver(EventSink& sink, int controlId, Event event, const EventSource& source) noexcept;
 
-    /// Runs what is no event's handler but may take as long, and then the events that waited.
+    /// Runs something that is no event's handler but may take as long, then the events that waited.
     void run(const std::function<void()>& action) noexcept;
 
-    /// Runs the rest of what a window does with its messages. An error there ends the program, too,
-    /// after the handler that runs, if one does.
+    /// Runs whatever else a window does with its messages. An error ends the program, too, after
+    /// the running handler, if there is one.
     template <class Action>
     void guard(const Action& action) noexcept {
         try {
@@ -68,7 +67,7 @@ class EventGate {
     /// Drops the waiting events of a window that is gone.
     void forget(const EventSource& source);
 
-    /// Whether a handler runs.
+    /// Whether a handler is running.
     bool busy() const { return judge_.situation().handling; }
     bool ended() const { return ended_; }
     int exitCode() const { return exitCode_; }
@@ -79,8 +78,8 @@ class EventGate {
         int controlId;
         Event event;
         const EventSource* source;
-        DuringSearch duringSearch;  ///< what it asked of the search while which it came
-        bool waited;                ///< while another handler ran
+        DuringSearch duringSearch;  ///< what it asked of the search during which it came
+        bool waited;                ///< for another handler
 
         bool operator==(const Delivery&) const = default;
     };

@@ -69,7 +69,7 @@ void Judge::note(const Deed& deed) {
     }
 }
 
-// The third press of a row is a first one again.
+// The third press in a row is a first one again.
 bool Judge::isSecond(const Press& press) const {
     return mouse_ && !mouse_->second && press.time <= mouse_->time + limits_.time &&
            std::abs(press.x - mouse_->x) <= limits_.width &&
@@ -89,12 +89,12 @@ void Judge::notePress(const Deed& deed) {
 
 void Judge::noteKeyDown(const Deed& deed) {
     const bool sameKey = key_ && keyDown_ == deed.key;
-    // Some systems let a held key go up and down again, in no time.
+    // Some systems report a held key as going up and down again at the same moment.
     const bool noTimeUp = sameKey && keyUp_ && *keyUp_ == deed.time;
-    // A held key keeps the time at which it went down first.
+    // A held key keeps the time of its first message.
     situation_.press = Press{.time = deed.repeated && sameKey ? key_->time : deed.time,
                              .repeated = deed.repeated || noTimeUp};
-    // Letting go of it is one press, however long it was held.
+    // Its release belongs to the first press, however long the key was held.
     if (!deed.repeated || !sameKey) key_ = situation_.press;
     keyDown_ = deed.key;
 }
@@ -104,7 +104,7 @@ void Judge::noteKeyUp(const Deed& deed) {
         keyUp_ = deed.time;
         situation_.press = key_;
     } else {
-        // It went down in another window, or in another program.
+        // The key went down in another window or program.
         situation_.press = Press{.time = deed.time, .repeated = true};
     }
 }

@@ -7,11 +7,10 @@
 #include "input/verdict.h"
 #include "ports/search.h"
 
-/// Keeps what the program is busy with and what the user did last, as it is told, and answers
-/// whether something counts now. There is one, which all who take messages, raise events, call or
-/// search share.
+/// Is told what the program is busy with and what the user did last, and decides whether something
+/// counts now. There is one, shared by all who take messages, raise events, call or search.
 ///
-/// A press is judged by the time at which a person made it, whenever it is taken from the queue.
+/// A press is judged by the time at which it was made, whenever it is taken from the queue.
 class Judge {
  public:
     /// What makes two presses a double click: the system's own limits.
@@ -27,19 +26,19 @@ class Judge {
     const Situation& situation() const { return situation_; }
     Moment now() const { return now_(); }
 
-    /// A message is taken from the queue. What follows of a press belongs to it until the next
-    /// message, or until `messageHandled`.
+    /// A message is taken from the queue. What happens from now on is due to this press, until the
+    /// next message or `messageHandled`.
     Verdict take(const Deed& deed);
     void messageHandled() { situation_.press.reset(); }
 
     /// A window is about to do something, or an event is at the gate.
     Verdict judge(const Deed& deed);
-    /// Whether a press at this place, which is still to be taken, may activate a window.
+    /// Whether a press at this place, not yet taken from the queue, may activate a window.
     Verdict judgeActivation(std::int32_t x, std::int32_t y) const;
 
-    // What the program does.
+    // What the program is doing.
 
-    /// `waiting`: the most that the events that wait ask of a search.
+    /// `waiting`: the most that a waiting event asks of a search.
     void handlerBegins(DuringSearch waiting);
     void handlerEnds();
     /// Nothing runs or waits any more.
@@ -54,13 +53,13 @@ class Judge {
     void searchBegins(const EventSink& window, SearchKind kind);
     void searchEnds() { situation_.searching = nullptr; }
 
-    /// Whether the user gave up the search that runs or ran last.
+    /// Whether the user gave up the search that is running or ran last.
     bool searchStopped() const { return situation_.wish == Situation::Wish::Stop; }
-    /// False when the search is to end. Raises ProgramEnd when the program is.
+    /// False when the search is to end. Raises ProgramEnd when the program is to end.
     bool searchGoesOn() const;
     /// How many milliseconds the search has lasted; 0 when there is none.
     Moment searchLasts() const;
-    /// The user was asked whether to wait for the call that is out, and waits.
+    /// The user was asked whether to wait for the call that is out, and has answered.
     void closeAnswered() { situation_.closeAsked.reset(); }
 
  private:
@@ -79,7 +78,7 @@ class Judge {
     std::optional<Press> key_;    ///< the last key that went down
     int keyDown_ = 0;
     std::optional<Moment> keyUp_;
-    bool keptWaiting_ = false;  ///< the handler that runs called or searched
+    bool keptWaiting_ = false;  ///< the running handler has called or searched
     Moment searchBegan_ = 0;
     int windowsShown_ = 0;
 };
@@ -96,6 +95,6 @@ class CallOut {
     Judge& judge_;
 };
 
-/// The moment that a message is dated by, of which it tells the lower 32 bits (the GetMessageTime
-/// function): the one that is nearest to now.
+/// The time of a message, which tells its lower 32 bits only (the GetMessageTime function): of all
+/// moments with these bits the one nearest to now.
 Moment widened(std::uint32_t time, Moment now);

@@ -25,7 +25,7 @@ constexpr struct {
     {ControlClass::ComboBox, notification::kComboFocusLost, Event::Validate},
 };
 
-/// Windows' own classes have plain letters only.
+/// The names of Windows' own classes have plain letters only.
 bool isNamed(std::wstring_view className, std::wstring_view name) {
     const auto lower = [](wchar_t c) { return c >= L'A' && c <= L'Z' ? c - L'A' + L'a' : c; };
     return std::ranges::equal(className, name, {}, lower, lower);
@@ -57,7 +57,7 @@ DropDown::Step DropDown::notified(unsigned code, bool isDown) {
         case notification::kComboSelectionChanged:
             return selectionChanged(isDown);
         case notification::kComboTextEdited:
-            // Told already, and not to be taken back.
+            // The window knows already, and Escape doesn't undo it.
             changed_ = false;
             return isDown ? Step::Remember : Step::Nothing;
         case notification::kComboChoiceCancelled:

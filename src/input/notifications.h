@@ -5,10 +5,10 @@
 
 #include "ports/window.h"
 
-/// The kinds of controls, as far as they differ in what they tell their window.
+/// The kinds of controls, as far as their notifications differ.
 enum class ControlClass { Button, ListBox, ComboBox, Edit, TabStrip, Other };
 
-/// The kind of the controls of a Windows class, whatever its case.
+/// The kind of control of a Windows class, in any case.
 ControlClass controlClass(std::wstring_view className);
 
 /// Windows' numbers of the notifications that stand for an event (winuser.h).
@@ -24,25 +24,25 @@ inline constexpr unsigned kComboListClosed = 8;
 inline constexpr unsigned kComboChoiceCancelled = 10;
 }  // namespace notification
 
-/// The event that a control's notification stands for, if a window can bind it. Losing the focus
-/// counts only when it stays in the window: switching to another program doesn't leave a field.
-/// When a line of a drop-down counts as chosen is known to DropDown.
+/// The event that a control's notification stands for, if windows can bind it. A control is left
+/// only when the focus stays in the window: switching to another program doesn't count. DropDown
+/// knows when a line of a drop-down counts as chosen.
 std::optional<Event> eventOf(ControlClass control, unsigned code, bool focusStaysInWindow);
 
-/// What a drop-down box tells its window about its list, and what that comes to. While the list is
-/// down, each arrow key is a change of the selection: what is chosen is known when it closes.
-/// Windows sends a change before or after the close, as it happens (CBN_CLOSEUP, remarks).
+/// Interprets what a drop-down box tells its window about its list. While the list is down, each
+/// arrow key changes the selection, so that the choice is known only when it closes. Windows may
+/// send a change before or after that (CBN_CLOSEUP, remarks).
 class DropDown {
  public:
     enum class Step {
         Nothing,
-        Remember,  ///< what is chosen now: the list goes down
+        Remember,  ///< the list opens: remember the choice so far
         Act,       ///< another line was chosen
-        ActLater,  ///< the same, unless the notification that says so follows by itself
-        GoBack     ///< to what was remembered: the user gave up
+        ActLater,  ///< the same, unless a notification follows that says so
+        GoBack     ///< the user gave up: restore what was remembered
     };
 
-    /// What a notification comes to; `isDown`: the list is still to be seen.
+    /// What to do about a notification; `isDown`: the list is still open.
     Step notified(unsigned code, bool isDown);
 
  private:

@@ -6,8 +6,8 @@
 #include "common/runtime_error.h"
 #include "ports/window.h"
 
-/// What every window of the program does alike: it is made from its template, and its events go to
-/// the handlers that its table names.
+/// What all windows of the program share: each is made from its template, and its events go to the
+/// handlers that its table names.
 template <class Self>
 class ProgramWindow : public EventSink {
  public:
@@ -33,7 +33,7 @@ class ProgramWindow : public EventSink {
                   std::span<const Binding<Self>> bindings)
         : window_(windows.create(windowTemplate, *this)), bindings_(bindings) {}
 
-    /// Does something; a failure is given the lines that the window has to add to it.
+    /// Does something; the window adds its lines to the text of a failure.
     template <class Action>
     void explained(const Action& action) {
         try {

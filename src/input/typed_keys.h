@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-/// A key that goes down, by its virtual-key code, with those held meanwhile.
+/// A key that goes down, by its virtual-key code, and the modifiers held with it.
 struct PressedKey {
     int key = 0;
     bool shift = false;
@@ -15,11 +15,12 @@ struct PressedKey {
     bool operator==(const PressedKey&) const = default;
 };
 
-/// Whether Ctrl is pressed with the key that writes a sign. `scanned` is what VkKeyScanEx answers
-/// for the sign: low the key, high what must be held to write it; -1 when no key does.
+/// Whether Ctrl is pressed with the key that writes a sign. `scanned` is VkKeyScanEx's answer for
+/// the sign: the key in the low byte, the modifiers needed to write it in the high one; -1 when no
+/// key writes it.
 bool pressesSign(const PressedKey& pressed, std::int16_t scanned);
 
-/// The zero-based line, below this one and then again from the top, whose text begins with a
-/// letter in any case; blanks in front of it don't count. `from` may be -1, or the line itself.
+/// The next zero-based line below `from`, wrapping around to `from` itself, whose text begins with
+/// a letter, in any case and after any blanks. `from` may be -1.
 std::optional<int> lineWithLetter(wchar_t letter, int from, int count,
                                   const std::function<std::wstring(int)>& line);

@@ -6,26 +6,26 @@ using Kind = Deed::Kind;
 using Target = Deed::Target;
 using Wish = Situation::Wish;
 
-/// How long the clock that messages are dated by may stand still (the GetTickCount function).
+/// The resolution of the clock that dates messages, in milliseconds (the GetTickCount function).
 constexpr Moment kTick = 16;
 
 Verdict dropIf(bool unmeant) { return unmeant ? Verdict::Drops : Verdict::Counts; }
 
-/// Pressed before the last command was at its end.
+/// Whether it was pressed before the last command ended.
 bool isLate(const Situation& now) {
     return now.press && now.worked && now.press->time <= *now.worked;
 }
 
 bool isOnNewWindow(const Situation& now) { return now.press && now.press->onNewWindow; }
 
-/// A person pressed something that was not meant as a command.
+/// Whether a person pressed something without meaning a command.
 bool isUnmeant(const Situation& now) {
     return isLate(now) || isOnNewWindow(now) || (now.press && now.press->repeated);
 }
 
 bool isSecond(const Situation& now) { return now.press && now.press->second; }
 
-/// What is pressed during a call would be a command after it; a box answers for itself.
+/// What is pressed during a call would become a command after it. Presses in a box are its answers.
 bool isCallOut(const Situation& now) { return now.callsOut > 0 && now.questions == 0; }
 
 Verdict onButton(const Situation& now) { return dropIf(isUnmeant(now) || isCallOut(now)); }
@@ -42,7 +42,8 @@ Verdict onKey(const Situation& now, const Deed& deed) {
     return isCommand ? onButton(now) : Verdict::Counts;
 }
 
-/// What moves, sizes or closes a window waits for its turn, unless it is there by mistake.
+/// What moves, sizes or closes a window takes effect when its turn comes, unless it hit a new
+/// window by mistake.
 Verdict onFrame(const Situation& now) { return dropIf(isOnNewWindow(now)); }
 
 Verdict onMessage(const Situation& now, const Deed& deed) {
@@ -62,7 +63,7 @@ bool stopsSearch(const Deed& deed) {
     return deed.kind == Kind::Key && deed.key == virtual_key::kEscape && !deed.withAlt;
 }
 
-/// What stops a pass that goes on alone is not carried out.
+/// A press that stops a pass going on alone does nothing else.
 Verdict onStop(const Situation& now) {
     return isUnmeant(now) ? Verdict::Drops : Verdict::StopsSearch;
 }
@@ -75,7 +76,7 @@ bool isButtonPressed(const Deed& deed) {
 
 /// What may reach a window while it searches: its frame, and what asks for a newer search.
 Verdict onMessageDuringSearch(const Situation& now, const Deed& deed) {
-    // A press before the search began was not meant for it.
+    // Escape pressed before the search began was not meant for it.
     if (stopsSearch(deed)) {
         const bool before = now.searchingSince && deed.time + kTick < *now.searchingSince;
         return before ? Verdict::Drops : Verdict::StopsSearch;
@@ -98,14 +99,14 @@ Verdict onMessageDuringSearch(const Situation& now, const Deed& deed) {
     return reaches ? onMessage(now, deed) : Verdict::Drops;
 }
 
-/// Searches ask nothing on their way; a session that is busy while a pass goes on alone does.
+/// Searches show no boxes; a pass that goes on alone does when the session is busy.
 bool answersBox(const Situation& now) { return now.alone && now.questions > 0; }
 
 bool asksForSearch(const Situation& now, const Deed& deed) {
     return now.searching && deed.window == now.searching && deed.duringSearch != DuringSearch::Drop;
 }
 
-/// While the pass goes on alone; a box that came up meanwhile answers for itself.
+/// Whether the pass is going on alone, with no box that waits for an answer.
 bool isAlone(const Situation& now) { return now.alone && now.searching && now.questions == 0; }
 
 Verdict onCommand(const Situation& now, const Deed& deed) {
@@ -115,14 +116,14 @@ Verdict onCommand(const Situation& now, const Deed& deed) {
     return dropIf(now.handling && !asksForSearch(now, deed));
 }
 
-/// One that acts without a window in front, so that nothing says later what became of it.
+/// A hot key is pressed while another program is in front: it acts at once or not at all.
 Verdict onHotKey(const Situation& now, const Deed& deed) {
     const bool drops = !deed.usable || (now.handling && !isAlone(now));
     return drops ? Verdict::Drops : onCommand(now, deed);
 }
 
 Verdict onAside(const Situation& now, const Deed& deed) {
-    // A box asks its owner for help, too.
+    // F1 in a box reaches the box's owner, too.
     return now.handling ? Verdict::Drops : onCommand(now, deed);
 }
 
@@ -142,7 +143,7 @@ Verdict verdictOn(const Situation& situation, const Deed& deed) {
         case Kind::Activate:
             return dropIf(isOnNewWindow(situation));
         case Kind::OpenMenu:
-            // What was pressed next would choose in a menu that nobody saw.
+            // The next press would choose from a menu that nobody saw.
             return dropIf(isLate(situation));
         case Kind::Aside:
             return onAside(situation, deed);

@@ -8,67 +8,67 @@
 /// Milliseconds since the system started.
 using Moment = std::uint64_t;
 
-/// What a person pressed: a mouse button, a pen, a finger or a key, when and where.
+/// A press by a person, with a mouse button, a pen, a finger or a key: when and where.
 struct Press {
     Moment time = 0;
     std::int32_t x = 0;        ///< pixels of the screen; 0 for keys
     std::int32_t y = 0;        ///< the same
     bool repeated = false;     ///< by a key that is held
     bool second = false;       ///< the second press of a double click
-    bool onNewWindow = false;  ///< that, and a window came up since the first one
+    bool onNewWindow = false;  ///< such a second press, and a window has come up since the first
 };
 
-/// What the program is busy with and what the user did last: all that decides whether something
+/// What the program is busy with and what the user did last: all that decides whether a deed
 /// counts.
 struct Situation {
-    /// The later ones replace the earlier ones, but the end of the program stands.
+    /// A later wish replaces an earlier one, but for EndProgram.
     enum class Wish { None, Stop, Restart, Reopen, EndProgram };
 
     // What is out.
-    bool handling = false;               ///< a handler runs
+    bool handling = false;               ///< a handler is running
     int callsOut = 0;                    ///< calls to another program that have not returned
-    std::optional<Moment> closeAsked{};  ///< when the frame asked to close during one of them
+    std::optional<Moment> closeAsked{};  ///< when the user asked to close during one of them
 
     // What is shown.
     int questions = 0;               ///< boxes and dialogs of the system that wait for an answer
-    std::optional<Moment> shown{};   ///< when a window or a box came up last
+    std::optional<Moment> shown{};   ///< when a window or a box last came up
     std::optional<Moment> worked{};  ///< until when a call or a search kept the user waiting
 
     // What is searched.
-    const EventSink* searching = nullptr;    ///< the window that does
+    const EventSink* searching = nullptr;    ///< the window that searches
     bool opening = false;                    ///< it only opens a directory or a drive
-    bool alone = false;                      ///< it searches nothing: its pass goes on alone
-    std::optional<Moment> searchingSince{};  ///< the first of those that replaced one another
+    bool alone = false;                      ///< it searches nothing, its pass goes on alone
+    std::optional<Moment> searchingSince{};  ///< when the first of the searches in a row began
     Wish wish = Wish::None;                  ///< what the user wants of the search
 
-    /// What the message or event that is handled now goes back to, if a person pressed something.
+    /// The press that the current message or event is due to, if any.
     std::optional<Press> press{};
 };
 
-/// What someone does, as a message tells it or as a window understands it.
+/// Something that a person or a program does, as a message tells it or a window understands it.
 struct Deed {
     enum class Kind {
         // Messages as they are taken from the queue.
         Press,       ///< a mouse button, a pen or a finger goes down
         FramePress,  ///< the same outside a client area: on a window's frame or a scroll bar
         Release,     ///< it goes up
-        Menu,        ///< the right button goes up, which opens one
-        Key,         ///< goes down
+        Menu,        ///< the right button goes up, which opens a menu
+        Key,         ///< a key goes down
         KeyUp,
-        HotKey,  ///< a key that acts in front of all programs goes down
+        HotKey,  ///< a key that acts whichever program is in front goes down
         Typed,   ///< the character that a key writes
         Scroll,  ///< wheels and gestures
         Click,   ///< of a control, posted by a program
         Other,
         // What a window is about to do.
-        Activate,  ///< because the mouse was pressed in it
+        Activate,  ///< itself, because the mouse was pressed in it
         OpenMenu,  ///< its system menu, by the mouse
-        Aside,     ///< help, or a menu by the right button
+        Aside,     ///< help, a menu by the right button, or dropped files
         Command,   ///< a button, an item of a menu, a double click, Enter
         HotKeyCommand,
         // Events at the gate.
         Event,
-        WaitedEvent  ///< another handler has ended meanwhile
+        WaitedEvent  ///< it had to wait for another handler, which has ended
     };
     /// What it is done to.
     enum class Target { Other, Button, SearchControl, Window };
@@ -80,14 +80,14 @@ struct Deed {
     std::int32_t y = 0;
     int key = 0;            ///< its virtual-key code
     bool repeated = false;  ///< the key is held
-    bool withAlt = false;   ///< a key of the system: it goes down while Alt is held
+    bool withAlt = false;   ///< the key goes down while Alt is held
 
-    const EventSink* window = nullptr;  ///< whose event it is
+    const EventSink* window = nullptr;  ///< the window whose event it is
     bool closes = false;                ///< the window's frame asks to be closed
     DuringSearch duringSearch = DuringSearch::Drop;
-    bool takesSecond = true;   ///< the second press of a double click is a command like the first
-    bool fromProgram = false;  ///< sent by another program, whatever was pressed last
-    bool usable = true;        ///< the user can see and use what it is done to
+    bool takesSecond = true;   ///< the second press of a double click counts like the first
+    bool fromProgram = false;  ///< another program sent it, whatever was pressed last
+    bool usable = true;        ///< what it is done to is visible and enabled
 };
 
 /// The virtual-key codes that mean something here (winuser.h).
@@ -101,7 +101,7 @@ enum class Verdict {
     Counts,
     Drops,
     StopsSearch,  ///< and does nothing else
-    Restarts,     ///< counts once the search has ended, which it does at once
+    Restarts,     ///< ends the search at once, and counts then
     EndsProgram
 };
 
@@ -109,13 +109,13 @@ enum class Verdict {
 /// or has waited. The one place where that is decided.
 Verdict verdictOn(const Situation& situation, const Deed& deed);
 
-/// Whether the search goes on. What only opens a directory is not ended by what is typed.
+/// Whether the search goes on. Typing doesn't end one that only opens a directory.
 bool searchGoesOn(const Situation& situation);
 
-/// Whether the user, who asked to close the window 30 seconds ago while a call was out, is to be
-/// asked whether to wait any longer for it.
+/// Whether to ask the user, who has wanted to close the window for 30 seconds, if they will wait
+/// any longer for the call that is out.
 bool callIsOverdue(const Situation& situation, Moment now);
 
-/// What the pointer shows: that the user has to wait, or may, since a search can be stopped.
+/// What the pointer shows: that the user has to wait, or may go on, since a search can be stopped.
 enum class Pointer { Arrow, Wait, ArrowAtWork };
 Pointer pointerIn(const Situation& situation);

@@ -25,8 +25,8 @@ void makeUpperCase(std::wstring& text) {
 
 namespace {
 
-/// What Windows-1252 spells by the bytes 0x80 to 0x9F; all others are Latin-1. Bytes that it leaves
-/// free are control characters, as Windows reads them.
+/// The characters of the bytes 0x80 to 0x9F in Windows-1252; all others are Latin-1's. Bytes that
+/// it doesn't define are control characters, as for Windows.
 constexpr wchar_t kUpperControls[] = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,

@@ -9,12 +9,12 @@
 
 namespace {
 
-/// Names in ascending order without regard to case; names alike but for case, by their own order.
+/// Puts names in ascending order regardless of case, and by case where nothing else differs.
 class NameOrder {
  public:
     void add(std::wstring_view name) { keys_.push_back({upperCase(name), name}); }
 
-    /// The names' numbers, in the order in which they were added.
+    /// The names in order, each by its number, counted from 0 as they were added.
     std::vector<std::size_t> sorted() const {
         std::vector<std::size_t> places(keys_.size());
         std::iota(places.begin(), places.end(), std::size_t{0});

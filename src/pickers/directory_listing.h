@@ -9,10 +9,10 @@ class Files;
 
 struct Subdirectory {
     std::wstring name;
-    bool isLink;  ///< a junction or symbolic link: it may lead back up
+    bool isLink;  ///< a junction or symbolic link, which may lead back up
 };
 
-/// What a directory holds, but for what is left out, each in ascending order without regard to
+/// What a directory holds, without the entries left out; each kind in ascending order regardless of
 /// case.
 struct DirectoryContents {
     std::vector<std::wstring> files;

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// As many as keep a server busy that answers each after some milliseconds.
+/// Enough to keep a server busy that takes some milliseconds for each answer.
 constexpr int kMostAtOnce = 8;
 
 /// What the main thread and the workers share.
@@ -22,8 +22,8 @@ struct JobDesk : std::enable_shared_from_this<JobDesk> {
     std::atomic<int> atWork = 0;
     std::atomic<bool> ended = false;
 
-    std::mutex mutex = {};  // of what follows
-    SearchWatch* watch;     ///< gone once the jobs have ended
+    std::mutex mutex = {};  // protects what follows
+    SearchWatch* watch;     ///< no longer valid once the jobs have ended
     std::optional<RuntimeError> error = {};
 
     JobDesk(std::size_t theCount, std::function<void(std::size_t)> theJob, SearchWatch& theWatch)
@@ -70,7 +70,7 @@ struct JobDesk : std::enable_shared_from_this<JobDesk> {
     }
 };
 
-/// With the scope: from then on nobody wakes the watch.
+/// Ends the jobs with its scope: afterwards nobody wakes the watch.
 struct JobsEnd {
     JobDesk& desk;
     ~JobsEnd() {

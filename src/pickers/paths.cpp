@@ -10,13 +10,12 @@ namespace {
 
 constexpr std::wstring_view kNetwork = L"\\\\";
 
-/// Windows' own spellings of a path ("File path formats on Windows systems", DOS device paths) tell
-/// less plainly where it leads.
+/// DOS device paths ("File path formats on Windows systems") don't show plainly where they lead.
 std::wstring withoutDevicePrefix(std::wstring path) {
     constexpr std::wstring_view kPrefixes[] = {L"\\\\?\\", L"\\\\.\\", L"\\??\\"};
     const auto begins = [&](std::wstring_view prefix) { return path.starts_with(prefix); };
     constexpr std::wstring_view kShare = L"UNC\\";
-    // One may hide behind another.
+    // One prefix may hide another.
     while (std::ranges::any_of(kPrefixes, begins)) {
         path.erase(0, kPrefixes[0].size());
         const bool share = equalIgnoringCase(path.substr(0, kShare.size()), kShare);
@@ -32,7 +31,7 @@ bool isPlainName(std::wstring_view name) { return !name.empty() && name != L"." 
 /// Up to the next backslash.
 std::wstring_view firstName(std::wstring_view path) { return path.substr(0, path.find(L'\\')); }
 
-/// "c:\" or "\\server\share\", with the backslash, also where the path has none; empty for none.
+/// "c:\" or "\\server\share\", with the backslash even where the path lacks it; empty for none.
 std::wstring rootOf(std::wstring_view path) {
     if (isOnDrive(path)) return std::wstring(path.substr(0, 2)) + L'\\';
     const std::wstring_view server = firstName(path.substr(kNetwork.size()));
@@ -43,7 +42,7 @@ std::wstring rootOf(std::wstring_view path) {
     return std::wstring(path.substr(0, begin + share.size())) + L'\\';
 }
 
-/// The names on the way down, ".." taken for what it means.
+/// The names of a path, joined by backslashes, ".." resolved.
 std::wstring names(std::wstring_view path) {
     std::wstring way;
     way.reserve(path.size());

@@ -11,7 +11,7 @@
 class EventSink;
 class Files;
 
-/// Lets something happen a few times per second at most.
+/// Limits something to a few times per second.
 class Pulse {
  public:
     bool due() {
@@ -26,8 +26,7 @@ class Pulse {
     std::chrono::steady_clock::time_point last_ = std::chrono::steady_clock::now();
 };
 
-/// While it lives a label says that a search goes on: from its first moment, when there is nothing
-/// to be counted yet.
+/// While it lives a label says that a search goes on, even before there is anything to count.
 class SearchSign {
  public:
     explicit SearchSign(Control& label) : label_(label), before_(label.text()) {
@@ -63,18 +62,18 @@ class DrivePicker {
     std::vector<wchar_t> letters_;
 };
 
-/// What came of the opening of a directory.
+/// The outcome of opening a directory.
 enum class Opening {
-    Another,  ///< than the one before
+    Another,  ///< another one than before is open
     Same,
-    GivenUp  ///< by its user, who stopped it or asked for something newer
+    GivenUp  ///< the user stopped it or asked for something newer
 };
 
 /// A list of the open directory's ancestors, the directory itself, and its sub-directories, each
 /// level indented under the one above. The user opens another by a double click or Enter.
 class DirectoryPicker {
  public:
-    /// `label` says so while a directory is being opened; `window`: where all that stands.
+    /// `label` says when a directory is being opened; `window` holds both.
     DirectoryPicker(ListBox& list, Control& label, const SearchServices& services,
                     const EventSink& window)
         : list_(list), label_(label), services_(services), window_(window) {}
@@ -82,12 +81,12 @@ class DirectoryPicker {
     /// The open directory: a drive root with its trailing backslash, any other without one.
     const std::wstring& path() const { return path_; }
 
-    /// Opens a directory. One that is given up, or can't be read, leaves the picker as it was.
-    /// Raises 70 or 76.
+    /// Opens a directory. If the user gives up, or the directory can't be read, the picker stays as
+    /// it was. Raises 70 or 76.
     Opening open(const std::wstring& path);
 
-    /// The same, but when it is given up the picker stands on `refuge`, a directory that is there,
-    /// of which nothing is read.
+    /// The same, but if the user gives up the picker shows `refuge`, an existing directory, without
+    /// reading it.
     void openOr(const std::wstring& path, const std::wstring& refuge);
 
     /// Opens the directory of the selected line.

@@ -28,7 +28,7 @@ TreeDirectory* ReadingPlan::nextAhead() const {
     int waiting = 0;
     for (TreeDirectory* directory : toRead_) {
         waiting += directory->waitingBefore;
-        // What the walk meets before all that wait is read in any case: it must not wait itself.
+        // What the walk meets before all that wait is read nevertheless, or the walk would wait.
         if (catchingUp_ && waiting > 0) return nullptr;
         // The few that are being read are passed over.
         if (isUnread(directory)) return directory;
@@ -63,7 +63,7 @@ void ReadingPlan::finish(TreeDirectory& directory) {
 }
 
 void ReadingPlan::meet(TreeDirectory&) {
-    // It was the first of all.
+    // It was the first of those that wait.
     --waitingBefore(toRead_.begin());
     if (--waiting_ <= static_cast<int>(kMostWaiting / 2)) catchingUp_ = false;
 }
@@ -80,7 +80,7 @@ TreeDirectory& ReadingPlan::plan(TreeDirectory& directory, std::size_t index,
 
 TreeDirectory& ReadingPlan::subdirectory(TreeDirectory& directory, std::size_t index) {
     const std::unique_ptr<TreeDirectory>& one = directory.below[index];
-    // A link, which the walk waits for: it comes before all else.
+    // For a link the walk waits, so it comes first.
     return one ? *one : plan(directory, index, toRead_.begin());
 }
 
@@ -90,28 +90,29 @@ void ReadingPlan::leave(TreeDirectory& directory) {
 
 namespace {
 
-/// As many as keep a server busy that answers each after some milliseconds.
+/// Enough to keep a server busy that takes some milliseconds for each answer.
 constexpr int kMostReaders = 8;
-/// Should all of them hang, what the walk waits for is read by one more.
+/// One more, for what the walk waits for, should all the others hang.
 constexpr int kMostWithAwaited = kMostReaders + 1;
 
 using Lock = std::unique_lock<std::mutex>;
 
 }  // namespace
 
-/// What the main thread and the workers share. All but its beginning is used under the lock alone.
+/// What the main thread and the workers share. All but the first two members is protected by the
+/// mutex.
 struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
     Files& files;
     FileFilter wanted;
 
     std::mutex mutex;
     ReadingPlan plan;
-    // These two are gone once the walk has ended.
+    // These two are no longer valid once the walk has ended.
     Workers* workers;
     SearchWatch* watch;
     TreeDirectory* awaited = nullptr;          ///< by the main thread
     int unseen = 0;                            ///< directories read since the walk was woken
-    int readers = 0;                           ///< workers that read, or will
+    int readers = 0;                           ///< workers that read or are about to
     std::optional<RuntimeError> failure = {};  ///< of the reading as a whole
     bool ended = false;
 
@@ -123,14 +124,14 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
           workers(theWorkers),
           watch(theWatch) {}
 
-    /// Lets one more worker read if there is something to be read. Each calls the next one.
+    /// Starts one more worker if there is something to read. Each worker starts the next one.
     void callReader() {
         if (ended || readers == kMostWithAwaited) return;
         if (!plan.hasNext(awaited, readers < kMostReaders)) return;
         if (workers->start([desk = shared_from_this()] { desk->work(); })) ++readers;
     }
 
-    /// A worker's job, without the lock: reads until there is nothing more to be read.
+    /// A worker's job: reads until there is nothing left to read. Called without the lock.
     void work() noexcept {
         Lock lock(mutex);
         const auto error = errorOf([&] {
@@ -143,7 +144,7 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
         watch->wake();
     }
 
-    /// Reads one directory, unlocked meanwhile. False when there was none to be read.
+    /// Reads one directory, without the lock meanwhile. False when there was none to read.
     bool readNext(Lock& lock) {
         TreeDirectory* directory = ended ? nullptr : plan.next(awaited, readers <= kMostReaders);
         if (!directory) return false;
@@ -159,8 +160,8 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
         return true;
     }
 
-    /// Once for several directories: they are there sooner than a thread wakes. A watch that
-    /// waits looks by itself, too, before a slow server has read so many.
+    /// Wakes the walk once for several directories, since they are read faster than a thread wakes
+    /// up. When a server is slow, the watch looks by itself before there are so many.
     void wakeWalk() {
         constexpr int kSeveral = 16;
         const bool readIt = awaited && awaited->state == TreeDirectory::State::Read;

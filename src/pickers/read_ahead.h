@@ -15,8 +15,8 @@
 class SearchWatch;
 struct SearchServices;
 
-/// A directory of a tree that is being walked, and what was read of it. Before it has been read it
-/// is its reader's, afterwards the walk's.
+/// A directory of a tree that is being walked, and what was read of it. It belongs to its reader
+/// until it has been read, and to the walk afterwards.
 struct TreeDirectory {
     enum class State { Unread, Reading, Read };
 
@@ -29,12 +29,13 @@ struct TreeDirectory {
     std::optional<RuntimeError> error = {};  ///< raised when it was read
     std::vector<std::unique_ptr<TreeDirectory>> below = {};
 
-    // The plan's own, until it has been read.
+    // For the plan, until the directory has been read.
     std::list<TreeDirectory*>::iterator place = {};
-    int waitingBefore = 0;  ///< directories read, between it and the one before it in the plan
+    int waitingBefore =
+        0;  ///< how many read directories wait between the one before it and this one
 };
 
-/// Which directory of a tree is read next: always the one that the walk, which comes behind, will
+/// Decides which directory of a tree is read next: the one that the walk, which comes behind, will
 /// meet first. Links are not read ahead, since the walk may pass them over.
 class ReadingPlan {
  public:
@@ -44,18 +45,18 @@ class ReadingPlan {
 
     TreeDirectory& root() { return *root_; }
 
-    /// The directory that the walk waits for, if nobody reads it yet, else, if wanted, the next to
-    /// be read ahead; null when there is none, or when so many wait for the walk that it shall
-    /// catch up first. It counts as being read.
+    /// The directory that the walk waits for, unless it is being read; otherwise, with `ahead`, the
+    /// next one to read ahead. Null when there is none, or when the walk should catch up first. The
+    /// directory counts as being read from now on.
     TreeDirectory* next(TreeDirectory* awaited, bool ahead = true);
 
-    /// Whether next() would give one.
+    /// Whether next() would return one.
     bool hasNext(const TreeDirectory* awaited, bool ahead = true) const;
 
-    /// A directory has been read: it waits for the walk, and those below it can be read.
+    /// A directory has been read: it waits for the walk, and its sub-directories can be read.
     void finish(TreeDirectory& directory);
 
-    /// The walk has come to a directory that has been read.
+    /// The walk has reached a directory that has been read.
     void meet(TreeDirectory& directory);
 
     /// The sub-directory of a directory that has been read, zero-based.
@@ -68,26 +69,26 @@ class ReadingPlan {
     using InOrder = std::list<TreeDirectory*>;
 
     TreeDirectory* nextAhead() const;
-    /// Plans to read a sub-directory, before another one.
+    /// Plans to read a sub-directory before the one at `before`.
     TreeDirectory& plan(TreeDirectory& directory, std::size_t index, InOrder::iterator before);
     int& waitingBefore(InOrder::iterator place);
 
     std::unique_ptr<TreeDirectory> root_;
     bool withSubdirectories_;
-    InOrder toRead_;        ///< and being read, each before what the walk meets later
-    int waiting_ = 0;       ///< read, and not yet met by the walk
-    int waitingAtEnd_ = 0;  ///< those behind all that are to be read
+    InOrder toRead_;        ///< those to read and being read, in the walk's order
+    int waiting_ = 0;       ///< how many have been read that the walk has not met yet
+    int waitingAtEnd_ = 0;  ///< how many of these come after all in `toRead_`
     bool catchingUp_ = false;
 };
 
-/// The directories of a tree, read by several workers ahead of the main thread that walks them.
-/// While it waits for one, its window is served. Without workers it reads each one itself.
+/// Has workers read the directories of a tree ahead of the main thread that walks it. While that
+/// waits for one, its window is served. Without workers it reads each one itself.
 ///
-/// On destruction what is still being read is abandoned: a worker that hangs on a server which
-/// does not answer keeps what it works on and nothing else.
+/// Its destruction abandons what is still being read: a worker that hangs on a server which does
+/// not answer keeps alive only what it works on.
 class ReadAhead {
  public:
-    /// Raised by members that wait when the search is to stop.
+    /// Raised by the waiting members when the search is to stop.
     struct Interrupted {};
 
     /// `wanted` is called by several threads at once, and owns all that it looks at.
@@ -100,7 +101,7 @@ class ReadAhead {
     TreeDirectory& root();
     TreeDirectory& subdirectory(TreeDirectory& directory, std::size_t index);
 
-    /// Waits until a directory has been read. Raises 70 or 76 if it can't be, and what the watch
+    /// Waits until a directory has been read. Raises 70 or 76 if that fails, and what the watch
     /// raises.
     void meet(TreeDirectory& directory);
     /// The walk is through with a directory and all below it.

@@ -8,8 +8,8 @@
 
 namespace {
 
-/// The directories open on the way down a tree, so that a walk that follows junctions and
-/// symbolic links has an end.
+/// The directories open on the way down a tree. Thanks to them a walk that follows junctions and
+/// symbolic links ends.
 class OpenDirectories {
  public:
     using Identify = std::function<DirectoryId(const std::wstring& directory)>;
@@ -19,8 +19,7 @@ class OpenDirectories {
     void enter(const std::wstring& directory) { way_.push_back({directory, std::nullopt}); }
     void leave() { way_.pop_back(); }
 
-    /// Whether a link leads to one of them, by whatever path. Raises 70 or 76 when it leads
-    /// nowhere.
+    /// Whether a link leads to one of them, by whatever path. Raises 70 or 76 for a broken link.
     bool leadsBack(const std::wstring& link) {
         const DirectoryId target = identify_(link);
         return std::ranges::any_of(way_, [&](Open& open) {
@@ -32,7 +31,7 @@ class OpenDirectories {
  private:
     struct Open {
         std::wstring path;
-        std::optional<DirectoryId> id;  ///< asked for only when a link is met
+        std::optional<DirectoryId> id;  ///< found out when a link is met
     };
 
     Identify identify_;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-// Lengths on the screen, in pixels, before Windows' own types come into it.
+// Places and sizes on the screen, in pixels, without Windows' own types.
 
 struct Size {
     int width = 0;
@@ -33,19 +33,20 @@ inline Area areaAt(Point corner, Size size) {
     return {corner.x, corner.y, corner.x + size.width, corner.y + size.height};
 }
 
-/// No wider and no higher than either.
+/// The size that is no wider and no higher than either.
 inline Size smaller(Size a, Size b) {
     return {std::min(a.width, b.width), std::min(a.height, b.height)};
 }
 
-/// value * numerator / denominator (positive) in full precision, halves away from zero.
+/// value * numerator / denominator without overflow, halves rounded away from zero. The denominator
+/// is positive.
 constexpr int scaled(int value, int numerator, int denominator) {
     const std::int64_t product = std::int64_t{value} * numerator;
     const std::int64_t half = product < 0 ? -denominator / 2 : denominator / 2;
     return static_cast<int>((product + half) / denominator);
 }
 
-/// Settings know twips: 1440 to an inch at the window's own resolution.
+/// The settings are in twips: 1440 to an inch at the window's own resolution.
 inline constexpr int kTwipsPerInch = 1440;
 
 constexpr int twipsOf(int pixels, int dpi) { return scaled(pixels, kTwipsPerInch, dpi); }

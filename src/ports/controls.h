@@ -4,8 +4,8 @@
 #include <span>
 #include <string>
 
-// The controls of a window as the forms see them. What code changes through these interfaces
-// never raises an event; a form that owes itself one calls its own handler.
+// The controls of a window, as its class sees them. What code changes through these interfaces
+// never raises an event: a window that needs one calls its own handler.
 
 /// Any control: label, button, text box, frame.
 class Control {
@@ -15,7 +15,7 @@ class Control {
     virtual void setText(const std::wstring& text) = 0;
     virtual void setEnabled(bool enabled) = 0;
     virtual void setVisible(bool visible) = 0;
-    /// Draws the control now rather than when the program is next idle.
+    /// Draws the control at once rather than when the program is next idle.
     virtual void repaint() = 0;
 };
 
@@ -37,17 +37,18 @@ class ListBox : public Control {
     virtual void setData(int index, int data) = 0;
     /// Replaces all lines; none is selected and every number is 0.
     virtual void setLines(int count, const std::function<std::wstring(int)>& line) = 0;
-    /// Gives a line another text; it stays selected or not, and where it is on the screen.
+    /// Changes the text of a line, which stays selected or not, and in the same place on the
+    /// screen.
     virtual void changeText(int index, const std::wstring& line) = 0;
-    /// The same for all lines; `line` is asked for each before the first one changes.
+    /// The same for all lines. `line` is called for each of them before the first one changes.
     virtual void changeTexts(const std::function<std::wstring(int)>& line) = 0;
     /// Between these two nothing is drawn. Use DrawingPause.
     virtual void stopDrawing() = 0;
     virtual void resumeDrawing() = 0;
 };
 
-/// While it lives a list is not drawn; then it is drawn once, scroll bars included. One may stand
-/// within another.
+/// While it lives a list is not drawn; afterwards it is drawn once, scroll bars included. Pauses
+/// can be nested.
 class DrawingPause {
  public:
     explicit DrawingPause(ListBox& list) : list_(list) { list_.stopDrawing(); }
@@ -59,7 +60,7 @@ class DrawingPause {
     ListBox& list_;
 };
 
-/// A drop-down list; its text is typed in or that of the selected line.
+/// A drop-down list. Its text was typed, or is the selected line's.
 class ComboBox : public Control {
  public:
     virtual void setLines(std::span<const std::wstring> lines) = 0;
@@ -68,7 +69,7 @@ class ComboBox : public Control {
     virtual void selectLine(int index) = 0;
 };
 
-/// A row of tabs; which page shows is up to the form.
+/// A row of tabs. The window shows the pages itself.
 class TabStrip : public Control {
  public:
     virtual void addTab(const std::wstring& text) = 0;
@@ -79,6 +80,6 @@ class TabStrip : public Control {
 /// A bar that fills as work is done.
 class ProgressBar : public Control {
  public:
-    /// Steps done of all, of which there is one at least.
+    /// Steps done of all; there is at least one.
     virtual void show(int done, int total) = 0;
 };

@@ -14,7 +14,7 @@ struct MessageBoxContent {
     Buttons buttons = Buttons::Ok;
     Icon icon = Icon::None;
     int defaultButton = 1;       ///< one-based
-    std::wstring helpFile = {};  ///< the help reference; Windows takes its context alone
+    std::wstring helpFile = {};  ///< the help reference, of which Windows takes the context alone
     int helpContext = 0;
 };
 
@@ -33,16 +33,16 @@ class MessageBoxes {
     }
 };
 
-/// What is to be saved, and where it would go if the user changed nothing.
+/// What is to be saved, and the place that is proposed to the user.
 struct SaveQuestion {
     std::wstring title;
     std::wstring directory;  ///< without a trailing backslash
     std::wstring name;
-    std::wstring kind;       ///< of files, as the user reads it
-    std::wstring extension;  ///< without the dot; a name without one is given it
+    std::wstring kind;       ///< of the file, as the user reads it
+    std::wstring extension;  ///< without the dot; added to a name that has none
 };
 
-/// Files that are shown to choose from, at first those of the first kind.
+/// Which files the user can choose from; at first those of the first kind are shown.
 struct OpenQuestion {
     struct Kind {
         std::wstring name;      ///< as the user reads it
@@ -58,11 +58,11 @@ class FileDialogs {
  public:
     virtual ~FileDialogs() = default;
 
-    /// The full path that the user chose, by which an existing file may be replaced; nothing when
-    /// the user thought better of it. Raises 51 when there is no such dialog.
+    /// The full path that the user chose, nothing when they cancelled. An existing file may be
+    /// replaced. Raises 51 when there is no such dialog.
     virtual std::optional<std::wstring> askWhereToSave(const SaveQuestion& question) = 0;
 
-    /// The full path of the file, which was there, that the user chose to open; nothing when the
-    /// user thought better of it. Raises 51 when there is no such dialog.
+    /// The full path of the existing file that the user chose, nothing when they cancelled. Raises
+    /// 51 when there is no such dialog.
     virtual std::optional<std::wstring> askWhatToOpen(const OpenQuestion& question) = 0;
 };

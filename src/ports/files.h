@@ -16,12 +16,12 @@
 struct DirectoryEntry {
     std::wstring_view name;
     bool isDirectory;
-    bool isLeftOut;  ///< neither searched nor shown
+    bool isLeftOut;  ///< it is neither searched nor shown
     bool isLink;     ///< a junction or symbolic link: it may lead back up
 };
 
-/// What tells one directory from all others, whatever path leads to it. Where the file system does
-/// not tell its directories apart, all of a volume are alike.
+/// Identifies a directory, whatever path leads to it. Where the file system has no identities, all
+/// directories of a volume have the same.
 struct DirectoryId {
     std::uint64_t volume;
     std::array<std::uint8_t, 16> file;
@@ -46,7 +46,7 @@ class Files {
     std::string read(const std::wstring& path) { return textInUtf8(readBytes(path)); }
     std::wstring readText(const std::wstring& path) { return wideText(read(path)); }
 
-    /// Creates or replaces a file whole with what `write` puts into its sink: an interrupted write
+    /// Creates or replaces a whole file with what `write` puts into its sink; an interrupted write
     /// leaves the old one. Raises 70, 75 or 76.
     virtual void replace(const std::wstring& path, const WriteContent& write) = 0;
     /// The same with a text, written in UTF-8. Raises 5 for text that can't be encoded.
@@ -56,8 +56,8 @@ class Files {
         replace(path, [&](const ByteSink& file) { file(utf8); });
     }
 
-    /// What a path leads to, nothing where it can't be told, as the system's own FileExists
-    /// answers.
+    /// What a path leads to; Nothing, as the system's own FileExists answers, where that can't be
+    /// found out.
     PathKind kindOrNothing(const std::wstring& path) {
         try {
             return kindOf(path);
@@ -67,20 +67,20 @@ class Files {
     }
     bool isFile(const std::wstring& path) { return kindOf(path) == PathKind::File; }
 
-    /// Keeps a copy of a file, byte for byte. What stood in its place, even a read-only file, is
-    /// replaced as by `replace`. Raises 53, 70, 75 or 76.
+    /// Copies a file byte for byte. A file in its place, even a read-only one, is replaced as by
+    /// `replace`. Raises 53, 70, 75 or 76.
     virtual void keepCopy(const std::wstring& file, const std::wstring& copy) = 0;
 
     /// Deletes a file, even a read-only one. Raises 53, 70, 75 or 76.
     virtual void remove(const std::wstring& file) = 0;
 
-    // The next four, and readBytes, may be called by several threads at once, and by threads that
-    // outlive their caller: the object stands until the program ends.
+    // The next four, and readBytes, may be called by several threads at once, even by threads that
+    // outlive the search they work for: this object lives until the program ends.
 
-    /// Raises 70, 75 or 76 when it can't be told.
+    /// Raises 70, 75 or 76 when that can't be found out.
     virtual PathKind kindOf(const std::wstring& path) = 0;
 
-    /// The bytes that a file has. Raises 53, 70, 75 or 76.
+    /// The size of a file in bytes. Raises 53, 70, 75 or 76.
     virtual std::uint64_t sizeOf(const std::wstring& path) = 0;
 
     /// Visits every entry of a directory but "." and "..", in no order. Raises 70 or 76.
@@ -96,35 +96,35 @@ class Files {
     /// The shares (\\server\share) that drives stand for.
     virtual std::vector<std::wstring> sharesOfDrives() = 0;
 
-    /// The program's current directory on a drive, the drive's root when it has none of its own.
+    /// The program's current directory on a drive; the drive's root when there is none.
     virtual std::wstring currentDirectory(wchar_t drive) = 0;
 };
 
-/// A small file that grows record by record and survives a crash up to the last one flushed.
+/// A small file that grows record by record, and survives a crash up to the last record flushed.
 class RecordFile {
  public:
     virtual ~RecordFile() = default;
 
     /// All its bytes; nothing when it isn't there or can't be read.
     virtual std::optional<std::string> read() = 0;
-    /// Replaces it whole, or creates it; on the disk when this returns. Raises 70, 75 or 76.
+    /// Creates or replaces the file; it is on disk when this returns. Raises 70, 75 or 76.
     virtual void replace(std::string_view bytes) = 0;
 
     enum class Flush { Now, Later };
-    /// Adds bytes at the end of what was replaced last; with Now they are on the disk when this
-    /// returns. Raises 53, 70 or 75, also when somebody has taken the file away.
+    /// Appends bytes after `replace`; with Now they are on disk when this returns. Raises 53, 70 or
+    /// 75, also when somebody has removed the file.
     virtual void append(std::string_view bytes, Flush flush) = 0;
 
-    /// Leaves nothing in it: one that was replaced is emptied, any other is removed, if it is
-    /// there. False when it may still hold something.
+    /// Leaves nothing in the file: empties it after `replace`, otherwise removes it, if it exists.
+    /// False when it may still hold something.
     virtual bool clear() = 0;
-    /// Removes it, if it is there. One that can't be removed is emptied or stays.
+    /// Removes the file, if it exists. If that fails it is emptied, or stays.
     virtual void remove() = 0;
 };
 
 class RecordFiles {
  public:
     virtual ~RecordFiles() = default;
-    /// The record file at a full path, whether it is there or not.
+    /// The record file at a full path, whether it exists or not.
     virtual std::unique_ptr<RecordFile> at(const std::wstring& path) = 0;
 };

@@ -22,15 +22,15 @@ struct LocalTime {
     int hour, minute, second;
 };
 
-/// What time it is.
+/// The time of day, and the time that passes.
 class Clock {
  public:
     virtual ~Clock() = default;
     /// Seconds since the beginning of 1970, universal time.
     virtual std::int64_t now() const = 0;
-    /// Milliseconds since some moment, which nobody can set back.
+    /// Milliseconds since some fixed moment; no user can set them back.
     virtual std::int64_t ticks() const = 0;
-    /// A time as `now` gives it, in the user's time zone.
+    /// A time of `now` in the user's time zone.
     virtual LocalTime local(std::int64_t time) const = 0;
 };
 
@@ -64,25 +64,25 @@ class Desktop {
     /// visible one at the top level that belongs to no other.
     virtual WindowHandle findWindow(const std::function<bool(const std::wstring&)>& isTitle) = 0;
 
-    /// Gives a minimised window its size back; any other stays as it is.
+    /// Restores a minimised window; any other stays as it is.
     virtual void restore(WindowHandle window) = 0;
 
     /// Brings a window to the front; with 0 nothing happens (the SetForegroundWindow function).
     virtual void bringToFront(WindowHandle window) = 0;
 
-    /// How many GDI objects the program of a window uses; nothing when that can't be known (the
-    /// GetGuiResources function).
+    /// How many GDI objects the program of a window uses; nothing when unknown (the GetGuiResources
+    /// function).
     virtual std::optional<int> gdiObjects(WindowHandle window) = 0;
 
-    /// Has a document opened by its program; false when it can't be (the ShellExecuteEx function).
+    /// Opens a document in its program; false when that fails (the ShellExecuteEx function).
     virtual bool open(const std::wstring& document) = 0;
 };
 
-/// What holds the machine back from sleep.
+/// Whether the machine may go to sleep.
 class Power {
  public:
     virtual ~Power() = default;
-    /// Whether the system is to stay awake though nobody uses it; its screen may go dark, and its
+    /// Keeps the system awake though nobody uses it, or no longer. Its screen may go dark, and its
     /// user may still send it to sleep.
     virtual void keepAwake(bool awake) = 0;
 };

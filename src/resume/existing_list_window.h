@@ -6,7 +6,7 @@ class WindowPlaces;
 struct Platform;
 struct ProgramFiles;
 
-/// Where the prompt leads.
+/// What the prompt leads to.
 class ExistingListExits {
  public:
     virtual ~ExistingListExits() = default;
@@ -14,7 +14,7 @@ class ExistingListExits {
     virtual void declineList() = 0;
 };
 
-/// The prompt shown when a list file of an earlier run exists: resume it, start a new selection,
+/// The prompt shown when there is a list file of an earlier run: resume it, start a new selection,
 /// or erase it first.
 class ExistingListWindow : public ProgramWindow<ExistingListWindow> {
  public:
@@ -26,8 +26,8 @@ class ExistingListWindow : public ProgramWindow<ExistingListWindow> {
     void Form_Close();
     void CmdOK_Click();
     void CmdAnnule_Click();
-    /// Takes the list file away, even a read-only one, without asking; it stays as the previous
-    /// list, with its marks (replaceList). Raises 53, 70 or 75 when it can't.
+    /// Removes the list file, even a read-only one, without asking. It is kept as the previous
+    /// list, with its marks (replaceList). Raises 53, 70 or 75 when that fails.
     void CmdEffacer_Click();
 
  private:

@@ -28,7 +28,7 @@ std::wstring withBoundQuotes(std::wstring text) {
 
 namespace {
 
-/// A colour is seen on the part that is done alone, which must have a length for it.
+/// Only the part that is done has a colour, so with an alert it must not be empty.
 ButtonProgress seen(ButtonProgress progress) {
     constexpr int kSeenPart = 10;
     if (progress.alert != Alert::None) {

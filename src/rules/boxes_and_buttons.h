@@ -3,11 +3,12 @@
 #include "ports/dialogs.h"
 #include "ports/window.h"
 
-/// A button's French caption, whatever the language of the system; nullptr: it keeps its own. A
-/// lone button has the id of Cancel, but is an OK button.
+/// The French caption of a box's button, whatever the language of the system; nullptr: it keeps its
+/// own. A lone button has the id of Cancel, but is an OK button.
 const wchar_t* frenchCaption(MessageBoxes::Answer button, bool besideRetry);
 
-/// A box's text with no-break blanks inside « » in place of plain ones, at which a line may end.
+/// A box's text with no-break blanks inside « » instead of plain ones, where a line could be
+/// broken.
 std::wstring withBoundQuotes(std::wstring text);
 
 /// What a window's button on the taskbar shows: steps done of all; 0 of 0 is nothing.
@@ -26,7 +27,7 @@ class TaskbarButton {
     virtual void show(const ButtonProgress& progress) = 0;
 };
 
-/// How far the work has come, told to the taskbar when it changes, but not before the taskbar has
+/// Tells the taskbar how far the work has come, when that changes, but not before the taskbar has
 /// made the window's button.
 class TaskbarProgress {
  public:
@@ -35,7 +36,7 @@ class TaskbarProgress {
     /// Steps done of all; 0 of 0: none.
     void set(int done, int total);
     void set(Alert alert);
-    /// The button is there now, or there again.
+    /// The taskbar has made the button, or made it again.
     void onButtonMade();
 
  private:

@@ -38,7 +38,7 @@ HoldFileState holdFileState(std::uint32_t creating, std::uint32_t looking) {
     using namespace windows_error;
     if (creating == 0) return HoldFileState::Ours;
     if (looking == kSharingViolation) return HoldFileState::Theirs;
-    // A file that is about to go denies every access.
+    // A file that is about to be deleted denies every access.
     if (creating == kSharingViolation || looking == kAccessDenied) return HoldFileState::Busy;
     return looking == 0 ? HoldFileState::Blocked : HoldFileState::Unusable;
 }
@@ -53,7 +53,7 @@ HoldAnswer takeHold(HoldSteps& steps, const ListHolder& us) {
         answer = kHidden;
         if (state == HoldFileState::Theirs) {
             answer = {HoldAnswer::Kind::HeldElsewhere, steps.fileHolder()};
-            // Nobody is named yet in a file that was made a moment ago.
+            // A file made a moment ago names nobody yet.
             const bool passing = answer.holder == us || answer.holder == ListHolder();
             if (!passing) break;
         }

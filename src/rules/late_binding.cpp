@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Which file it was the server's own words may tell, and its caller does.
+/// Without the file's name, which the server's own words may tell and the caller adds.
 std::optional<RuntimeError> sentenceOf(std::uint32_t number) {
     switch (number) {
         case 53:
@@ -37,7 +37,7 @@ std::optional<RuntimeError> numberedError(CallResult code, const std::wstring& d
     return error;
 }
 
-/// Whether nobody is there any more who could answer.
+/// Whether the program that should answer is gone.
 bool isGone(CallResult result) {
     constexpr CallResult kGone[] = {call_result::kDisconnected,         call_result::kServerDied,
                                     call_result::kServerDiedUnexecuted, call_result::kNotConnected,
@@ -119,7 +119,7 @@ ServersReply AutomationObject::invoke(std::wstring_view name, Access access,
     ServersReply reply;
     CallResult result = invokeOnce(name, access, arguments, reply);
     if (result == call_result::kMemberNotFound) {
-        // The object may be of another kind than those that the name was looked up for.
+        // The object may be of another kind than the one that the name was looked up for.
         numbers_.erase(numbers_.find(name));
         result = invokeOnce(name, access, arguments, reply);
     }

@@ -31,22 +31,22 @@ inline constexpr CallResult kCallFailed = failure(0x800706BE);
 inline constexpr CallResult kCallFailedUnexecuted = failure(0x800706BF);
 }  // namespace call_result
 
-/// Whether the application was too busy to take the call, which then never ran.
+/// Whether the application was too busy to take the call, which then did not run.
 bool isBusy(CallResult result);
 
 /// A late-bound call that failed.
 struct CallFailure {
     CallResult result;
     std::wstring_view name;         ///< the member's, as the call spelled it
-    CallResult serverCode = 0;      ///< what the server said, when the result is kException
-    std::wstring description = {};  ///< in the server's own words, empty when it gave none
+    CallResult serverCode = 0;      ///< the server's own, when the result is kException
+    std::wstring description = {};  ///< in the server's words, if any
 };
 
-/// The run-time error for it: 13, 438 or 440, or the one that the server names by its number. The
-/// session is lost when nobody answers any more, or when the user gave up waiting for a busy one.
+/// The run-time error for a failed call: 13, 438 or 440, or the one that the server names by its
+/// number. The session is lost when it no longer answers, or when the user gave up waiting for it.
 RuntimeError callError(const CallFailure& failure);
 
-/// The members' numbers already asked for: one table per class of objects.
+/// The numbers of the members looked up so far: a table for each class of objects.
 using MemberNumbers = std::map<std::wstring, std::int32_t, std::less<>>;
 using MemberTables = std::map<std::wstring, MemberNumbers, std::less<>>;
 
@@ -56,25 +56,24 @@ struct LateBinding {
     MemberTables tables = {};
 };
 
-/// An object of another program, driven late-bound, by the names of its members. Refused calls are
+/// An object of another program, late-bound: called by the names of its members. Refused calls are
 /// repeated with patience.
 class AutomationObject {
  public:
-    /// Of an object without a class the names are looked up afresh.
+    /// An object without a class shares no numbers: its names are looked up for it alone.
     AutomationObject(std::shared_ptr<ServedObject> object, LateBinding& binding,
                      std::wstring_view objectClass);
     AutomationObject(const AutomationObject&) = delete;
     AutomationObject& operator=(const AutomationObject&) = delete;
 
-    /// Calls the method `name`, spelled as the server is to receive it, arguments in order.
-    /// `resultClass` names the class of an object it returns: objects of one class must answer a
-    /// name alike, for each name is looked up only once per class. An object without a class
-    /// shares none: its names are looked up afresh.
-    /// Raises 13, 438 or 440 as the server refuses or fails.
+    /// Calls a method, spelled as the server is to receive it, with its arguments in order.
+    /// `resultClass` is the class of an object that it returns: since a name is looked up once for
+    /// each class, it must have the same number for all objects of one. Raises 13, 438 or 440 as
+    /// the server refuses or fails.
     Value call(std::wstring_view name, std::span<const Argument> arguments,
                std::wstring_view resultClass);
 
-    /// Sets the property `name`. Raises as `call` does.
+    /// Sets a property. Raises as `call` does.
     void put(std::wstring_view name, const Argument& value);
 
  private:
@@ -101,8 +100,8 @@ class Automation {
     /// Raises 440 when it is busy and the user gives up waiting.
     ObjectPtr attach(const std::wstring& progId);
 
-    /// The first running object whose display name begins so, in any letter case; null when there
-    /// is none. `progId` tells what it is. Raises as `attach`.
+    /// The first running object whose display name begins so, in any letter case, as one of the
+    /// class `progId`; null when there is none. Raises as `attach`.
     ObjectPtr attachNamed(const std::wstring& beginning, const std::wstring& progId);
 
     /// A new object of the class `progId`. Raises 440 when the class can't be created.
@@ -130,5 +129,5 @@ std::wstring textOf(const Value& value);
 /// The object of a call's result, null when it holds none.
 ObjectPtr objectOf(const Value& value);
 
-/// True for the automation boolean true (all bits set) and nothing else.
+/// Whether it is the automation boolean true (all bits set) rather than anything else.
 bool isTrue(const Value& value);

@@ -56,7 +56,7 @@ std::optional<unsigned> Patience::afterRefusal() {
     }
     const std::uint64_t elapsed = now - *refusedSince_;
     if (elapsed >= kPatience) return std::nullopt;
-    // As long as it has taken so far: the intervals double.
+    // Waits as long as it has waited so far: the intervals double.
     return static_cast<unsigned>(std::clamp(elapsed, kFirstWait, kLongestWait));
 }
 

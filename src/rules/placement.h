@@ -5,14 +5,13 @@
 #include "ports/area.h"
 #include "ports/window.h"
 
-/// Where the controls of a window stand: as its dialog template says, measured by the font that
-/// the window uses now, and following the edges of the window when it is larger.
+/// Where the controls of a window stand: as its dialog template says, in the measure of the
+/// window's present font, and following the window's edges when it grows or shrinks.
 class ControlLayout {
  public:
-    /// `client` is the template's area, `unit` the size of an average character of the font that
-    /// it was measured by; `shrinks` is how much smaller than the template the window can be made
-    /// (the controls that grow with it shrink), in dialog units: a quarter of that character
-    /// across, an eighth down (GetDialogBaseUnits).
+    /// `client`: the template's area. `unit`: the size of an average character of the font that
+    /// this was measured by. `shrinks`: how much smaller the window can be made, in dialog units,
+    /// which are a quarter of that character wide and an eighth high (GetDialogBaseUnits).
     ControlLayout(Size client, Size unit, Size shrinks = {})
         : client_(client),
           shrinks_{scaled(shrinks.width, unit.width, 4), scaled(shrinks.height, unit.height, 8)},
@@ -22,10 +21,10 @@ class ControlLayout {
     /// A control's area in the template.
     void add(const Area& area, Growth across, Growth down);
 
-    /// From now on measures by a font whose average character is of this size.
+    /// Sets the size of an average character of the window's present font.
     void measureBy(Size unit) { unit_ = unit; }
 
-    /// The area that is as large as the template.
+    /// The client area when the window is as large as the template.
     Size templateClient() const { return scaledSize(client_); }
 
     /// The smallest area in which all controls are in sight.
@@ -46,7 +45,7 @@ class ControlLayout {
 
     Size scaledSize(Size size) const { return {across(size.width), down(size.height)}; }
 
-    Size client_;  ///< this and all lengths are those of the template
+    Size client_;  ///< this and all other lengths are the template's
     Size shrinks_;
     Size templateUnit_;
     Size unit_;
@@ -58,10 +57,10 @@ struct Monitor {
     Area work;  ///< without the taskbar
 };
 
-/// A window's place, moved as little as it takes to stand whole within `work`, and made smaller
-/// where it is larger than that.
+/// A window's place, moved as little as possible to stand whole within `work`, and made smaller if
+/// it is larger than that.
 Area inSight(const Area& place, const Area& work);
 
-/// The place on the screen of a window whose normal place is given relative to the work area, as
-/// Windows keeps it for a minimised one (WINDOWPLACEMENT, workspace coordinates).
+/// The place on the screen of a window whose normal place is relative to the work area, as Windows
+/// keeps it for a minimised window (WINDOWPLACEMENT, workspace coordinates).
 Area placeOnScreen(const Area& normalPlace, const Monitor& nearest);

@@ -62,16 +62,17 @@ bool hasAll(std::uint32_t attributes, std::uint32_t wanted) {
     return (attributes & wanted) == wanted;
 }
 
-/// Documents lie in hidden directories, too; only those that the Explorer itself keeps from its
-/// users hold none. Beside an open document stands a hidden lock file of its kind.
+/// Documents can be in hidden directories, but not in those that even the Explorer hides always. A
+/// hidden file is left out: beside an open document there is a hidden lock file with the same
+/// extension.
 bool isLeftOut(std::uint32_t attributes) {
     return hasAll(attributes, attribute::kDirectory)
                ? hasAll(attributes, attribute::kHidden | attribute::kSystem)
                : hasAll(attributes, attribute::kHidden);
 }
 
-/// Whether the name stands for another one (the IsReparseTagNameSurrogate macro). Directories kept
-/// in a cloud, deduplicated or compressed ones have a tag, too, but are what they seem to be.
+/// Whether the name stands for another one (the IsReparseTagNameSurrogate macro). Directories in a
+/// cloud, deduplicated or compressed ones have a tag, too, but stand for themselves.
 bool standsForAnother(std::uint32_t attributes, std::uint32_t reparseTag) {
     constexpr std::uint32_t kNameSurrogate = 0x20000000;
     return hasAll(attributes, attribute::kReparsePoint) && hasAll(reparseTag, kNameSurrogate);
@@ -89,11 +90,10 @@ DirectoryEntry directoryEntry(std::wstring_view name, std::uint32_t attributes,
 
 namespace {
 
-// Virus scanners, indexers and backups hold a file for a moment.
+// For two seconds: virus scanners, indexers and backups hold a file only for a moment.
 constexpr int kReplacementPauses = 2000 / kReplacementPause;
 
-/// Does something again and again while `isHeld` says of its error that another program is in the
-/// way.
+/// Does something again and again while its error is one of those that `isHeld` says will pass.
 template <class Deed, class IsHeld, class Pause>
 std::uint32_t retried(const Deed& deed, const IsHeld& isHeld, const Pause& pause) {
     for (int pauses = 0;; ++pauses) {
@@ -103,7 +103,7 @@ std::uint32_t retried(const Deed& deed, const IsHeld& isHeld, const Pause& pause
     }
 }
 
-/// The file written beside the old one. Removed unless it took the old one's place.
+/// The file written beside the old one. It is removed unless it takes the old one's place.
 class TemporaryFile {
  public:
     TemporaryFile(const std::wstring& path, ReplacementSteps& steps)

@@ -60,8 +60,7 @@ inline constexpr Tooltip kConfigurationTooltips[] = {
     {IDC_FORM4_NNIV, L"Nombre de niveau masqués."},
 };
 
-// On both pages the directories of a configuration take the width of a larger window, all lists
-// take the height.
+// In a larger window the lists of a configuration's directories become wider, and all lists higher.
 inline constexpr Anchor kConfigurationAnchors[] = {
     {IDC_FORM4_TABSTRIP1, Growth::Stretch, Growth::Stretch},
 
@@ -90,7 +89,7 @@ inline constexpr Anchor kConfigurationAnchors[] = {
     {IDC_FORM4_CMDANNULER1, Growth::Move, Growth::Move},
 };
 
-// Fields and lists have no caption of their own, signs say little when they are heard.
+// Fields and lists have no captions, and signs say little when read out.
 inline constexpr AccessibleName kConfigurationNames[] = {
     {IDC_FORM4_LIST1, L"Liste des configurations"},
     {IDC_FORM4_LIST3, L"Liste des répertoires de la configuration"},

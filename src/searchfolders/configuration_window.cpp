@@ -86,7 +86,7 @@ void ConfigurationWindow::Form_Load() {
     prepareTabs();
     prepareDirectories();
     clearFrom(configurations_.rows[0], 0);
-    // The folders first: directories before the file's first header are written over them.
+    // The folders first: directories before the file's first header replace them.
     readCurrentFolders();
     file_.known = readConfigurations(configurations_, file_.path, fileSystem_, platform_.files);
     showConfigurations();

@@ -16,11 +16,11 @@ class WindowPlaces;
 struct Platform;
 struct ProgramFiles;
 
-/// The configuration window: on one tab the configurations and their directories, on the other a
-/// copy of one of them being edited. Editing changes the table, "Sauvegarder" the file.
+/// The configuration window. One tab shows the configurations with their directories, the other a
+/// copy of one that is being edited. Editing changes the table, "Sauvegarder" the file.
 class ConfigurationWindow : public ProgramWindow<ConfigurationWindow> {
  public:
-    /// The configurations outlive the window: what was being edited is still there next time.
+    /// `configurations` outlive the window, so that what was being edited is still there next time.
     ConfigurationWindow(Platform& platform, WindowPlaces& places, CadSession& cad,
                         FileSystemObject& fileSystem, const ProgramFiles& files,
                         Configurations& configurations);
@@ -65,7 +65,7 @@ class ConfigurationWindow : public ProgramWindow<ConfigurationWindow> {
     void showConfigurations();
     void showEdited();
 
-    /// The configuration selected in List1 becomes the selected one; none changes nothing.
+    /// Makes the configuration selected in List1 the selected one; changes nothing when none is.
     void findSelection();
     void editSelection();
     /// Reads the CAD application's search folders into row 0, under the name "En Cours". Raises
@@ -75,10 +75,11 @@ class ConfigurationWindow : public ProgramWindow<ConfigurationWindow> {
     /// application took them. Raises what the application answers, and 9 as joinFolders.
     void apply(const Configuration& configuration);
 
-    /// Lets the user open a directory in Dir1. When it can't be read Dir1 stays where it was and
-    /// the user is told: what is being edited is worth more than a drive that isn't ready.
+    /// Opens a directory in Dir1. If it can't be read, the user is told and Dir1 stays where it
+    /// was: a drive that isn't ready must not cost what is being edited.
     void openDirectory(const std::function<void()>& opening);
-    /// Adds Dir1's directory and all below to a copy of what is edited, which its user may stop.
+    /// Adds Dir1's directory and all below it to a copy of what is being edited. The user can stop
+    /// it.
     void addTree(TreeAddition& tree);
     void tellLeftOut(const std::vector<std::wstring>& directories);
     void remove(Removal removal);

@@ -103,7 +103,7 @@ void ConfigurationWindow::openDirectory(const std::function<void()>& opening) {
         if (tooMany) throw;
         problem = error.text;
     }
-    // Unless another one was chosen meanwhile.
+    // Unless the user has chosen another drive meanwhile.
     if (Drive1.drive() == drive) Drive1.setDrive(Dir1.path());
     if (problem.empty()) return;
     platform_.messageBoxes.show({.text = L"Ce répertoire ne peut pas être ouvert.\r\n" + problem,

@@ -54,7 +54,7 @@ int lastFollower(const Configuration& edited, int count, int entry) {
     return last;
 }
 
-/// Row 0 takes part: "En Cours" is found by its name too.
+/// Row 0 is included, so that "En Cours" is found by its name, too.
 int rowFor(const Configurations& configs, std::wstring_view name) {
     int row = 0;
     while (!configs.rows[row][0].empty() && !equalIgnoringCase(configs.rows[row][0], name)) {
@@ -135,7 +135,7 @@ class Reader {
 
     void take(std::wstring_view line) {
         if (isHeader(line)) {
-            // Cut off the front, wherever the marker stands.
+            // As much is cut off the front, wherever the marker is.
             line.remove_prefix(kMarker.size());
             ++row_;
             entry_ = 0;

@@ -64,7 +64,7 @@ DocumentImport::End DocumentImport::gatherDropped(const std::vector<std::wstring
             return named_[line.document].presence != Presence::There;
         });
         settle();
-        // As many as a list can hold: it is incomplete anyway.
+        // The list is incomplete anyway, so it takes what it can hold.
         if (documents_.size() > kCapacity) documents_.resize(kCapacity);
     }
     return end;
@@ -132,7 +132,7 @@ void DocumentImport::add(int place, std::wstring text, std::wstring path, Presen
     if (lines_.size() == FileLines::kMost) throw tooManyDocuments();
     const auto [known, isNew] = numbers_.try_emplace(upperCase(path), named_.size());
     if (isNew) named_.push_back({std::move(path), presence});
-    // What was found below a directory is there, whoever named it before.
+    // What was found below a directory exists, even if a line named it before.
     if (presence == Presence::There) named_[known->second].presence = presence;
     lines_.push_back({place, std::move(text), known->second});
 }
@@ -173,7 +173,7 @@ void DocumentImport::leaveOutServers(const std::vector<std::wstring>& servers) {
 
 DocumentImport::End DocumentImport::look() {
     return unlessRefused([&] {
-        // Twice at what couldn't be told: a server may be away for a moment.
+        // A second time for those out of reach: a server may be away for a moment.
         for (const Presence still : {Presence::Unknown, Presence::OutOfReach}) {
             if (!lookAtThose(still)) return false;
         }

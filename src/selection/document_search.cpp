@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Whether a text is `capitals` in any case. For plain letters only: file names are many.
+/// Whether a text is `capitals` in any case, for plain letters only: there are many file names.
 bool isInAnyCase(std::wstring_view text, std::wstring_view capitals) {
     return std::ranges::equal(text, capitals, [](wchar_t c, wchar_t capital) {
         return c == capital || c == capital + (L'a' - L'A');
@@ -63,7 +63,8 @@ void FoundDocuments::beginPass(bool append) {
 }
 
 bool FoundDocuments::presentInPass(const std::wstring& entry) const {
-    // The entry just past the last one is compared too: it may be left from an earlier search.
+    // The entry just past the last one is compared, too: it may be left over from an earlier
+    // search.
     return pass_.contains(entry) || entries_[count_] == entry;
 }
 
@@ -91,7 +92,7 @@ DocumentSearch::DocumentSearch(const SearchServices& services, FoundDocuments& f
       progress_(std::move(progress)) {}
 
 WalkEnd DocumentSearch::run(const std::wstring& directory, bool withSubdirectories) {
-    // With no kind to look for there is nothing to find further down.
+    // Without a kind to look for there is nothing to find further down.
     const bool deep = withSubdirectories && !kinds_.pattern().empty();
     return walkTree(
         services_, directory, deep,

@@ -15,10 +15,10 @@ class DocumentKinds {
     /// Takes the kinds that the text names anywhere, in any case: sldasm, sldprt, slddrw.
     explicit DocumentKinds(std::wstring_view typeText);
 
-    /// The file pattern, always assemblies, parts, drawings in that order; empty for no kind.
+    /// The file pattern: assemblies, parts, drawings, always in this order; empty for no kind.
     const std::wstring& pattern() const { return pattern_; }
 
-    /// Whether a file of this name is looked for: by what follows its last dot, in any case.
+    /// Whether a file is looked for, by what follows the last dot of its name, in any case.
     bool accepts(std::wstring_view fileName) const;
 
  private:
@@ -28,8 +28,7 @@ class DocumentKinds {
     bool drawings_ = false;
 };
 
-/// The place of a document among its kinds in a pass that is ordered: parts, assemblies, drawings,
-/// all else.
+/// The rank of a document in a pass ordered by kind: parts, assemblies, drawings, all else.
 int kindRank(std::wstring_view document);
 
 /// The documents found, in the order of their discovery.
@@ -45,14 +44,14 @@ class FoundDocuments {
     /// Whether the entries are full paths.
     bool fullPaths() const { return fullPaths_; }
 
-    /// Empties the table and says what its next entries will be.
+    /// Empties the table, and sets what its next entries will be.
     void restart(bool fullPaths);
 
-    /// Replaces all by these documents, given by their full paths. Raises 9 for too many.
+    /// Replaces all entries by these full paths. Raises 9 when they are too many.
     void take(std::vector<std::wstring> paths);
 
-    /// Begins a pass over one directory. Unless it appends, the table is emptied but for its very
-    /// last entry, which so still counts as present.
+    /// Begins a pass over one directory. Unless it appends, it empties the table but for the very
+    /// last entry, which therefore still counts as present.
     void beginPass(bool append);
 
     /// Stores a document of a directory unless the pass has its bare name already.
@@ -63,7 +62,7 @@ class FoundDocuments {
     bool presentInPass(const std::wstring& entry) const;
 
     CheckedTable<std::wstring, kCapacity, kLimit> entries_;
-    std::unordered_set<std::wstring> pass_;  ///< the bare names of the current pass
+    std::unordered_set<std::wstring> pass_;  ///< the bare names found in this pass
     int count_ = 0;
     bool fullPaths_ = false;
 };
@@ -71,15 +70,16 @@ class FoundDocuments {
 /// Finds the documents of one directory or of a whole tree. Each directory is read once.
 class DocumentSearch {
  public:
-    /// Told, as often as a directory has been read, how many files of the kinds it holds.
+    /// Called for each directory with the number of files of these kinds in it.
     using Progress = std::function<void(int filesListed)>;
 
     DocumentSearch(const SearchServices& services, FoundDocuments& found, DocumentKinds kinds,
                    Progress progress);
 
-    /// Adds the directory's documents to the table, in ascending name order; then, if wanted,
-    /// those of its sub-directories as walkTree meets them. Interrupted leaves there what was found
-    /// so far. Raises 70 or 76 for a directory that can't be read, 9 when the table is full.
+    /// Adds the directory's documents to the table, in ascending order of their names, then, if
+    /// wanted, those of its sub-directories as walkTree meets them. When it is interrupted, the
+    /// table keeps what was found so far. Raises 70 or 76 for a directory that can't be read, 9
+    /// when the table is full.
     WalkEnd run(const std::wstring& directory, bool withSubdirectories);
 
  private:

@@ -19,8 +19,8 @@ namespace {
 
 bool isFieldEnd(char c) { return c == ';' || c == '\t'; }
 
-/// The length of a quoted field at the front, with its quotes; none when they aren't closed before
-/// the field's end.
+/// The length of the quoted field at the front, with its quotes; nothing when the closing quote
+/// doesn't end the field.
 std::optional<std::size_t> quotedLength(std::string_view text) {
     std::size_t end = 1;
     while ((end = text.find('"', end)) != std::string_view::npos) {
@@ -41,7 +41,7 @@ std::string unquoted(std::string_view field) {
     return text;
 }
 
-/// A spreadsheet takes what begins so for a formula, unless an apostrophe stands before it.
+/// Our reports put an apostrophe before a text that a spreadsheet would take for a formula.
 std::string_view withoutApostrophe(std::string_view field) {
     constexpr std::string_view kFormulas = "=+-@";
     const bool guarded =
@@ -88,7 +88,7 @@ bool isBlankRow(std::string_view line) {
     return line.find_first_not_of(" ;\t\"") == std::string_view::npos;
 }
 
-/// What stands from the fourth character of a line on, which may have several bytes each.
+/// The line from its fourth character on; characters may have several bytes.
 std::string_view behindCode(std::string_view line) {
     const auto continues = [&](std::size_t i) {
         return i < line.size() && (line[i] & 0xC0) == 0x80;
@@ -173,7 +173,7 @@ FileLines readNames(Files& files, const std::wstring& file) {
 }  // namespace
 
 FileLines linesOf(Files& files, const std::wstring& file) {
-    // A scanner holds it, or the program that has just written it.
+    // A scanner may hold it, or the program that has just written it.
     constexpr std::chrono::milliseconds kMoment(300);
     for (int attempts = 3;; --attempts) {
         try {

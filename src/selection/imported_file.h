@@ -8,7 +8,7 @@
 
 class Files;
 
-/// The documents that a pass can open, by the ends of their names, in any case.
+/// Whether a name has the extension of a document that a pass can open, in any case.
 bool isDocumentName(std::string_view utf8);
 
 /// A line of a text, a table or a list file. `text` is the field that names a document, or the
@@ -19,46 +19,47 @@ struct DocumentLine {
     bool namesDocument;
 };
 
-// Both hand on the lines of a file, in UTF-8, in order; blank ones are left out. A text is valid
-// only while its line is visited.
+// Both visit the lines of a file in UTF-8, in order, but for blank ones. A line's text is valid
+// only while the line is visited.
 
-/// A text or a table: of each line the first field that names a document counts. Fields stand
-/// between semicolons or tabs, with the quotes of RFC 4180. One that isn't closed in its line is a
-/// letter, so that it hides no document. The first line of a report is left out.
+/// A text or a table, in whose lines the first field that names a document counts. Fields are
+/// separated by semicolons or tabs and may be quoted as in RFC 4180. A quote that isn't closed in
+/// its line is a plain character, so that it hides no document. A report's first line is left out.
 void readTable(std::string_view utf8, const std::function<void(const DocumentLine&)>& visit);
 
-/// A list file: what stands behind the first three characters, whatever kind of document it is.
+/// A list file, in whose lines everything after the third character is the document, of whatever
+/// kind.
 void readListLines(std::string_view utf8, const std::function<void(const DocumentLine&)>& visit);
 
-/// Why documents can't be imported, for the user.
+/// Why documents can't be imported, in French.
 struct ImportProblem {
     std::wstring text;
 };
 
 ImportProblem tooManyDocuments();
 
-/// What a file names, each by its full path.
+/// The lines of a file, with the full paths of the documents they name.
 struct FileLines {
-    /// How many that name no document are kept, to be told.
+    /// How many lines that name no document are kept to be shown.
     static constexpr int kTold = 5;
-    /// More lines than that name more documents than a list holds, whichever of them are there.
+    /// A file with more lines certainly names more documents than a list holds.
     static constexpr std::size_t kMost = 100'000;
 
     struct Line {
-        int place;                         ///< among those that aren't blank
-        std::wstring text;                 ///< as it was written
-        std::optional<std::wstring> path;  ///< none when it names no document
+        int place;                         ///< among the lines that aren't blank
+        std::wstring text;                 ///< as written in the file
+        std::optional<std::wstring> path;  ///< nothing when it names no document
     };
 
     std::vector<Line> lines = {};
-    int count = 0;     ///< of all
-    int nameless = 0;  ///< of those that name no document
+    int count = 0;     ///< of all lines
+    int nameless = 0;  ///< of the lines that name no document
     std::optional<ImportProblem> problem = {};
 };
 
-/// Whether a file that is dropped is read for what it names: a text, a table or a list file.
+/// Whether a dropped file is read for the documents it names: a text, a table or a list file.
 bool mayNameDocuments(const std::wstring& path);
 
-/// Reads a text, a table or, by its ending, a list file. One that another program holds for a
-/// moment is waited for. Raises 53, 70, 75 or 76.
+/// Reads a text, a table or, by its extension, a list file. Waits for a file that another program
+/// holds for a moment. Raises 53, 70, 75 or 76.
 FileLines linesOf(Files& files, const std::wstring& file);

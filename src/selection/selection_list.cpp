@@ -56,7 +56,7 @@ bool SelectionList::chosen(int line) const { return list_.data(line) == 1; }
 
 void SelectionList::toggle(const std::vector<int>& lines) {
     if (lines.empty()) return;
-    // The list is asked once about each line: it answers slowly.
+    // Asks the list only once about each line, since it answers slowly.
     std::vector<bool> choose(static_cast<std::size_t>(found_.count()));
     const auto chooses = [&](int line) { return choose[static_cast<std::size_t>(line)]; };
     for (const int line : lines) choose[static_cast<std::size_t>(line)] = !chosen(line);
@@ -88,7 +88,7 @@ std::vector<int> SelectionList::matching(std::wstring_view filter, bool chosen) 
         appendLine(text, i, chosen);
         makeUpperCase(text);
         const bool matches = text.find(folded) != std::wstring::npos;
-        // The list is asked about the lines that match alone: it answers slowly.
+        // Asks the list only about lines that match, since it answers slowly.
         if (matches && (list_.data(i) == 1) == chosen) lines.push_back(i);
     }
     return lines;

@@ -17,19 +17,20 @@ class SelectionList {
 
     SelectionList(ListBox& list, const FoundDocuments& found) : list_(list), found_(found) {}
 
-    /// Draws all lines from the table, and chooses some of them.
+    /// Draws all lines of the table, and chooses some of them.
     void fill(int depth, const std::function<bool(int line)>& isChosen);
     /// Draws all lines at another depth; choices are kept.
     void redraw(int depth);
 
     int chosenCount() const;
     Entries chosenEntries() const;
-    /// Whether the pass takes a line.
+    /// Whether a line will be part of the pass.
     bool chosen(int line) const;
 
     void toggleHighlighted();
     void toggleAll();
-    // These two match a line as it is displayed, label and visible part of the path, in any case.
+    // Both compare with the line as displayed, the label and what is visible of the path, in any
+    // case.
     void chooseMatching(std::wstring_view filter) { toggle(matching(filter, false)); }
     void dropMatching(std::wstring_view filter) { toggle(matching(filter, true)); }
 
@@ -37,11 +38,11 @@ class SelectionList {
     /// A line as it is displayed, chosen or not.
     std::wstring lineText(int line, bool chosen) const;
     void appendLine(std::wstring& text, int line, bool chosen) const;
-    /// The lines, of those chosen or of those not chosen, that match as they are displayed.
+    /// The chosen lines, or the others, whose displayed text contains the filter.
     std::vector<int> matching(std::wstring_view filter, bool chosen) const;
     void toggle(const std::vector<int>& lines);
 
     ListBox& list_;
     const FoundDocuments& found_;
-    int depth_ = 0;  ///< at which the lines were drawn last
+    int depth_ = 0;  ///< of the lines as drawn
 };

@@ -62,7 +62,7 @@ inline constexpr Tooltip kSelectionTooltips[] = {
     {IDC_FORM1_CMDAP, L"A Propos de Tarnwick"},
 };
 
-// The list of documents takes the width of a larger window, both lists take the height.
+// In a larger window the list of documents becomes wider, and both lists higher.
 inline constexpr Anchor kSelectionAnchors[] = {
     {IDC_FORM1_LABEL3, Growth::Stretch, Growth::Stay},
     {IDC_FORM1_CMDAP, Growth::Move, Growth::Stay},
@@ -88,7 +88,7 @@ inline constexpr Anchor kSelectionAnchors[] = {
     {IDC_FORM1_CMD_TRACER, Growth::Move, Growth::Move},
 };
 
-// Fields and lists have no caption of their own, "-", "+" and "AP" say little when they are heard.
+// Fields and lists have no captions, and "-", "+" and "AP" say little when read out.
 inline constexpr AccessibleName kSelectionNames[] = {
     {IDC_FORM1_TYPEF, L"Type de fichiers à traiter"},
     {IDC_FORM1_UNITE, L"Unité"},

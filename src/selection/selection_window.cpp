@@ -140,7 +140,7 @@ bool SelectionWindow::writeList() {
 
 std::vector<int> SelectionWindow::linesToWrite() const {
     std::vector<int> lines;
-    // As many as the window says there are.
+    // The number of lines is the one that the window shows.
     const std::int32_t count = numericValue(cptfichier.text());
     for (std::int32_t i = 0; i < count; ++i) {
         if (List1.chosen(i)) lines.push_back(i);

@@ -20,7 +20,7 @@ struct ProgramFiles;
 /// Tells the user who stopped a search what has become of it.
 inline constexpr wchar_t kIncompleteList[] = L"Recherche interrompue : la liste est incomplète.";
 
-/// Where the selection window leads.
+/// What the selection window leads to.
 class SelectionExits {
  public:
     virtual ~SelectionExits() = default;
@@ -30,7 +30,7 @@ class SelectionExits {
     virtual void showAbout() = 0;
 };
 
-/// The selection window: a pass is prepared here. It finds the documents under a directory, lets
+/// The selection window, where a pass is prepared: it finds the documents below a directory, lets
 /// the user choose among them, and launches the pass.
 class SelectionWindow : public ProgramWindow<SelectionWindow> {
  public:
@@ -41,16 +41,16 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     /// Closed by its frame: the program ends, nothing is saved.
     void Form_Close();
 
-    // Where and what to search: every change rebuilds the list, and nothing is chosen any more.
+    // Where and what to search. Every change rebuilds the list, with nothing chosen.
     void unite_Change();
     void repert_DblClick();
     void repert_Change();
-    /// Leaving the kinds rebuilds the list, too. As they were searched last, nothing has changed:
-    /// the documents found again stay chosen.
+    /// Leaving the kinds rebuilds the list, too. If they are those searched last, documents found
+    /// again stay chosen.
     void typef_Validate();
     void sousrep_Click();
 
-    // Documents from elsewhere become the list, until the next search.
+    // Documents from elsewhere replace the list until the next search.
     void Importer_Click();
     void Form_Drop();
 
@@ -66,7 +66,7 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     // Leaving.
     void CmdAP_Click();
     void CmdRepDef_Click();
-    /// Whether a pass takes parts first, then assemblies, then drawings.
+    /// Switches the order of a pass: parts first, then assemblies, then drawings.
     void Ordre_Click();
     void cmd_tracer_Click();
     void cmd_sortie_Click();
@@ -75,27 +75,28 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
  private:
     void openWorkingDirectory();
     void hideTrials();
-    /// The chosen directory is a drive root and its sub-directories are wanted.
+    /// Whether the chosen directory is a drive root, and its sub-directories are wanted.
     bool searchesWholeDrive() const;
-    /// Asks whether a whole drive is to be searched. True for Yes.
+    /// Asks whether to search a whole drive. True for Yes.
     bool confirmWholeDrive();
     void leaveOutSubdirectories();
     enum class SearchEnd { Complete, Stopped, Superseded };
 
-    /// True when nobody ended it before its end.
+    /// False when the user ended the search early.
     bool rebuild(const SelectionList::Entries& chosen);
     SearchEnd search();
     void showCounts(int filesListed);
 
     using ImportStep = std::function<DocumentImport::End(DocumentImport&)>;
     void importDocuments(const ImportStep& gather);
-    /// Does a step before its user's eyes; tells why it did not come to its end.
+    /// Does a step of an import, which the user can stop. False when it did not complete: tells
+    /// why.
     bool completes(DocumentImport& import, const ImportStep& step);
     /// False when there is none: the list stays as it was.
     bool listDocuments(std::vector<std::wstring> documents);
 
     void setByKind(bool on);
-    /// False when another program has a list open that would be replaced.
+    /// False when the list that would be replaced is open in another program.
     bool writeList();
     std::vector<int> linesToWrite() const;
     std::wstring fullPath(int index) const;
@@ -116,7 +117,7 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     SelectionList List1;
     std::wstring searched_;                     ///< the directory searched last
     std::wstring searchedKinds_;                ///< the text of the kinds searched last
-    std::optional<std::wstring> stoppedKinds_;  ///< what stood there when that search was stopped
-    bool imported_ = false;                     ///< what is listed comes from elsewhere
+    std::optional<std::wstring> stoppedKinds_;  ///< their text when that search was stopped
+    bool imported_ = false;                     ///< the listed documents come from elsewhere
     bool byKind_ = false;
 };

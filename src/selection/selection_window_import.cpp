@@ -41,14 +41,14 @@ const wchar_t* reason(Presence why) {
     }
 }
 
-/// As much of a line as is needed to find it again.
+/// Enough of a line to find it in its file.
 std::wstring shownLine(const std::wstring& text) {
     constexpr std::size_t kLongest = 120;
     const std::wstring line = text.substr(0, text.find_first_of(L"\r\n"));
     return line.size() <= kLongest ? line : line.substr(0, kLongest) + L"…";
 }
 
-/// What is told of an import: empty when each line became a document.
+/// What the user is told after an import; empty when each line became a document.
 std::wstring remainsText(const ImportRemains& remains) {
     std::wstring text;
     if (remains.leftOut == 1) text += L"1 ligne laissée de côté :";

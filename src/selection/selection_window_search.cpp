@@ -1,4 +1,5 @@
-// The selection window's search: from drive, directory, kinds and sub-directories box to the list.
+// The selection window's search: from the drive, the directory, the kinds and the sub-directories
+// box to the list.
 
 #include <utility>
 
@@ -21,13 +22,13 @@ void SelectionWindow::unite_Change() {
     if (drive == 0) return;
     const Opening opening = repert.open(platform_.files.currentDirectory(drive));
     if (opening == Opening::GivenUp) {
-        // Unless it was for another one, the choice of before stands again.
+        // The drive before is shown again, unless the user has chosen yet another one.
         if (unite.drive() == drive) unite.setDrive(repert.path());
         return;
     }
     const bool complete = rebuild({});
-    // Another directory and the drive each ask for a rebuild. The second finds the same again, so
-    // it is spared unless it has a question to repeat.
+    // The directory and the drive each ask for a rebuild. The second would find the same again, so
+    // it is skipped unless it has a question to repeat.
     if (complete && opening == Opening::Another && searchesWholeDrive()) repert_Change();
 }
 
@@ -64,10 +65,10 @@ void SelectionWindow::sousrep_Click() {
 void SelectionWindow::repert_Change() { rebuild({}); }
 
 void SelectionWindow::typef_Validate() {
-    // Leaving the field makes no search that its user has stopped.
+    // Leaving the field doesn't repeat a search that the user has stopped.
     if (typef.text() == stoppedKinds_) return;
     const bool asSearched = typef.text() == searchedKinds_;
-    // Who only passes by doesn't want to lose what came from elsewhere.
+    // A user who only passes through the field doesn't want to lose an imported list.
     if (imported_ && asSearched) return;
     rebuild(asSearched ? List1.chosenEntries() : SelectionList::Entries());
 }

@@ -11,24 +11,24 @@ struct ProgramFiles {
     std::wstring list;            ///< the list of the pass; it ends with ".lst", in any case
     std::wstring configurations;  ///< the configurations of search folders
 
-    /// What is left of a list file that was taken away.
+    /// The list that a launch or an erasure has taken away.
     std::wstring previousList() const { return besideList(list, L"-precedente.lst"); }
-    /// What others made of the list file before it was saved over.
+    /// What others had made of the list file when it was saved over.
     std::wstring othersList() const { return besideList(list, L"-autre.lst"); }
     /// The same of the configurations.
     std::wstring othersConfigurations() const { return directory + L"\\tarnwick-precedente.cfg"; }
 
-    /// Says who has a list open, as long as it is.
+    /// The file that says who has a list open, while it is.
     static std::wstring holdFileOf(const std::wstring& list) {
         return besideList(list, L".verrou");
     }
 
-    /// Whether a file is one of these, or holds the marks kept of a list: nothing else may be
-    /// written there.
+    /// Whether a path is one of these, or that of a list's kept marks: nothing else may be written
+    /// there.
     bool owns(const std::wstring& path) const;
 };
 
-/// The system's own object for files (Scripting.FileSystemObject).
+/// The system's own object about files (Scripting.FileSystemObject).
 class FileSystemObject {
  public:
     /// Raises 440 when it can't be created.
@@ -44,13 +44,14 @@ struct ListHolder;
 struct Platform;
 struct ProgramFiles;
 
-/// Takes hold of the list file for as long as the program runs. Ends the program when this user's
-/// own has it already, which then is in front. Tells the user when others can't be told. Raises 70
-/// when someone else has the list open, and 70 or 76 when its directory can't be opened.
+/// Takes hold of the list file for as long as the program runs. Ends the program when another one
+/// of this user has it already, which comes to the front. Tells the user when others can't see the
+/// hold. Raises 70 when someone else has the list open, and 70 or 76 when its directory can't be
+/// opened.
 void takeHoldOfList(Platform& platform, const ProgramFiles& files);
 
-/// To be called now and then: takes the hold again when it was lost, and tells the user when
-/// someone else has the list meanwhile.
+/// Takes the hold again when it was lost, and tells the user when someone else has the list by now.
+/// Call it now and then.
 void keepHoldOfList(Platform& platform, const ProgramFiles& files);
 
 /// "par Zoé sur PC-12".

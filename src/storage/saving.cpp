@@ -53,7 +53,7 @@ bool save(Platform& platform, SharedFile& file, const WriteContent& write) {
 
 namespace {
 
-/// A file of the previous list: it changes, and is what it was again unless all goes well.
+/// A file of the previous list. Its changes are undone unless all goes well.
 class PreviousFile {
  public:
     PreviousFile(Files& files, const std::wstring& path) : files_(files), path_(path) {
@@ -64,7 +64,7 @@ class PreviousFile {
         try {
             putBack();
         } catch (...) {
-            // What went wrong before is what the user is told of.
+            // The user is told about the first failure.
         }
     }
     PreviousFile(const PreviousFile&) = delete;
@@ -93,7 +93,7 @@ class PreviousFile {
     bool changed_ = false;
 };
 
-/// A list file that is about to go, and the marks kept of it.
+/// A list file that is about to be removed or replaced, with its kept marks.
 class LeavingList {
  public:
     LeavingList(Files& files, const ProgramFiles& programFiles)
@@ -110,7 +110,7 @@ class LeavingList {
         PreviousFile list(files_, previous_);
         PreviousFile marks(files_, keptMarksFile(previous_));
         if (hasLine_) list.become(list_);
-        // Without their list they are worth less than older ones with theirs.
+        // Marks without their list are worth less than older ones with theirs.
         if (hasMarks_ && (hasLine_ || !marks.isThere())) {
             marks.become(marks_);
         } else if (hasLine_ && marks.isThere()) {
@@ -127,7 +127,7 @@ class LeavingList {
         try {
             files_.remove(marks_);
         } catch (const RuntimeError&) {
-            // None, or they don't fit what is there now: nobody will be offered them.
+            // There are none, or they don't fit the list that is there now, and are never offered.
         }
     }
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-/// A setting of the user: where it is kept, and what holds while it is not there.
+/// A setting of the user: where it is kept, and its value while it isn't set.
 template <class Value>
 struct Setting {
     const wchar_t* application;
@@ -16,14 +16,14 @@ using NumberSetting = Setting<std::int16_t>;
 using TextSetting = Setting<const wchar_t*>;
 using SwitchSetting = Setting<bool>;
 
-/// Every setting there is. Adding one takes a line here and the one who uses it.
+/// All settings. A new one takes a line here and the code that uses it.
 namespace setting {
 
 namespace place {
 inline constexpr wchar_t kProgram[] = L"tarnwick";
 inline constexpr wchar_t kStartUp[] = L"startup";
 inline constexpr wchar_t kOptions[] = L"options";
-// The search-folder window keeps its place under names of its own.
+// The configuration window keeps its place under other names.
 inline constexpr wchar_t kSearchFolders[] = L"mervale";
 inline constexpr wchar_t kDirectoryLists[] = L"listerepert";
 }  // namespace place
@@ -48,8 +48,8 @@ inline constexpr NumberSetting kConfigurationTop{place::kSearchFolders, place::k
 inline constexpr NumberSetting kConfigurationLeft{place::kSearchFolders, place::kDirectoryLists,
                                                   L"leftpos4", kUsualLeft};
 
-// Where they stand in pixels of the virtual screen, which tells monitors of several resolutions
-// apart and reaches further: "TOP LEFT X Y", the first two as written under the keys above.
+// The same in pixels of the virtual screen, which are unambiguous on monitors of several
+// resolutions and reach further: "TOP LEFT X Y", the first two as under the keys above.
 inline constexpr TextSetting kSelectionPixels{place::kProgram, place::kStartUp, L"pixelpos", L""};
 inline constexpr TextSetting kExistingListPixels{place::kProgram, place::kStartUp, L"pixelpos2",
                                                  L""};
@@ -57,14 +57,14 @@ inline constexpr TextSetting kTrackingPixels{place::kProgram, place::kStartUp, L
 inline constexpr TextSetting kConfigurationPixels{place::kSearchFolders, place::kDirectoryLists,
                                                   L"pixelpos4", L""};
 
-// "0" or "1" for each of the tracking window's four options. The store does not tell the two
-// spellings apart.
+// "0" or "1" for each of the tracking window's four options. For the store both spellings are the
+// same.
 inline constexpr TextSetting kLoadingOptions{place::kProgram, place::kStartUp, L"regcheck",
                                              L"1111"};
 inline constexpr TextSetting kLoadingOptionsWritten{place::kProgram, place::kStartUp, L"RegCheck",
                                                     L"1111"};
 
-// The check marks of the system menus.
+// The switches of the system menus.
 inline constexpr SwitchSetting kAlwaysVisible{place::kProgram, place::kOptions, L"toujoursvisible",
                                               false};
 inline constexpr SwitchSetting kHotKeys{place::kProgram, place::kOptions, L"touches", false};
@@ -88,7 +88,7 @@ class Settings;
 /// Raises 13 for a stored text that is not a number, 6 for one outside 16 bits.
 std::int16_t valueOf(Settings& settings, const NumberSetting& setting);
 std::wstring valueOf(Settings& settings, const TextSetting& setting);
-/// Kept as "0" or "1"; any other text is no mark.
+/// Kept as "0" or "1"; any other text is false.
 bool valueOf(Settings& settings, const SwitchSetting& setting);
 
 void setValue(Settings& settings, const NumberSetting& setting, std::int16_t value);

@@ -36,7 +36,7 @@ std::int16_t withinSixteenBits(int length) {
 
 std::wstring pairText(int first, int second) { return decimal(first) + L' ' + decimal(second); }
 
-/// The pixels that were saved with these twips; none when they were not, or can't be read.
+/// The pixels saved with these twips; nothing when there are none, or they can't be read.
 std::optional<Point> pixelsSavedWith(const std::wstring& twips, std::wstring_view saved) {
     if (!saved.starts_with(twips + L' ')) return std::nullopt;
     saved.remove_prefix(twips.size() + 1);
@@ -48,8 +48,8 @@ std::optional<Point> pixelsSavedWith(const std::wstring& twips, std::wstring_vie
     }
 }
 
-/// Moves a window, and again when that took it to a monitor of another resolution: there it has
-/// another size, and a twip is another length.
+/// Moves a window, and once more if that took it to a monitor of another resolution, where it has
+/// another size and a twip another length.
 template <class Where>
 void move(Window& window, const Where& where) {
     const int dpi = window.dpi();

@@ -12,23 +12,23 @@ class Window;
 /// The windows whose places are kept.
 enum class PlacedWindow { Selection, ExistingList, Tracking, SearchFolders };
 
-/// Where the windows were left, in twips from the top left corner of the screen, 1440 to an inch at
-/// the window's own resolution; and in pixels, which count as long as the twips that were saved
-/// with them are still the saved ones.
+/// Where the windows were left: in twips from the top left corner of the screen, 1440 to an inch at
+/// the window's own resolution, and in pixels, which count as long as the twips saved with them
+/// haven't been changed.
 class WindowPlaces {
  public:
     explicit WindowPlaces(Settings& settings) : settings_(settings) {}
 
-    /// Reads every saved place; 1416, 2964 for one that is not there. Raises 13 for a stored text
-    /// that is not a number, 6 for one outside 16 bits.
+    /// Reads all saved places; 1416, 2964 for one that wasn't saved. Raises 13 for a stored text
+    /// that is no number, 6 for one outside 16 bits.
     void readAll();
     void read(PlacedWindow window);
 
-    /// Puts a window where the place read last says, whole within the nearest monitor's work area.
+    /// Puts a window in the place last read, but whole within the nearest monitor's work area.
     void restore(PlacedWindow which, Window& window) const;
 
-    /// Saves where a window stands now, for the next run to read back: values are kept within the
-    /// 16 bits that reading allows.
+    /// Saves where a window stands now. Values are limited to 16 bits, so that the next run can
+    /// read them.
     void save(PlacedWindow which, const Window& window);
 
  private:

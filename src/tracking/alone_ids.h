@@ -1,6 +1,6 @@
 #pragma once
 
-// The window that shows how far going on alone has come.
+// The window that shows how far the pass that goes on alone has come.
 #define IDD_ALONE 160
 
 #define IDC_ALONE_COUNT 1601

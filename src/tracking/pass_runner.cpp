@@ -15,7 +15,7 @@
 
 namespace {
 
-/// While it lives what is done is counted there.
+/// While it lives the documents are counted in `outcome`.
 class CountedIn {
  public:
     CountedIn(AloneOutcome*& counted, AloneOutcome& outcome) : counted_(counted) {
@@ -82,7 +82,7 @@ void PassRunner::read() {
 void PassRunner::start(Origin origin) {
     const bool opens = origin == Origin::Resumed ? resume() : pass_.start();
     settled([&] {
-        // What an earlier run kept is told as it holds now, or gone when it doesn't.
+        // What an earlier run kept is written as it holds now, or dropped.
         if (!opens) return endAt(Redraw::Anew);
         const bool allToDo = origin == Origin::LaunchedAfterDeclining;
         if (go(allToDo ? Redraw::AllToDo : Redraw::Anew)) cad_.bringForward();
@@ -99,7 +99,7 @@ bool PassRunner::resume() {
 bool PassRunner::offerMarks(const KeptState& kept) {
     const int changed = changedLines(pass_.list(), kept);
     if (changed == 0) return true;
-    // Only an explicit No: a box that could not be shown must not cost the marks.
+    // Only an explicit No drops them: a box that could not be shown must not.
     if (platform_.messageBoxes.show(keptMarksBox(changed)) != MessageBoxes::Answer::No) return true;
     marks_.forget();
     return false;
@@ -136,7 +136,7 @@ void PassRunner::end() { cad_.restoreWorkingDirectory(); }
 void PassRunner::advance(LineState mark) {
     settled([&] {
         if (pass_.pastEnd()) return;
-        // Nothing is open at a line that was left to do: it can only be skipped.
+        // Nothing is open at a line whose document did not open: it can only be skipped.
         if (stays_) mark = LineState::ToDo;
         const auto saved = mark == LineState::Done ? save() : Saved::Unknown;
         if (!saved) return;
@@ -153,7 +153,7 @@ void PassRunner::advance(LineState mark) {
 void PassRunner::stepBack() {
     settled([&] {
         if (pass_.current() < 0) return;
-        // It still counts as open: a document of the same path further up is taken for it.
+        // It still counts as open: a line above with the same path will not open it again.
         close();
         if (!pass_.stepBack()) return endAtTop();
         if (!go(Redraw::InPlace, Direction::Up)) return;
@@ -187,8 +187,8 @@ int PassRunner::documentsLeft() const {
 
 AloneOutcome PassRunner::goAlone(const std::function<bool()>& goesOn) {
     using End = AloneOutcome::End;
-    // Of 10,000 that Windows lets a program have by default ("GDI Objects", win32 sysinfo) the CAD
-    // application warns from about 85 % on (vendor's forum, thread 214732).
+    // Windows lets a program have 10,000 by default ("GDI Objects", win32 sysinfo). The CAD
+    // application warns from about 85 % of these on (vendor's forum, thread 214732).
     constexpr int kMostGdiObjects = 8'500;
     AloneOutcome outcome;
     const CountedIn counting(alone_, outcome);
@@ -227,7 +227,7 @@ void PassRunner::reset(const LineSelected& selected) {
 void PassRunner::resumeAt(int line) {
     settled([&] {
         if (pass_.resumeAt(line)) view_.allowAdvance();
-        // With nothing left to do below, the last line is opened again, whatever its state.
+        // With nothing to do from there on, the last line's document is opened, whatever its state.
         go(Redraw::Anew);
     });
 }

@@ -80,7 +80,7 @@ inline constexpr Tooltip kTrackingTooltips[] = {
     {IDC_FORM3_CMDDESELECT, L"Annule la sélection courante  "},
 };
 
-// The list takes the space of a larger window; its commands stay below it, the sequencer beside.
+// In a larger window the list grows. Its commands stay below it, the sequencer beside it.
 inline constexpr Anchor kTrackingAnchors[] = {
     {IDC_FORM3_LABEL2, Growth::Stretch, Growth::Stay},
     {IDC_FORM3_TXTETAT, Growth::Stretch, Growth::Stay},
@@ -116,7 +116,7 @@ inline constexpr Anchor kTrackingAnchors[] = {
     {IDC_FORM3_CMDSORTIE, Growth::Move, Growth::Move},
 };
 
-// The sequencer's narrow twins show no caption.
+// The sequencer's narrow twins have no captions.
 inline constexpr AccessibleName kTrackingNames[] = {
     {IDC_FORM3_LIST1, L"Liste courante de fichiers à traiter"},
     {IDC_FORM3_CMDMOINS1, L"Démasquer un niveau de l'arborescence"},

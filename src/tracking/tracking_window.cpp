@@ -91,7 +91,7 @@ void TrackingWindow::Form_Close() {
 }
 
 void TrackingWindow::CmdFichierListe_Click() {
-    // As many lines as the window says there are.
+    // The number of lines is the one that the window shows.
     runner_.save(numericValue(cptfichier1.text()));
 }
 

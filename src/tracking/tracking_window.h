@@ -16,8 +16,8 @@ struct Platform;
 struct ProgramFiles;
 struct Question;
 
-/// The tracking window: the work list, the document in progress, and the commands that lead the
-/// pass from one document to the next. It mirrors what its runner does.
+/// The tracking window: the work list, the document in progress, and the commands that take the
+/// pass from one document to the next. It shows what its runner does.
 class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
  public:
     using Origin = PassRunner::Origin;
@@ -56,7 +56,7 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
     void CmdRepA_Click();
     void CmdDeSelect_Click();
 
-    // The system menu: what is on or off, and the report.
+    // The system menu: switches, and the report.
     void ToujoursVisible_Click();
     void Touches_Click();
     void PremierPlan_Click();
@@ -66,13 +66,13 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
     void LaisserOuverts_Click();
     void References_Click();
 
-    /// The last mark of this run is undone.
+    /// Undoes the last mark of this run.
     void Revenir_Click();
-    /// The pass goes on alone, if the user wants it, until something stops it.
+    /// Asks, and lets the pass go on alone until something stops it.
     void Seul_Click();
 
     const Pass& pass() const { return runner_.pass(); }
-    /// Whether all marks of the pass will be offered at the next start.
+    /// Whether there are marks, all of which will be offered at the next start.
     bool keepsMarks() const { return runner_.keepsMarks(); }
 
  private:
@@ -82,8 +82,8 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
     std::wstring tickedOptions() const;
     void explain(RuntimeError& error) const override;
 
-    /// The pass takes over the line that NumFichCour names. Raises 13 when that is no number,
-    /// 6 outside 16 bits.
+    /// Makes the line that NumFichCour names the current one. Raises 13 when that is no number, 6
+    /// when it is outside 16 bits.
     void takePointer();
     void advance(LineState mark);
 
@@ -110,17 +110,17 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
     void eliminateSelection(const Question& question, Eliminate states);
 
     AloneOutcome goAlone(int documents);
-    /// Which document is worked on now, if the pass goes on alone.
+    /// Shows which document is being worked on, if the pass is going on alone.
     void showAlone();
-    /// Serves the windows between two documents. False when the user stops it.
+    /// Serves the windows between two documents. False when the user stops the pass.
     bool goesOn();
 
     void setAlwaysVisible(bool on);
     void setAllReleases(bool on);
-    /// What the pass does when the session says no.
+    /// Switches what the pass does when the session refuses something.
     void setPassOption(int itemId, bool on);
     void togglePassOption(int itemId);
-    /// They stay off when one is taken.
+    /// They stay off when another program has taken one.
     void setHotKeys(bool on);
     /// Raises 70, 75 or 76.
     void writeReport(const std::wstring& path);
@@ -130,7 +130,7 @@ class TrackingWindow : public ProgramWindow<TrackingWindow>, private PassView {
     CadSession& cad_;
     const ProgramFiles& files_;
     PassRunner runner_;
-    std::unique_ptr<AloneWindow> alone_;  ///< while the pass goes on alone
+    std::unique_ptr<AloneWindow> alone_;  ///< null unless the pass is going on alone
 
     Control &TxtEtat, &nbfich1, &cptfichier1, &NumFichCour;
     DisplayDepth NNiveau1;

@@ -1,4 +1,4 @@
-// The tracking window's way back, and its way on without a hand on it.
+// The tracking window's undo, and the pass that goes on alone.
 
 #include <memory>
 

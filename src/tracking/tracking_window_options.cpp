@@ -1,5 +1,4 @@
-// What the tracking window's system menu offers: how the pass is led while the CAD application is
-// in front, and the report.
+// What the tracking window's system menu offers: how the pass behaves, and the report.
 
 #include <algorithm>
 

@@ -2,10 +2,10 @@
 
 namespace {
 
-/// What the program and the system load from now on comes from Windows' own directory, never from
-/// beside the program, where anybody may have put a file of that name (SetDefaultDllDirectories).
-/// Before every other constructor: that of the stack's guard asks Windows' cryptography for a
-/// number, which loads its provider.
+/// From now on libraries are loaded from Windows' own directory, never from the program's, where
+/// anybody may have put a file of that name (SetDefaultDllDirectories). This runs before every
+/// other constructor, because the stack guard's asks Windows' cryptography for a random number,
+/// which loads a library.
 [[gnu::constructor(101)]] void loadFromTheSystemOnly() {
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
 }

@@ -10,17 +10,18 @@
 namespace {
 
 constexpr std::string_view kMagic = "Tarnwick reprise 2\n";
-/// Of the release before, which kept no remarks.
+/// The one of the release before, which kept no remarks.
 constexpr std::string_view kMagicWithoutRemarks = "Tarnwick reprise 1\n";
 constexpr std::size_t kHeaderSize = kMagic.size() + 8 + 8 + 4 + 8 + 4;
 
-// An entry's first byte: the state, and what follows. Its second one: the remark, and what follows.
+// An entry's first byte tells the state and what else follows, its second one the same for the
+// remark.
 constexpr unsigned kStateBits = 0x07;
-constexpr unsigned kManyLines = 0x08;  ///< the same for several lines
-constexpr unsigned kMarked = 0x10;     ///< when
-constexpr unsigned kOpened = 0x20;     ///< for how long
+constexpr unsigned kManyLines = 0x08;  ///< how many lines it is for follows
+constexpr unsigned kMarked = 0x10;     ///< the time of the mark follows
+constexpr unsigned kOpened = 0x20;     ///< how long the document was open follows
 constexpr unsigned kSavedShift = 6;
-constexpr unsigned kRemarkKind = 0x03;  ///< of the opening, and as much for the saving
+constexpr unsigned kRemarkKind = 0x03;  ///< two bits for the opening, then two for the saving
 constexpr unsigned kSavingShift = 2;
 constexpr unsigned kWarned = 0x10;
 
@@ -56,7 +57,8 @@ void appendEntry(std::string& bytes, const KeptLine& line, std::size_t many, std
     }
 }
 
-/// How many of the changed lines stand one below the other in the file and have become the same.
+/// How many of the changed lines, from the first on, follow one another in the file and have become
+/// the same.
 std::size_t sameFrom(std::span<const std::size_t> changed, std::span<const KeptLine> lines) {
     const auto isLike = [&](std::size_t i) {
         return changed[i] == changed[0] + i && lines[changed[i]] == lines[changed[0]];
@@ -66,7 +68,7 @@ std::size_t sameFrom(std::span<const std::size_t> changed, std::span<const KeptL
     return end;
 }
 
-/// What one record tells. Reading returns false for bytes that make no sense.
+/// Reads one record. The functions return false for bytes that make no sense.
 class RecordReader {
  public:
     RecordReader(std::string_view entries, std::int64_t base, bool withRemarks)
@@ -152,13 +154,13 @@ class RecordReader {
         return true;
     }
 
-    /// A clock that was set wrong must not take the mark with it.
+    /// A time that can't be right is dropped, so that a wrong clock doesn't cost the mark.
     static std::int64_t timeOrNone(std::int64_t time) {
         constexpr std::int64_t kYear10000 = 253'402'300'800;
         return time > 0 && time < kYear10000 ? time : 0;
     }
 
-    /// Wraps around rather than overflow, whatever the bytes say.
+    /// Wraps around, so that no bytes can make it overflow.
     static std::int64_t sum(std::int64_t a, std::int64_t b) {
         return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) +
                                          static_cast<std::uint64_t>(b));
@@ -172,7 +174,7 @@ class RecordReader {
     std::vector<Entry> entries_;
 };
 
-/// The entries of the next record; nothing when it is torn or not of this list.
+/// The entries of the next record; nothing when it is torn or belongs to another list.
 std::optional<std::string_view> takeRecord(std::string_view& bytes, std::uint32_t seed) {
     std::string_view rest = bytes;
     std::uint32_t length = 0;

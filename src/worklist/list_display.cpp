@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kMostBackslashes = 16;
 
-/// Just past the backslash of this zero-based rank, which must exist.
+/// The place after the backslash of this zero-based rank, which must exist.
 std::size_t afterBackslash(std::wstring_view path, int rank) {
     std::size_t next = 0;
     for (int i = 0; i <= rank; ++i) next = path.find(L'\\', next) + 1;
@@ -71,7 +71,7 @@ void addShownPath(std::wstring& line, std::wstring_view path, int depth) {
 std::wstring displayLine(int index, std::wstring_view label, std::wstring_view path, int depth) {
     std::wstring line = decimal(index + 1);
     if (line.size() < 4) line.insert(0, 4 - line.size(), L'0');
-    // Its room is made at once: that takes longer than the letters.
+    // Reserved at once, since allocation takes longer than copying.
     line.reserve(line.size() + 2 + label.size() + path.size());
     line += L"  ";
     line += label;
@@ -93,7 +93,7 @@ bool DisplayDepth::set(int levels) {
 
 namespace {
 
-/// The label of every line in use. A line of unknown state takes the label above it.
+/// The labels of all lines in use. A line of unknown state has the label of the line above.
 std::vector<std::wstring_view> labelsOf(const WorkList& list, bool allToDo) {
     std::vector<std::wstring_view> result;
     result.reserve(static_cast<std::size_t>(list.lineCount()));

@@ -15,7 +15,7 @@ constexpr int kReloadOffset = 10;
 constexpr std::string_view kBetween = "  ";
 constexpr std::string_view kLineEnd = "\r\n";
 
-/// How many bytes the characters of the code take.
+/// How many bytes the characters of the code have.
 std::size_t codeEnd(std::string_view line) {
     std::size_t end = 0;
     for (int characters = 0; characters < kCodeWidth; ++characters) {

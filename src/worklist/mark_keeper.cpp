@@ -86,7 +86,7 @@ KeptLines::KeptLines(const WorkList& list) : codes_(codesOf(list)), lines_(codes
 std::vector<std::size_t> KeptLines::follow(const WorkList& list) {
     const auto changed = list.lines.changedSince(changes_);
     changes_ = list.lines.changes();
-    // A list that is as long as before has lost none of its lines.
+    // A list that is as long as before has lost no line.
     if (changed && list.lineCount() == lineCount_) return followSome(list, *changed);
     return followAll(list);
 }
@@ -147,7 +147,7 @@ void MarkKeeper::begin(const ContentIdentity& listFile, const WorkList& list) {
     listFile_ = listFile;
     lines_ = KeptLines(list);
     writer_.emplace(listFile, lines_.all().size(), clock_.now());
-    behind_ = behind_ || written_ > 0;  // that was of another list file
+    behind_ = behind_ || written_ > 0;  // what is there belongs to another list file
     opening_.reset();
     trouble_ = false;
     told_ = false;
@@ -183,7 +183,7 @@ void MarkKeeper::settle(const WorkList& list) {
     if (lines_.allAsInFile()) {
         forget();
     } else {
-        // The marks on disk hold without this, too: the next start would ask once too often.
+        // Flushed later: should it get lost, the next start asks one question too many.
         put(changed, std::nullopt, RecordFile::Flush::Later);
     }
 }
@@ -192,14 +192,14 @@ void MarkKeeper::put(Lines changed, std::optional<std::int32_t> opening, RecordF
     const auto added = [&] {
         return written_ == 0 ? whole(opening) : writer_->record(changed, lines_.all(), opening);
     };
-    // Half of it may be there when it failed: then only a whole record can be read again.
+    // After a failure half of it may be there: then only a whole new record can be read.
     trouble_ = !(canAppend() && append(added(), flush)) && !replace(whole(opening));
     behind_ = trouble_;
     told_ = told_ && trouble_;
 }
 
 bool MarkKeeper::canAppend() const {
-    // A record that has grown past the list is written anew, without what is out of date.
+    // A record that has outgrown the list is written anew, without what is out of date.
     constexpr std::size_t kAlwaysEnough = 4096;
     return !behind_ && written_ <= std::max<std::size_t>(listFile_.length(), kAlwaysEnough);
 }

@@ -48,7 +48,7 @@ bool Pass::start() {
     takeBackInProgress(list_);
     int line = 0;
     while (line < list_.last && !list_.isToDo(line)) ++line;
-    // Strict on purpose: the last line is put in progress, but not opened.
+    // Less than, on purpose: the last line is put in progress, but not opened.
     if (line < list_.last) return startHere(line);
     if (line <= list_.last && list_.isToDo(line)) {
         list_.lines.edit(line)->code = LineState::InProgress;
@@ -82,13 +82,13 @@ bool Pass::advance(LineState state, Saved saved) {
         markLeft(state, saved);
     }
     const int next = nextToDo(list_, current_);
-    // The search reads the row that it stops at, past the last one, too: at the end of a list that
-    // fills the table that raises 9.
+    // The search reads the row at which it stops, even past the last line: that raises 9 at the end
+    // of a list that fills the table.
     static_cast<void>(list_.lines[next]);
     return startHere(next);
 }
 
-// A document that was saved before its mark was undone has been saved, whatever it is marked now.
+// A document saved before its mark was undone counts as saved, whatever mark it gets now.
 void Pass::markLeft(LineState state, Saved saved) {
     const Saved before = list_.lines[current_].history.saved;
     mark(current_, state, saved == Saved::Unknown ? before : saved);
@@ -123,7 +123,7 @@ void Pass::mark(int line, LineState state, Saved saved) {
     LineHistory& history = marked->history;
     marked->code = state;
     history.markedAt = state == LineState::ToDo ? 0 : clock_.now();
-    // A save that was refused since the document was opened is the last word on that.
+    // A save that was refused since the document was opened still counts as refused.
     const bool refused = saved == Saved::Unknown && history.remark.saving != Remark::Saving::Silent;
     history.saved = refused ? Saved::No : saved;
 }
@@ -225,7 +225,7 @@ std::string Pass::fileText(std::int32_t lineCount) { return formatListFile(list_
 void Pass::takeAsSaved() {
     const auto open = open_ ? lineOfFile(open_->fileLine) : std::nullopt;
     for (int i = 0; i <= list_.last; ++i) list_.lines.edit(i)->fileLine = i;
-    // The line of a document that is open may have been eliminated.
+    // The open document's line may have been eliminated.
     open ? void(open_->fileLine = *open) : open_.reset();
 }
 

@@ -9,7 +9,7 @@
 class Clock;
 struct KeptState;
 
-/// How far a pass has come: the lines no longer to do, of all.
+/// How far a pass has come: how many lines are done or seen, of all.
 struct PassProgress {
     int done = 0;
     int total = 0;
@@ -19,9 +19,8 @@ struct PassProgress {
 /// 0 of 0 when no line is in progress: the pass has not begun or has reached its end.
 PassProgress passProgress(const WorkList& list);
 
-/// A pass over the documents of a work list: the lines with their states, which of them is the
-/// current one, and the number that is shown of it. The calls to the CAD application stand between
-/// its functions, not in them.
+/// A pass over the documents of a work list: the lines with their states, the current line, and the
+/// number shown for it. It makes no calls to the CAD application: these come between its functions.
 class Pass {
  public:
     static constexpr int kNoLine = -1;
@@ -43,68 +42,70 @@ class Pass {
     /// Reads the text of a list file. False when it has no line. Raises 5, and 9 past 8001 lines;
     /// the error names the file and the line.
     bool read(std::string text, const std::wstring& listFile = {});
-    /// Gives the lines just read the states that were kept of them.
+    /// Gives the lines just read their kept states.
     void restore(const KeptState& kept);
 
-    // Where a pass begins. Each takes lines left in progress back to do, and is true when the
+    // Where a pass begins. Each sets lines left in progress back to do, and returns whether the
     // document of the current line is to be opened.
 
-    /// At the first line to do; but a list whose last line is the only one to do starts at its end.
+    /// At the first line to do. But a list whose last line is the only one to do begins at its end.
     bool start();
     /// At this line.
     bool startAt(int line);
     /// At the first line to do below this one, or at the end.
     bool startAfter(int line);
 
-    /// Makes another line the current one, states unchanged: the user may have moved the pointer.
+    /// Makes another line the current one without changing states: the user may have moved the
+    /// pointer.
     void moveTo(int line) { current_ = line; }
 
-    // Each of these returns whether a line is in progress now, whose document is to be opened.
+    // Each returns whether a line is in progress now, whose document is to be opened.
 
-    /// Gives the current line this state and goes to the next line to do, or to the end. Raises 9
-    /// at the end of a list that fills the table; the line has its state then.
+    /// Gives the current line this state, and goes to the next line to do or to the end. At the end
+    /// of a list that fills the table raises 9, once the line has its state.
     bool advance(LineState state, Saved saved = Saved::Unknown);
-    /// Takes the current line back to do and goes to the nearest line to do above; past the end
-    /// the search begins at the last line. Without one there is no current line.
+    /// Sets the current line back to do, and goes to the nearest line to do above; past the end the
+    /// search begins at the last line. When there is none, there is no current line.
     bool stepBack();
     bool change(const LineSelected& selected, LineState state);
     bool eliminate(const LineSelected& chosen, Eliminate states);
 
-    /// Puts the selected lines back to do and goes to the first line to do.
+    /// Sets the selected lines back to do, and goes to the first line to do.
     void reset(const LineSelected& selected);
-    /// Goes to the first line to do from `line` on; false when there is none: then the last line
-    /// is the current one, whatever its state.
+    /// Goes to the first line to do from `line` on. False when there is none: then the last line is
+    /// the current one, whatever its state.
     bool resumeAt(int line);
 
     enum class Direction { Down, Up };
-    /// The document of the current line did not open: it is left to do, and none is open.
+    /// The document of the current line did not open: the line is left to do, and none is open.
     void leaveToDo();
-    /// Goes on to the next line to do in this direction, or to the end of it.
+    /// Goes on to the next line to do in this direction, or to the end.
     bool passOver(Direction direction);
 
     /// Whether an advance of this run can be undone.
     bool canUndo() const { return !left_.empty(); }
-    /// Undoes the last advance: the line that it left is in progress again, at no time marked, and
-    /// the one in progress by now is to do. What was saved stays saved.
+    /// Undoes the last advance: the line that it left is in progress again, without a time of
+    /// marking, and the line now in progress is to do. What was saved stays saved.
     void undo();
-    /// No advance so far can be undone any more.
+    /// From now on no earlier advance can be undone.
     void forgetAdvances() { left_.clear(); }
 
-    /// The document of the current line is about to be opened; the one before is left.
+    /// The document of the current line is about to be opened, and the one before is no longer
+    /// open.
     void openCurrent();
-    /// What the session said while it opened the document of the current line.
+    /// Notes what the session said when it opened the document of the current line.
     void noteOpening(const Remark& remark);
-    /// What it said when it was to save that: how, and which number.
+    /// Notes what it said when asked to save that document: the kind of answer, and its number.
     void noteSaving(Remark::Saving saving, std::int32_t number);
-    /// The document that is open is closed: how long it was open is noted.
+    /// The open document is closed: notes how long it was open.
     void closeOpen();
-    /// Notes how long the document that is open has been so by now.
+    /// Notes how long the open document has been open so far.
     void countOpenTime();
 
-    /// The text of the list file for the first `lineCount` lines; flagged lines get a leading 1,
-    /// once more at each call. Raises 9 past the table.
+    /// The text of the list file for the first `lineCount` lines. Each call puts a 1 before the
+    /// codes of flagged lines. Raises 9 past the table.
     std::string fileText(std::int32_t lineCount);
-    /// From now on the list file holds the lines as they are.
+    /// The list file now holds the lines as they are.
     void takeAsSaved();
 
  private:
@@ -113,7 +114,7 @@ class Pass {
     bool startHere(int line);
     void show(int line);
     bool reestablish();
-    /// Carries out an edit, whose answer it gives; one that changed something forgets the advances.
+    /// Carries out an edit and returns its answer. If something changed, forgets the advances.
     template <class Edit>
     bool edited(const Edit& edit);
 
@@ -126,6 +127,6 @@ class Pass {
     WorkList list_;
     int current_ = kNoLine;
     int shownNumber_ = 0;
-    std::vector<int> left_;  ///< the lines that were left by the advances that can be undone
+    std::vector<int> left_;  ///< the lines left by the advances that can be undone
     std::optional<OpenDocument> open_;
 };

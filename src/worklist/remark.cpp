@@ -30,7 +30,7 @@ constexpr CodeWords kOpeningErrors[] = {
     {16777216, "service en ligne non connecté"},
 };
 
-// swFileLoadWarning_e: those that a draughtsman can do something about.
+// swFileLoadWarning_e: the warnings that matter to a draughtsman.
 constexpr CodeWords kWarnings[] = {
     {2, "Lecture seule"},
     {4, "Utilisé par un autre"},
@@ -80,7 +80,7 @@ std::string codeText(std::int32_t code, std::span<const CodeWords> table) {
     return numbered(words, code);
 }
 
-/// Of a call that failed, or of a document that was not given.
+/// The text for a call that failed, or a document that was not returned.
 std::string errorText(std::int32_t number) {
     constexpr std::int32_t kNoObject = 91;
     return numbered(number == kNoObject ? "document non rendu" : "l'appel a échoué", number);

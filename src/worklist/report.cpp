@@ -16,7 +16,7 @@ constexpr std::string_view kHead =
 /// In the order of LineState.
 constexpr std::string_view kStates[] = {"A faire", "Fait", "Vu", "En cours"};
 
-/// A line of unknown state has that of the line above it, as where the list is shown.
+/// A line of unknown state has the state of the line above it, as in the list shown.
 std::string_view stateName(const StateCode& code, std::string_view above) {
     const LineState state = code.shown();
     return state == LineState::Other ? above : kStates[static_cast<std::size_t>(state)];
@@ -31,13 +31,13 @@ class Rows {
         if (field.find_first_of(";\"\r\n") != std::string_view::npos) return addQuoted(field);
         text_ += field;
     }
-    /// As text, whatever a spreadsheet would make of its beginning: a formula, above all.
+    /// Adds a field that a spreadsheet must not take for a formula.
     void addText(std::string_view field) {
         constexpr std::string_view kFormulaSigns = "=+-@\t\r";
         const bool asFormula = !field.empty() && kFormulaSigns.find(field[0]) != field.npos;
         add(asFormula ? std::string("'").append(field) : field);
     }
-    /// With zeros before it up to so many digits.
+    /// With leading zeros up to so many digits.
     void add(int number, std::size_t digits = 1) {
         const std::string text = std::to_string(number);
         text_.append(digits - std::min(digits, text.size()), '0');

@@ -17,7 +17,7 @@ bool isOf(LineState state, Eliminate states) {
 
 std::optional<int> firstOf(const WorkList& list, LineState state) {
     int i = 0;
-    // The row past the last is read, too: in a full table without a match that raises 9.
+    // Reads the row past the last line, too: that raises 9 in a full table without a match.
     while (list.lines[i].code != state && i <= list.last) ++i;
     if (i > list.last) return std::nullopt;
     return i;

@@ -7,7 +7,7 @@ template <class Interface>
 class ComPtr {
  public:
     ComPtr() = default;
-    /// One reference more to an object that someone else holds, too.
+    /// Adds a reference of its own to an object.
     explicit ComPtr(Interface* object) : object_(object) {
         if (object_) object_->AddRef();
     }
@@ -25,7 +25,7 @@ class ComPtr {
     Interface* operator->() const { return object_; }
     explicit operator bool() const { return object_ != nullptr; }
 
-    /// Where a function puts the reference that it gives. The one held before is given up.
+    /// Where a function puts the reference that it returns. The one held before is released.
     Interface** put() {
         *this = ComPtr();
         return &object_;

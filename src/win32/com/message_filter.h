@@ -6,7 +6,7 @@
 
 class Patience;
 
-/// What COM asks us while a call to another program is out (the IMessageFilter interface).
+/// What COM asks the program while a call to another one is out (the IMessageFilter interface).
 /// Registered for the thread as long as it lives.
 class MessageFilter final : public IMessageFilter {
  public:
@@ -21,11 +21,11 @@ class MessageFilter final : public IMessageFilter {
 
     DWORD STDMETHODCALLTYPE HandleInComingCall(DWORD type, HTASK caller, DWORD elapsed,
                                                LPINTERFACEINFO information) override;
-    /// COM waits and repeats the call for us as long as our patience lasts; then the refusal goes
-    /// to the caller, who asks the user. Systems that don't ask leave it to the caller altogether.
-    /// What has elapsed is since the call went out, not since it was refused, and means nothing.
+    /// Has COM wait and repeat the call as long as our patience lasts; then the refusal goes to the
+    /// caller, who asks the user. Systems that don't call this leave all of it to the caller.
+    /// `elapsed` counts from the call, not from its refusal, and is ignored.
     DWORD STDMETHODCALLTYPE RetryRejectedCall(HTASK callee, DWORD elapsed, DWORD reason) override;
-    /// COM leaves what came in the queue, where it would wait for the call.
+    /// Handles what came: COM would leave it in the queue until the call returns.
     DWORD STDMETHODCALLTYPE MessagePending(HTASK callee, DWORD elapsed, DWORD type) override;
 
  private:

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "common/text.h"
+#include "rules/late_binding.h"
 
 namespace {
 
@@ -60,8 +61,8 @@ Value valueIn(const VARIANT& variant) {
     }
 }
 
-/// The arguments of one call as Invoke wants them: the last one first. By-reference arguments
-/// are written back by `writeBack`, after the call.
+/// The arguments of one call as Invoke wants them, the last one first. `writeBack` writes back
+/// those passed by reference, after the call.
 class CallArguments {
  public:
     explicit CallArguments(std::span<const Argument> arguments) : variants_(arguments.size()) {
@@ -121,7 +122,7 @@ class CallArguments {
     std::vector<OwnedVariant> variants_;
 };
 
-/// What the server said of its failure. Freed when read.
+/// How the server explains its failure.
 struct ServersWords : EXCEPINFO {
     ServersWords() : EXCEPINFO{} {}
     ~ServersWords() {
@@ -180,7 +181,7 @@ CallResult WinObject::invoke(std::int32_t member, Access access,
     DISPPARAMS parameters{variants.data(), put ? &named : nullptr, variants.count(), put ? 1U : 0U};
     OwnedVariant result;
     ServersWords words;
-    // A dialog that the server opens during the call may come forward, if that is ours to give.
+    // Lets a dialog that the server opens during the call come forward, if we may grant that.
     CoAllowSetForegroundWindow(dispatch_.get(), nullptr);
     const HRESULT outcome =
         dispatch_->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
@@ -222,7 +223,7 @@ CallResult WinObjectServers::runningNamed(const std::wstring& beginning,
         result = table->GetObject(each.get(), found.put());
         if (SUCCEEDED(result)) result = found->QueryInterface(IID_IDispatch, dispatch.putVoid());
         if (dispatch) object = std::make_shared<WinObject>(dispatch);
-        // One that died stays in the table for a while.
+        // An object whose program has died stays in the table for a while.
         if (object || isBusy(result)) return result;
     }
     return MK_E_UNAVAILABLE;

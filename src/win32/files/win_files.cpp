@@ -17,8 +17,8 @@
 
 namespace {
 
-/// File systems without identities of this size give none or all bits (File System Control Codes,
-/// 128-bit file ID).
+/// File systems without identities of this size return all bits cleared or all set (File System
+/// Control Codes, 128-bit file ID).
 bool isGiven(const FILE_ID_128& id) {
     const auto all = [&](BYTE value) {
         return std::ranges::all_of(id.Identifier, [&](BYTE one) { return one == value; });
@@ -71,16 +71,16 @@ static_assert(attribute::kHidden == FILE_ATTRIBUTE_HIDDEN &&
               attribute::kReparsePoint == FILE_ATTRIBUTE_REPARSE_POINT &&
               kMountPointTag == IO_REPARSE_TAG_MOUNT_POINT);
 
-/// A read-only file can be neither replaced nor deleted (the DeleteFile function). What can't be
-/// changed here is told by the call that follows.
+/// A read-only file can be neither replaced nor deleted (the DeleteFile function). When this fails
+/// the call that follows reports it.
 void makeWritable(const std::wstring& file) {
     const DWORD attributes = GetFileAttributesW(longPath(file).c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_READONLY)) return;
     SetFileAttributesW(longPath(file).c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
 }
 
-/// Others may do with it what they like meanwhile. One that a program shares with nobody is waited
-/// for: scanners and backups let go of it soon.
+/// Others may do with the file what they like meanwhile. One that a program shares with nobody is
+/// waited for: scanners and backups let go of it soon.
 UniqueHandle openToRead(const std::wstring& path) {
     constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const std::wstring where = longPath(path);
@@ -239,7 +239,7 @@ void CALLBACK run(PTP_CALLBACK_INSTANCE, void* job) {
 bool PoolWorkers::start(std::function<void()> job) {
     TP_CALLBACK_ENVIRON environment;
     InitializeThreadpoolEnvironment(&environment);
-    // A file server may take its time: the pool then makes another thread for the next job.
+    // File servers can be slow: the pool then adds a thread for the next job.
     SetThreadpoolCallbackRunsLong(&environment);
     auto kept = std::make_unique<Job>(std::move(job));
     if (!TrySubmitThreadpoolCallback(run, kept.get(), &environment)) return false;

@@ -5,7 +5,7 @@
 #include "ports/files.h"
 #include "ports/search.h"
 
-/// The Windows calls that tell who a directory is; a test answers them as other file systems do.
+/// The Windows calls that identify a directory; a test answers them as other file systems do.
 class IdentityCalls {
  public:
     virtual ~IdentityCalls() = default;
@@ -13,15 +13,15 @@ class IdentityCalls {
     virtual bool narrow(HANDLE directory, BY_HANDLE_FILE_INFORMATION& information);
 };
 
-/// The identity of an open directory: by 128 bits where the file system has them, since 64 do not
-/// tell directories of ReFS apart, else by 64 (FILE_ID_INFO and BY_HANDLE_FILE_INFORMATION
+/// The identity of an open directory: 128 bits where the file system has them, since 64 do not
+/// distinguish directories of ReFS, otherwise 64 (FILE_ID_INFO and BY_HANDLE_FILE_INFORMATION
 /// structures). False, with the last error set, when it has neither.
 bool identify(HANDLE directory, DirectoryId& id, IdentityCalls& calls);
 
 class WinFiles : public Files {
  public:
     std::string readBytes(const std::wstring& path) override;
-    /// The same of a file that is no larger than so many bytes; 75 for a larger one.
+    /// The same; raises 75 for a file of more than so many bytes.
     std::string readAtMost(const std::wstring& path, std::int64_t most);
     void replace(const std::wstring& path, const WriteContent& write) override;
     PathKind kindOf(const std::wstring& path) override;
@@ -36,10 +36,10 @@ class WinFiles : public Files {
     std::wstring currentDirectory(wchar_t drive) override;
 };
 
-/// What Windows says of a name in a directory.
+/// An entry of a directory, as Windows lists it.
 DirectoryEntry entryOf(const WIN32_FIND_DATAW& found);
 
-/// The threads of the system's own pool: there are none while nothing is to be done.
+/// The system's thread pool, which has no threads while there is nothing to do.
 class PoolWorkers : public Workers {
  public:
     bool start(std::function<void()> job) override;

@@ -63,11 +63,11 @@ std::uint32_t WinReplacementSteps::openAlone(const std::wstring& path) {
 
 namespace {
 
-/// Far more than any record grows to: another's file must not take all memory at a start.
+/// Far more than any record needs: a foreign file must not use up the memory.
 constexpr std::int64_t kMostRecordBytes = 64 << 20;
 
-/// Open as long as records are added, so that each costs no more than its own bytes. Others may
-/// read it meanwhile, but neither write, move nor delete it: later marks would go with it.
+/// Stays open while records are added, so that each costs no more than its own bytes. Meanwhile
+/// others may read the file, but neither write, move nor delete it: later marks would be lost.
 class WinRecordFile : public RecordFile {
  public:
     explicit WinRecordFile(const std::wstring& path) : path_(path), longPath_(longPath(path)) {}
@@ -85,7 +85,7 @@ class WinRecordFile : public RecordFile {
     void replace(std::string_view bytes) override {
         file_.reset(INVALID_HANDLE_VALUE);
         WinFiles().replace(path_, [&](const ByteSink& file) { file(bytes); });
-        // For reading as well: a file server may otherwise refuse a write now and then (the
+        // For reading as well: otherwise a file server may refuse a write now and then (the
         // CreateFile function).
         const DWORD error = openNow(GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ);
         if (error != 0) throw fileError(error, path_);
@@ -93,7 +93,7 @@ class WinRecordFile : public RecordFile {
     }
 
     void append(std::string_view bytes, Flush flush) override {
-        // Programs of other systems, on the server that keeps it, take it away all the same.
+        // On a server, programs of other systems can delete it all the same.
         require(GetFileAttributesW(longPath_.c_str()) != INVALID_FILE_ATTRIBUTES);
         DWORD written = 0;
         const auto size = static_cast<DWORD>(bytes.size());
@@ -104,7 +104,7 @@ class WinRecordFile : public RecordFile {
     bool clear() override {
         if (isValid(file_)) return empty(file_.get());
         if (DeleteFileW(longPath_.c_str()) || GetLastError() == ERROR_FILE_NOT_FOUND) return true;
-        // Held by another program for the moment: an empty record offers nothing, either.
+        // Another program holds it for the moment. An empty record offers nothing, either.
         return isValid(UniqueHandle(CreateFileW(longPath_.c_str(), GENERIC_WRITE, FILE_SHARE_READ,
                                                 nullptr, TRUNCATE_EXISTING, 0, nullptr)));
     }
@@ -120,7 +120,7 @@ class WinRecordFile : public RecordFile {
         return SetFilePointerEx(file, {}, nullptr, FILE_BEGIN) && SetEndOfFile(file);
     }
 
-    /// As Windows' error number.
+    /// Returns Windows' error number.
     DWORD openNow(DWORD access, DWORD shared) {
         const auto open = [&]() -> DWORD {
             file_.reset(CreateFileW(longPath_.c_str(), access, shared, nullptr, OPEN_EXISTING,

@@ -6,7 +6,7 @@
 #include "rules/windows_files.h"
 #include "win32/process/handles.h"
 
-/// The steps as Windows takes them; a test makes them fail.
+/// The steps carried out by Windows; a test makes them fail.
 class WinReplacementSteps : public ReplacementSteps {
  public:
     bool isProtected(const std::wstring& path) override;

@@ -7,7 +7,7 @@
 /// Translates and dispatches a message.
 void dispatchMessage(MSG& message);
 
-/// Handles the messages that wait in a range (0, 0: all of them). False when the program's end was
-/// among them, which stays queued.
+/// Handles the waiting messages of a range (0, 0: all). False when WM_QUIT was among them, which
+/// stays queued.
 bool handleWaitingMessages(UINT first = 0, UINT last = 0,
                            const std::function<void(MSG&)>& handle = dispatchMessage);

@@ -5,8 +5,8 @@
 #include "common/numbers.h"
 #include "common/runtime_error.h"
 
-/// What Windows gave when it was asked for something that the program can't do without. Raises 51
-/// with its own error number when it gave nothing; `what` says what it was asked for, in French.
+/// Passes on what Windows returned for something that the program can't do without. When that is
+/// nothing, raises 51 with Windows' error number; `what` names the thing in French.
 template <class Given>
 Given require(Given given, const wchar_t* what) {
     if (given) return given;
@@ -19,8 +19,9 @@ inline void requireSuccess(HRESULT result, const wchar_t* what) {
     require(SUCCEEDED(result), what);
 }
 
-/// A function that not every Windows has, or of a library that isn't needed to start: loaded from
-/// the system's directory, never from beside the program, and kept. Null where it is missing.
+/// A function that not every Windows has, or whose library isn't needed at the start. The library
+/// is loaded from the system's directory, never from the program's, and stays loaded. Null where
+/// the function is missing.
 template <class Function>
 Function* systemFunction(const wchar_t* library, const char* name) {
     const HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);

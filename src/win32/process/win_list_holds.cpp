@@ -8,10 +8,10 @@
 
 namespace {
 
-// Two names, of at most 256 and 63 characters.
+// For two names, of at most 256 and 63 characters.
 constexpr DWORD kMostBytes = 2000;
 
-/// Reading and writing both, although nothing is read: a file server may otherwise refuse a write
+/// Opened for reading as well, although nothing is read: otherwise a file server may refuse a write
 /// now and then (the CreateFile function). Nothing is written yet, in case it is a link.
 UniqueHandle create(const std::wstring& path) {
     constexpr DWORD kFlags =
@@ -20,14 +20,14 @@ UniqueHandle create(const std::wstring& path) {
                                     nullptr, OPEN_ALWAYS, kFlags, nullptr));
 }
 
-/// Whether a file has its bytes to itself, under no other name.
+/// Whether a file is no link, and has no second name.
 bool isPlain(HANDLE file) {
     BY_HANDLE_FILE_INFORMATION facts{};
     return GetFileInformationByHandle(file, &facts) && facts.nNumberOfLinks == 1 &&
            !(facts.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT);
 }
 
-/// A file that is to be deleted can be opened by those only who share its deletion.
+/// A file that deletes itself can be opened only by those who allow its deletion.
 UniqueHandle open(const std::wstring& path, DWORD alsoShared) {
     return UniqueHandle(CreateFileW(path.c_str(), GENERIC_READ,
                                     FILE_SHARE_READ | FILE_SHARE_DELETE | alsoShared, nullptr,
@@ -36,7 +36,7 @@ UniqueHandle open(const std::wstring& path, DWORD alsoShared) {
 
 DWORD errorOf(const UniqueHandle& file) { return isValid(file) ? 0 : GetLastError(); }
 
-/// What can't be written is missing in what others are told, no more.
+/// Should this fail, others are told less, and that is all.
 void write(HANDLE file, const ListHolder& names) {
     std::string bytes;
     appendUtf8(bytes, names.user + L"\r\n" + names.machine + L"\r\n");
@@ -59,7 +59,7 @@ HoldFileState HoldFile::take(const ListHolder& us) {
             write(file_.get(), us);
             return HoldFileState::Ours;
         }
-        // The link goes with its handle, and what it leads to stays as it is.
+        // Closing the handle deletes the link, and leaves what it leads to as it is.
         file_.reset(INVALID_HANDLE_VALUE);
         return HoldFileState::Busy;
     }
@@ -113,10 +113,10 @@ namespace {
 
 struct Search {
     DWORD process;
-    HWND found = nullptr;  ///< disabled: only as long as no other is found
+    HWND found = nullptr;  ///< a disabled one only until an enabled one is found
 };
 
-/// A window or box, and neither a tooltip nor a list that drops down.
+/// Whether it is a window or a box, rather than a tooltip or a drop-down's list.
 bool isForUsers(HWND window) {
     return IsWindowVisible(window) &&
            (GetWindowLongW(window, GWL_STYLE) & WS_CAPTION) == WS_CAPTION &&
@@ -134,7 +134,7 @@ BOOL CALLBACK look(HWND window, LPARAM parameter) {
 }
 
 /// Brings the window of another program to the front that its user would work in: the uppermost
-/// one that is enabled, out of the taskbar if it is minimised. False when it shows none.
+/// enabled one, restored if it is minimised. False when it shows none.
 bool raiseProgram(DWORD process) {
     Search search{process};
     if (process != 0) EnumWindows(look, reinterpret_cast<LPARAM>(&search));
@@ -179,7 +179,7 @@ class Steps : public HoldSteps {
     bool hasFile() override { return file_.isOpen(); }
     void pause() override {
         Sleep(kHoldPause);
-        // The thread has a window of COM's: what others send to it must not wait
+        // COM has a window on this thread: messages that others send to it must not wait
         // (the WaitForSingleObject function).
         MSG message;
         PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);

@@ -10,19 +10,20 @@
 #include "rules/hold_protocol.h"
 #include "win32/process/handles.h"
 
-/// The file that tells other users and machines who has a list open: hidden, beside the list, held
-/// open against writers. The system deletes it when its program ends, however it does; one that a
-/// power cut left is nobody's, and taken over. What a link leads to is never written.
+/// The file that tells other users and machines who has a list open: hidden, beside the list, and
+/// kept open so that nobody else can write to it. The system deletes it when its program ends,
+/// however that happens; one left by a power cut is nobody's, and is taken over. What a link leads
+/// to is never written.
 class HoldFile {
  public:
     explicit HoldFile(const std::wstring& path);
 
-    /// Creates it and puts these names in.
+    /// Creates it and writes these names into it.
     HoldFileState take(const ListHolder& us);
-    /// Whether what was taken is still open, on a server as well.
+    /// Whether the file taken is still open, on its server, too.
     bool isOpen() const;
 
-    /// The names in a file that another program has.
+    /// The names in the file of another program.
     ListHolder holder() const;
 
  private:
@@ -30,19 +31,19 @@ class HoldFile {
     UniqueHandle file_{INVALID_HANDLE_VALUE};
 };
 
-/// Which program of a session has something for itself, under a name that they agree on. The
-/// hold goes with its program, however that ends: the system then abandons the mutex (Mutex
+/// Tells which program of a Windows session has something for itself, under a name that they agree
+/// on. A hold ends with its program, however that ends: the system abandons the mutex (Mutex
 /// Objects).
 class SessionHold {
  public:
-    /// `name` without backslashes. Other sessions may use it, too (Kernel object namespaces).
+    /// `name` has no backslashes. Other sessions may use the same name (Kernel object namespaces).
     explicit SessionHold(const std::wstring& name);
     ~SessionHold();
     SessionHold(const SessionHold&) = delete;
     SessionHold& operator=(const SessionHold&) = delete;
 
-    /// Whether this program has the hold now. True, too, when the objects belong to another user
-    /// of the session: nothing can be learned from them.
+    /// Takes the hold. Returns whether this program has it now, and true as well when the objects
+    /// belong to another user of the session, since they tell nothing.
     bool take();
 
     /// The process that has the hold; 0 while it hasn't said so.
@@ -61,7 +62,8 @@ class SessionHold {
 
 class Files;
 
-/// Holds on lists: in the user's session by a mutex, between machines by a file beside the list.
+/// Holds on lists: by a mutex within the user's Windows session, between machines by a file beside
+/// the list.
 class WinListHolds : public ListHolds {
  public:
     explicit WinListHolds(Files& files);
@@ -76,7 +78,7 @@ class WinListHolds : public ListHolds {
             : session(name), file(holdFile) {}
 
         SessionHold session;
-        // Goes first: who gets the session's hold then finds no file any more.
+        // Destroyed first, so that whoever gets the session's hold finds no file left.
         HoldFile file;
     };
 

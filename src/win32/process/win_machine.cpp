@@ -11,7 +11,7 @@
 
 namespace {
 
-// Steps of 100 ns since the beginning of 1601 (the FILETIME structure).
+// Windows counts in steps of 100 ns from the beginning of 1601 (the FILETIME structure).
 constexpr std::int64_t kStepsPerSecond = 10'000'000;
 constexpr std::int64_t kFrom1601To1970 = 11'644'473'600;
 
@@ -27,7 +27,7 @@ std::int64_t WinClock::now() const {
 
 std::int64_t WinClock::ticks() const { return static_cast<std::int64_t>(GetTickCount64()); }
 
-// By whether that day was in summer time, not by whether today is.
+// By the rules of that day, whether or not it is summer time now.
 LocalTime WinClock::local(std::int64_t time) const {
     const std::int64_t steps = (time + kFrom1601To1970) * kStepsPerSecond;
     const FILETIME fileTime{static_cast<DWORD>(steps), static_cast<DWORD>(steps >> 32)};
@@ -74,11 +74,11 @@ void RegistrySettings::write(const std::wstring& application, const std::wstring
 
 namespace {
 
-/// A function of Windows that puts the path it makes of another into a buffer, and tells the size
-/// it needs when that is too small. 0: it failed.
+/// A function of Windows that makes a path of another one in a buffer. Returns the size it needs
+/// when the buffer is too small, 0 when it fails.
 using PathMaker = DWORD (*)(const wchar_t* path, wchar_t* buffer, DWORD size);
 
-/// The path itself where none can be made of it.
+/// The path as it was when the function fails.
 std::wstring made(PathMaker maker, const std::wstring& path) {
     std::wstring result;
     DWORD length = maker(path.c_str(), nullptr, 0);

@@ -21,16 +21,15 @@ class RegistrySettings : public Settings {
                const std::wstring& key, const std::wstring& value) override;
 };
 
-/// The program's own, without a trailing backslash.
+/// The program's own directory, without a trailing backslash.
 std::wstring programDirectory();
 
-/// The files that the command line names after the program, by their full paths: relative ones are
-/// taken from the current directory, short forms of names made long. What is no path at all stays
-/// as it is.
+/// The files that the command line names after the program, by their full paths: relative to the
+/// current directory, short names made long. What is no path stays as it is.
 std::vector<std::wstring> namedFiles();
 
 class WinPower : public Power {
  public:
-    /// Holds for the thread that asks for it, and while that lives.
+    /// Lasts as long as the calling thread, at most.
     void keepAwake(bool awake) override;
 };

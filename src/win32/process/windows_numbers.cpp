@@ -1,4 +1,4 @@
-// The core names Windows' numbers without its headers: here the compiler holds them against them.
+// The core names Windows' numbers without its headers. Here the compiler compares the two.
 
 #include <windows.h>
 

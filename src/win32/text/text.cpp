@@ -13,7 +13,7 @@ void makeUpperCase(std::wstring& text) {
 
 namespace {
 
-/// The system's own code page: GetACP would name UTF-8, which our manifest asks for.
+/// The system's own code page. GetACP would return UTF-8, which our manifest asks for.
 UINT systemCodePage() {
     DWORD codePage = 0;
     GetLocaleInfoW(LOCALE_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,
@@ -55,7 +55,7 @@ void appendUtf8(std::string& utf8, std::wstring_view text) {
                                [](wchar_t c) { return static_cast<char>(c); });
         return;
     }
-    constexpr std::size_t kMostBytes = 3;  // of a unit of UTF-16
+    constexpr std::size_t kMostBytes = 3;  // for each unit of UTF-16
     utf8.resize(before + kMostBytes * text.size());
     const int size = WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, text.data(),
                                          static_cast<int>(text.size()), utf8.data() + before,

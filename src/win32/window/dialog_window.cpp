@@ -13,7 +13,7 @@
 
 namespace {
 
-// No virtual key: such are the timers of hot keys that are held.
+// No virtual-key code: those are the timers of held hot keys.
 constexpr UINT_PTR kTimer = 0x100;
 
 }  // namespace
@@ -53,8 +53,8 @@ void registerWindowClass() {
 
 HWND firstControl(HWND window) { return GetNextDlgTabItem(window, nullptr, FALSE); }
 
-/// Pages are no windows of their own: on a window of another colour than the tab strip's they would
-/// stand out of its frame. So the window has that colour all over.
+/// Tab pages are no windows of their own: on a window of another colour the tab strip's frame would
+/// stand out. So the whole window takes the tab strip's colour.
 void colourAsTabPages(HWND window) {
     if (!FindWindowExW(window, nullptr, WC_TABCONTROLW, nullptr)) return;
     static const auto enableTexture =
@@ -68,8 +68,8 @@ HWND makeDialog(int dialogId, DLGPROC procedure) {
         L"une fenêtre");
 }
 
-/// Windows would resize the window and its controls, too, and undo what we do. A function of 1703,
-/// which Wine lacks.
+/// Otherwise Windows would resize the window and its controls as well, and undo what we do. The
+/// function exists since Windows 10 1703, and Wine lacks it.
 void leaveResolutionToUs(HWND window) {
     using SetBehavior = BOOL WINAPI(HWND, DIALOG_DPI_CHANGE_BEHAVIORS, DIALOG_DPI_CHANGE_BEHAVIORS);
     static const auto setBehavior =
@@ -111,7 +111,7 @@ bool DialogWindow::isShown() const { return IsWindowVisible(window_.get()); }
 
 bool DialogWindow::canUse(int controlId) const {
     HWND control = item(controlId);
-    // A separator of the menu has the window's own number, and is grey.
+    // The menu's separators have the window's own number, and are greyed.
     if (!control) return controlId == kTheWindow || !isGreyed(window_.get(), controlId);
     return IsWindowVisible(control) && IsWindowEnabled(control);
 }
@@ -124,7 +124,7 @@ DialogWindow* DialogWindow::ofEvents(const EventSink& events) {
     return nullptr;
 }
 
-// A button acts; the search belongs to what it looks for and where.
+// Buttons start commands: a search is replaced by the controls that say what to look for and where.
 bool DialogWindow::asksForSearch(HWND part) const {
     HWND control = part ? controlHolding(window_.get(), part) : nullptr;
     if (!control || classOf(control) == ControlClass::Button) return false;

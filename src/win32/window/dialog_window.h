@@ -20,8 +20,7 @@
 #include "win32/window/window_keys.h"
 #include "win32/window/window_place.h"
 
-/// The events that a window raises once the message is done with that is being handled, yet before
-/// any other.
+/// Events that a window raises as soon as the current message is done with, before any other event.
 class DeferredEvents {
  public:
     explicit DeferredEvents(HWND window) : window_(window) {}
@@ -29,12 +28,12 @@ class DeferredEvents {
     void add(int controlId, Event event);
     void drop(int controlId, Event event);
     bool empty() const { return events_.empty(); }
-    /// Hands them over: their time has come.
+    /// Hands them over to be raised.
     std::vector<std::pair<int, Event>> take();
 
-    /// Whether a timer of the window is the one that they wait for. While the mouse button is down,
-    /// they wait on: the end of a press that took the focus elsewhere has them raised first, and is
-    /// still this press.
+    /// Whether a timer of the window is theirs and their time has come. They wait while the mouse
+    /// button is down: when a press takes the focus elsewhere, its end raises them first, as part
+    /// of that press.
     static bool isDue(UINT_PTR timer);
 
  private:
@@ -76,7 +75,7 @@ class DialogWindow : public Window, private EventSource {
     void hide() override;
     void unload() override;
 
-    /// The window whose events go there, if it is one of these.
+    /// The window that sends its events there; null when none does.
     static DialogWindow* ofEvents(const EventSink& events);
     HWND handle() const { return window_.get(); }
     /// Whether a control, or a part of one, asks for a newer search while the window searches.
@@ -104,7 +103,7 @@ class DialogWindow : public Window, private EventSource {
     void onHotKey(int id, UINT key);
     void onDrop(HDROP files);
     void onHelp();
-    /// Its button is pressed while another program may have the keyboard.
+    /// Presses a button of its own while another program may have the keyboard.
     void pressFromAfar(int id);
     bool isAsideMeant(bool takesSecond) const;
     bool isUnmeantCommand(int id, Event event, Deed::Kind kind = Deed::Kind::Command) const;
@@ -124,7 +123,7 @@ class DialogWindow : public Window, private EventSource {
     std::optional<WindowShortcuts> shortcuts_;
     HWND tips_;
     WindowPlace place_;
-    /// By id and kind: any control may also be asked for as a plain one.
+    /// By id and kind, since any control can also be asked for as a plain Control.
     std::map<std::pair<int, std::type_index>, std::unique_ptr<Control>> controls_;
     ComboLists comboLists_;
     DeferredEvents deferred_;

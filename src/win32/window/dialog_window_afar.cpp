@@ -1,4 +1,4 @@
-// What a window does while another program is in front.
+// What reaches a window from beyond its controls: its system menu, hot keys and dropped files.
 
 #include <string>
 #include <utility>
@@ -15,12 +15,12 @@ bool isOurs(HWND window) {
     return process == GetCurrentProcessId();
 }
 
-/// A box that the command showed has taken the keyboard from another program, which gets it back.
+/// Gives the keyboard back to the program from which a box of the command has taken it.
 void giveKeyboardBack(HWND before) {
     if (!isOurs(before) && isOurs(GetForegroundWindow())) SetForegroundWindow(before);
 }
 
-/// One of the topmost windows that is never shown.
+/// A topmost window that is never shown.
 UniqueWindow hiddenTopmost() {
     return UniqueWindow(CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, L"Static", nullptr,
                                         WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr));
@@ -31,7 +31,7 @@ std::vector<std::wstring> pathsOf(HDROP files) {
     constexpr UINT kHowMany = 0xFFFFFFFF;
     std::vector<std::wstring> paths(DragQueryFileW(files, kHowMany, nullptr, 0));
     for (UINT i = 0; i < paths.size(); ++i) {
-        // Its length does not count the zero at the end, the room asked for does.
+        // The length excludes the terminating zero, the size of the buffer includes it.
         const UINT length = DragQueryFileW(files, i, nullptr, 0);
         paths[i].resize(length);
         DragQueryFileW(files, i, paths[i].data(), length + 1);
@@ -53,7 +53,7 @@ void DialogWindow::setMenuItemEnabled(int itemId, bool enabled) {
 
 INT_PTR DialogWindow::onSystemCommand(WPARAM command) {
     if (isAddedItem(command)) {
-        // Other programs may choose what the user can't.
+        // Other programs can choose items that are greyed for the user.
         if (canUse(itemOf(command))) raise(itemOf(command), Event::Click);
         return TRUE;
     }
@@ -61,7 +61,7 @@ INT_PTR DialogWindow::onSystemCommand(WPARAM command) {
            judge().judge({.kind = Deed::Kind::OpenMenu}) == Verdict::Drops;
 }
 
-// Edit fields take the message for a menu of their own, and Windows' own menu belongs to the frame.
+// Edit fields show a menu of their own instead, and the frame shows Windows' own.
 INT_PTR DialogWindow::onContextMenu(HWND control, LPARAM place) {
     HWND window = window_.get();
     if (menuItems_.empty() || isOnFrame(window, place)) return FALSE;
@@ -70,9 +70,10 @@ INT_PTR DialogWindow::onContextMenu(HWND control, LPARAM place) {
     return TRUE;
 }
 
-// Minimised it stays minimised.
+// A minimised window stays minimised.
 void DialogWindow::setTopmost(bool topmost) {
-    // Wine puts a window below its tooltips, and there it is topmost only if such a one follows it.
+    // Wine puts the window below its tooltips, where it is topmost only if another topmost window
+    // follows.
     const UniqueWindow follower = topmost ? hiddenTopmost() : nullptr;
     SetWindowPos(window_.get(), topmost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -91,14 +92,14 @@ void DialogWindow::pressFromAfar(int id) {
         MessageBeep(MB_OK);
         return;
     }
-    // While a menu of ours is open, it would take what is pressed during the command.
+    // An open menu of ours would take what is pressed during the command.
     EndMenu();
     HWND before = GetForegroundWindow();
     raise(id, Event::Click);
     giveKeyboardBack(before);
 }
 
-// What is dropped while a command is at work, or while a box waits, is left where it was.
+// Files dropped while a command runs or a box waits are ignored.
 void DialogWindow::onDrop(HDROP files) {
     auto paths = pathsOf(files);
     DragFinish(files);

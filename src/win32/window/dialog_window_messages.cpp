@@ -15,7 +15,7 @@
 
 namespace {
 
-/// A handler closed the window for good.
+/// Whether a handler has closed the window for good.
 bool isOver(HWND window) { return GetWindowLongPtrW(window, DWLP_USER) == 0; }
 
 bool focusStaysInWindow(HWND window) {
@@ -25,8 +25,8 @@ bool focusStaysInWindow(HWND window) {
 
 bool isButton(HWND control) { return classOf(control) == ControlClass::Button; }
 
-/// A press on a window that is disabled is meant for the box that waits. Windows itself knows only
-/// the box's owner, and beeps.
+/// A press on a disabled window is meant for the box that waits. Windows itself brings the box
+/// forward for its owner alone, and beeps otherwise.
 void bringBoxForward() {
     for (HWND window : ownWindows()) {
         HWND box = GetLastActivePopup(window);
@@ -34,7 +34,7 @@ void bringBoxForward() {
     }
 }
 
-/// Round and round; backwards with the Shift key.
+/// Wraps around; goes backwards with the Shift key.
 void showNextTab(HWND tabStrip) {
     const LRESULT count = SendMessageW(tabStrip, TCM_GETITEMCOUNT, 0, 0);
     const LRESULT step = GetKeyState(VK_SHIFT) < 0 ? count - 1 : 1;
@@ -44,10 +44,11 @@ void showNextTab(HWND tabStrip) {
 
 }  // namespace
 
-// Nothing that is thrown gets out: Windows would swallow it, or end the program without a word.
+// No exception gets out: Windows would swallow it, or end the program without a word.
 INT_PTR CALLBACK DialogWindow::procedure(HWND window, UINT message, WPARAM wParam,
                                          LPARAM lParam) noexcept {
-    // WM_INITDIALOG, too: the focus on a window that is not shown yet would activate it.
+    // WM_INITDIALOG comes too soon, and is left alone: setting the focus would activate a window
+    // that is not shown yet.
     auto* self = reinterpret_cast<DialogWindow*>(GetWindowLongPtrW(window, DWLP_USER));
     if (!self) return FALSE;
     INT_PTR answer = FALSE;
@@ -165,7 +166,8 @@ void DialogWindow::onCommand(int id, WORD code, HWND control) {
     if (classOf(control) == ControlClass::ComboBox) return onComboBox(id, code, control);
     const auto event = eventOf(classOf(control), code, focusStaysInWindow(window_.get()));
     if (!event) return;
-    // Windows lets Enter follow a press of the mouse, not one that another program posts.
+    // Enter presses the button clicked last: Windows sees to that after a press of the mouse, but
+    // not after a click that another program posts.
     if (control == GetFocus() && isPushButton(control)) focusOn(window_.get(), control);
     raise(id, *event);
 }
@@ -179,13 +181,13 @@ void DialogWindow::onComboBox(int id, WORD code, HWND comboBox) {
     }
     const auto event = eventOf(ControlClass::ComboBox, code, focusStaysInWindow(window_.get()));
     if (!event) return;
-    // A box in the midst of a change of the focus would take it from who is getting it.
+    // A box shown while the focus changes would take it from the control that is getting it.
     *event == Event::Validate ? deferred_.add(id, *event) : raise(id, *event);
 }
 
 void DialogWindow::serveDeferred() {
     HWND window = window_.get();
-    // A handler may end this object.
+    // A handler may destroy this object.
     for (const auto& [id, event] : deferred_.take()) {
         if (isOver(window)) return;
         gate_.deliver(events_, id, event, *this);
@@ -205,12 +207,12 @@ bool DialogWindow::isUnmeantCommand(int id, Event event, Deed::Kind kind) const 
                           .usable = canUse(id)}) == Verdict::Drops;
 }
 
-/// Whether this control's event is still meant after those that came before it.
+/// Raises the deferred events. Whether this control's event still counts afterwards.
 bool DialogWindow::serveFirst(int id) {
     HWND window = window_.get();
     const int shown = judge().windowsShown();
     serveDeferred();
-    // Who was asked something meanwhile may think otherwise now.
+    // A user who was asked something meanwhile may have changed their mind.
     return !isOver(window) && canUse(id) && judge().windowsShown() == shown;
 }
 
@@ -241,8 +243,8 @@ void DialogWindow::onKey(int id) {
 
 void DialogWindow::onShortcut(HWND control) {
     if (!canBeUsed(control)) return;
-    // As a click would: leaving a field ends what was typed in it, which may change what can be
-    // used.
+    // As a click does. Leaving a field validates what was typed there, which may disable the
+    // control.
     focusOn(window_.get(), control);
     if (!canBeUsed(control)) return;
     if (classOf(control) == ControlClass::Button) {

@@ -6,22 +6,22 @@
 
 ControlClass classOf(HWND control);
 
-/// The control is to be seen and enabled.
+/// Whether the control is visible and enabled.
 bool canBeUsed(HWND control);
 
-/// The control of a window that holds this one: itself, or the drop-down box of a field or a list;
-/// null when none does.
+/// The control of a window that `part` belongs to: itself, or the drop-down box whose field or list
+/// it is; null for none.
 HWND controlHolding(HWND window, HWND part);
 
-/// A button that Enter presses while it has the focus.
+/// Whether it is a button that Enter presses while it has the focus.
 bool isPushButton(HWND control);
 
-/// Gives the keyboard to a control of this window, as the Tab key does: the default button follows,
+/// Moves the focus to a control of this window, as the Tab key does: the default button follows,
 /// and the text of a field is selected.
 void focusOn(HWND window, HWND control);
 
-/// A control that a handler disabled or hid no longer takes the keyboard: another one must, this
-/// one if it can.
+/// Moves the focus away from a control that was disabled or hidden: to `home` if that can be used,
+/// otherwise to the first control.
 void keepKeyboard(HWND window, HWND home);
 
 /// Shows where the focus is, which Windows hides as long as only the mouse is used.

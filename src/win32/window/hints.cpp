@@ -8,7 +8,7 @@
 
 namespace {
 
-// UIAutomationCoreApi.h has it for those who link with that library.
+// Defined by UIAutomationCoreApi.h for programs that link with that library.
 constexpr GUID kLiveSetting = {
     0xc12bcd8e, 0x2a8e, 0x4950, {0x8a, 0xe7, 0x36, 0x25, 0x11, 0x1d, 0x58, 0xeb}};
 
@@ -77,12 +77,12 @@ void relayToTooltips(HWND tips, HWND control, UINT mouseMessage) {
 
 void tellScreenReaders(HWND window, std::span<const AccessibleName> names, int liveId) {
     Annotations annotations;
-    // Windows takes the role from the class, and ours is none of its own.
+    // Windows derives the role from the window class, and doesn't know ours.
     annotations.set(window, PROPID_ACC_ROLE, ROLE_SYSTEM_DIALOG);
     for (const AccessibleName& name : names) {
         annotations.set(GetDlgItem(window, name.controlId), PROPID_ACC_NAME, name.text);
     }
-    // Read out when the reader is done with what it says: LiveSetting's "polite".
+    // Read out once the screen reader has finished its sentence: LiveSetting's "polite".
     constexpr LONG kPolite = 1;
     if (liveId != 0) annotations.set(GetDlgItem(window, liveId), kLiveSetting, kPolite);
 }

@@ -10,8 +10,8 @@ namespace {
 using Kind = Deed::Kind;
 using Target = Deed::Target;
 
-/// A mouse message that Windows made of a touch, whose press came as a pointer message before
-/// (System Events and Mouse Messages).
+/// Whether Windows made this mouse message of a touch, whose press has come before as a pointer
+/// message (System Events and Mouse Messages).
 bool isMadeOfTouch(UINT message) {
     constexpr LPARAM kMask = static_cast<LPARAM>(0xFFFFFF00);
     constexpr LPARAM kSignature = static_cast<LPARAM>(0xFF515700);
@@ -38,7 +38,7 @@ Kind kindOf(UINT message) {
     }
 }
 
-/// A posted message tells where it is meant in its own window only.
+/// On the screen. Mouse messages tell it within their own window.
 POINT placeOf(const MSG& message) {
     POINT place{static_cast<short>(LOWORD(message.lParam)),
                 static_cast<short>(HIWORD(message.lParam))};
@@ -48,7 +48,8 @@ POINT placeOf(const MSG& message) {
 
 bool isKey(const MSG& message) { return isKeyDown(message.message) || message.message == WM_CHAR; }
 
-/// Where a key takes effect, when it moves the keyboard or is a shortcut; otherwise where it went.
+/// The control that a key acts on: the one that Tab moves to or whose shortcut it is, otherwise the
+/// one that gets it.
 HWND receiverOf(const MSG& message, HWND window) {
     if (!isKey(message)) return message.hwnd;
     if (message.message == WM_KEYDOWN && message.wParam == VK_TAB) {
@@ -59,13 +60,14 @@ HWND receiverOf(const MSG& message, HWND window) {
     return shortcut != 0 ? GetDlgItem(window, shortcut) : message.hwnd;
 }
 
-/// While a window searches.
+/// What a message is aimed at while a window searches.
 Target targetInSearch(const MSG& message, const EventSink& searching) {
     DialogWindow* window = DialogWindow::ofEvents(searching);
     if (!window) return Target::Other;
     HWND receiver = receiverOf(message, window->handle());
     if (window->asksForSearch(receiver)) return Target::SearchControl;
-    // The frames of controls are scroll bars; Alt and what is no shortcut belong to the frame.
+    // The frames of controls are scroll bars. A key with Alt that is no shortcut belongs to the
+    // window's frame.
     const bool ofFrame = isFramePress(message.message)
                              ? GetAncestor(message.hwnd, GA_ROOT) == message.hwnd
                              : message.message == WM_SYSKEYDOWN && receiver == message.hwnd;
@@ -99,7 +101,7 @@ Deed deedOf(const MSG& message, const Judge& judge) {
 }
 
 Judge::Limits doubleClickLimits() {
-    // The rectangle's sides; the second press may lie half of one away on either side.
+    // Windows returns the sides of a rectangle around the first press, hence half of each.
     return {.time = GetDoubleClickTime(),
             .width = GetSystemMetrics(SM_CXDOUBLECLK) / 2,
             .height = GetSystemMetrics(SM_CYDOUBLECLK) / 2};

@@ -7,7 +7,7 @@
 
 // What the messages of mouse, pen, touch and keyboard mean, by their numbers.
 
-/// A mouse button goes down within a window's client area.
+/// Whether a mouse button goes down within a window's client area.
 constexpr bool isMousePress(UINT message) {
     switch (message) {
         case WM_LBUTTONDOWN:
@@ -24,7 +24,7 @@ constexpr bool isMousePress(UINT message) {
     }
 }
 
-/// On a window's frame, where it is moved, sized, scrolled or closed.
+/// The same on a window's frame, where it is moved, sized, scrolled or closed.
 constexpr bool isFramePress(UINT message) {
     return message == WM_NCLBUTTONDOWN || message == WM_NCLBUTTONDBLCLK ||
            message == WM_NCRBUTTONDOWN || message == WM_NCPOINTERDOWN;
@@ -43,7 +43,7 @@ constexpr bool isKeyDown(UINT message) { return message == WM_KEYDOWN || message
 
 constexpr bool isKeyUp(UINT message) { return message == WM_KEYUP || message == WM_SYSKEYUP; }
 
-/// Wheels and gestures do their work at once.
+/// Wheels and gestures, which act at once.
 constexpr bool isScroll(UINT message) {
     return message == WM_MOUSEWHEEL || message == WM_MOUSEHWHEEL || message == WM_POINTERWHEEL ||
            message == WM_TOUCH;
@@ -52,15 +52,14 @@ constexpr bool isScroll(UINT message) {
 /// What a message that is taken from the queue stands for.
 Deed deedOf(const MSG& message, const Judge& judge);
 
-/// Whether it was sent by another program, which presses nothing.
+/// Whether the current message was sent by another program, so that nobody pressed anything.
 inline bool isFromProgram() { return InSendMessageEx(nullptr) != ISMEX_NOSEND; }
 
 /// What makes two presses a double click on this machine.
 Judge::Limits doubleClickLimits();
 
-/// Shows the judge every message that the thread takes from its queue, in whatever loop, those of
-/// message boxes included, and drops those that do not count. While it lives it is the thread's
-/// only one.
+/// Shows the judge every message that the thread takes from its queue, in whatever loop, message
+/// boxes' included, and drops those that do not count. There is one at a time.
 class InputSieve {
  public:
     explicit InputSieve(Judge& judge);
@@ -71,7 +70,7 @@ class InputSieve {
  private:
     static LRESULT CALLBACK onGetMessage(int code, WPARAM wParam, LPARAM lParam);
 
-    // A hook is told nothing of who set it.
+    // A hook procedure isn't told who set it.
     inline static Judge* hooked_ = nullptr;
     UniqueHook hook_;
 };

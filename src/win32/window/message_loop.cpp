@@ -20,7 +20,7 @@ const wchar_t* cursorOf(Pointer pointer) {
     }
 }
 
-/// Windows itself takes Tab, Alt and the arrows for a use of the keyboard, but no shortcut.
+/// Windows shows the focus after Tab, Alt and the arrows, but not after shortcuts.
 bool usesKeyboard(const MSG& message) {
     return message.message == WM_KEYDOWN && message.wParam != VK_SHIFT &&
            message.wParam != VK_CONTROL;

@@ -4,7 +4,7 @@
 
 #include "input/event_gate.h"
 
-/// The pointer over the program's windows becomes now what the program is busy with.
+/// Makes the pointer show at once what the program is busy with.
 void showPointer(const Judge& judge);
 
 class WinGateKeeper : public GateKeeper {
@@ -21,5 +21,5 @@ class WinGateKeeper : public GateKeeper {
 /// Serves the program's windows until the program ends. Returns the exit code.
 int runMessageLoop(Judge& judge);
 
-/// The same as without a judge, for the program's windows: their shortcuts and keys work, too.
+/// As the function without a judge, and the shortcuts and keys of the program's windows work, too.
 bool handleWaitingMessages(Judge& judge, UINT first = 0, UINT last = 0);

@@ -8,10 +8,10 @@ namespace {
 
 std::vector<HWND> windows;
 
-/// Stands in front while the program has nothing to show.
+/// An invisible window that stays in front while the program has nothing to show.
 UniqueWindow placeholder;
 
-/// A layered window is not drawn before it is given a look.
+/// A layered window is not drawn until its attributes are set.
 HWND makePlaceholder() {
     return CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_LAYERED, L"Static", nullptr, WS_POPUP, 0, 0, 1,
                            1, nullptr, nullptr, nullptr, nullptr);

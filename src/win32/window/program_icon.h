@@ -1,4 +1,4 @@
 #pragma once
 
-// The program's icon: the lowest number of all, so that the shell shows it for the file too.
+// The program's icon has the lowest number, so that the Explorer shows it for the file, too.
 #define IDI_PROGRAM 1

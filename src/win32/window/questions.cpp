@@ -37,7 +37,7 @@ class FrenchButtons {
         }
     }
 
-    // Without it the buttons speak the language of the system, which is better than no box.
+    // Should it fail, the buttons keep the system's language: better than no box.
     UniqueHook hook_;
 };
 
@@ -50,7 +50,7 @@ DWORD styleOf(const MessageBoxContent& box) {
 
 constexpr wchar_t kWhat[] = L"la boîte de choix d'un fichier";
 
-/// Neither the current directory nor what is no file is touched by it.
+/// It offers files of the file system only, and leaves the current directory as it is.
 ComPtr<IFileDialog> makeDialog(const CLSID& kind, const std::wstring& title,
                                FILEOPENDIALOGOPTIONS more) {
     ComPtr<IFileDialog> dialog;

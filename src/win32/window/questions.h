@@ -8,9 +8,9 @@
 
 class Judge;
 
-/// While it lives a box or a dialog of the system asks the user something: the program waits for
-/// its user, and all its windows are disabled but the owner, which the box disables itself. What
-/// was pressed before is not meant for it.
+/// While it lives a box or a dialog of the system asks the user something. All windows of the
+/// program are disabled but the owner, which the box disables itself. Presses that came before it
+/// are not meant for it.
 class ModalQuestion {
  public:
     explicit ModalQuestion(Judge& judge);

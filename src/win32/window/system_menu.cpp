@@ -5,7 +5,7 @@
 
 namespace {
 
-/// What WM_CONTEXTMENU has for a place when a key was pressed.
+/// The place in a WM_CONTEXTMENU that a key caused.
 constexpr LPARAM kByKey = -1;
 
 UINT stateOf(HWND window, int itemId) {
@@ -31,8 +31,8 @@ POINT pointOf(LPARAM place) {
     return {static_cast<short>(LOWORD(place)), static_cast<short>(HIWORD(place))};
 }
 
-/// The lower left corner of the line that the keyboard is on; the list's upper left one when that
-/// is out of sight.
+/// The lower left corner of the line with the focus, or the list's upper left one when that line is
+/// out of sight.
 POINT caretPlace(HWND list) {
     RECT line{};
     RECT client{};
@@ -46,7 +46,7 @@ POINT caretPlace(HWND list) {
 }  // namespace
 
 void addToSystemMenu(HWND window, std::span<const SystemMenuItem> items) {
-    // Asking for it gives the window a menu of its own.
+    // Merely asking for the menu makes a copy of it for the window.
     if (items.empty()) return;
     HMENU menu = GetSystemMenu(window, FALSE);
     for (const SystemMenuItem& item : items) {
@@ -55,7 +55,7 @@ void addToSystemMenu(HWND window, std::span<const SystemMenuItem> items) {
     }
 }
 
-// One that isn't there has all bits set.
+// Of an item that doesn't exist all bits are set.
 bool isGreyed(HWND window, int itemId) {
     const UINT state = stateOf(window, itemId);
     return state != UINT_MAX && (state & MF_GRAYED) != 0;

@@ -8,12 +8,13 @@
 
 namespace {
 
-/// A search that has taken no longer is not watched yet, in milliseconds.
+/// How long a search lasts before its window is served, in milliseconds.
 constexpr Moment kNoTime = 50;
-/// How often windows are served at least.
+/// How much time passes between two servings, in milliseconds.
 constexpr Moment kServing = 20;
 
-// A message is what a call that is out looks up for (the IMessageFilter::MessagePending method).
+// A posted message has COM look up from the call that is out (the IMessageFilter::MessagePending
+// method).
 void CALLBACK wake(PTP_CALLBACK_INSTANCE, void* thread, PTP_TIMER) {
     PostThreadMessageW(*static_cast<const DWORD*>(thread), WM_NULL, 0, 0);
 }
@@ -23,7 +24,7 @@ void CALLBACK wake(PTP_CALLBACK_INSTANCE, void* thread, PTP_TIMER) {
 WinSearchWatch::WinSearchWatch(Judge& judge)
     : judge_(judge), woken_(require(CreateEventW(nullptr, FALSE, FALSE, nullptr), L"un signal")) {}
 
-// It shows from the first moment that it goes on, though nothing is found yet.
+// The pointer shows the search from its first moment on, before anything is found.
 void WinSearchWatch::begin(const EventSink& window, SearchKind kind) {
     judge_.searchBegins(window, kind);
     showPointer(judge_);

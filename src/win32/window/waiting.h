@@ -11,7 +11,7 @@
 /// answer other programs, and take what stops or replaces the search. The judge lets nothing else
 /// pass.
 ///
-/// A search that is over in no time is one step, as it were: nothing is served.
+/// Nothing is served in a search's first moments, so that a short one is a single step.
 class WinSearchWatch : public SearchWatch {
  public:
     explicit WinSearchWatch(Judge& judge);

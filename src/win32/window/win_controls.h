@@ -84,7 +84,8 @@ class WinListBox : public ControlOf<ListBox> {
 
     /// Whether more than one line can be selected.
     bool severalSelectable() const;
-    /// The list has another font: it is scrolled sideways as far as its widest line reaches now.
+    /// Measures the lines again after a change of font: the list scrolls sideways as far as its
+    /// widest line reaches.
     void measureLines();
 
  private:
@@ -92,7 +93,7 @@ class WinListBox : public ControlOf<ListBox> {
     void setExtent(int pixels) { send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(pixels)); }
 
     int pauses_ = 0;
-    bool paused_ = false;  ///< whether the control knows of it
+    bool paused_ = false;  ///< whether the control itself was told
     ScrollBars drawnBars_{};
 };
 
@@ -118,9 +119,8 @@ class WinProgressBar : public ControlOf<ProgressBar> {
     void show(int done, int total) override;
 };
 
-/// While it lives a combo box may be resized: Windows then completes what is typed in its field to
-/// a line that begins so, and selects it. Afterwards the field is as it was. Any other control is
-/// left alone.
+/// Restores the field of a combo box after it was resized: Windows completes what is typed in it to
+/// a line that begins so, and selects that. Any other control is left alone.
 class KeptComboField {
  public:
     explicit KeptComboField(HWND control);
@@ -136,11 +136,11 @@ class KeptComboField {
     DWORD end_ = 0;
 };
 
-/// The drop-down lists of a window, as their notifications come in.
+/// Follows the notifications of a window's drop-down lists.
 class ComboLists {
  public:
-    /// What a notification of a combo box comes to. What was chosen is kept, and brought back,
-    /// here.
+    /// What a notification of a combo box amounts to. Remembering a choice and going back to it is
+    /// done here.
     DropDown::Step notified(HWND comboBox, WORD code);
 
  private:
@@ -153,5 +153,5 @@ class ComboLists {
     std::map<HWND, Choice> choices_;
 };
 
-/// A drop-down shows a chosen line in its field only after it has told us of it.
+/// Shows the chosen line in the field now: the box itself does so only after its notification.
 void showChosenLine(HWND comboBox);

@@ -25,7 +25,7 @@ struct TitleSearch {
     HWND found = nullptr;
 };
 
-/// As Windows keeps it: a window that does not answer need not be asked.
+/// As Windows keeps it, so that a window that does not answer need not be asked.
 std::wstring titleOf(HWND window) {
     std::wstring title(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
     const int length = GetWindowTextW(window, title.data(), static_cast<int>(title.size()));
@@ -54,7 +54,7 @@ ComPtr<ITaskbarList3> makeTaskbar() {
     return taskbar && SUCCEEDED(taskbar->HrInit()) ? taskbar : ComPtr<ITaskbarList3>();
 }
 
-/// The colours of progress that is paused or has met an error.
+/// Paused progress is yellow, progress with an error red.
 TBPFLAG stateOf(const ButtonProgress& progress) {
     if (progress.total <= 0) return TBPF_NOPROGRESS;
     switch (progress.alert) {
@@ -87,7 +87,7 @@ void WinDesktop::restore(WindowHandle window) {
 
 void WinDesktop::bringToFront(WindowHandle window) { SetForegroundWindow(handleOf(window)); }
 
-// It counts none of a program that it can't count, and a program with windows has some.
+// Windows returns 0 when it can't tell; a program with windows always has some.
 std::optional<int> WinDesktop::gdiObjects(WindowHandle window) {
     DWORD process = 0;
     GetWindowThreadProcessId(handleOf(window), &process);
@@ -99,7 +99,7 @@ std::optional<int> WinDesktop::gdiObjects(WindowHandle window) {
 bool WinDesktop::open(const std::wstring& document) {
     SHELLEXECUTEINFOW info{};
     info.cbSize = sizeof info;
-    // What went wrong we tell ourselves.
+    // We report failures ourselves.
     info.fMask = SEE_MASK_FLAG_NO_UI;
     info.lpFile = document.c_str();
     info.nShow = SW_SHOWNORMAL;
@@ -107,7 +107,7 @@ bool WinDesktop::open(const std::wstring& document) {
 }
 
 WinTaskbarButton::WinTaskbarButton(HWND window) : window_(window) {
-    // A program with more rights than the taskbar would not get its message.
+    // Otherwise a program with more rights than the taskbar would not get its message.
     ChangeWindowMessageFilterEx(window, madeMessage(), MSGFLT_ALLOW, nullptr);
 }
 

@@ -18,13 +18,13 @@ class WinDesktop : public Desktop {
     bool open(const std::wstring& document) override;
 };
 
-/// A window's button on the taskbar. A shell that has no such thing shows nothing.
+/// A window's button on the taskbar. Shows nothing where the shell has no such buttons.
 class WinTaskbarButton : public TaskbarButton {
  public:
     explicit WinTaskbarButton(HWND window);
     void show(const ButtonProgress& progress) override;
 
-    /// The message by which the taskbar says that it has made the button.
+    /// The message that the taskbar sends once it has made the button.
     static UINT madeMessage();
 
  private:

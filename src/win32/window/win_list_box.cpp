@@ -14,14 +14,14 @@ WPARAM position(int index) { return static_cast<WPARAM>(index); }
 
 LPARAM asLparam(const std::wstring& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
 
-/// The widest of some lines in the font of their list.
+/// Finds the widest of some lines in the font of their list.
 class WidestLine {
  public:
-    /// `lines`: about how many are to come.
+    /// `lines`: about how many will be added.
     WidestLine(HWND list, int lines);
 
     void add(const std::wstring& line);
-    /// How far a list must scroll for it to be seen: the control leaves a margin before it.
+    /// How far the list must scroll to show it whole: the control has a margin before each line.
     int extent() const { return widest_ == 0 ? 0 : widest_ + kMargin; }
 
  private:
@@ -30,7 +30,7 @@ class WidestLine {
     int widthOf(const std::wstring& line) const;
 
     FontContext context_;
-    /// Of the first characters, when there are many lines: to ask for each of them takes long.
+    /// Of the first 256 characters, when there are many lines: measuring each line takes long.
     std::array<int, 256> widths_{};
     std::size_t known_ = 0;  ///< characters
     int widest_ = 0;
@@ -167,7 +167,7 @@ void WinListBox::changeTexts(const std::function<std::wstring(int)>& line) {
         if (changed[i].second != 0) setData(static_cast<int>(i), changed[i].second);
     }
     for (const int index : selected) select(index, true);
-    constexpr LPARAM kEvenHalfSeen = TRUE;  // not to be scrolled to
+    constexpr LPARAM kEvenHalfSeen = TRUE;  // no scrolling to a line that is partly visible
     if (severalSelectable()) send(LB_SETCARETINDEX, static_cast<WPARAM>(caret), kEvenHalfSeen);
     send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
 }
@@ -178,7 +178,7 @@ void WinListBox::measureLines() {
     setExtent(widest.extent());
 }
 
-// Windows shows a hidden window whose drawing is switched on: it is left alone.
+// Switching drawing on makes a window visible, so a hidden list is left alone.
 void WinListBox::stopDrawing() {
     if (pauses_++ != 0) return;
     paused_ = (GetWindowLongW(handle(), GWL_STYLE) & WS_VISIBLE) != 0;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr wchar_t kProperty[] = L"Tarnwick.Shortcuts";
 
-/// Keys held down repeat themselves; a command is meant once.
+/// A held key repeats itself, but a command is meant once.
 bool isFreshKey(const MSG& message) {
     return isKeyDown(message.message) && (HIWORD(message.lParam) & KF_REPEAT) == 0;
 }
@@ -58,8 +58,8 @@ void tellSelection(HWND list) {
                  reinterpret_cast<LPARAM>(list));
 }
 
-/// The virtual key at this place of the digit row: the row's scan codes follow that of Escape, 1,
-/// on every keyboard (the scan codes of set 1).
+/// The virtual key at this place of the digit row, whose scan codes follow Escape's, 1, on every
+/// keyboard (scan code set 1).
 UINT virtualKey(int place) {
     const UINT key =
         MapVirtualKeyExW(static_cast<UINT>(place + 1), MAPVK_VSC_TO_VK, GetKeyboardLayout(0));
@@ -86,7 +86,7 @@ int WindowShortcuts::controlOf(const MSG& message) const {
     return entry == entries_.end() ? 0 : entry->cmd;
 }
 
-// Windows itself knows nothing of signs.
+// Windows' own accelerators know nothing of signs.
 bool WindowShortcuts::translate(MSG& message) const {
     if (table_ && TranslateAcceleratorW(window_, table_.get(), &message) != 0) return true;
     const int control = controlOf(message);

@@ -9,9 +9,8 @@
 #include "ports/window.h"
 #include "win32/process/handles.h"
 
-/// The shortcuts of a window, as long as it lives: the accelerator resource of its dialog's id,
-/// if there is one. Its ASCII entries are signs: Ctrl and the key that bears the sign on the layout
-/// in use.
+/// The shortcuts of a window: the accelerator resource with its dialog's id, if there is one. An
+/// ASCII entry stands for Ctrl and the key that bears this sign on the keyboard layout in use.
 class WindowShortcuts {
  public:
     WindowShortcuts(HWND window, int dialogId);
@@ -19,9 +18,9 @@ class WindowShortcuts {
     WindowShortcuts(const WindowShortcuts&) = delete;
     WindowShortcuts& operator=(const WindowShortcuts&) = delete;
 
-    /// Carries out a key that goes down; false when it is no shortcut.
+    /// Carries out the shortcut that a key going down stands for; false when it is none.
     bool translate(MSG& message) const;
-    /// The control that a key which goes down is a shortcut of; 0 when it is none.
+    /// The control whose shortcut a key going down is; 0 for none.
     int controlOf(const MSG& message) const;
 
  private:
@@ -30,21 +29,21 @@ class WindowShortcuts {
     std::vector<ACCEL> entries_;
 };
 
-/// The same in a window that may have none.
+/// The same for a window that may have no shortcuts.
 int shortcutIn(HWND window, const MSG& message);
 
-/// Carries out a key message that is a shortcut in this window; false when it is none. Besides
-/// the window's own, Ctrl+A selects all lines of a list.
+/// Carries out a key message that is a shortcut in this window, or Ctrl+A, which selects all lines
+/// of a list; false for any other.
 bool translateShortcut(HWND window, MSG& message);
 
-/// Ctrl+A: selects all lines of a list where several can be. False elsewhere.
+/// Selects all lines of a list in which several can be selected; false for any other control.
 bool selectAllLines(HWND list);
 
-/// A letter typed in a list where one line can be selected goes to the next line with it, if that
-/// one is indented: Windows finds the others itself. False for all other messages.
+/// Selects the next line that begins with a typed letter, in a list where one line can be selected
+/// and if that line is indented: Windows finds the others itself. False for all other messages.
 bool goToLetter(const MSG& message);
 
-/// The hot keys of a window, as long as it wants them. Their numbers are the ids of the buttons.
+/// The hot keys of a window. Their numbers are the ids of its buttons.
 class WinHotKeys {
  public:
     explicit WinHotKeys(std::span<const HotKey> keys) : keys_(keys) {}
@@ -52,17 +51,17 @@ class WinHotKeys {
     WinHotKeys(const WinHotKeys&) = delete;
     WinHotKeys& operator=(const WinHotKeys&) = delete;
 
-    /// Returns the names of those that another program has taken: then the window has none.
+    /// Makes them active. Returns the names of those that another program has taken: then none is.
     std::vector<std::wstring> take(HWND window);
     void release();
 
-    /// False for one that was given up while its message was on the way.
+    /// False for one that was released while its message was on the way.
     bool has(int id) const;
 
-    /// Whether a virtual key acts again though it was not let go: not every system heeds
-    /// MOD_NOREPEAT. To be asked once a message.
+    /// Whether a hot key's message comes only from its being held, since not every system heeds
+    /// MOD_NOREPEAT. Call it once for each message, with its virtual key.
     bool isHeld(UINT key);
-    /// One of the window's timers has run off; that of a held key has the number of the key.
+    /// A timer of the window has fired; a held key's timer has the key's number.
     void onTimer(UINT_PTR timer);
 
  private:
@@ -71,5 +70,5 @@ class WinHotKeys {
     std::span<const HotKey> keys_;
     HWND window_ = nullptr;
     std::vector<int> taken_;
-    UINT_PTR held_ = 0;  ///< the key that is down since it acted
+    UINT_PTR held_ = 0;  ///< the key that has been down since it acted
 };

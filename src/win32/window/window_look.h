@@ -3,8 +3,8 @@
 #include "ports/area.h"
 #include "win32/process/handles.h"
 
-/// The fonts of a window at one resolution, made from the one the system uses in its own boxes,
-/// `percent` of its size.
+/// The fonts of a window at one resolution, made from the one that the system uses in its own
+/// boxes, at `percent` of its size.
 class WindowFonts {
  public:
     WindowFonts(int dpi, int percent);
@@ -19,11 +19,11 @@ class WindowFonts {
     UniqueFont fixedPitch_;
 };
 
-/// The size of a font's average character, by which dialog templates measure: 4 units across and
-/// 8 down.
+/// The size of a font's average character, by which dialog templates measure: it is 4 units wide
+/// and 8 high.
 Size averageCharacter(HFONT font);
 
-/// The program's icon on a window, and in its labels that show it, in the sizes of one resolution.
+/// The program's icon on a window and in those of its labels that show icons, for one resolution.
 class WindowIcons {
  public:
     WindowIcons(HWND window, UINT dpi);

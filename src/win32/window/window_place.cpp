@@ -31,8 +31,8 @@ Size clientSize(HWND window) {
     return {area.right, area.bottom};
 }
 
-/// The client area that a dialog resource asks for: the window is cut off where it would be larger
-/// than the screen (DLGTEMPLATEEX).
+/// The client area that a dialog resource asks for, in pixels. The window may have a smaller one:
+/// Windows cuts it off at the edge of the screen (DLGTEMPLATEEX).
 Size templateClient(HWND window, int dialogId) {
     constexpr int kWidth = 11;  // in words
     HMODULE module = GetModuleHandleW(nullptr);
@@ -146,15 +146,15 @@ void WindowPlace::takeTemplateSize() {
     layout_.arrange();
 }
 
-// The letters first: the window can't be made smaller than they ask for.
+// The fonts first: they decide how small the window can be.
 void WindowPlace::changeResolution(const RECT& suggested) {
     chooseFonts();
     putAt(window_, areaOfRect(suggested));
     layout_.arrange();
 }
 
-// Another resolution, another monitor, a taskbar that was moved: Windows leaves a window as large
-// as it was. One that is hidden is looked at when it is shown.
+// After a change of resolution or monitor, or a move of the taskbar, Windows leaves a window as
+// large as it was. A hidden one is checked when it is shown.
 void WindowPlace::changeScreen() {
     if (!IsWindowVisible(window_)) return;
     chooseFonts();
@@ -162,8 +162,8 @@ void WindowPlace::changeScreen() {
     standInSight();
 }
 
-/// The usual letters; smaller ones where not even the smallest size would stand whole on the
-/// screen, as far as they can be read.
+/// The usual fonts, or, where even the smallest window would not fit on the screen, smaller ones,
+/// as far as they can be read.
 WindowFonts WindowPlace::fittingFonts() {
     constexpr int kLeastPercent = 60;
     constexpr int kStep = 4;

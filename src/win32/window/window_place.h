@@ -16,17 +16,17 @@ inline int dpiOf(HWND window) { return static_cast<int>(GetDpiForWindow(window))
 /// Puts the controls of a window where its layout says.
 class WindowLayout {
  public:
-    /// Remembers the template: to be made while all stands as the template says.
+    /// Make it while every control still stands where the template puts it.
     WindowLayout(HWND window, const WindowTemplate& source);
 
     /// From now on measures by this font.
     void measureBy(HFONT font);
 
-    // The size of the whole window when it is as large as its template, or as small as it can be.
+    // The size of the whole window: as large as its template, and as small as it can be.
     Size templateWindow() const { return withFrame(layout_.templateClient()); }
     Size smallestWindow() const { return withFrame(layout_.smallestClient()); }
 
-    /// Puts every control in its place for the present size of the window.
+    /// Puts every control where it belongs at the window's present size.
     void arrange() const;
 
  private:
@@ -40,19 +40,19 @@ class WindowLayout {
 /// Where a window stands, how large it is, and how large its letters and icons are.
 class WindowPlace {
  public:
-    /// `tips`: the window's tooltips, whose letters follow.
+    /// `tips`: the window's tooltips, which follow its font.
     WindowPlace(HWND window, const WindowTemplate& source, HWND tips);
 
     Area place() const;
     void moveTo(const Area& place);
     int dpi() const;
     Area workArea() const;
-    /// At first: as large as the template, in the letters that fit.
+    /// Makes a new window as large as its template, in letters that fit the screen.
     void takeTemplateSize();
-    /// Moves what would not stand whole on the screen.
+    /// Moves a window that does not stand whole on the screen.
     void standInSight();
 
-    // What Windows tells.
+    // What Windows reports.
 
     Size smallestSize() const;
     void sizeChanged() const { layout_.arrange(); }
