@@ -1,6 +1,7 @@
 // Documents from elsewhere: a file that names them, files and directories dropped on the window.
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "common/numbers.h"

@@ -190,7 +190,7 @@ void WinListBox::stopDrawing() {
 void WinListBox::resumeDrawing() {
     if (--pauses_ != 0 || !paused_) return;
     send(WM_SETREDRAW, TRUE);
-    // The scroll bars stand in the frame; to draw them takes longer than the lines.
+    // The frame holds the scroll bars, which take longer to draw than the lines.
     const UINT frame = scrollBarsOf(handle()) == drawnBars_ ? 0 : RDW_FRAME;
     RedrawWindow(handle(), nullptr, nullptr, RDW_ERASE | RDW_INVALIDATE | RDW_ALLCHILDREN | frame);
 }
