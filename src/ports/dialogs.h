@@ -16,6 +16,8 @@ struct MessageBoxContent {
     int defaultButton = 1;       ///< one-based
     std::wstring helpFile = {};  ///< the help reference, of which Windows takes the context alone
     int helpContext = 0;
+
+    bool operator==(const MessageBoxContent&) const = default;
 };
 
 class MessageBoxes {

@@ -1,7 +1,34 @@
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
 
-using ControlContract = ContractTest;
+namespace {
+
+using Lines = std::vector<int>;
+
+struct ControlContract : ContractTest {
+    ListBox& several = window.listBox(IDC_CONTRACT_SEVERAL);
+    ListBox& one = window.listBox(IDC_CONTRACT_ONE);
+};
+
+void fill(ListBox& list, int count) {
+    list.setLines(count, [](int i) { return L"ligne " + std::to_wstring(i); });
+}
+
+Lines selection(const ListBox& list) {
+    Lines result;
+    for (int i = 0; i < list.count(); ++i) {
+        if (list.selected(i)) result.push_back(i);
+    }
+    return result;
+}
+
+Texts texts(const ListBox& list) {
+    Texts result;
+    for (int i = 0; i < list.count(); ++i) result.push_back(list.line(i));
+    return result;
+}
+
+}  // namespace
 
 TEST_F(ControlContract, ComboBoxShowsTheLineThatIsSelected) {
     const std::wstring lines[] = {L"c:", L"d:", L"c:"};
@@ -31,5 +58,48 @@ TEST_F(ControlContract, ChoicesAndPlacesAreThoseThatWereSet) {
         const Area place = areaAt(corner, {600, 500});
         window.moveTo(place);
         EXPECT_EQ(window.place(), place);
+    }
+}
+
+TEST_F(ControlContract, ListBoxHoldsTheLinesThatItWasGivenLast) {
+    const Texts lines = {L"bz", L"bé", L"ba", L""};  // in this order, not sorted
+    for (ListBox* list : {&several, &one}) {
+        fill(*list, 20);
+        list->select(3, true);
+        list->setData(3, 1);
+        list->setLines(4, [&](int i) { return lines[static_cast<std::size_t>(i)]; });
+        EXPECT_EQ(texts(*list), lines);
+        EXPECT_EQ(selection(*list), Lines());
+        EXPECT_EQ(list->data(3), 0);
+        // It does not mind a line that is not there.
+        list->select(4, true);
+        list->setData(4, 7);
+        EXPECT_FALSE(list->selected(4));
+        EXPECT_EQ(list->data(4), -1);
+        EXPECT_EQ(list->line(4), L"");
+        EXPECT_EQ(texts(*list), lines);
+        EXPECT_EQ(selection(*list), Lines());
+    }
+    // Several lines can be selected at once.
+    fill(several, 6);
+    for (const int line : {1, 4, 5}) several.select(line, true);
+    several.select(5, false);
+    EXPECT_EQ(selection(several), (Lines{1, 4}));
+    several.clearSelection();
+    EXPECT_EQ(selection(several), Lines());
+}
+
+TEST_F(ControlContract, ListBoxWhoseTextsChangeKeepsTheRest) {
+    for (ListBox* list : {&several, &one}) {
+        fill(*list, 4);
+        list->select(2, true);
+        list->setData(2, 5);
+        list->changeText(2, L"autre");
+        list->changeText(1, L"une");
+        EXPECT_EQ(texts(*list), (Texts{L"ligne 0", L"une", L"autre", L"ligne 3"}));
+        list->changeTexts([&](int i) { return list->line(i) + L"s"; });
+        EXPECT_EQ(texts(*list), (Texts{L"ligne 0s", L"unes", L"autres", L"ligne 3s"}));
+        EXPECT_EQ(selection(*list), Lines{2});
+        EXPECT_EQ(list->data(2), 5);
     }
 }

@@ -50,3 +50,33 @@ TEST_F(FilesContract, DirectoryIsTheSameByEveryPathToIt) {
     EXPECT_FALSE(files.identify(path(L"a")) == files.identify(path(L"b")));
     EXPECT_FALSE(files.identify(path(L"a")) == files.identify(directory));
 }
+
+TEST_F(FilesContract, ARecordGrowsUntilItIsClearedOrSomebodyTakesIt) {
+    const auto record = machine->records().at(path(L"liste.reprise"));
+    const auto bytes = [&] { return record->read().value_or("none"); };
+    EXPECT_EQ(raised([&] { record->append("a", RecordFile::Flush::Now); }), 53);
+    record->clear();
+    EXPECT_EQ(bytes(), "none");
+    record->replace("ab");
+    record->append("cd", RecordFile::Flush::Later);
+    record->append("ef", RecordFile::Flush::Now);
+    EXPECT_EQ(bytes(), "abcdef");
+    EXPECT_TRUE(record->clear());
+    EXPECT_EQ(bytes(), "");
+    record->remove();
+    EXPECT_EQ(bytes(), "none");
+}
+
+TEST_F(FilesContract, SettingsAreReadBackByTheirKeyInAnyCase) {
+    Settings& settings = machine->settings();
+    const auto read = [&] {
+        return settings.read(L"tarnwick contract", L"startup", L"regcheck", L"absent");
+    };
+    EXPECT_EQ(read(), L"absent");
+    for (const std::wstring& value :
+         {std::wstring(L"-30"), std::wstring(), std::wstring(L" é\t\"œ\" "),
+          std::wstring(5000, L'9'), std::wstring(L"%PATH%")}) {
+        settings.write(L"tarnwick contract", L"startup", L"RegCheck", value);
+        EXPECT_EQ(read(), value);
+    }
+}

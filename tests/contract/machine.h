@@ -1,8 +1,5 @@
 #pragma once
 
-#include <algorithm>
-#include <memory>
-
 #include "ports/files.h"
 #include "ports/machine.h"
 #include "ports/window.h"
@@ -18,6 +15,7 @@ class Machine {
     virtual Window& window() = 0;
     virtual Settings& settings() = 0;
     virtual Files& files() = 0;
+    virtual RecordFiles& records() = 0;
 
     /// An empty directory that goes with the machine, without a trailing backslash.
     virtual std::wstring directory() = 0;

@@ -5,12 +5,12 @@
 
 namespace {
 
+using Desktop = Scenario;
+
 SIZE sizeOf(HWND window) {
     const RECT place = placeOf(window);
     return {place.right - place.left, place.bottom - place.top};
 }
-
-using Desktop = Scenario;
 
 bool isFrame(HWND control) {
     const bool isGroup = (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
@@ -23,15 +23,13 @@ void expectAllInSightWhenSmall(HWND window) {
     SetWindowPos(window, nullptr, 0, 0, 940, 480, SWP_NOZORDER);
     EXPECT_LE(sizeOf(window).cx, 940);
     EXPECT_LE(sizeOf(window).cy, 480);
-    RECT inside{};
+    RECT inside{}, shared{};
     GetClientRect(window, &inside);
     MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&inside), 2);
     std::vector<RECT> places;
-    for (HWND control = GetWindow(window, GW_CHILD); control;
-         control = GetWindow(control, GW_HWNDNEXT)) {
+    for (HWND control : descendants(window)) {
         const RECT place = placeOf(control);
-        RECT shared{};
-        if (!IsWindowVisible(control)) continue;
+        if (GetParent(control) != window || !IsWindowVisible(control)) continue;
         UnionRect(&shared, &inside, &place);
         EXPECT_TRUE(EqualRect(&shared, &inside)) << GetDlgCtrlID(control);
         if (isFrame(control)) continue;
@@ -46,9 +44,7 @@ void expectAllInSightWhenSmall(HWND window) {
 TEST_F(Desktop, WindowsStandWholeOnTheScreenAndCanBeMadeSmall) {
     settings.set("tarnwick", "startup", "toppos3", "-9000");
     settings.set("tarnwick", "startup", "leftpos3", "30000");
-    writeListOf({"a.SLDPRT", "b.SLDPRT"});
-    cad.start({"--hidden"});
-    startAndResume();
+    resume({"a.SLDPRT", "b.SLDPRT"}, {"--hidden"});
     HWND window = app.window(kTracking);
     RECT work{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
@@ -81,8 +77,7 @@ TEST_F(Desktop, ShortcutsReachTheListSelectItsLinesAndPressButtons) {
     keybd_event(VK_F1, 0, 0, 0);
     keybd_event(VK_F1, 0, KEYEVENTF_KEYUP, 0);
     // Here there is no guide beside the program.
-    EXPECT_NE(app.box().text().find("guide.html"), std::string::npos);
-    app.box().answer(IDOK);
+    EXPECT_NE(answer(IDOK).find("guide.html"), std::string::npos);
 
     expectAllInSightWhenSmall(window);
     app.click(IDC_FORM1_CMDREPDEF);

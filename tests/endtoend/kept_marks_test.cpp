@@ -6,14 +6,13 @@ namespace {
 
 struct KeptMarks : Scenario {
     /// Starts again, says OUI, and says it again when so many marks are offered.
-    void resume(int count) {
+    void resumeWith(int marks) {
         startAndResume();
         const ModalBox box = app.box();
         EXPECT_EQ(box.title(), "Tarnwick");
-        EXPECT_EQ(box.text(),
-                  "Le passage précédent s'est arrêté avant l'enregistrement de la liste."
-                  "\r\nDocuments marqués depuis : " +
-                      std::to_string(count) + "\r\nRetrouver ces marques ?");
+        EXPECT_NE(
+            box.text().find("\r\nDocuments marqués depuis : " + std::to_string(marks) + "\r\n"),
+            std::string::npos);
         EXPECT_EQ(box.buttons(), (std::vector{IDYES, IDNO}));
         EXPECT_EQ(box.defaultButton(), IDYES);
         box.answer(IDYES);
@@ -23,19 +22,10 @@ struct KeptMarks : Scenario {
         const std::string text = expectFatalError(440);
         EXPECT_NE(text.find(words), std::string::npos) << text;
     }
-
-    /// Waits until the document is open and the command that opened it has ended.
-    void waitUntilOpen(const std::string& path) const {
-        app.waitForText(IDC_FORM3_TXTETAT, path);
-        app.click(IDC_FORM3_CMDDESELECT);
-        waitFor("the next command", [this] { return app.selected(IDC_FORM3_LIST1).empty(); });
-    }
 };
 
 TEST_F(KeptMarks, AreOfferedAfterAKillAndAfterTheSessionDied) {
-    writeListOf({"a.SLDPRT", "b.SLDPRT", "c.SLDPRT", "d.SLDPRT"});
-    cad.start();
-    startAndResume();
+    resume({"a.SLDPRT", "b.SLDPRT", "c.SLDPRT", "d.SLDPRT"}, {});
     app.click(IDC_FORM3_CMDSUIV);
     waitUntilOpen(paths[1]);
     // As the Explorer would: nobody takes the record away while marks are added to it.
@@ -56,10 +46,8 @@ TEST_F(KeptMarks, AreOfferedAfterAKillAndAfterTheSessionDied) {
                                 sandbox.directory() / ("tarnwick" + ending));
     }
 
-    resume(1);
-    app.waitForText(IDC_FORM3_TXTETAT, paths[1]);
-    expectLines(IDC_FORM3_LIST1, {"0001  " + kDone + paths[0], "0002  " + kInProgress + paths[1],
-                                  "0003  " + kToDo + paths[2], "0004  " + kToDo + paths[3]});
+    resumeWith(1);
+    waitUntilOpen(paths[1]);
     app.click(IDC_FORM3_CMDSUIVQUITTER);
     waitUntilOpen(paths[2]);
     cad.kill();
@@ -67,7 +55,7 @@ TEST_F(KeptMarks, AreOfferedAfterAKillAndAfterTheSessionDied) {
     expectInFatalError("Document : " + paths[2] + "\r\nLes marques");
 
     cad.start({"--fail", "Save2"});
-    resume(2);
+    resumeWith(2);
     app.waitForText(IDC_FORM3_TXTETAT, paths[2]);
     app.click(IDC_FORM3_CMDFICHIERLISTE);
     expectList(listOf({"1", "2", "3", "0"}));

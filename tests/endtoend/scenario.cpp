@@ -1,5 +1,6 @@
 #include "scenario.h"
 
+#include <algorithm>
 #include <iostream>
 
 namespace driver {
@@ -29,6 +30,19 @@ std::string Scenario::listOf(const std::vector<std::string>& codes) const {
 void Scenario::startAndResume() {
     app.start();
     app.click(IDC_FORM2_CMDOK);
+}
+
+void Scenario::resume(const std::vector<std::string>& names,
+                      const std::vector<std::string>& cadOptions) {
+    writeListOf(names);
+    cad.start(cadOptions);
+    startAndResume();
+}
+
+std::vector<std::string> Scenario::saidOf(const std::string& documents) const {
+    const auto file = sandbox.directory() / "documents.txt";
+    writeFileBytes(file, documents);
+    return {"--documents", utf8(file.wstring())};
 }
 
 void Scenario::startInDocuments(std::vector<std::string> cadOptions) {
@@ -61,6 +75,35 @@ void Scenario::expectLines(int list, const Lines& lines) const {
 
 void Scenario::expectAlone(const char* caption) const {
     EXPECT_EQ(eventually<Lines>({caption}, [this] { return app.shownWindows(); }), Lines{caption});
+}
+
+std::string Scenario::answer(int button) const {
+    const ModalBox box = app.box();
+    const std::string text = box.text();
+    box.answer(button);
+    return text;
+}
+
+std::string Scenario::exportReport() const {
+    app.chooseInSystemMenu(kTracking, IDM_FORM3_RAPPORT);
+    app.saveAsProposed("Exporter le rapport", "tarnwick-rapport.csv");
+    std::string report;
+    waitFor("the report", [&] {
+        report = readFileBytes(sandbox.directory() / "tarnwick-rapport.csv").value_or("");
+        return !report.empty();
+    });
+    return report;
+}
+
+void Scenario::waitUntilOpen(const std::string& path) const {
+    app.waitForText(IDC_FORM3_TXTETAT, path);
+    app.waitForCommandEnd(IDC_FORM3_LIST1, IDC_FORM3_CMDDESELECT);
+}
+
+int Scenario::countOfCalls(const std::string& text) const {
+    const auto calls = cad.calls();
+    return static_cast<int>(std::ranges::count_if(
+        calls, [&](const std::string& call) { return call.find(text) != std::string::npos; }));
 }
 
 std::string Scenario::expectFatalError(int number) {

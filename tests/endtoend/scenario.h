@@ -48,6 +48,10 @@ class Scenario : public testing::Test {
 
     /// Starts the program on the list file there is and accepts it.
     void startAndResume();
+    /// The same, with a list file of these documents, all to do, and a session with these options.
+    void resume(const std::vector<std::string>& names, const std::vector<std::string>& cadOptions);
+    /// The option by which a session plays what these lines say of documents.
+    std::vector<std::string> saidOf(const std::string& documents) const;
     /// Starts the program where there is no list file, with the CAD session at work here.
     void startInDocuments(std::vector<std::string> cadOptions = {});
 
@@ -59,7 +63,14 @@ class Scenario : public testing::Test {
     void expectLines(int list, const Lines& lines) const;
     /// Waits until this is the only window shown.
     void expectAlone(const char* caption) const;
-    /// Expects the box of a fatal error and the end of the program; gives the box's text.
+    /// Answers the box that is shown; returns its text.
+    std::string answer(int button) const;
+    /// Exports the report to where the dialog proposes, and returns it.
+    std::string exportReport() const;
+    /// Waits for the document to be open, and for the end of the command that opened it.
+    void waitUntilOpen(const std::string& path) const;
+    int countOfCalls(const std::string& text) const;
+    /// Expects the box of a fatal error and the end of the program; returns the box's text.
     std::string expectFatalError(int number);
     /// Expects the program to end without a word, closed by its window's frame if one is named.
     void expectEnd(const char* closed = nullptr) const {
@@ -71,7 +82,7 @@ class Scenario : public testing::Test {
     Settings settings;
     TrialCad cad;
     AppDriver app;
-    std::vector<std::string> paths;  ///< of the documents that WriteListOf added
+    std::vector<std::string> paths;  ///< of the documents that writeListOf added
 
  private:
     size_t callsSeen_ = 0;

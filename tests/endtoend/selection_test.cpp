@@ -10,7 +10,6 @@ TEST_F(Selection, FindsMarksAndLaunches) {
     const std::string frame = sandbox.addDocument("Bâti\\Bâti.SLDASM");
     const std::string press = sandbox.addDocument("Presse.SLDASM");
     sandbox.addDocument("Presse.SLDDRW");
-    sandbox.addDocument("notice.txt");
     startInDocuments();
     expectAlone(kSelection);
     expectLines(IDC_FORM1_LIST1, {kToDo + "Presse.SLDDRW"});
@@ -40,16 +39,9 @@ TEST_F(Selection, ImportsWhatTheReportOfAPassSaysIsLeft) {
     sandbox.writeList(listOf({"1", "0", "0"}));
     cad.start({"--hidden"});
     startAndResume();
-    app.waitForText(IDC_FORM3_TXTETAT, paths[1]);
-    app.chooseInSystemMenu(kTracking, IDM_FORM3_RAPPORT);
-    app.saveAsProposed("Exporter le rapport", "tarnwick-rapport.csv");
-    std::string report;
-    waitFor("the report", [&] {
-        report = readFileBytes(sandbox.directory() / "tarnwick-rapport.csv").value_or("");
-        return !report.empty();
-    });
-    app.click(IDC_FORM3_CMDSORTIE);
-    EXPECT_EQ(app.waitForExit(), 0);
+    waitUntilOpen(paths[1]);
+    std::string report = exportReport();
+    expectEnd(kTracking);
     const auto done = report.find("1;Fait;");
     report.erase(done, report.find('\n', done) + 1 - done);
     const auto filtered = sandbox.documents() / "reste.csv";
@@ -60,8 +52,7 @@ TEST_F(Selection, ImportsWhatTheReportOfAPassSaysIsLeft) {
     app.chooseInSystemMenu(kSelection, IDM_FORM1_ORDRE);
     app.chooseInSystemMenu(kSelection, IDM_FORM1_IMPORTER);
     app.openFile("Importer une liste", filtered);
-    EXPECT_EQ(app.box().text(), "1 ligne laissée de côté :\r\nabsent.SLDPRT : introuvable");
-    app.box().answer(IDOK);
+    EXPECT_EQ(answer(IDOK), "1 ligne laissée de côté :\r\nabsent.SLDPRT : introuvable");
     expectLines(IDC_FORM1_LIST1, {kChosen + paths[1], kChosen + paths[2]});
     app.click(IDC_FORM1_CMD_TRACER);
     app.waitForText(IDC_FORM3_TXTETAT, paths[2]);

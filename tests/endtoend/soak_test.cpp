@@ -7,12 +7,14 @@
 
 namespace {
 
-class Soak : public Scenario {
- protected:
+struct Soak : Scenario {
     /// What the program holds once it has come to this one-based line.
-    Resources heldAt(int line) {
-        while (app.running() && std::stoi(app.textOf(IDC_FORM3_NBFICH1)) < line) {
-            Sleep(kPollingInterval);
+    Resources heldAt(int line) const {
+        int at = 0;
+        while (at < line) {
+            waitFor("the next document",
+                    [&] { return std::stoi(app.textOf(IDC_FORM3_NBFICH1)) > at; });
+            at = std::stoi(app.textOf(IDC_FORM3_NBFICH1));
         }
         const Resources held = app.resourcesInUse();
         std::cout << held.describe() << '\n';
@@ -26,12 +28,10 @@ TEST_F(Soak, ResourcesStayFlatWhileAPassGoesOnAlone) {
     const int count = wanted ? std::atoi(wanted) : 150;
     std::vector<std::string> names;
     for (int i = 0; i < count; ++i) names.push_back("piece " + std::to_string(i) + ".SLDPRT");
-    writeListOf(names);
-    cad.start({"--hidden"});
-    startAndResume();
+    resume(names, {"--hidden"});
     app.waitForText(IDC_FORM3_NBFICH1, "1");
     app.chooseInSystemMenu(kTracking, IDM_FORM3_SEUL);
-    app.box().answer(IDYES);
+    answer(IDYES);
 
     const Resources before = heldAt(count > 200 ? 100 : 20);
     const Resources after = heldAt(count - 10);

@@ -6,19 +6,12 @@
 
 namespace {
 
-struct TrialSession : Scenario {
-    static bool isRegistered() {
-        CLSID classId;
-        return SUCCEEDED(CLSIDFromProgID(L"SldWorks.Application", &classId));
-    }
+using TrialSession = Scenario;
 
-    /// Tries to make a key that stays below the session's own.
-    static LSTATUS makeStableKey() {
-        HKEY made = nullptr;
-        return RegCreateKeyExW(HKEY_CLASSES_ROOT, L"SldWorks.Application\\Test", 0, nullptr, 0,
-                               KEY_READ, nullptr, &made, nullptr);
-    }
-};
+bool isRegistered() {
+    CLSID classId;
+    return SUCCEEDED(CLSIDFromProgID(L"SldWorks.Application", &classId));
+}
 
 TEST_F(TrialSession, LeavesNoClassBehind) {
     cad.start({"--hidden"});
@@ -26,26 +19,24 @@ TEST_F(TrialSession, LeavesNoClassBehind) {
     ASSERT_FALSE(isRegistered());
 
     cad.start({"--hidden"});
-    EXPECT_TRUE(isRegistered());
-    EXPECT_EQ(makeStableKey(), ERROR_CHILD_MUST_BE_VOLATILE);
-
-    send(cad.window(), WM_ENDSESSION, FALSE);
-    EXPECT_TRUE(isRegistered());
-    send(cad.window(), WM_ENDSESSION, TRUE);
-    EXPECT_FALSE(isRegistered());
+    HKEY stable = nullptr;  // below the session's own
+    EXPECT_EQ(RegCreateKeyExW(HKEY_CLASSES_ROOT, L"SldWorks.Application\\Test", 0, nullptr, 0,
+                              KEY_READ, nullptr, &stable, nullptr),
+              ERROR_CHILD_MUST_BE_VOLATILE);
+    for (const bool ends : {false, true}) {
+        send(cad.window(), WM_ENDSESSION, ends);
+        EXPECT_EQ(isRegistered(), !ends);
+    }
     cad.close();
 }
 
 struct ScriptedSession : Scenario {
-    std::string file() const { return utf8((sandbox.directory() / "documents.txt").wstring()); }
-
-    void writeScript(const std::string& text) const { writeFileBytes(wide(file()), text); }
-
     /// Starts a session on a file of documents, in their directory.
-    void startOn(const std::string& script, std::vector<std::string> options = {}) {
-        writeScript(script);
-        options.insert(options.end(), {"--documents", file(), "--working-directory",
-                                       utf8(sandbox.documents().wstring())});
+    void startOn(const std::string& script, const std::string& option = {}) {
+        auto options = saidOf(script);
+        options.insert(options.end(),
+                       {"--working-directory", utf8(sandbox.documents().wstring()), option});
+        if (option.empty()) options.pop_back();
         cad.start(options);
         session = cad.application();
     }
@@ -91,7 +82,7 @@ TEST_F(ScriptedSession, DocumentsAnswerAsTheirLinesSay) {
 
 TEST_F(ScriptedSession, ClosingEndsTheDocumentAndKnowsNoOther) {
     const std::string users = sandbox.addDocument("ouvert.SLDPRT");
-    startOn("ouvert.SLDPRT;open", {"--hide-endings"});
+    startOn("ouvert.SLDPRT;open", "--hide-endings");
     EXPECT_EQ(call(L"GetDocumentCount").number, 1);
     const ComPtr<IDispatch> document = openDocument(session.get(), users).document;
     EXPECT_EQ(callByName(document.get(), L"GetTitle").text, "ouvert");
@@ -106,7 +97,7 @@ TEST_F(ScriptedSession, ClosingEndsTheDocumentAndKnowsNoOther) {
 }
 
 TEST_F(ScriptedSession, KeepsAWorkingDirectoryAndMayBearTheNameOfItsProcessAlone) {
-    startOn("", {"--pid-only"});
+    startOn("", "--pid-only");
     CLSID classId;
     ComPtr<IUnknown> found;
     EXPECT_FALSE(SUCCEEDED(CLSIDFromProgID(L"SldWorks.Application", &classId)) &&
@@ -123,10 +114,9 @@ TEST_F(ScriptedSession, ABadLineIsNamedAndEndsIt) {
         {"a;refus=1", "refus=1"},    {"a;save=1:0", "save=1:0"}, {";open", ";open"},
     };
     for (const auto& [text, named] : lines) {
-        writeScript(text);
         const std::filesystem::path errors = sandbox.directory() / "erreurs.txt";
         const Process refused(Sandbox::builtPrograms() / "tarnwick-trialcad.exe",
-                              {L"--documents", wide(file())}, sandbox.directory(), errors);
+                              {L"--documents", wide(saidOf(text)[1])}, sandbox.directory(), errors);
         EXPECT_EQ(refused.waitForExit(), 2U);
         const std::string told = readFileBytes(errors).value_or("");
         EXPECT_NE(told.find(named), told.npos) << told;

@@ -64,12 +64,12 @@ ServersReply FakeAutomation::answer(const std::wstring& object, std::wstring_vie
     const auto scripted = documents.find(document);
     const FakeDocument said = scripted == documents.end() ? FakeDocument() : scripted->second;
     if (said.fails == name) throw errors::automation(L"");
+    if (name == L"OpenDoc6") {
+        *std::get<std::int32_t*>(arguments[4]) = said.errorCode;
+        *std::get<std::int32_t*>(arguments[5]) = said.warningCode;
+    }
     if (opens) {
-        if (name == L"OpenDoc6") {
-            *std::get<std::int32_t*>(arguments[4]) = said.errorCode;
-            *std::get<std::int32_t*>(arguments[5]) = said.warningCode;
-        }
-        if (!documentsOpen || !said.opens) return {.value = ObjectPtr()};
+        if (!said.opens) return {.value = ObjectPtr()};
         return {.object = std::make_shared<Object>(*this, document)};
     }
     if (name == L"setsearchfolders") {
@@ -80,9 +80,8 @@ ServersReply FakeAutomation::answer(const std::wstring& object, std::wstring_vie
     if (name == L"GetCurrentWorkingDirectory") return {.value = workingDirectory};
     if (name == L"GetSearchFolders") return {.value = searchFolders};
     if (name == L"GetTitle") return {.value = object};
-    if (name == L"ForceRebuild3") return {.value = true};
     if (name == L"save2") return {.value = said.saved};
-    if (name == L"SetCurrentWorkingDirectory") return {.value = true};
+    if (name == L"ForceRebuild3" || name == L"SetCurrentWorkingDirectory") return {.value = true};
     if (name == L"closedoc" || name == L"ViewZoomtofit2") return {};
     if (name == L"fileExists") return {.value = fileExists(textArgument(arguments[0]))};
     throw errors::unknownMember(std::wstring(name));
@@ -91,6 +90,7 @@ ServersReply FakeAutomation::answer(const std::wstring& object, std::wstring_vie
 CallResult FakeAutomation::running(const std::wstring& progId,
                                    std::shared_ptr<ServedObject>& object) {
     journal.push_back(L"attach " + progId);
+    if (!runs) return call_result::failure(0x800401E3);  // MK_E_UNAVAILABLE
     object = std::make_shared<Object>(*this);
     return 0;
 }
@@ -98,7 +98,7 @@ CallResult FakeAutomation::running(const std::wstring& progId,
 CallResult FakeAutomation::runningNamed(const std::wstring& beginning,
                                         std::shared_ptr<ServedObject>&) {
     journal.push_back(L"attach " + beginning + L"…");
-    return 0;
+    return call_result::failure(0x800401E3);
 }
 
 std::shared_ptr<ServedObject> FakeAutomation::make(const std::wstring& progId) {

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "fakes/fake_message_boxes.h"
+#include "fakes/fake_services.h"
 #include "fakes/fake_waiting.h"
 #include "rules/late_binding.h"
 
@@ -28,7 +28,7 @@ struct FakeAutomation : ObjectServers {
     using Answer = std::function<Value(std::span<const Argument>)>;
 
     CallJournal journal;
-    bool documentsOpen = true;  ///< false: opening and activating give no document
+    bool runs = true;  ///< false: there is none to attach to
     std::wstring revision = L"12.0.0";
     std::wstring workingDirectory = L"c:\\plans";
     std::wstring searchFolders;

@@ -1,21 +1,13 @@
 #pragma once
 
 #include <memory>
-#include <thread>
+#include <utility>
 
 #include "fakes/fake_automation.h"
-#include "fakes/fake_clock.h"
-#include "fakes/fake_desktop.h"
-#include "fakes/fake_file_dialogs.h"
 #include "fakes/fake_files.h"
-#include "fakes/fake_list_holds.h"
-#include "fakes/fake_message_boxes.h"
-#include "fakes/fake_patience.h"
-#include "fakes/fake_power.h"
-#include "fakes/fake_record_files.h"
-#include "fakes/fake_settings.h"
+#include "fakes/fake_services.h"
+#include "fakes/fake_waiting.h"
 #include "fakes/fake_window.h"
-#include "fakes/fake_workers.h"
 #include "ports/machine.h"
 #include "storage/program_files.h"
 #include "storage/window_places.h"
@@ -55,16 +47,13 @@ struct FakePlatform {
         settings.entries.clear();
     }
 
-    /// Has a search that serves its window ask once whether it goes on, when it has read a
-    /// directory.
+    /// Has a search ask once whether it goes on, when it has read a directory: the next one does
+    /// not answer.
     void serveAfter(const std::wstring& directory, const std::function<bool()>& goesOn) {
-        const auto here = std::make_shared<bool>(false);
-        files.beforeEach = [=](const std::wstring& path) {
-            if (path == directory) *here = true;
-            // Longer than a search takes no notice of its window.
-            if (*here) std::this_thread::sleep_for(std::chrono::milliseconds(25));
+        files.beforeEach = [=, this](const std::wstring& path) {
+            if (path == directory) workers.hang = true;
         };
-        patience.goesOn = [=] { return !std::exchange(*here, false) || goesOn(); };
+        patience.goesOn = [=, this] { return !std::exchange(workers.hang, false) || goesOn(); };
     }
 
     /// From now on no directory answers; Escape is pressed while one is waited for, and each time

@@ -16,6 +16,7 @@ class FakeMachine : public Machine, private EventSink {
     Window& window() override { return *window_; }
     Settings& settings() override { return fakes_.settings; }
     Files& files() override { return fakes_.files; }
+    RecordFiles& records() override { return fakes_.records; }
     std::wstring directory() override { return L"c:\\contrat"; }
     void addDirectory(const std::wstring& path) override { fakes_.files.directories.insert(path); }
     void hide(const std::wstring& path, bool asSystem) override {

@@ -19,34 +19,28 @@ HDROP handOver(const std::vector<std::wstring>& paths) {
     return static_cast<HDROP>(memory);
 }
 
-class Drops : public testing::Test, protected RealWindows, private EventSink {
- protected:
+struct Drops : RealWindowTest {
     void drop() {
-        SendMessageW(ownWindows().front(), WM_DROPFILES, reinterpret_cast<WPARAM>(handOver(paths)),
-                     0);
+        SendMessageW(dialog(), WM_DROPFILES, reinterpret_cast<WPARAM>(handOver(paths)), 0);
     }
 
     const std::vector<std::wstring> paths = {L"c:\\plans\\été.SLDPRT",
                                              L"c:\\" + std::wstring(400, L'x')};
-    std::unique_ptr<Window> window_ =
+    std::unique_ptr<Window> window =
         factory.create({.dialogId = IDD_CONTRACT, .takesDrops = true}, *this);
-    RaisedEvents raised;
-
- private:
-    void raise(int id, Event event) override { raised.emplace_back(id, event); }
 };
 
 }  // namespace
 
 TEST_F(Drops, RaiseAnEventWithTheFullPathsUnlessACommandIsAtWorkOrABoxWaits) {
-    window_->show();
+    window->show();
     gate.run([&] { drop(); });
-    EnableWindow(ownWindows().front(), FALSE);
+    EnableWindow(dialog(), FALSE);
     drop();
-    EnableWindow(ownWindows().front(), TRUE);
+    EnableWindow(dialog(), TRUE);
     EXPECT_TRUE(raised.empty());
-    EXPECT_NE(GetWindowLongW(ownWindows().front(), GWL_EXSTYLE) & WS_EX_ACCEPTFILES, 0);
+    EXPECT_NE(GetWindowLongW(dialog(), GWL_EXSTYLE) & WS_EX_ACCEPTFILES, 0);
     drop();
     EXPECT_EQ(raised, (RaisedEvents{{kTheWindow, Event::Drop}}));
-    EXPECT_EQ(window_->droppedPaths(), paths);
+    EXPECT_EQ(window->droppedPaths(), paths);
 }

@@ -1,7 +1,5 @@
 // The file that tells who has a list open, as several programs meet it.
 
-#include <optional>
-
 #include "contract/machine.h"
 #include "win32/process/win_list_holds.h"
 

@@ -16,26 +16,19 @@ std::vector<UINT> idsIn(HMENU menu, int from) {
     return ids;
 }
 
-class Menus : public testing::Test, protected RealWindows, private EventSink {
- protected:
-    HWND dialog() const { return ownWindows().front(); }
-
-    void pressControlZ() const {
+struct Menus : RealWindowTest {
+    static void pressControlZ() {
         BYTE keys[256] = {};
-        keys[VK_CONTROL] = 0x80;
-        SetKeyboardState(keys);
         MSG pressed{dialog(), WM_KEYDOWN, 'Z', 1, 0, {}};
-        EXPECT_TRUE(translateShortcut(dialog(), pressed));
-        keys[VK_CONTROL] = 0;
-        SetKeyboardState(keys);
+        for (const bool down : {true, false}) {
+            keys[VK_CONTROL] = down ? 0x80 : 0;
+            SetKeyboardState(keys);
+            EXPECT_EQ(down && translateShortcut(dialog(), pressed), down);
+        }
     }
 
-    std::unique_ptr<Window> window_ =
+    std::unique_ptr<Window> window =
         factory.create({.dialogId = IDD_CONTRACT, .systemMenu = kItems}, *this);
-    RaisedEvents raised;
-
- private:
-    void raise(int id, Event event) override { raised.emplace_back(id, event); }
 };
 
 }  // namespace
@@ -46,13 +39,13 @@ TEST_F(Menus, StandBelowSeparatorsAndAreClickedUnlessGreyed) {
     EXPECT_EQ(idsIn(menu, count - 4),
               (std::vector<UINT>{0, IDM_CONTRACT_ONE, 0, IDM_CONTRACT_TWO}));
     for (const auto& [marked, state] : {std::pair(true, MF_CHECKED), {false, MF_UNCHECKED}}) {
-        window_->setMenuItemChecked(IDM_CONTRACT_ONE, marked);
+        window->setMenuItemChecked(IDM_CONTRACT_ONE, marked);
         EXPECT_EQ(GetMenuState(menu, IDM_CONTRACT_ONE, MF_BYCOMMAND), state);
         EXPECT_EQ(GetMenuState(menu, IDM_CONTRACT_TWO, MF_BYCOMMAND), MF_UNCHECKED);
     }
     // As when it is chosen, and by its key.
     for (const bool enabled : {false, true}) {
-        window_->setMenuItemEnabled(IDM_CONTRACT_TWO, enabled);
+        window->setMenuItemEnabled(IDM_CONTRACT_TWO, enabled);
         SendMessageW(dialog(), WM_SYSCOMMAND, IDM_CONTRACT_TWO + 3, 0);
         pressControlZ();
         SendMessageW(dialog(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
@@ -61,9 +54,9 @@ TEST_F(Menus, StandBelowSeparatorsAndAreClickedUnlessGreyed) {
 }
 
 TEST_F(Menus, AlsoComeUpByThemselves) {
-    window_->show();
-    window_->setMenuItemChecked(IDM_CONTRACT_ONE, true);
-    window_->setMenuItemEnabled(IDM_CONTRACT_TWO, false);
+    window->show();
+    window->setMenuItemChecked(IDM_CONTRACT_ONE, true);
+    window->setMenuItemEnabled(IDM_CONTRACT_TWO, false);
     static std::vector<UINT> items;
     static UINT states = 0;
     SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR timer, DWORD) {
@@ -80,8 +73,8 @@ TEST_F(Menus, AlsoComeUpByThemselves) {
     GetWindowRect(dialog(), &frame);
     EXPECT_FALSE(isOnFrame(dialog(), -1));
     EXPECT_TRUE(isOnFrame(dialog(), MAKELPARAM(frame.left + 20, frame.top + 5)));
-    SendMessageW(GetDlgItem(dialog(), IDC_CONTRACT_ONE), WM_CONTEXTMENU,
-                 reinterpret_cast<WPARAM>(GetDlgItem(dialog(), IDC_CONTRACT_ONE)), -1);
+    SendMessageW(item(IDC_CONTRACT_ONE), WM_CONTEXTMENU,
+                 reinterpret_cast<WPARAM>(item(IDC_CONTRACT_ONE)), -1);
     EXPECT_EQ(items, (std::vector<UINT>{IDM_CONTRACT_ONE, 0, IDM_CONTRACT_TWO}));
     EXPECT_EQ(states, static_cast<UINT>(MF_CHECKED | MF_GRAYED));
     EXPECT_TRUE(eventually([&] { return !raised.empty(); }));

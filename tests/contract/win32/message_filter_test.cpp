@@ -6,7 +6,7 @@
 #include <objbase.h>
 
 #include "contract/win32/real_windows.h"
-#include "fakes/fake_message_boxes.h"
+#include "fakes/fake_services.h"
 #include "fakes/fake_waiting.h"
 #include "rules/patience.h"
 #include "win32/window/waiting.h"
@@ -14,12 +14,9 @@
 namespace {
 
 /// COM keeps a filter for each thread that it serves.
-struct MessageFilterTest : testing::Test, RealWindows, EventSink {
+struct MessageFilterTest : RealWindowTest {
     MessageFilterTest() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
     ~MessageFilterTest() override { CoUninitialize(); }
-    void raise(int id, Event event) override { raised.emplace_back(id, event); }
-
-    RaisedEvents raised;
 };
 
 }  // namespace
@@ -52,7 +49,7 @@ TEST_F(MessageFilterTest, HearsTheFrameWhileACallIsOut) {
     window->show();
     gate.run([&] {
         const CallOut out(judge);
-        PostMessageW(ownWindows().front(), WM_SYSCOMMAND, SC_CLOSE, 0);
+        PostMessageW(dialog(), WM_SYSCOMMAND, SC_CLOSE, 0);
         EXPECT_EQ(filter.MessagePending(nullptr, 0, 0), PENDINGMSG_WAITDEFPROCESS);
         EXPECT_TRUE(raised.empty());
         EXPECT_TRUE(judge.situation().closeAsked);

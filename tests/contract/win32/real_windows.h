@@ -36,3 +36,12 @@ struct RealWindows {
     EventGate gate{keeper, boxes, judge};
     DialogFactory factory{gate};
 };
+
+/// Checks on windows of the program; what these raise is noted.
+struct RealWindowTest : testing::Test, RealWindows, EventSink {
+    RaisedEvents raised;
+
+    void raise(int id, Event event) override { raised.emplace_back(id, event); }
+    static HWND dialog() { return ownWindows().front(); }
+    static HWND item(int id) { return GetDlgItem(dialog(), id); }
+};

@@ -1,6 +1,12 @@
-// What the file layer promises beyond the shared contract: encodings, refusals, odd names.
+// What the file layer promises beyond the shared contract: encodings, refusals, odd names, how
+// directories are told apart, and who reads them.
+
+#include "win32/files/win_files.h"
 
 #include <windows.h>
+
+#include <atomic>
+#include <future>
 
 #include "contract/machine.h"
 #include "win32/process/handles.h"
@@ -49,9 +55,7 @@ TEST_F(WinFilesTest, KeepsACopyOfAnyBytesOverAReadOnlyFileAndRemovesOne) {
     const std::string_view odd("0  \xE9t\xE9\0\xFF", 8);
     writeBytes(list, odd);
     writeBytes(copy, "d'avant");
-    for (const auto& file : {list, copy}) {
-        SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
-    }
+    for (const auto& file : {list, copy}) SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
     files.keepCopy(list, copy);
     EXPECT_EQ(files.readBytes(copy), odd);
     files.remove(list);
@@ -91,4 +95,108 @@ TEST_F(WinFilesTest, TakesNamesThatEndWithADotOrABlank) {
     EXPECT_EQ(namesIn(path(L"etc.")), Texts{L"fin ."});
     EXPECT_EQ(namesIn(path(L"etc")), Texts());
     EXPECT_FALSE(files.identify(path(L"etc.")) == files.identify(path(L"etc")));
+}
+
+// Whoever put it there: it must not take all memory at a start.
+TEST_F(WinFilesTest, ReadsNoRecordOfMoreThan64Megabytes) {
+    const std::wstring record = path(L"liste.reprise");
+    for (const LONG size : {64 << 20, (64 << 20) + 1}) {
+        {
+            const UniqueHandle file(
+                CreateFileW(record.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+            SetFilePointer(file.get(), size, nullptr, FILE_BEGIN);
+            ASSERT_TRUE(SetEndOfFile(file.get()));
+        }
+        EXPECT_EQ(machine->records().at(record)->read().has_value(), size == 64 << 20);
+    }
+}
+
+namespace {
+
+/// A file system that answers as it is told.
+struct Answers : IdentityCalls {
+    std::optional<FILE_ID_INFO> wideAnswer;
+    BY_HANDLE_FILE_INFORMATION narrowAnswer{};
+
+    bool wide(HANDLE, FILE_ID_INFO& identity) override {
+        if (wideAnswer) identity = *wideAnswer;
+        return wideAnswer.has_value();
+    }
+    bool narrow(HANDLE, BY_HANDLE_FILE_INFORMATION& information) override {
+        information = narrowAnswer;
+        return true;
+    }
+};
+
+DirectoryId idFrom(Answers answers) {
+    DirectoryId id{};
+    EXPECT_TRUE(identify(nullptr, id, answers));
+    return id;
+}
+
+/// A directory by its new identity, of which this is the last byte, each other one `filler`.
+DirectoryId wide(ULONGLONG volume, BYTE last, BYTE filler = 1) {
+    Answers answers;
+    answers.wideAnswer = {.VolumeSerialNumber = volume, .FileId = {}};
+    std::ranges::fill(answers.wideAnswer->FileId.Identifier, filler);
+    answers.wideAnswer->FileId.Identifier[15] = last;
+    // By the old one it is its own.
+    static DWORD index = 0;
+    answers.narrowAnswer.nFileIndexLow = ++index;
+    return idFrom(answers);
+}
+
+DirectoryId narrow(DWORD volume, DWORD high, DWORD low) {
+    Answers answers;
+    answers.narrowAnswer.dwVolumeSerialNumber = volume;
+    answers.narrowAnswer.nFileIndexHigh = high;
+    answers.narrowAnswer.nFileIndexLow = low;
+    return idFrom(answers);
+}
+
+}  // namespace
+
+TEST(DirectoryIdentity, IsAllBitsOrTheOldOneWhereThereAreNone) {
+    EXPECT_EQ(wide(7, 2), wide(7, 2));
+    EXPECT_FALSE(wide(7, 2) == wide(7, 3) || wide(7, 2) == wide(1ULL << 40, 2));
+    EXPECT_EQ(narrow(7, 1, 2), narrow(7, 1, 2));
+    EXPECT_FALSE(narrow(7, 1, 2) == narrow(7, 2, 2) || narrow(7, 1, 2) == narrow(8, 1, 2));
+    for (const BYTE filler : {BYTE{0}, BYTE{0xFF}}) {
+        EXPECT_FALSE(wide(7, filler, filler) == wide(7, filler, filler));
+    }
+}
+
+TEST(FoundName, IsWhatItsAttributesAndTagSay) {
+    WIN32_FIND_DATAW found{};
+    found.dwFileAttributes = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+    found.dwReserved0 = IO_REPARSE_TAG_SYMLINK;
+    EXPECT_TRUE(entryOf(found).isLink);
+}
+
+namespace {
+
+/// Jobs that wait until eight of them have come.
+struct Meeting {
+    PoolWorkers workers;
+    std::atomic<int> missing{8};
+    std::promise<void> held;
+    std::shared_future<void> all{held.get_future()};
+};
+
+/// As readers do: each calls the next one when it has begun.
+void join(const std::shared_ptr<Meeting>& meeting, int jobs) {
+    if (jobs == 0) return;
+    EXPECT_TRUE(meeting->workers.start([meeting, jobs] {
+        join(meeting, jobs - 1);
+        if (--meeting->missing == 0) meeting->held.set_value();
+        meeting->all.wait();
+    }));
+}
+
+}  // namespace
+
+TEST(PoolWorkers, RunEightJobsAtOnce) {
+    const auto meeting = std::make_shared<Meeting>();
+    join(meeting, 8);
+    EXPECT_EQ(meeting->all.wait_for(std::chrono::minutes(1)), std::future_status::ready);
 }

@@ -6,6 +6,7 @@
 #include "contract/win32/real_windows.h"
 #include "rules/windows_files.h"
 #include "win32/files/win_files.h"
+#include "win32/files/win_written_files.h"
 
 namespace {
 
@@ -52,6 +53,7 @@ class WinMachine : public Machine, private RealWindows, private EventSink {
     Window& window() override { return *window_; }
     Settings& settings() override { return settings_; }
     Files& files() override { return files_; }
+    RecordFiles& records() override { return records_; }
     std::wstring directory() override { return directory_.path; }
     void addDirectory(const std::wstring& path) override {
         CreateDirectoryW(longPath(path).c_str(), nullptr);
@@ -70,6 +72,7 @@ class WinMachine : public Machine, private RealWindows, private EventSink {
     int events_ = 0;
     RegistrySettings settings_;
     WinFiles files_;
+    WinRecordFiles records_;
     ScratchDirectory directory_;
 };
 

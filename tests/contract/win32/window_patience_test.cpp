@@ -1,7 +1,6 @@
 // How the program's windows live while the main thread searches.
 
 #include <thread>
-#include <vector>
 
 #include "contract/win32/real_windows.h"
 #include "pickers/tree_walk.h"
@@ -19,8 +18,7 @@ struct SilentFiles : WinFiles {
     }
 };
 
-class SearchOnAWindow : public testing::Test, protected RealWindows, private EventSink {
- protected:
+struct SearchOnAWindow : RealWindowTest {
     SearchOnAWindow() { window_->show(); }
     ~SearchOnAWindow() override { answer(); }
 
@@ -43,18 +41,21 @@ class SearchOnAWindow : public testing::Test, protected RealWindows, private Eve
         });
     }
     void answer() { SetEvent(files_->answers); }
-    HWND dialog() const { return ownWindows().front(); }
-    HWND item(int id) const { return GetDlgItem(dialog(), id); }
-
-    std::optional<WalkEnd> end_;
-    std::vector<int> raised_;
-
- private:
+    /// The window answers other programs all the while.
+    static void expectAnswer() {
+        DWORD_PTR answered = 0;
+        EXPECT_NE(SendMessageTimeoutW(dialog(), WM_NULL, 0, 0, 0, 60000, &answered), 0);
+    }
+    static void press(HWND window) {
+        for (const UINT mouse : {WM_LBUTTONDOWN, WM_LBUTTONUP}) {
+            PostMessageW(window, mouse, 0, MAKELPARAM(3, 3));
+        }
+    }
     DuringSearch duringSearch(int controlId, Event) const override {
         return controlId == IDC_CONTRACT_TYPED ? DuringSearch::Restart : DuringSearch::Drop;
     }
-    void raise(int controlId, Event) override { raised_.push_back(controlId); }
 
+    std::optional<WalkEnd> end_;
     SilentFiles* files_ = new SilentFiles;  // its readers may outlive the test
     PoolWorkers workers_;
     WinSearchWatch patience_{judge};
@@ -68,31 +69,27 @@ TEST_F(SearchOnAWindow, IsOneStepWhenItTakesNoTime) {
     PostMessageW(item(IDC_CONTRACT_BUTTON), BM_CLICK, 0, 0);
     search([&] { answer(); });
     EXPECT_EQ(end_, WalkEnd::Complete);
-    EXPECT_TRUE(raised_.empty());
+    EXPECT_TRUE(raised.empty());
 }
 
 TEST_F(SearchOnAWindow, AnswersAndDropsAllButWhatIsTypedOrPressedForANewerOne) {
     // It was not meant for a search that begins later.
     PostMessageW(item(IDC_CONTRACT_BUTTON), WM_KEYDOWN, VK_ESCAPE, 0);
-    Sleep(50);
+    for (const DWORD posted = GetTickCount(); GetTickCount() < posted + 50;) SwitchToThread();
     search([&] {
-        DWORD_PTR answered = 0;
-        EXPECT_NE(SendMessageTimeoutW(dialog(), WM_NULL, 0, 0, 0, 60000, &answered), 0);
+        expectAnswer();
         HWND check = item(IDC_CONTRACT_CHECK);
-        for (const UINT mouse : {WM_LBUTTONDOWN, WM_LBUTTONUP}) {
-            PostMessageW(check, mouse, 0, MAKELPARAM(3, 3));
-        }
+        press(check);
         for (const UINT key : {WM_KEYDOWN, WM_KEYUP}) PostMessageW(check, key, VK_SPACE, 1);
         PostMessageW(item(IDC_CONTRACT_BUTTON), BM_CLICK, 0, 0);
         PostMessageW(item(IDC_CONTRACT_FIELD), WM_CHAR, 'a', 1);
         HWND typed = GetWindow(item(IDC_CONTRACT_TYPED), GW_CHILD);
         for (const WPARAM letter : {'b', 'c'}) PostMessageW(typed, WM_CHAR, letter, 1);
-        for (const UINT mouse : {WM_LBUTTONDOWN, WM_LBUTTONUP}) {
-            PostMessageW(typed, mouse, 0, MAKELPARAM(3, 3));
-        }
+        press(typed);
     });
     EXPECT_EQ(end_, WalkEnd::Interrupted);
-    EXPECT_EQ(raised_, std::vector{IDC_CONTRACT_TYPED}) << "however many letters";
+    EXPECT_EQ(raised, (RaisedEvents{{IDC_CONTRACT_TYPED, Event::Change}}))
+        << "however many letters";
     EXPECT_EQ(GetParent(GetFocus()), item(IDC_CONTRACT_TYPED));
     EXPECT_EQ(IsDlgButtonChecked(dialog(), IDC_CONTRACT_CHECK), BST_UNCHECKED);
     EXPECT_EQ(GetWindowTextLengthW(item(IDC_CONTRACT_FIELD)), 0);
@@ -114,16 +111,14 @@ TEST_F(SearchOnAWindow, IsEndedByEscapeOrWithTheProgramByAFrame) {
 
 TEST_F(SearchOnAWindow, AsAPassThatGoesOnAloneIsStoppedByAnyButton) {
     HWND button = item(IDC_CONTRACT_BUTTON);
-    const std::function<void()> presses[] = {
-        [&] { PostMessageW(button, WM_LBUTTONDOWN, 0, MAKELPARAM(3, 3)); },
-        [&] { PostMessageW(button, BM_CLICK, 0, 0); },
-        [&] { SendMessageW(button, BM_CLICK, 0, 0); }};
-    for (const auto& press : presses) {
+    const std::function<void()> presses[] = {[&] { press(button); },
+                                             [&] { PostMessageW(button, BM_CLICK, 0, 0); },
+                                             [&] { SendMessageW(button, BM_CLICK, 0, 0); }};
+    for (const auto& stop : presses) {
         goAlone([&] {
-            DWORD_PTR answered = 0;
-            EXPECT_NE(SendMessageTimeoutW(dialog(), WM_NULL, 0, 0, 0, 60000, &answered), 0);
-            press();
+            expectAnswer();
+            stop();
         });
-        EXPECT_TRUE(raised_.empty());
+        EXPECT_TRUE(raised.empty());
     }
 }

@@ -83,10 +83,7 @@ void CALLBACK onLiveRegion(HWINEVENTHOOK, DWORD, HWND label, LONG, LONG, DWORD, 
     if (GetDlgCtrlID(label) == IDC_CONTRACT_LABEL) ++labelsReadOut;
 }
 
-class WindowsAndBoxes : public testing::Test, protected RealWindows, private EventSink {
- protected:
-    void raise(int id, Event event) override { raised.emplace_back(id, event); }
-
+struct WindowsAndBoxes : RealWindowTest {
     std::unique_ptr<Window> makeWindow(HWND& handle) {
         auto window = factory.create({.dialogId = IDD_CONTRACT,
                                       .tooltips = kTips,
@@ -104,7 +101,6 @@ class WindowsAndBoxes : public testing::Test, protected RealWindows, private Eve
         EXPECT_EQ(boxes.show({.text = L"Oui ?", .title = kTitle}), MessageBoxes::Answer::Ok);
     }
 
-    RaisedEvents raised;
     HWND first = nullptr;
     HWND second = nullptr;
     std::unique_ptr<Window> firstWindow = makeWindow(first);

@@ -13,7 +13,7 @@ struct StartUp : testing::Test {
     StartUp() { machine.files.directories.insert(L"c:\\plans"); }
 
     FakeWindow& about() { return machine.window(IDD_ABOUT); }
-    void askAbout() { machine.window(IDD_FORM1).click(IDC_FORM1_CMDAP); }
+    FakeWindow& selection() { return machine.window(IDD_FORM1); }
 
     /// The error of a start with these files named on the command line.
     RuntimeError failure(const Texts& namedFiles = {}) {
@@ -33,7 +33,7 @@ TEST_F(StartUp, GoesThroughItsStepsInOrder) {
               (CallJournal{L"attach SldWorks.Application", L"RevisionNumber()",
                            L"GetCurrentWorkingDirectory()", L"create Scripting.FileSystemObject"}));
     EXPECT_EQ(machine.listHolds.asked, Texts{L"c:\\tarnwick\\tarnwick.verrou"});
-    EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
+    EXPECT_EQ(selection().state, State::Shown);
     EXPECT_EQ(about().state, State::Unloaded);
 }
 
@@ -56,15 +56,11 @@ TEST_F(StartUp, AsksAboutAnExistingListEvenAnEmptyOne) {
     EXPECT_FALSE(machine.windows.made.contains(IDD_FORM1));
     // A list that can't be looked for counts as none.
     machine.files.failing[machine.programFiles.list] = 2;
-    {
-        machine.platform.namedFiles = {machine.programFiles.list};
-        Program another(machine.platform);
-        another.start();
-        EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
-    }
+    EXPECT_EQ(failure({machine.programFiles.list}).number, 0);
+    EXPECT_TRUE(machine.windows.made.contains(IDD_FORM1));
     machine.window(IDD_FORM2).click(IDC_FORM2_CMDANNULE);
-    EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
-    EXPECT_THROW(machine.window(IDD_FORM1).click(IDC_FORM1_CMD_TRACER), ProgramEnd);
+    EXPECT_EQ(selection().state, State::Shown);
+    EXPECT_THROW(selection().click(IDC_FORM1_CMD_TRACER), ProgramEnd);
 }
 
 TEST_F(StartUp, IsFollowedByTheAboutWindowAsOftenAsTheUserAsks) {
@@ -72,10 +68,10 @@ TEST_F(StartUp, IsFollowedByTheAboutWindowAsOftenAsTheUserAsks) {
     const std::pair<int, Event> ways[] = {
         {kEnterKey, Event::Click}, {kEscapeKey, Event::Click}, {kTheWindow, Event::Close}};
     for (const auto& [id, event] : ways) {
-        askAbout();
+        selection().click(IDC_FORM1_CMDAP);
         EXPECT_EQ(about().area.top, 0) << id << ": a closed window is not opened again";
         about().leaveAt(0, 100);
-        askAbout();
+        selection().click(IDC_FORM1_CMDAP);
         EXPECT_EQ(about().area.top, 100) << id << ": one window is enough";
         EXPECT_EQ(about().state, State::Shown) << id;
         about().sink.raise(id, event);
@@ -115,6 +111,31 @@ TEST_F(StartUp, EndsBeforeAllElseWhenTheListIsOpenAlready) {
 
     machine.listHolds.answer = {.hidden = true};
     program.start();
-    EXPECT_EQ(machine.boxes.shown.size(), 1U) << "that others can't be told";
-    EXPECT_EQ(machine.window(IDD_FORM1).state, State::Shown);
+    EXPECT_EQ(machine.boxes.takeTexts().size(), 1U) << "that others can't be told";
+    EXPECT_EQ(selection().state, State::Shown);
+}
+
+TEST_F(StartUp, WithoutCadSessionShowsOneBoxAndEnds) {
+    machine.automation.runs = false;
+    machine.files.texts[machine.programFiles.list] = L"0  c:\\a\r\n";
+    EXPECT_THROW(program.start(), ProgramEnd);
+    EXPECT_EQ(
+        machine.boxes.shown,
+        std::vector{(MessageBoxContent{.text = L" Une session SolidWorks doit être ouverte  \r\n"
+                                               L"   pour que Tarnwick puisse démarrer.",
+                                       .title = L"Tarnwick by Mervale"})});
+    EXPECT_TRUE(machine.settings.entries.empty());
+    EXPECT_EQ(machine.files.texts[machine.programFiles.list], L"0  c:\\a\r\n");
+}
+
+TEST(Guide, IsAskedForOnlyWhereItsPageStands) {
+    const std::tuple<const wchar_t*, bool, std::size_t> cases[] = {
+        {L"guide.html", true, 0}, {L"guide.html", false, 1}, {L"guide.html.exe", true, 1}};
+    for (const auto& [beside, browser, boxes] : cases) {
+        FakePlatform machine;
+        machine.files.add({L"c:\\tarnwick\\" + std::wstring(beside)});
+        if (browser) machine.desktop.openable = L"c:\\tarnwick\\guide.html";
+        showGuide(machine.files, machine.desktop, machine.boxes, L"c:\\tarnwick");
+        EXPECT_EQ(machine.boxes.shown.size(), boxes) << beside << browser;
+    }
 }

@@ -2,7 +2,7 @@
 
 #include "cad/cad_names.h"
 #include "fakes/fake_automation.h"
-#include "fakes/fake_desktop.h"
+#include "fakes/fake_services.h"
 #include "unit/unit_test.h"
 
 namespace {
@@ -38,7 +38,7 @@ TEST_F(CadSessionTest, KeepsThePathThatTheServerChanges) {
 }
 
 TEST_F(CadSessionTest, FailuresNameTheDocument) {
-    automation.documentsOpen = false;
+    automation.documents[L"a.SLDPRT"].opens = false;
     attach();
     const std::function<void()> calls[] = {
         [&] { session.open(kPath, {.rebuild = Rebuild::TopLevel}, remark); },

@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "fakes/fake_message_boxes.h"
+#include "fakes/fake_services.h"
 #include "unit/unit_test.h"
 
 namespace {
@@ -102,59 +102,48 @@ TEST_F(EventGateTest, MakesANewerSearchOnceAndNoneThatWasStopped) {
 }
 
 TEST_F(EventGateTest, DropsWaitingEventsThatTheUserCouldNotCauseAnyMore) {
-    sink.handlers[1] = [&] {
-        click(2);
-        source.usable = false;
-    };
-    sink.handlers[3] = [&] {
-        click(4);
-        source.usable = true;
-        source.shown = false;
-    };
-    sink.handlers[5] = [&] {
-        source.shown = true;
-        click(6);
-        gate.forget(source);
-    };
-    for (const int id : {1, 3, 5}) click(id);
-    EXPECT_EQ(sink.raised, (std::vector{1, 3, 5}));
+    const std::function<void()> meanwhile[] = {[&] { source.usable = false; },
+                                               [&] { source.shown = false; },
+                                               [&] { gate.forget(source); }};
+    for (const auto& change : meanwhile) {
+        source = {};
+        sink.raised.clear();
+        sink.handlers[1] = [&] { click(2), change(); };
+        click(1);
+        EXPECT_EQ(sink.raised, std::vector{1});
+    }
 }
 
-TEST_F(EventGateTest, TurnsARunTimeErrorIntoABoxAndTheEnd) {
+TEST_F(EventGateTest, EndsWithABoxOnceAndHandlesNothingMore) {
     boxes.whileShown = [&] { click(2); };
     sink.handlers[1] = [] { throw errors::fileNotFound(L"c:\\a"); };
     click(1);
-    EXPECT_EQ(boxes.shown.at(0).text, L"Erreur d'exécution '53' :\r\nFichier introuvable : c:\\a");
     expectEnd(53);
     click(3);
     EXPECT_EQ(sink.raised, std::vector{1});
 }
 
 TEST(EventGateEnds, WithTheNumberOfWhateverIsThrown) {
-    const struct {
-        std::function<void()> action;
-        std::size_t boxes;
-        int code;
-    } cases[] = {
-        {[] { throw ProgramEnd{}; }, 0, 0},
-        {[] { throw errors::overflow(); }, 1, 6},
-        {[] { throw std::bad_alloc(); }, 1, 7},
-        {[] { throw 1; }, 1, 51},
+    const std::tuple<std::function<void()>, Texts, int> cases[] = {
+        {[] { throw ProgramEnd{}; }, {}, 0},
+        {[] { throw errors::overflow(); }, {L"Erreur d'exécution '6' :\r\n"}, 6},
+        {[] { throw std::bad_alloc(); }, {L"Erreur d'exécution '7' :\r\n"}, 7},
+        {[] { throw 1; }, {L"Erreur d'exécution '51' :\r\n"}, 51},
     };
-    for (const auto& c : cases) {
+    for (const auto& [action, texts, code] : cases) {
         // A window procedure may fail outside any handler; and at times no box can be shown.
-        for (const bool outsideHandlers : {false, true}) {
-            for (const bool noBox : {false, true}) {
-                Judge judge({}, [] { return Moment{}; });
-                FakeKeeper keeper(judge);
-                FakeMessageBoxes boxes;
-                if (noBox) boxes.whileShown = [] { throw std::bad_alloc(); };
-                EventGate gate(keeper, boxes, judge);
-                outsideHandlers ? gate.guard(c.action) : gate.run(c.action);
-                EXPECT_EQ(boxes.shown.size(), noBox ? 0 : c.boxes) << c.code;
-                EXPECT_EQ(gate.exitCode(), c.code);
-                EXPECT_EQ(keeper.quits, std::vector{c.code});
-            }
+        for (int way = 0; way < 4; ++way) {
+            Judge judge({}, [] { return Moment{}; });
+            FakeKeeper keeper(judge);
+            FakeMessageBoxes boxes;
+            if (way % 2) boxes.whileShown = [] { throw std::bad_alloc(); };
+            EventGate gate(keeper, boxes, judge);
+            way < 2 ? gate.guard(action) : gate.run(action);
+            Texts shown = boxes.takeTexts();
+            for (std::wstring& text : shown) text.resize(text.find(L'\n') + 1);
+            EXPECT_EQ(shown, way % 2 ? Texts() : texts) << code;
+            EXPECT_EQ(gate.exitCode(), code);
+            EXPECT_EQ(keeper.quits, std::vector{code});
         }
     }
 }

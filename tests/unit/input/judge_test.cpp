@@ -1,21 +1,17 @@
 #include "input/judge.h"
 
-#include <gtest/gtest.h>
-
-#include "common/runtime_error.h"
+#include "unit/unit_test.h"
 
 namespace {
 
 using Kind = Deed::Kind;
 
-struct SearchingWindow : EventSink {
-    void raise(int, Event) override {}
-};
-
 struct JudgeTest : testing::Test {
     Moment time = 0;
     Judge judge{{.time = 500, .width = 4, .height = 4}, [this] { return time; }};
-    const SearchingWindow window{};
+    const struct : EventSink {
+        void raise(int, Event) override {}
+    } window{};
 
     void at(Moment now, void (Judge::*deed)()) {
         time = now;
@@ -32,14 +28,13 @@ struct JudgeTest : testing::Test {
         judge.take({.kind = Kind::Press, .time = moment, .x = x, .y = y});
         return *judge.situation().press;
     }
-    Press keyed(Moment moment, bool repeated = false) {
-        judge.take(
-            {.kind = Kind::Key, .time = moment, .key = virtual_key::kSpace, .repeated = repeated});
+    Press keyed(Moment moment, bool repeated = false, Kind kind = Kind::Key,
+                int key = virtual_key::kSpace) {
+        judge.take({.kind = kind, .time = moment, .key = key, .repeated = repeated});
         return *judge.situation().press;
     }
     Press keyUp(Moment moment, int key = virtual_key::kSpace) {
-        judge.take({.kind = Kind::KeyUp, .time = moment, .key = key});
-        return *judge.situation().press;
+        return keyed(moment, false, Kind::KeyUp, key);
     }
     /// Whether what is handled now may start a command.
     bool starts() { return judge.judge({.kind = Kind::Command}) == Verdict::Counts; }
@@ -120,9 +115,14 @@ TEST_F(JudgeTest, AHeldKeyIsPressedOnce) {
 }
 
 TEST_F(JudgeTest, OneEscapeEndsASearchAndThoseThatReplacedIt) {
-    const auto search = [&](Moment began) {
+    const auto begin = [&](Moment began, DuringSearch asked) {
         time = began;
+        judge.handlerBegins(asked);
         judge.searchBegins(window, SearchKind::Documents);
+    };
+    const auto end = [&] {
+        judge.searchEnds();
+        judge.handlerEnds();
     };
     const auto escapeStops = [&](Moment moment) {
         return judge.take({.kind = Kind::Key, .time = moment, .key = virtual_key::kEscape}) ==
@@ -132,34 +132,26 @@ TEST_F(JudgeTest, OneEscapeEndsASearchAndThoseThatReplacedIt) {
         judge.judge(
             {.kind = Kind::Event, .window = &window, .duringSearch = DuringSearch::Restart});
     };
-    judge.handlerBegins(DuringSearch::Drop);
-    search(1000);
+    begin(1000, DuringSearch::Drop);
     EXPECT_TRUE(judge.searchGoesOn());
     type();
-    EXPECT_FALSE(judge.searchGoesOn());
-    EXPECT_FALSE(judge.searchStopped());
-    judge.searchEnds();
-    judge.handlerEnds();
-    judge.handlerBegins(DuringSearch::Restart);
-    search(2000);
+    EXPECT_FALSE(judge.searchGoesOn() || judge.searchStopped());
+    end();
+    begin(2000, DuringSearch::Restart);
     EXPECT_FALSE(judge.searchGoesOn()) << "yet a newer one waits";
-    judge.searchEnds();
-    judge.handlerEnds();
-    judge.handlerBegins(DuringSearch::Drop);
-    search(3000);
+    end();
+    begin(3000, DuringSearch::Drop);
     EXPECT_TRUE(judge.searchGoesOn());
     EXPECT_TRUE(escapeStops(1500)) << "pressed during the first one";
-    EXPECT_TRUE(judge.searchStopped());
-    EXPECT_FALSE(judge.searchGoesOn());
+    EXPECT_TRUE(judge.searchStopped() && !judge.searchGoesOn());
     judge.searchEnds();
-    search(3500);
+    judge.searchBegins(window, SearchKind::Documents);
     EXPECT_TRUE(judge.searchGoesOn()) << "another one of the same command";
     type();
     EXPECT_FALSE(judge.searchStopped()) << "what is typed afterwards counts";
-    judge.searchEnds();
-    judge.handlerEnds();
+    end();
     judge.atRest();
-    search(4000);
+    begin(4000, DuringSearch::Drop);
     EXPECT_FALSE(escapeStops(1500));
     EXPECT_TRUE(judge.searchGoesOn());
     judge.judge({.kind = Kind::Event, .window = &window, .closes = true});

@@ -1,60 +1,55 @@
 #include "input/notifications.h"
 
-#include <initializer_list>
-
 #include "input/typed_keys.h"
 #include "unit/unit_test.h"
 
 TEST(Notification, StandsForTheEventOfItsControl) {
     using namespace notification;
-    EXPECT_EQ(eventOf(controlClass(L"Button"), kButtonClicked, true), Event::Click);
-    EXPECT_EQ(eventOf(controlClass(L"LISTBOX"), kListSelectionChanged, true), Event::Click);
-    EXPECT_EQ(eventOf(controlClass(L"ListBox"), kListDoubleClicked, true), Event::DoubleClick);
-    EXPECT_EQ(eventOf(controlClass(L"ComboBox"), kComboTextEdited, true), Event::Change);
-    EXPECT_EQ(eventOf(controlClass(L"ComboBox"), kListDoubleClicked, true), std::nullopt);
+    const std::tuple<const wchar_t*, unsigned, bool, std::optional<Event>> cases[] = {
+        {L"Button", kButtonClicked, true, Event::Click},
+        {L"LISTBOX", kListSelectionChanged, true, Event::Click},
+        {L"ListBox", kListDoubleClicked, true, Event::DoubleClick},
+        {L"ComboBox", kComboTextEdited, true, Event::Change},
+        {L"ComboBox", kListDoubleClicked, true, {}},
+        {L"Static", kButtonClicked, true, {}},
+        // Typing ends only when the focus stays in the window.
+        {L"ComboBox", kComboFocusLost, true, Event::Validate},
+        {L"ComboBox", kComboFocusLost, false, {}}};
+    for (const auto& [name, code, staysInWindow, event] : cases) {
+        EXPECT_EQ(eventOf(controlClass(name), code, staysInWindow), event) << name << code;
+    }
     EXPECT_EQ(controlClass(L"SysTabControl32"), ControlClass::TabStrip);
-    EXPECT_EQ(eventOf(controlClass(L"Static"), kButtonClicked, true), std::nullopt);
-    // Typing ends only when the focus stays in the window.
-    EXPECT_EQ(eventOf(ControlClass::ComboBox, kComboFocusLost, true), Event::Validate);
-    EXPECT_EQ(eventOf(ControlClass::ComboBox, kComboFocusLost, false), std::nullopt);
 }
 
 TEST(DropDown, ActsWhenTheListClosesAndAtOnceWhenItIsNotDown) {
     using namespace notification;
     using Step = DropDown::Step;
-    struct Notified {
-        unsigned code;
-        bool isDown;
-    };
-    const auto lastStep = [](std::initializer_list<Notified> notifications) {
+    using Notified = std::pair<unsigned, bool>;  // whether the list is down by then
+    constexpr Notified kShown{kComboListShown, true}, kArrow{kComboSelectionChanged, true};
+    constexpr Notified kClosed{kComboListClosed, false}, kGivenUp{kComboChoiceCancelled, true};
+    constexpr Notified kEdited{kComboTextEdited, true}, kChosen{kComboSelectionChanged, false};
+    const std::pair<std::vector<Notified>, Step> cases[] = {
+        {{kChosen}, Step::Act},
+        {{kShown, kArrow}, Step::Nothing},
+        {{kShown, kArrow, kArrow, kClosed}, Step::ActLater},
+        {{kShown, kArrow, kGivenUp, kClosed}, Step::GoBack},
+        {{kShown, kArrow, kGivenUp, kClosed, kShown, kClosed}, Step::Nothing},
+        {{kShown, kArrow, kEdited}, Step::Remember},
+        {{kShown, kArrow, kEdited, kGivenUp, kClosed}, Step::Nothing},
+        // The mouse closes the list before the change is told, or after.
+        {{kShown, kClosed, kChosen}, Step::Act}};
+    for (const auto& [notifications, last] : cases) {
         DropDown list;
         Step step{};
         for (const auto& [code, isDown] : notifications) step = list.notified(code, isDown);
-        return step;
-    };
-    constexpr Notified kShown{kComboListShown, true};
-    constexpr Notified kArrow{kComboSelectionChanged, true};
-    constexpr Notified kClosed{kComboListClosed, false};
-    constexpr Notified kGivenUp{kComboChoiceCancelled, true};
-    EXPECT_EQ(lastStep({{kComboSelectionChanged, false}}), Step::Act);
-    EXPECT_EQ(lastStep({kShown, kArrow}), Step::Nothing);
-    EXPECT_EQ(lastStep({kShown, kArrow, kArrow, kClosed}), Step::ActLater);
-    EXPECT_EQ(lastStep({kShown, kArrow, kGivenUp, kClosed}), Step::GoBack);
-    EXPECT_EQ(lastStep({kShown, kArrow, kGivenUp, kClosed, kShown, kClosed}), Step::Nothing);
-    EXPECT_EQ(lastStep({kShown, kArrow, {kComboTextEdited, true}}), Step::Remember);
-    EXPECT_EQ(lastStep({kShown, kArrow, {kComboTextEdited, true}, kGivenUp, kClosed}),
-              Step::Nothing);
-    // The mouse closes the list before the change is told, or after.
-    EXPECT_EQ(lastStep({kShown, kClosed, {kComboSelectionChanged, false}}), Step::Act);
+        EXPECT_EQ(step, last) << notifications.size();
+    }
 }
 
 TEST(SignKey, IsTheOneThatBearsTheSignOnTheLayoutInUse) {
     // What VkKeyScanEx answers: AZERTY has "-" on the 6 and "+" above "=", QWERTY has two own keys.
-    constexpr int kSix = 0x36;
-    constexpr int kPlus = 0xBB;
-    constexpr std::int16_t kAzertyMinus = 0x0036;
-    constexpr std::int16_t kPlusAboveEquals = 0x01BB;
-    constexpr std::int16_t kNowhere = -1;
+    constexpr int kSix = 0x36, kPlus = 0xBB;
+    constexpr std::int16_t kAzertyMinus = 0x0036, kPlusAboveEquals = 0x01BB, kNowhere = -1;
     EXPECT_TRUE(pressesSign({.key = kSix, .control = true}, kAzertyMinus));
     EXPECT_FALSE(pressesSign({.key = kSix, .shift = true, .control = true}, kAzertyMinus));
     EXPECT_FALSE(pressesSign({.key = kSix}, kAzertyMinus));
@@ -70,11 +65,8 @@ TEST(FirstLetter, GoesRoundTheLinesThatBeginWithIt) {
                               [&](int i) { return lines[static_cast<std::size_t>(i)]; })
             .value_or(-1);
     };
-    EXPECT_EQ(next(L'p', -1), 1);
-    EXPECT_EQ(next(L'p', 1), 3);
-    EXPECT_EQ(next(L'P', 3), 1);
-    EXPECT_EQ(next(L'É', 2), 2);
-    EXPECT_EQ(next(L'z', 0), -1);
-    EXPECT_EQ(next(L' ', 0), -1);
+    EXPECT_EQ((std::vector{next(L'p', -1), next(L'p', 1), next(L'P', 3), next(L'É', 2)}),
+              (std::vector{1, 3, 1, 2}));
+    for (const wchar_t none : {L'z', L' '}) EXPECT_EQ(next(none, 0), -1);
     EXPECT_EQ(lineWithLetter(L'p', -1, 0, nullptr), std::nullopt);
 }

@@ -1,9 +1,12 @@
 #include "rules/hold_protocol.h"
 
 #include <deque>
-#include <gtest/gtest.h>
+
+#include "unit/unit_test.h"
 
 namespace {
+
+using enum HoldFileState;
 
 const ListHolder kUs{L"jean", L"PC-1"};
 const ListHolder kZoe{L"zoé", L"PC-2"};
@@ -13,7 +16,7 @@ const ListHolder kZoe{L"zoé", L"PC-2"};
 struct HoldScript {
     std::deque<bool> owned{true};
     std::deque<bool> raised{true};
-    std::deque<HoldFileState> files{HoldFileState::Ours};
+    std::deque<HoldFileState> files{Ours};
     std::deque<ListHolder> holders{kZoe};
     std::deque<bool> there{true};
 };
@@ -42,71 +45,52 @@ struct ScriptedSteps : HoldSteps {
 }  // namespace
 
 TEST(HoldProtocol, FindsOutWhoHasAList) {
-    const HoldAnswer kHeld{};
-    const HoldAnswer kHidden{.hidden = true};
-    const HoldAnswer kRaised{HoldAnswer::Kind::RaisedOther};
+    const HoldAnswer kHeld{}, kHidden{.hidden = true}, kRaised{HoldAnswer::Kind::RaisedOther};
     const HoldAnswer kByZoe{HoldAnswer::Kind::HeldElsewhere, kZoe};
-    const struct {
-        const char* what;
-        HoldScript script;
-        HoldAnswer answer;
-        int pauses;
-    } cases[] = {
+    const HoldAnswer kByUs{HoldAnswer::Kind::HeldElsewhere, kUs};
+    const std::tuple<const char*, HoldScript, HoldAnswer, int> cases[] = {
         {"nobody", {}, kHeld, 0},
         {"a program with a window", {.owned = {false}}, kRaised, 0},
         {"one just starting", {.owned = {false}, .raised = {false, false, true}}, kRaised, 2},
         {"one just ending", {.owned = {false, false, true}, .raised = {false}}, kHeld, 2},
         {"one that shows nothing", {.owned = {false}, .raised = {false}}, kRaised, 200},
-        {"another machine", {.files = {HoldFileState::Theirs}}, kByZoe, 0},
-        {"another one just starting",
-         {.files = {HoldFileState::Theirs}, .holders = {{}, {}, kZoe}},
-         kByZoe,
-         2},
-        {"ours just ending, its file still there",
-         {.files = {HoldFileState::Theirs, HoldFileState::Busy, HoldFileState::Ours},
-          .holders = {kUs}},
-         kHeld,
-         2},
-        {"us in another session",
-         {.files = {HoldFileState::Theirs}, .holders = {kUs}},
-         {HoldAnswer::Kind::HeldElsewhere, kUs},
-         40},
-        {"a backup that reads the file", {.files = {HoldFileState::Busy}}, kHidden, 40},
-        {"one that soon has done", {.files = {HoldFileState::Busy, HoldFileState::Ours}}, kHeld, 1},
-        {"a file left over that is protected", {.files = {HoldFileState::Blocked}}, kHidden, 0},
-        {"a directory that can't be written in", {.files = {HoldFileState::Unusable}}, kHeld, 0},
+        {"another machine", {.files = {Theirs}}, kByZoe, 0},
+        {"one just starting", {.files = {Theirs}, .holders = {{}, {}, kZoe}}, kByZoe, 2},
+        {"ours just ending", {.files = {Theirs, Busy, Ours}, .holders = {kUs}}, kHeld, 2},
+        {"us in another session", {.files = {Theirs}, .holders = {kUs}}, kByUs, 40},
+        {"a backup that reads the file", {.files = {Busy}}, kHidden, 40},
+        {"one that soon has done", {.files = {Busy, Ours}}, kHeld, 1},
+        {"a file left over that is protected", {.files = {Blocked}}, kHidden, 0},
+        {"a directory that can't be written in", {.files = {Unusable}}, kHeld, 0},
     };
-    for (const auto& c : cases) {
-        ScriptedSteps steps(c.script);
+    for (const auto& [what, script, expected, pauses] : cases) {
+        ScriptedSteps steps(script);
         const HoldAnswer answer = takeHold(steps, kUs);
-        EXPECT_EQ(answer.kind, c.answer.kind) << c.what;
-        EXPECT_EQ(answer.holder, c.answer.holder) << c.what;
-        EXPECT_EQ(answer.hidden, c.answer.hidden) << c.what;
-        EXPECT_EQ(steps.pauses, c.pauses) << c.what;
+        EXPECT_EQ(answer.kind, expected.kind) << what;
+        EXPECT_EQ(answer.holder, expected.holder) << what;
+        EXPECT_EQ(answer.hidden, expected.hidden) << what;
+        EXPECT_EQ(steps.pauses, pauses) << what;
     }
 }
 
 TEST(HoldProtocol, TellsAHeldFileFromOneThatCannotBeWritten) {
     constexpr std::uint32_t kNotFound = 2, kDenied = 5, kShared = 32, kWriteProtected = 19;
-    using enum HoldFileState;
-    const struct {
-        std::uint32_t creating, looking;
-        HoldFileState state;
-        const char* what;
-    } cases[] = {{0, 0, Ours, ""},
-                 {kShared, kShared, Theirs, ""},
-                 {kDenied, kShared, Theirs, "another user's, where each may write his own"},
-                 {kShared, 0, Busy, "a reader has it"},
-                 {kShared, kNotFound, Busy, "gone meanwhile"},
-                 {kDenied, kDenied, Busy, "about to go"},
-                 {kDenied, kNotFound, Unusable, ""},
-                 {kDenied, 0, Blocked, "left over, another user's or read-only"},
-                 {kWriteProtected, kNotFound, Unusable, ""}};
-    for (const auto& c : cases) EXPECT_EQ(holdFileState(c.creating, c.looking), c.state) << c.what;
+    const std::tuple<std::uint32_t, std::uint32_t, HoldFileState> cases[] = {
+        {0, 0, Ours},
+        {kShared, kShared, Theirs},
+        {kDenied, kShared, Theirs},  // another user's, where each may write his own
+        {kShared, 0, Busy},          // a reader has it
+        {kShared, kNotFound, Busy},  // gone meanwhile
+        {kDenied, kDenied, Busy},    // about to go
+        {kDenied, kNotFound, Unusable},
+        {kDenied, 0, Blocked},  // left over, another user's or read-only
+        {kWriteProtected, kNotFound, Unusable}};
+    for (const auto& [creating, looking, state] : cases) {
+        EXPECT_EQ(holdFileState(creating, looking), state) << creating << ' ' << looking;
+    }
 }
 
 TEST(HoldProtocol, TakesALostFileAgainAndTellsOnceOfAnotherHolder) {
-    using enum HoldFileState;
     ScriptedSteps steps({.files = {Unusable, Theirs, Theirs, Theirs, Ours, Theirs},
                          .holders = {kUs, kZoe},
                          .there = {true, false}});

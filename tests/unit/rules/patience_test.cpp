@@ -1,6 +1,6 @@
 #include "rules/patience.h"
 
-#include "fakes/fake_message_boxes.h"
+#include "fakes/fake_services.h"
 #include "fakes/fake_waiting.h"
 #include "unit/unit_test.h"
 
@@ -26,23 +26,22 @@ struct PatienceTest : testing::Test {
 }  // namespace
 
 TEST_F(PatienceTest, RetriesAtOnceThenAtGrowingIntervals) {
+    EXPECT_EQ(callRefusedFor(3'000), 0);
+    EXPECT_EQ(machine.waits, (std::vector<unsigned>{50, 70, 150, 310, 630, 1000, 1000}));
     EXPECT_EQ(callRefusedFor(9'000), 0);
-    EXPECT_EQ(std::vector(machine.waits.begin(), machine.waits.begin() + 7),
-              (std::vector<unsigned>{50, 70, 150, 310, 630, 1000, 1000}));
     EXPECT_EQ(boxes.shown.size(), 0U);
 }
 
 TEST_F(PatienceTest, AsksTheUserTenSecondsAfterTheFirstRefusal) {
     for (unsigned retries = 0; retries < 3; ++retries) {
-        boxes.shown.clear();
         patience.promiseMarksWhen([&] { return retries == 1; });
         boxes.answers.assign(retries, Answer::Retry);
         boxes.answers.push_back(Answer::Cancel);
         const std::uint64_t start = machine.time;
         EXPECT_EQ(callRefusedFor(600'000), call_result::kRejected);
-        EXPECT_EQ(boxes.shown.size(), retries + 1);
-        const bool promised = boxes.shown.back().text.find(L"marques") != std::wstring::npos;
-        EXPECT_EQ(promised, retries == 1);
+        const auto texts = boxes.takeTexts();
+        EXPECT_EQ(texts.size(), retries + 1);
+        EXPECT_EQ(has(texts.back(), L"marques"), retries == 1);
         EXPECT_GE(machine.time - start, 10'000U * (retries + 1));
         EXPECT_LT(machine.time - start, 12'000U * (retries + 1));
     }
@@ -87,9 +86,11 @@ TEST_F(PatienceTest, AsksWhoClosedTheWindowWhetherToWaitForACallThatDoesNotRetur
         ASSERT_EQ(boxes.shown.size(), 1U);
         EXPECT_EQ(machine.programEnded, answer == Answer::Yes);
     }
-    const MessageBoxContent& box = boxes.shown.front();
-    EXPECT_EQ(box.text, L"SolidWorks ne répond pas.\r\nQuitter Tarnwick sans attendre ?");
-    EXPECT_EQ(box.title, L"Tarnwick");
-    EXPECT_EQ(box.buttons, MessageBoxContent::Buttons::YesNo);
-    EXPECT_EQ(box.defaultButton, 2);
+    EXPECT_EQ(
+        boxes.shown.front(),
+        (MessageBoxContent{.text = L"SolidWorks ne répond pas.\r\nQuitter Tarnwick sans attendre ?",
+                           .title = L"Tarnwick",
+                           .buttons = MessageBoxContent::Buttons::YesNo,
+                           .icon = MessageBoxContent::Icon::Warning,
+                           .defaultButton = 2}));
 }

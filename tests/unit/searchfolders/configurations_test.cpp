@@ -36,46 +36,37 @@ TEST(ConfigurationEditing, AddsADirectoryOnceInEachSpelling) {
 }
 
 TEST(ConfigurationEditing, RemovesTheSelectedAndWhatFollowsThem) {
-    const struct {
-        std::set<int> selected;
-        Removal removal;
-        Texts left;
-    } cases[] = {
+    const std::tuple<std::set<int>, Removal, Texts> cases[] = {
         {{0, 3}, Removal::Selected, {L"C:\\p\\1", L"c:\\P2", L"c:\\P\\3"}},
         {{0}, Removal::WithFollowers, {L"d:\\", L"c:\\P\\3"}},
         {{1, 4}, Removal::WithFollowers, {L"c:\\P", L"c:\\P2", L"d:\\"}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [lines, removal, left] : cases) {
         Configuration edited;
         fill(edited, {L"c:\\P", L"C:\\p\\1", L"c:\\P2", L"d:\\", L"c:\\P\\3"}, 1);
-        const auto selected = [&](int line) { return c.selected.contains(line); };
-        EXPECT_EQ(removeDirectories(edited, 5, selected, c.removal), std::ssize(c.left));
-        EXPECT_EQ(entriesOf(edited, 1), c.left);
+        const auto selected = [&](int line) { return lines.contains(line); };
+        EXPECT_EQ(removeDirectories(edited, 5, selected, removal), std::ssize(left));
+        EXPECT_EQ(entriesOf(edited, 1), left);
     }
 }
 
 TEST(ConfigurationEditing, StoresUnderTheRightName) {
-    const struct {
-        const wchar_t* before;  // the name when renaming began
-        const wchar_t* typed;
-        int row;
-        const wchar_t* stored;
-        int count;
-    } cases[] = {
+    // The name when renaming began, the one typed, the row and name it is stored by.
+    const std::tuple<const wchar_t*, const wchar_t*, int, const wchar_t*, int> cases[] = {
         {L"", L"Neuf ", 3, L"Neuf ", 3}, {L"", L"a", 1, L"a", 2},
         {L"", L"  ", 3, L"Defaut_3", 3}, {L"B", L"C", 2, L"C", 2},
         {L"B", L"", 2, L"Defaut_2", 2},  {L"", L"en cours", 0, L"en cours", 2},
         {L"En Cours", L"D", 0, L"D", 2},
     };
-    for (const auto& c : cases) {
+    for (const auto& [before, typed, row, stored, count] : cases) {
         Configurations configs = withRows({{L"A", L"c:\\1", L"c:\\2"}, {L"B", L"c:\\3", L"c:\\4"}});
-        configs.renamed = c.before;
+        configs.renamed = before;
         configs.edited[1] = L"d:\\";
-        std::wstring name = c.typed;
+        std::wstring name = typed;
         storeEdited(configs, name);
-        EXPECT_EQ(name, c.stored);
-        EXPECT_EQ(entriesOf(configs.rows[c.row]), (Texts{c.stored, L"d:\\"})) << c.typed;
-        EXPECT_EQ(configs.last, c.count) << c.typed;
+        EXPECT_EQ(name, stored);
+        EXPECT_EQ(entriesOf(configs.rows[row]), (Texts{stored, L"d:\\"})) << typed;
+        EXPECT_EQ(configs.last, count) << typed;
     }
 }
 
@@ -102,23 +93,21 @@ TEST(ConfigurationEditing, DestroyingKeepsTheTailOfALongerRow) {
 }
 
 TEST(ConfigurationFile, StoresEveryLineByTheRules) {
-    const struct {
-        const wchar_t* text;
-        int count;                   // configurations
-        int row;                     // the row to look at
-        const wchar_t* expected[4];  // its first entries
-    } cases[] = {
+    // How many configurations there are, and the first entries of one of the rows.
+    const std::tuple<const wchar_t*, int, int, Texts> cases[] = {
         {L"  c:\\avant\r\nConfiguration: A\r\n", 1, 0, {L"", L"c:\\avant", L"", L""}},
         {L"configuration: b\nc:\\c\n", 1, 1, {L"b", L"c:\\c", L"", L""}},
         {L"ABC CONFIGURATION: d\r\n", 1, 1, {L"ION: d", L"", L"", L""}},
         {L"Configuration:A\r\n' note\r\n\r\n c:\\d\r\n", 1, 1, {L"A", L"' note", L"", L"c:\\d"}},
         {L"Configuration:\r\nc:\\e\r\nConfiguration:f\r\n", 2, 1, {L"", L"c:\\e", L"", L""}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [text, count, row, expected] : cases) {
         Configurations configs;
-        parseConfigurationFile(c.text, configs, {});
-        EXPECT_EQ(configs.last, c.count) << c.text;
-        for (int j = 0; j < 4; ++j) EXPECT_EQ(configs.rows[c.row][j], c.expected[j]) << c.text << j;
+        parseConfigurationFile(text, configs, {});
+        EXPECT_EQ(configs.last, count) << text;
+        Texts entries;
+        for (int j = 0; j < 4; ++j) entries.push_back(configs.rows[row][j]);
+        EXPECT_EQ(entries, expected) << text;
     }
 }
 
@@ -132,7 +121,7 @@ TEST(ConfigurationFile, HoldsAsMuchAsTheTableAndNamesTheLineThatIsTooMuch) {
     };
     EXPECT_EQ(errorFor(50, 200).number, 0);
     EXPECT_EQ(errorFor(51, 1).number, 9);
-    EXPECT_NE(errorFor(51, 1).text.find(L"\r\nConfigurations : 50 au plus."), std::wstring::npos);
+    EXPECT_TRUE(has(errorFor(51, 1).text, L"\r\nConfigurations : 50 au plus."));
     const RuntimeError error = errorFor(1, 201);
     EXPECT_EQ(error.number, 9);
     EXPECT_TRUE(error.text.ends_with(
@@ -156,24 +145,17 @@ TEST(ConfigurationFile, IsWrittenBackWithItsHolesClosed) {
     }
 }
 
-TEST(SearchFolders, AreSplitAndJoinedAtSemicolons) {
-    const struct {
-        const wchar_t* folders;
-        int entries;
-        const wchar_t* rejoined;
-    } cases[] = {
+TEST(SearchFolders, AreSplitAndJoinedAtSemicolonsTwoHundredAtMost) {
+    const std::tuple<const wchar_t*, int, const wchar_t*> cases[] = {
         {L"", 0, L""},        {L"A", 1, L"A"},    {L"A;B;C", 3, L"A;B;C"},
         {L"A;B;", 2, L"A;B"}, {L"A;;C", 1, L"A"}, {L";B", 0, L";B"},
     };
-    for (const auto& c : cases) {
+    for (const auto& [folders, entries, rejoined] : cases) {
         Configuration row;
-        splitFolders(c.folders, row);
-        EXPECT_EQ(directoryCount(row), c.entries) << c.folders;
-        EXPECT_EQ(joinFolders(row), c.rejoined) << c.folders;
+        splitFolders(folders, row);
+        EXPECT_EQ(directoryCount(row), entries) << folders;
+        EXPECT_EQ(joinFolders(row), rejoined) << folders;
     }
-}
-
-TEST(SearchFolders, FillTwoHundredEntriesAtMost) {
     std::wstring folders = L"A";
     for (int i = 1; i < 199; ++i) folders += L";A";
     Configuration row;

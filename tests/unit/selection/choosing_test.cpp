@@ -25,25 +25,9 @@ struct SelectionChoosing : SelectionFixture {
 
 }  // namespace
 
-TEST_F(SelectionChoosing, TogglesTheHighlightedLinesOrAll) {
-    toggle({});
-    EXPECT_EQ(chosen(), L"000");
-    toggle({0, 2});
-    EXPECT_EQ(chosen(), L"101");
-    toggle({0, 1});
-    EXPECT_EQ(chosen(), L"011");
-    click(IDC_FORM1_CMD_INV);
-    EXPECT_EQ(chosen(), L"100");
-}
-
 TEST_F(SelectionChoosing, FiltersTheLinesAsTheyAreDisplayed) {
-    const struct {
-        std::vector<int> before;  ///< lines chosen beforehand
-        int depth;
-        int button;
-        const wchar_t* filter;
-        const wchar_t* afterwards;
-    } cases[] = {
+    // The lines chosen beforehand, the depth, the button with its filter, and the marks.
+    const std::tuple<std::vector<int>, int, int, const wchar_t*, const wchar_t*> cases[] = {
         {{}, 0, IDC_FORM1_CMD_AJO, L"", L"111"},
         {{1}, 0, IDC_FORM1_CMD_AJO, L"AXE", L"110"},
         {{}, 1, IDC_FORM1_CMD_AJO, L"plans", L"000"},    // hidden by the depth
@@ -53,19 +37,22 @@ TEST_F(SelectionChoosing, FiltersTheLinesAsTheyAreDisplayed) {
         {{1, 2}, 0, IDC_FORM1_CMD_ENL, L"moteur", L"010"},
         {{0, 1, 2}, 2, IDC_FORM1_CMD_ENL, L"moteur", L"111"},  // hidden by the depth
     };
-    for (const auto& c : cases) {
+    for (const auto& [before, depth, button, filter, afterwards] : cases) {
         choose(IDC_FORM1_TYPEF, 0);
         for (int i = 0; i < 9; ++i) click(IDC_FORM1_CMDMOINS);
-        for (int i = 0; i < c.depth; ++i) click(IDC_FORM1_CMDPLUS);
-        toggle(c.before);
-        control(IDC_FORM1_N_FILTRE).content = c.filter;
-        click(c.button);
-        EXPECT_EQ(marks(), c.afterwards) << c.button << ' ' << c.filter;
+        for (int i = 0; i < depth; ++i) click(IDC_FORM1_CMDPLUS);
+        toggle(before);
+        control(IDC_FORM1_N_FILTRE).content = filter;
+        click(button);
+        EXPECT_EQ(marks(), afterwards) << button << ' ' << filter;
     }
 }
 
-TEST_F(SelectionChoosing, TheDepthHidesLevelsAndKeepsTheChoice) {
-    toggle({0, 2});
+TEST_F(SelectionChoosing, TogglesTheHighlightedLinesOrAllWhateverTheDepth) {
+    toggle({});
+    EXPECT_EQ(chosen(), L"000");
+    toggle({0, 1});
+    toggle({1, 2});
     click(IDC_FORM1_CMDPLUS);
     EXPECT_EQ(list().texts(),
               (Texts{L" X   c:\\..\\axe.slddrw", L"              c:\\..\\Zoe.SLDDRW",
@@ -75,7 +62,6 @@ TEST_F(SelectionChoosing, TheDepthHidesLevelsAndKeepsTheChoice) {
     click(IDC_FORM1_CMDMOINS);
     EXPECT_EQ(list().line(2), L" X   c:\\..\\moteur\\bielle.SLDDRW");
     EXPECT_EQ(chosen(), L"101");
-    // A line can be unchosen whatever the depth.
     click(IDC_FORM1_CMD_INV);
     EXPECT_EQ(chosen(), L"010");
 }

@@ -7,6 +7,12 @@
 
 namespace {
 
+Texts entries(const FoundDocuments& found) {
+    Texts result;
+    for (int i = 0; i < found.count(); ++i) result.push_back(found.entry(i));
+    return result;
+}
+
 struct Search : testing::Test {
     Texts run(const std::wstring& directory, bool withSubdirectories,
               const wchar_t* types = L"*.SLDPRT ; *.SLDASM ; *.SLDDRW") {
@@ -15,9 +21,7 @@ struct Search : testing::Test {
         DocumentSearch search({files, alone, unwatched}, found, DocumentKinds(types),
                               [&](int filesListed) { listed.push_back(filesListed); });
         search.run(directory, withSubdirectories);
-        Texts result;
-        for (int i = 0; i < found.count(); ++i) result.push_back(found.entry(i));
-        return result;
+        return entries(found);
     }
 
     FakeFiles files;
@@ -81,45 +85,41 @@ TEST_F(Search, FollowsLinksButNotBackIntoDirectoriesThatAreOpen) {
 
 TEST(DocumentKinds, AcceptsByWhatFollowsTheLastDot) {
     const DocumentKinds partsAndDrawings(L"*.SLDPRT ; *.SLDDRW");
-    for (const wchar_t* name :
-         {L"a.SLDPRT", L"a.sldprt", L"a.b.SldPrt", L"a.slddrw", L".SLDDRW", L"é b[1].SLDPRT"}) {
-        EXPECT_TRUE(partsAndDrawings.accepts(name)) << name;
+    const std::pair<bool, Texts> cases[] = {
+        {true, {L"a.sldprt", L"a.b.SldPrt", L"a.slddrw", L".SLDDRW", L"é b[1].SLDPRT"}},
+        {false,
+         {L"a.SLDASM", L"SLDPRT", L"a.", L"a.SLDPRT.bak", L"a.SLDPRT2", L"a.SLDPRT ", L"a.XSLDPRT",
+          L"a.\x0253LDPRT", L""}}};
+    for (const auto& [accepted, names] : cases) {
+        for (const std::wstring& name : names) {
+            EXPECT_EQ(partsAndDrawings.accepts(name), accepted) << name;
+        }
     }
-    for (const wchar_t* name : {L"a.SLDASM", L"SLDPRT", L"a", L"a.", L"a.SLDPRT.bak", L"a.SLDPRT2",
-                                L"a.SLDPRT ", L"a.XSLDPRT", L"a.\x0253LDPRT", L""}) {
-        EXPECT_FALSE(partsAndDrawings.accepts(name)) << name;
-    }
-    EXPECT_TRUE(DocumentKinds(L"sldasm").accepts(L"a.sldasm"));
     EXPECT_FALSE(DocumentKinds(L"").accepts(L"a.SLDPRT"));
 }
 
 namespace {
 
-void store(FoundDocuments& found, std::initializer_list<const wchar_t*> names) {
-    for (const wchar_t* name : names) found.store(L"c:\\x", name);
-}
-
-/// What two passes leave of these names, the second one adding to the first.
-Texts kept(bool fullPaths) {
-    FoundDocuments found;
-    found.restart(fullPaths);
-    found.beginPass(false);
-    store(found, {L"b", L"a", L"b", L"B"});
-    found.beginPass(true);
-    store(found, {L"a", L"a"});
-    Texts result;
-    for (int i = 0; i < found.count(); ++i) result.push_back(found.entry(i));
-    found.beginPass(false);
-    EXPECT_EQ(found.count(), 0);
-    return result;
+void store(FoundDocuments& found, const Texts& names) {
+    for (const std::wstring& name : names) found.store(L"c:\\x", name);
 }
 
 }  // namespace
 
 TEST(FoundDocuments, KeepsBareNamesOncePerPassAndEveryFullPath) {
-    EXPECT_EQ(kept(false), (Texts{L"b", L"a", L"B", L"a"}));
-    EXPECT_EQ(kept(true), (Texts{L"c:\\x\\b", L"c:\\x\\a", L"c:\\x\\b", L"c:\\x\\B", L"c:\\x\\a",
-                                 L"c:\\x\\a"}));
+    for (const bool fullPaths : {false, true}) {
+        FoundDocuments found;
+        found.restart(fullPaths);
+        found.beginPass(false);
+        store(found, {L"b", L"a", L"b", L"B"});
+        found.beginPass(true);
+        store(found, {L"a", L"a"});
+        EXPECT_EQ(entries(found), fullPaths ? (Texts{L"c:\\x\\b", L"c:\\x\\a", L"c:\\x\\b",
+                                                     L"c:\\x\\B", L"c:\\x\\a", L"c:\\x\\a"})
+                                            : (Texts{L"b", L"a", L"B", L"a"}));
+        found.beginPass(false);
+        EXPECT_EQ(found.count(), 0);
+    }
 }
 
 TEST(FoundDocuments, TheVeryLastEntryOutlivesANewPass) {

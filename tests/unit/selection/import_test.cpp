@@ -15,11 +15,9 @@ struct SelectionImport : SelectionFixture {
     }
     /// The text of the only box shown since this was asked last.
     std::wstring box() {
-        EXPECT_EQ(machine.boxes.shown.size(), 1U);
-        const std::wstring text =
-            machine.boxes.shown.empty() ? std::wstring() : machine.boxes.shown.back().text;
-        machine.boxes.shown.clear();
-        return text;
+        const Texts texts = machine.boxes.takeTexts();
+        EXPECT_EQ(texts.size(), 1U);
+        return texts.empty() ? L"" : texts.back();
     }
     void expectUnchanged() {
         EXPECT_EQ(unchosen(), (Texts{L"axe.slddrw", L"Zoe.SLDDRW"}));
@@ -59,10 +57,7 @@ TEST_F(SelectionImport, WhatCantBeImportedLeavesTheListAsItWas) {
         machine.files.add({L"c:\\n\\" + name});
         tooMany += L"c:\\n\\" + name + L"\n";
     }
-    const struct {
-        std::wstring text;
-        const wchar_t* told;
-    } cases[] = {
+    const std::pair<std::wstring, const wchar_t*> cases[] = {
         {tooMany, L"plus de 8001 documents"},
         {std::wstring(L"PK\0\0", 4), L"format CSV"},
         {std::wstring((16U << 20) + 1, L'x'), L"16 Mo"},
@@ -70,11 +65,11 @@ TEST_F(SelectionImport, WhatCantBeImportedLeavesTheListAsItWas) {
         {L"a;b", L"1 ligne laissée de côté :"},
         {L"\r\n", L"Aucun document à importer."},
     };
-    for (const auto& c : cases) {
-        import(c.text);
+    for (const auto& [imported, told] : cases) {
+        import(imported);
         const std::wstring text = box();
-        EXPECT_NE(text.find(c.told), std::wstring::npos) << text.substr(0, 200);
-        EXPECT_TRUE(text.ends_with(L"\r\nLa liste reste comme elle était.")) << c.told;
+        EXPECT_TRUE(has(text, told)) << text.substr(0, 200);
+        EXPECT_TRUE(text.ends_with(L"\r\nLa liste reste comme elle était.")) << told;
         expectUnchanged();
     }
 }
@@ -87,7 +82,7 @@ TEST_F(SelectionImport, AFaultThatPassesLeavesNothingOut) {
     EXPECT_EQ(box(), L"1 ligne laissée de côté :\r\nc:\\plans\\Zoe.SLDDRW : inaccessible");
     machine.files.failing = {{kFile, 9}};
     import(L"c:\\plans\\axe.slddrw");
-    EXPECT_NE(box().find(kFile), std::wstring::npos);
+    EXPECT_TRUE(has(box(), kFile));
 }
 
 TEST_F(SelectionImport, AsksBeforeItLooksOnServersThatNobodyUses) {
@@ -108,8 +103,8 @@ TEST_F(SelectionImport, AsksBeforeItLooksOnServersThatNobodyUses) {
     const MessageBoxContent& question = machine.boxes.shown[0];
     EXPECT_EQ(question.buttons, MessageBoxContent::Buttons::YesNo);
     EXPECT_EQ(question.defaultButton, 2);
-    EXPECT_NE(question.text.find(L"\r\n\\\\AUTRE\r\n"), std::wstring::npos) << question.text;
-    EXPECT_EQ(question.text.find(L"DISQUE"), std::wstring::npos);
+    EXPECT_TRUE(has(question.text, L"\r\n\\\\AUTRE\r\n")) << question.text;
+    EXPECT_FALSE(has(question.text, L"DISQUE"));
     EXPECT_EQ(looked, (Texts{L"\\\\ici\\a\\1.sldprt", L"\\\\DISQUE\\a\\3.sldprt"}));
     EXPECT_EQ(list().count(), 2);
     importAll(MessageBoxes::Answer::Yes);
@@ -119,9 +114,9 @@ TEST_F(SelectionImport, AsksBeforeItLooksOnServersThatNobodyUses) {
 TEST_F(SelectionImport, StoppedItChangesNothing) {
     machine.hangUntilEscape();
     import(L"c:\\plans\\axe.slddrw");
-    EXPECT_EQ(box(), L"Importation interrompue.\r\nLa liste reste comme elle était.");
     window().drop({L"c:\\plans\\moteur\\piston.SLDPRT"});
-    EXPECT_EQ(box(), L"Importation interrompue.\r\nLa liste reste comme elle était.");
+    EXPECT_EQ(machine.boxes.takeTexts(),
+              Texts(2, L"Importation interrompue.\r\nLa liste reste comme elle était."));
     expectUnchanged();
 }
 

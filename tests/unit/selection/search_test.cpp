@@ -27,29 +27,21 @@ TEST_F(SelectionLoad, ShowsTheDrawingsOfTheWorkingDirectory) {
 
 TEST_F(SelectionLoad, StartsWhereverTheSessionWorks) {
     machine.files.add({L"\\\\serveur\\part\\plans\\r.SLDDRW"});
-    const struct {
-        const wchar_t* workingDirectory;
-        const wchar_t* drive;
-        Texts found;
-    } cases[] = {
+    const std::tuple<const wchar_t*, const wchar_t*, Texts> cases[] = {
         {L"d:\\doc\\", L"d:", {L"d.SLDDRW"}},
         {L"\\\\serveur\\part\\plans", L"", {L"r.SLDDRW"}},
         {L"c:", L"c:", {L"a.SLDDRW"}},
         {L"", L"c:", {L"a.SLDDRW"}},
     };
-    for (const auto& c : cases) {
-        load(c.workingDirectory);
-        EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).content, c.drive) << c.workingDirectory;
-        EXPECT_EQ(unchosen(), c.found) << c.workingDirectory;
+    for (const auto& [workingDirectory, drive, found] : cases) {
+        load(workingDirectory);
+        EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).content, drive) << workingDirectory;
+        EXPECT_EQ(unchosen(), found) << workingDirectory;
     }
 }
 
 TEST_F(SelectionSearch, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
-    const struct {
-        const char* what;
-        std::function<void()> act;
-        Texts found;
-    } cases[] = {
+    const std::tuple<const char*, std::function<void()>, Texts> cases[] = {
         {"typing", [&] { type(L"xsldprt"); }, {L"Bras.SLDPRT"}},
         {"choosing a kind", [&] { choose(IDC_FORM1_TYPEF, 3); }, {L"Bras.SLDPRT", L"corps.SLDASM"}},
         {"the same kind again",
@@ -62,15 +54,15 @@ TEST_F(SelectionSearch, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
          [&] { tick(true); },
          {L"c:\\plans\\axe.slddrw", L"c:\\plans\\Zoe.SLDDRW", L"c:\\plans\\moteur\\bielle.SLDDRW"}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [what, act, found] : cases) {
         load();
         click(IDC_FORM1_CMD_INV);
         ASSERT_EQ(text(IDC_FORM1_NBFICH), L"2");
-        c.act();
-        EXPECT_EQ(unchosen(), c.found) << c.what;
-        EXPECT_EQ(marks(), std::wstring(c.found.size(), L'0')) << c.what;
-        EXPECT_EQ(text(IDC_FORM1_NBFICH), L"0") << c.what;
-        EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), std::to_wstring(c.found.size())) << c.what;
+        act();
+        EXPECT_EQ(unchosen(), found) << what;
+        EXPECT_EQ(marks(), std::wstring(found.size(), L'0')) << what;
+        EXPECT_EQ(text(IDC_FORM1_NBFICH), L"0") << what;
+        EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), std::to_wstring(found.size())) << what;
     }
 }
 
@@ -114,44 +106,40 @@ TEST_F(SelectionSearch, AsksBeforeAWholeDriveIsSearched) {
         leaveTypes();
         choose(IDC_FORM1_TYPEF, 0);
     };
-    const struct {
-        const char* what;
-        const wchar_t* begin;  ///< where sub-directories are asked for
-        std::function<void()> act;
-        std::deque<MessageBoxes::Answer> answers;
-    } cases[] = {
-        {"tick", L"d:\\", nothing, {kYes, kYes}},
-        {"tick, no", L"d:\\", nothing, {kNo}},
-        {"tick, no the second time", L"d:\\", nothing, {kYes, kNo}},
-        {"open", L"d:\\doc", open, {kYes}},
-        {"drive", L"c:\\plans", changeDrive, {kYes, kYes}},
-        {"drive, no the second time", L"c:\\plans", changeDrive, {kYes, kNo}},
-        {"at every rebuild", L"d:\\", rebuild, {kYes, kYes, kYes, kYes, kNo}},
-    };
+    // Where sub-directories are asked for, what follows, and what is answered.
+    const std::tuple<const wchar_t*, std::function<void()>, std::deque<MessageBoxes::Answer>>
+        cases[] = {
+            {L"d:\\", nothing, {kYes, kYes}},
+            {L"d:\\", nothing, {kNo}},
+            {L"d:\\", nothing, {kYes, kNo}},
+            {L"d:\\doc", open, {kYes}},
+            {L"c:\\plans", changeDrive, {kYes, kYes}},
+            {L"c:\\plans", changeDrive, {kYes, kNo}},
+            {L"d:\\", rebuild, {kYes, kYes, kYes, kYes, kNo}},
+        };
     const Texts whole = {L"d:\\\\b.SLDDRW", L"d:\\doc\\d.SLDDRW"};
-    for (const auto& c : cases) {
+    for (const auto& [beginning, act, answers] : cases) {
+        SCOPED_TRACE(testing::PrintToString(answers));
         machine.boxes.shown.clear();
-        machine.boxes.answers = c.answers;
-        load(c.begin);
+        machine.boxes.answers = answers;
+        load(beginning);
         tick(true);
-        c.act();
-        EXPECT_EQ(machine.boxes.shown.size(), c.answers.size()) << c.what;
-        EXPECT_EQ(ticked(), c.answers.back() == kYes) << c.what;
-        EXPECT_EQ(unchosen(), ticked() ? whole : Texts{L"b.SLDDRW"}) << c.what;
+        act();
+        EXPECT_EQ(machine.boxes.shown.size(), answers.size());
+        EXPECT_EQ(ticked(), answers.back() == kYes);
+        EXPECT_EQ(unchosen(), ticked() ? whole : Texts{L"b.SLDDRW"});
     }
     leaveTypes();
     openDirectory(L"doc");
     tick(true);
     EXPECT_EQ(machine.boxes.shown.size(), 5U) << "no question elsewhere";
-    const MessageBoxContent& box = machine.boxes.shown.front();
-    EXPECT_EQ(box.title, L"Tarnwick Mervale");
-    EXPECT_EQ(box.text,
-              L"    La recherche de tous les fichiers à partir de la racine  \n\r"
-              L"                risque d'être assez longue .\n\r \n\r"
-              L"             Voulez vous quand même continuer ?\n\r");
-    EXPECT_EQ(box.buttons, MessageBoxContent::Buttons::YesNo);
-    EXPECT_EQ(box.icon, MessageBoxContent::Icon::None);
-    EXPECT_EQ(box.defaultButton, 1);
+    EXPECT_EQ(machine.boxes.shown.front(),
+              (MessageBoxContent{
+                  .text = L"    La recherche de tous les fichiers à partir de la racine  \n\r"
+                          L"                risque d'être assez longue .\n\r \n\r"
+                          L"             Voulez vous quand même continuer ?\n\r",
+                  .title = L"Tarnwick Mervale",
+                  .buttons = MessageBoxContent::Buttons::YesNo}));
 }
 
 TEST_F(SelectionSearch, ListsWhatWasFoundWhenItIsStoppedOrBegunAgain) {
@@ -161,9 +149,9 @@ TEST_F(SelectionSearch, ListsWhatWasFoundWhenItIsStoppedOrBegunAgain) {
     const Texts found = {L"c:\\plans\\axe.slddrw", L"c:\\plans\\Zoe.SLDDRW"};
     EXPECT_EQ(unchosen(), found);
     EXPECT_EQ(text(IDC_FORM1_CPTFICHIER), L"2");
-    ASSERT_EQ(machine.boxes.shown.size(), 1U);
-    EXPECT_EQ(machine.boxes.shown[0].title, L"Tarnwick");
-    EXPECT_EQ(machine.boxes.shown[0].text, L"Recherche interrompue : la liste est incomplète.");
+    EXPECT_EQ(machine.boxes.shown.at(0).title, L"Tarnwick");
+    EXPECT_EQ(machine.boxes.takeTexts(),
+              Texts{L"Recherche interrompue : la liste est incomplète."});
     leaveTypes();
     EXPECT_EQ(unchosen(), found) << "what was stopped is not searched again";
     machine.serveAfter(L"c:\\plans", [&] {
@@ -172,7 +160,7 @@ TEST_F(SelectionSearch, ListsWhatWasFoundWhenItIsStoppedOrBegunAgain) {
     });
     type(L"*.SLDDRW");
     EXPECT_EQ(unchosen(), found);
-    EXPECT_EQ(machine.boxes.shown.size(), 1U);
+    EXPECT_EQ(machine.boxes.takeTexts(), Texts());
 }
 
 TEST_F(SelectionSearch, ListsNothingOlderWhenItIsStoppedBeforeItHasReadAnything) {
@@ -195,15 +183,12 @@ TEST_F(SelectionSearch, StaysWhereItIsWhenTheOpeningOfADriveIsGivenUp) {
     load();
     toggle({0});
     machine.hangUntilEscape();
-    const auto expectAsBefore = [&] {
+    for (const bool drive : {true, false}) {
+        drive ? choose(IDC_FORM1_UNITE, 1) : openDirectory(L"moteur");
         EXPECT_EQ(window().comboBox(IDC_FORM1_UNITE).content, L"c:");
         EXPECT_EQ(marks(), L"10");
         EXPECT_TRUE(machine.boxes.shown.empty());
-    };
-    choose(IDC_FORM1_UNITE, 1);
-    expectAsBefore();
-    openDirectory(L"moteur");
-    expectAsBefore();
+    }
 }
 
 TEST_F(SelectionLoad, StandsOnTheProgramsDirectoryWhenTheWorkingDirectoryDoesNotAnswer) {

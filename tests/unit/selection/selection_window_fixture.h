@@ -1,7 +1,5 @@
 #pragma once
 
-#include <memory>
-
 #include "cad/cad_session.h"
 #include "common/text.h"
 #include "fakes/fake_exits.h"

@@ -1,9 +1,8 @@
 #include "storage/window_places.h"
 
-#include <gtest/gtest.h>
-
-#include "fakes/fake_settings.h"
+#include "fakes/fake_services.h"
 #include "fakes/fake_window.h"
+#include "unit/unit_test.h"
 
 namespace {
 
@@ -41,30 +40,26 @@ const FakeMonitor kSmall{.area = {0, 0, 1280, 1024}, .work = {0, 40, 1280, 1024}
 }  // namespace
 
 TEST_F(WindowPlacesTest, AreKeptUnderKeysOfTheirOwnWithinSixteenBits) {
-    const struct {
-        PlacedWindow which;
-        const wchar_t *application, *section, *top, *left;
-    } cases[] = {
-        {PlacedWindow::Selection, L"tarnwick", L"startup", L"toppos", L"leftpos"},
-        {PlacedWindow::ExistingList, L"tarnwick", L"startup", L"toppos2", L"leftpos2"},
-        {PlacedWindow::Tracking, L"tarnwick", L"startup", L"toppos3", L"leftpos3"},
-        {PlacedWindow::SearchFolders, L"mervale", L"listerepert", L"toppos4", L"leftpos4"},
+    const std::tuple<PlacedWindow, const wchar_t*, const wchar_t*, const wchar_t*> cases[] = {
+        {PlacedWindow::Selection, L"startup", L"toppos", L"leftpos"},
+        {PlacedWindow::ExistingList, L"startup", L"toppos2", L"leftpos2"},
+        {PlacedWindow::Tracking, L"startup", L"toppos3", L"leftpos3"},
+        {PlacedWindow::SearchFolders, L"listerepert", L"toppos4", L"leftpos4"},
     };
     FakeWindow window(*this);
-    const auto expectPlace = [&](PlacedWindow which, Point corner) {
-        places.readAll();
-        places.restore(which, window);
-        EXPECT_EQ(window.area.corner(), corner) << static_cast<int>(which);
-    };
-    for (const auto& c : cases) expectPlace(c.which, {198, 94});
-    for (const auto& c : cases) {
-        window.leaveAt(3'840 + static_cast<int>(c.which), -32'000);
-        places.save(c.which, window);
-        EXPECT_EQ(settings.read(c.application, c.section, c.top, L""), L"-32768");
-        EXPECT_EQ(settings.read(c.application, c.section, c.left, L""), L"32767");
-    }
-    for (const auto& c : cases) {
-        expectPlace(c.which, {3'840 + static_cast<int>(c.which), -32'000});
+    for (const bool saved : {false, true}) {
+        for (const auto& [which, section, top, left] : cases) {
+            const Point far{3'840 + static_cast<int>(which), -32'000};
+            places.readAll();
+            places.restore(which, window);
+            EXPECT_EQ(window.area.corner(), saved ? far : (Point{198, 94})) << top;
+            if (saved) continue;
+            window.leaveAt(far.x, far.y);
+            places.save(which, window);
+            const wchar_t* application = section[0] == L's' ? L"tarnwick" : L"mervale";
+            EXPECT_EQ(settings.read(application, section, top, L""), L"-32768");
+            EXPECT_EQ(settings.read(application, section, left, L""), L"32767");
+        }
     }
 }
 
@@ -91,21 +86,16 @@ TEST_F(WindowPlacesTest, PixelsCountAsLongAsTheTwipsStandAndCanBeRead) {
 }
 
 TEST_F(WindowPlacesTest, StandWholeInTheNearestWorkArea) {
-    const struct {
-        const wchar_t *left, *top;
-        Size size;
-        FakeMonitor monitor;
-        Area place;
-    } cases[] = {
+    const std::tuple<const wchar_t*, const wchar_t*, Size, FakeMonitor, Area> cases[] = {
         {L"30000", L"-9000", {600, 400}, kPlain, {1'320, 0, 1'920, 400}},
         {L"-75", L"15000", {600, 400}, kPlain, {0, 640, 600, 1'040}},
         {L"2964", L"1416", {1'284, 985}, kSmall, {0, 40, 1'280, 1'024}},
         {L"2964", L"1416", {1'284, 400}, kSmall, {0, 142, 1'280, 542}},
     };
-    for (const auto& c : cases) {
-        store(L"leftpos", c.left);
-        store(L"toppos", c.top);
-        EXPECT_EQ(restored({c.monitor}, c.size), c.place) << c.left << c.top;
+    for (const auto& [left, top, size, monitor, place] : cases) {
+        store(L"leftpos", left);
+        store(L"toppos", top);
+        EXPECT_EQ(restored({monitor}, size), place) << left << top;
     }
     // On its way from the first monitor it doubles its size.
     leave({kFine}, {4'000, 1'600, 5'200, 2'400});

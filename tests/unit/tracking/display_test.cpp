@@ -1,6 +1,7 @@
 #include "unit/tracking/tracking_window_fixture.h"
 
 using Display = TrackingFixture;
+
 TEST_F(Display, OfANewListShowsAllLinesButTheFirstAsToDo) {
     load(L"1  c:\\a\r\n0  c:\\b\r\n2  c:\\c\r\n0  c:\\d\r\n", Origin::LaunchedAfterDeclining);
     EXPECT_EQ(list().texts(), (Texts{L"0001   Fait          c:\\a", L"0002                c:\\b",
@@ -23,11 +24,9 @@ TEST_F(Display, OfAnUnknownStateTakesTheLabelAbove) {
 
 TEST_F(Display, RedrawnInPlaceLosesTheUsersSelection) {
     loadStates(L"00120");
-    list().select(3, true);
-    list().select(4, true);
+    select({0, 3, 4});
     click(IDC_FORM3_CMDSUIV);
     EXPECT_EQ(list().selection(), std::vector{1});
-    list().select(3, true);
     click(IDC_FORM3_CMDPLUS1);
     EXPECT_TRUE(list().selection().empty());
     EXPECT_EQ(list().drawingStops, 0);
@@ -36,12 +35,10 @@ TEST_F(Display, RedrawnInPlaceLosesTheUsersSelection) {
 TEST_F(Display, DepthHidesLevelsOfAllLines) {
     load(L"0  C:\\A\\B\\f\r\n1  C:\\g\r\n2  C:\\A\\h\r\n");
     const Texts whole = list().texts();
-    click(IDC_FORM3_CMDPLUS1);
-    EXPECT_EQ(text(IDC_FORM3_NNIVEAU1), L"1");
     const Texts oneLevel = {L"0001   EnCours  C:\\..\\B\\f", L"0002   Fait          ",
                             L"0003   Vu            C:\\..\\h"};
-    EXPECT_EQ(list().texts(), oneLevel);
-    clickAll({IDC_FORM3_CMDPLUS1, IDC_FORM3_CMDMOINS1});
+    clickAll({IDC_FORM3_CMDPLUS1, IDC_FORM3_CMDPLUS1, IDC_FORM3_CMDMOINS1});
+    EXPECT_EQ(text(IDC_FORM3_NNIVEAU1), L"1");
     EXPECT_EQ(list().texts(), oneLevel);
     click(IDC_FORM3_CMDSUIV);
     EXPECT_EQ(list().texts()[0], L"0001   Fait          C:\\..\\B\\f");
@@ -51,13 +48,11 @@ TEST_F(Display, DepthHidesLevelsOfAllLines) {
 
 TEST_F(Display, CountsTheLinesNoLongerToDoUntilThePassEnds) {
     loadStates(L"01200");
-    const auto expectShownAfter = [&](int button, int done, int total) {
-        if (button != 0) click(button);
-        EXPECT_EQ(std::pair(window().progressDone, window().progressTotal), std::pair(done, total));
-    };
-    expectShownAfter(0, 2, 5);
-    expectShownAfter(IDC_FORM3_CMDSUIV, 3, 5);
-    expectShownAfter(IDC_FORM3_CMDSUIVSAUTER, 3, 5);
-    expectShownAfter(IDC_FORM3_CMDSUIVQUITTER, 0, 0);
-    expectShownAfter(IDC_FORM3_CMDPRECEDENT, 4, 5);
+    std::vector<int> shown;
+    for (const int button : {IDC_FORM3_CMDDESELECT, IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIVSAUTER,
+                             IDC_FORM3_CMDSUIVQUITTER, IDC_FORM3_CMDPRECEDENT}) {
+        click(button);
+        shown.insert(shown.end(), {window().progressDone, window().progressTotal});
+    }
+    EXPECT_EQ(shown, (std::vector{2, 5, 3, 5, 3, 5, 0, 0, 4, 5}));
 }

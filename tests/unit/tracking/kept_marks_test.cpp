@@ -3,24 +3,17 @@
 namespace {
 
 struct Resuming : TrackingFixture {
-    bool recordThere() {
-        return std::ranges::any_of(machine.records.contents,
-                                   [](const auto& record) { return !record.second.empty(); });
-    }
-
-    /// Starts again as after a kill, with these answers; gives the boxes that came.
-    Texts restart(std::deque<MessageBoxes::Answer> answers) {
+    /// Starts again as after a kill, with these answers; returns the boxes that came.
+    Texts restart(std::deque<Answer> answers) {
         machine.boxes.shown.clear();
         machine.boxes.answers = std::move(answers);
         start();
-        Texts texts;
         for (const auto& box : machine.boxes.shown) {
-            EXPECT_EQ(box.title, L"Tarnwick");
-            EXPECT_EQ(box.defaultButton, 1);
-            EXPECT_EQ(box.buttons, MessageBoxContent::Buttons::YesNo);
-            texts.push_back(box.text);
+            EXPECT_EQ(box, (MessageBoxContent{.text = box.text,
+                                              .title = L"Tarnwick",
+                                              .buttons = MessageBoxContent::Buttons::YesNo}));
         }
-        return texts;
+        return machine.boxes.takeTexts();
     }
 
     /// The application dies while it opens the document with this name.
@@ -44,23 +37,20 @@ const std::wstring kOpening =
 TEST_F(Resuming, OffersTheMarksThatWereKept) {
     loadStates(L"00000");
     clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIVQUITTER});
-    EXPECT_EQ(restart({kYes}), Texts{kMarked});
-    EXPECT_EQ(states(), L"1 2 3 0 0");
-    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\c");
     // A box that could not be shown is no No.
-    EXPECT_EQ(restart({MessageBoxes::Answer{}}), Texts{kMarked});
-    EXPECT_EQ(states(), L"1 2 3 0 0");
-    EXPECT_EQ(restart({kNo}), Texts{kMarked});
-    EXPECT_EQ(states(), L"3 0 0 0 0");
-    EXPECT_FALSE(recordThere());
+    for (const Answer answer : {kYes, Answer{}, kNo}) {
+        EXPECT_EQ(restart({answer}), Texts{kMarked});
+        EXPECT_EQ(states(), answer == kNo ? L"3 0 0 0 0" : L"1 2 3 0 0");
+    }
+    EXPECT_EQ(record(), "");
     EXPECT_EQ(restart({}), Texts());
     // Neither a save nor a launch of the same list leaves anything to offer.
     click(IDC_FORM3_CMDSUIV);
     start(Origin::Launched);
-    EXPECT_FALSE(recordThere());
+    EXPECT_EQ(record(), "");
     EXPECT_EQ(states(), L"3 0 0 0 0");
     clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDFICHIERLISTE});
-    EXPECT_FALSE(recordThere());
+    EXPECT_EQ(record(), "");
     machine.boxes.answers = {kYes};
     clickAll({IDC_FORM3_CMDSUIVQUITTER, IDC_FORM3_CMDPURGE});
     EXPECT_EQ(restart({kYes}), Texts{kMarked});
@@ -68,40 +58,29 @@ TEST_F(Resuming, OffersTheMarksThatWereKept) {
 }
 
 TEST_F(Resuming, LeavesTheRecordAtEveryEndAndSaysSoWhenOneIsAnError) {
-    loadStates(L"0000");
-    EXPECT_THROW(click(IDC_FORM3_CMDSORTIE), ProgramEnd);
-    EXPECT_FALSE(recordThere());
-    loadStates(L"0000");
-    click(IDC_FORM3_CMDSUIV);
-    EXPECT_THROW(click(IDC_FORM3_CMDSORTIE), ProgramEnd);
-    EXPECT_TRUE(recordThere());
-    machine.boxes.answers = {kYes};
+    for (const bool marked : {false, true}) {
+        loadStates(L"0000");
+        if (marked) click(IDC_FORM3_CMDSUIV);
+        EXPECT_THROW(click(IDC_FORM3_CMDSORTIE), ProgramEnd);
+        EXPECT_EQ(record() != "", marked);
+    }
     dieOpening(L"c");
-    start();
+    restart({kYes});
     const std::wstring failure = raisedError([&] { click(IDC_FORM3_CMDSUIV); }).text;
-    EXPECT_NE(failure.find(L"\r\nDocument : c:\\c\r\nLes marques"), std::wstring::npos);
+    EXPECT_TRUE(has(failure, L"\r\nDocument : c:\\c\r\nLes marques"));
 }
 
 TEST_F(Resuming, GoesPastADocumentThatStopsTheProgramOrOpensItAgain) {
-    loadStates(L"0000");
-    const auto stopAtC = [&] {
-        machine.records.contents.clear();
+    for (const Answer goesPast : {kYes, kNo}) {
         dieOpening(L"c");
-        start();
+        loadStates(L"0000");
         click(IDC_FORM3_CMDSUIV);
         EXPECT_THROW(click(IDC_FORM3_CMDSUIV), RuntimeError);
         machine.automation.overrides.clear();
-    };
-    stopAtC();
-    EXPECT_EQ(restart({kYes, kYes}), (Texts{kMarked, kOpening}));
-    EXPECT_EQ(states(), L"1 1 0 3");
-    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\d");
-
-    stopAtC();
-    EXPECT_EQ(restart({kYes, kNo}), (Texts{kMarked, kOpening}));
-    EXPECT_EQ(states(), L"1 1 3 0");
-    EXPECT_EQ(text(IDC_FORM3_TXTETAT), L"c:\\c");
-
+        EXPECT_EQ(restart({kYes, goesPast}), (Texts{kMarked, kOpening}));
+        EXPECT_EQ(states(), goesPast == kYes ? L"1 1 0 3" : L"1 1 3 0");
+        EXPECT_EQ(text(IDC_FORM3_TXTETAT), goesPast == kYes ? L"c:\\d" : L"c:\\c");
+    }
     // The very first document; and one with nothing to do behind it.
     dieOpening(L"c");
     const auto first = raisedError([&] { load(L"0  c:\\c\r\n0  c:\\d\r\n"); });
@@ -114,22 +93,19 @@ TEST_F(Resuming, GoesPastADocumentThatStopsTheProgramOrOpensItAgain) {
     EXPECT_FALSE(canAdvance());
     EXPECT_EQ(text(IDC_FORM3_CPTFICHIER1), L"3");
     // That has been asked; the program did not stop again.
-    EXPECT_FALSE(recordThere());
+    EXPECT_EQ(record(), "");
     // Nor is a document being opened while the one before is closed.
     loadStates(L"00");
     machine.automation.overrides[L"closedoc"] = [](auto) -> Value { throw errors::emptyObject(); };
-    list().clearSelection();
-    list().select(1, true);
-    EXPECT_THROW(click(IDC_FORM3_CMDREPA), RuntimeError);
+    EXPECT_THROW(command(IDC_FORM3_CMDREPA, {1}), RuntimeError);
     EXPECT_EQ(restart({}), Texts());
 }
 
 TEST_F(Resuming, TellsOnceThatMarksCannotBeKept) {
     machine.records.fails = [](int) { return true; };
     loadStates(L"0000");
-    EXPECT_EQ(machine.boxes.shown.size(), 1U);
     clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIV});
-    EXPECT_EQ(machine.boxes.shown.size(), 1U);
+    EXPECT_EQ(machine.boxes.takeTexts().size(), 1U);
     EXPECT_EQ(states(), L"1 1 3 0");
     EXPECT_FALSE(form->keepsMarks());
     machine.records.fails = [](int) { return false; };

@@ -17,31 +17,27 @@ struct Options : TrackingFixture {
 
 TEST_F(Options, AreOffUntilChosenAndKeptAtOnce) {
     loadStates(L"00");
-    EXPECT_TRUE(window().menuMarks.empty());
     EXPECT_EQ(options(), L"---");
-    clickAll({IDM_FORM3_TOUJOURSVISIBLE, IDM_FORM3_TOUCHES, IDM_FORM3_PREMIERPLAN});
-    EXPECT_EQ(options(), L"111");
-    start();
-    EXPECT_TRUE(window().topmost && window().hasHotKeys);
-    EXPECT_EQ(window().menuMarks.size(), 3U);
-    clickAll({IDM_FORM3_TOUJOURSVISIBLE, IDM_FORM3_TOUCHES, IDM_FORM3_PREMIERPLAN});
-    EXPECT_EQ(options(), L"000");
-    EXPECT_TRUE(window().menuMarks.empty());
-    EXPECT_FALSE(window().topmost || window().hasHotKeys);
-}
-
-TEST_F(Options, KeysStayOffWhenOneIsTaken) {
-    loadStates(L"00");
+    for (const std::size_t on : {3, 0}) {
+        EXPECT_EQ(window().menuMarks.size(), 3 - on);
+        clickAll({IDM_FORM3_TOUJOURSVISIBLE, IDM_FORM3_TOUCHES, IDM_FORM3_PREMIERPLAN});
+        EXPECT_EQ(options(), on ? L"111" : L"000");
+        for (const bool again : {false, true}) {
+            if (again) start();
+            EXPECT_EQ(window().menuMarks.size(), on);
+            EXPECT_EQ(window().topmost, on != 0);
+            EXPECT_EQ(window().hasHotKeys, on != 0);
+        }
+    }
     window().keysOfOthers = {L"Ctrl+Maj+2", L"Ctrl+Maj+4"};
     click(IDM_FORM3_TOUCHES);
-    EXPECT_NE(machine.boxes.shown.back().text.find(L"\r\nCtrl+Maj+2\r\nCtrl+Maj+4\r\n"),
-              std::wstring::npos);
+    EXPECT_TRUE(has(machine.boxes.takeTexts().at(0), L"\r\nCtrl+Maj+2\r\nCtrl+Maj+4\r\n"));
     EXPECT_TRUE(window().menuMarks.empty());
-    EXPECT_EQ(options(), L"---");
+    EXPECT_EQ(options(), L"000");
 }
 
 TEST_F(Options, AnyReleaseIsFoundByTheBeginningOfItsTitle) {
-    machine.settings.write(L"tarnwick", L"options", L"premierplan", L"1");
+    switchOn(L"premierplan");
     machine.automation.revision = L"28.1";
     machine.desktop.windows = {{L"b - SolidWorks", 1},
                                {L"SOLIDWORKS", 2},
@@ -49,10 +45,9 @@ TEST_F(Options, AnyReleaseIsFoundByTheBeginningOfItsTitle) {
                                {L"SOLIDWORKS Premium 2020 - [a.SLDPRT *]", 4}};
     load(L"0  c:\\a.SLDPRT\r\n0  c:\\b.SLDPRT\r\n");
     EXPECT_EQ(machine.desktop.broughtForward.back(), 4U);
-    EXPECT_EQ(machine.desktop.restored.back(), 4U);
     clickAll({IDM_FORM3_PREMIERPLAN, IDC_FORM3_CMDSUIVSAUTER});
     EXPECT_EQ(machine.desktop.broughtForward.back(), 0U);
-    EXPECT_EQ(machine.desktop.restored.size(), 1U);
+    EXPECT_EQ(machine.desktop.restored, std::vector<Desktop::WindowHandle>{4});
 }
 
 TEST_F(Options, ReportIsWrittenWhereTheUserWantsItOrThePassGoesOnWithoutIt) {
@@ -60,21 +55,16 @@ TEST_F(Options, ReportIsWrittenWhereTheUserWantsItOrThePassGoesOnWithoutIt) {
     click(IDM_FORM3_RAPPORT);
     const SaveQuestion& asked = machine.fileDialogs.asked.back();
     EXPECT_EQ(asked.directory + L"|" + asked.name, L"c:\\tarnwick|tarnwick-rapport.csv");
-    machine.fileDialogs.answer = L"c:\\tarnwick\\r.csv";
-    click(IDM_FORM3_RAPPORT);
-    EXPECT_NE(machine.files.texts[L"c:\\tarnwick\\r.csv"].find(L"\r\n2;A faire;c:\\b;;;;\r\n"),
-              std::wstring::npos);
-    EXPECT_TRUE(machine.boxes.shown.empty());
+    EXPECT_TRUE(has(report(), L"\r\n2;A faire;c:\\b;;;;\r\n"));
+    EXPECT_EQ(machine.boxes.takeTexts(), Texts());
 
     const std::wstring before = listFile();
     machine.files.unreadable.insert(L"c:\\r.csv");
     for (const wchar_t* path : {L"c:\\r.csv", L"C:\\Tarnwick\\TARNWICK.LST"}) {
         machine.fileDialogs.answer = path;
         click(IDM_FORM3_RAPPORT);
-    }
-    ASSERT_EQ(machine.boxes.shown.size(), 2U);
-    for (const auto& box : machine.boxes.shown) {
-        EXPECT_TRUE(box.text.starts_with(L"Le rapport n'a pas pu être écrit.")) << box.text;
+        EXPECT_TRUE(
+            machine.boxes.takeTexts().at(0).starts_with(L"Le rapport n'a pas pu être écrit."));
     }
     EXPECT_EQ(listFile(), before);
     click(IDC_FORM3_CMDSUIV);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "cad/cad_session.h"
 #include "common/encoding.h"
 #include "fakes/fake_platform.h"
@@ -12,9 +10,10 @@
 /// The tracking window on a machine in memory, driven by its controls' events.
 class TrackingFixture : public testing::Test {
  protected:
+    using Answer = MessageBoxes::Answer;
     using Origin = TrackingWindow::Origin;
-    static constexpr auto kYes = MessageBoxes::Answer::Yes;
-    static constexpr auto kNo = MessageBoxes::Answer::No;
+    static constexpr auto kYes = Answer::Yes;
+    static constexpr auto kNo = Answer::No;
     /// In the order in which they are saved.
     static constexpr int kOptionBoxes[] = {IDC_FORM3_CKMINIMISE, IDC_FORM3_CKSILENT,
                                            IDC_FORM3_CKRECONS, IDC_FORM3_CKRECONS2};
@@ -45,25 +44,55 @@ class TrackingFixture : public testing::Test {
     }
 
     /// Loads a list of the documents c:\a, c:\b … whose states are these one-character codes, and
-    /// forgets the calls.
-    void loadStates(const std::wstring& codes) {
+    /// returns the calls.
+    std::wstring loadStates(const std::wstring& codes) {
         std::wstring text;
         wchar_t name = L'a';
         for (const wchar_t code : codes) {
             text += code + (L"  c:\\" + std::wstring{name++}) + L"\r\n";
         }
         load(text);
-        takeCalls();
+        return calls();
     }
 
     void click(int id) { window().click(id); }
     void clickAll(const std::vector<int>& ids) {
         for (const int id : ids) click(id);
     }
+    /// Presses these buttons: the calls, all states, and what is shown.
+    std::wstring after(const std::vector<int>& buttons) {
+        clickAll(buttons);
+        return calls() + L" | " + states() + L" | " + shown();
+    }
+    void select(const std::vector<int>& lines) {
+        list().clearSelection();
+        for (const int line : lines) list().select(line, true);
+    }
+    /// Selects lines and presses a command's button, saying Yes when it asks.
+    void command(int button, const std::vector<int>& lines) {
+        select(lines);
+        machine.boxes.answers = {kYes};
+        click(button);
+        machine.boxes.answers.clear();
+    }
+    std::wstring report() {
+        machine.fileDialogs.answer = L"c:\\r.csv";
+        click(IDM_FORM3_RAPPORT);
+        return machine.files.texts[L"c:\\r.csv"];
+    }
     FakeWindow& window() { return machine.window(IDD_FORM3); }
     FakeListBox& list() { return window().listBox(IDC_FORM3_LIST1); }
     std::wstring text(int id) { return window().control(id).content; }
     CallJournal takeCalls() { return machine.automation.takeJournal(); }
+
+    /// The record of kept marks; empty when there is none.
+    std::string record() {
+        const auto& records = machine.records.contents;
+        return records.empty() ? std::string() : records.begin()->second;
+    }
+    std::wstring remark(int line) {
+        return wideText(remarkText(work().lines[line].history.remark));
+    }
 
     /// The loading options as they are saved: a digit for each box.
     void tickOptions(const std::wstring& options) {
@@ -93,8 +122,8 @@ class TrackingFixture : public testing::Test {
     bool canStepBack() { return enabledAlike({IDC_FORM3_CMDPRECEDENT, IDC_FORM3_CMD4}); }
 
     /// Switched on for the windows that are loaded from now on.
-    void switchOn(const wchar_t* key) {
-        machine.settings.write(L"tarnwick", L"options", key, L"1");
+    void switchOn(const wchar_t* key, const wchar_t* value = L"1") {
+        machine.settings.write(L"tarnwick", L"options", key, value);
     }
     FakeDocument& document(const wchar_t* name) { return machine.automation.documents[name]; }
     void refuse(std::wstring_view names, std::int32_t code = 65536) {
@@ -107,11 +136,12 @@ class TrackingFixture : public testing::Test {
     std::wstring calls() {
         std::wstring all;
         for (const std::wstring& call : takeCalls()) {
-            const bool opens = call.starts_with(L"OpenDoc6(");
-            if (opens) all += L"+" + call.substr(call.find(L"c:\\") + 3, 1);
-            if (call.find(L"save2") != std::wstring::npos) all += L"s";
+            const std::wstring path = call.substr(call.find(L'\\') + 1);
+            const std::wstring name = path.substr(0, path.find(L'"'));
+            if (call.starts_with(L"OpenDoc6(&\"c:")) all += L"+" + name;
+            if (call.ends_with(L".save2(True)")) all += L"s";
             if (call == L"closedoc(\"\")") all += L"-";
-            if (call.starts_with(L"closedoc(\"c")) all += L"-" + call.substr(call.size() - 3, 1);
+            if (call.starts_with(L"closedoc(\"c:")) all += L"-" + name;
             if (call.starts_with(L"SetCurrentWorkingDirectory")) all += L"d";
         }
         return all;
@@ -133,13 +163,3 @@ class TrackingFixture : public testing::Test {
         return first;
     }
 };
-
-/// The calls that open c:\b, in silence and without a rebuild unless told otherwise.
-inline CallJournal openingB(const std::wstring& mode = L"1:i4") {
-    return {L"OpenDoc6(&\"c:\\b\", &0:i2, " + mode + L", \"\", &0:i4, &0:i4)",
-            L"ActivateDoc2(&\"c:\\b\", True, &0:i4)",
-            L"Visible = True",
-            L"b.GetTitle()",
-            L"b.GetTitle()",
-            L"b.ViewZoomtofit2()"};
-}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fakes/fake_clock.h"
+#include "fakes/fake_services.h"
 #include "unit/unit_test.h"
 #include "worklist/pass.h"
 
