@@ -13,7 +13,7 @@ namespace {
 constexpr const char* kTracking = "Tarnwick - suivi du travail -";
 constexpr size_t kDocuments = 10;
 
-/// A session that is slow enough to be watched, with its own opinion of two documents.
+/// Starts a session that is slow enough to watch, and refuses something of two documents.
 void startRefusingSession(Stage& stage) {
     const auto script = stage.sandbox.directory() / "seul.txt";
     writeFileBytes(script,

@@ -1,5 +1,5 @@
 // tarnwick-demo.exe DIRECTORY [--scripted]: shows the program at work in this directory, for a
-// person to use or played by a script.
+// person to use, or played by a script.
 
 #include <windows.h>
 

@@ -7,7 +7,7 @@
 
 namespace driver::demo {
 
-/// Creates a tree of sample documents as a small design office might have it; gives their full
+/// Creates a tree of sample documents such as a small design office might have; returns their full
 /// paths.
 std::vector<std::string> createSampleDocuments(const Sandbox& sandbox);
 

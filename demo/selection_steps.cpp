@@ -17,7 +17,7 @@ void playAbout(Stage& stage) {
     waitFor("the About window to close", [&] { return stage.app.shownWindows().size() == 1; });
 }
 
-/// A list from a spreadsheet, of which some lines name no document that is there.
+/// Imports a list from a spreadsheet, some lines of which name no existing document.
 void playImport(Stage& stage) {
     stage.tell("Importing a list that comes from a spreadsheet");
     std::string table = "Ordre;Document;Indice\r\n";

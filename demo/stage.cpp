@@ -12,7 +12,7 @@
 namespace driver::demo {
 namespace {
 
-/// What `import -crop` takes for a place on the screen.
+/// A place on the screen, as `import -crop` takes it.
 std::string area(const RECT& place) {
     return std::to_string(place.right - place.left) + "x" +
            std::to_string(place.bottom - place.top) + "+" + std::to_string(place.left) + "+" +
@@ -74,11 +74,11 @@ void Stage::picture(const std::string& name, HWND window, HWND behind) const {
         UnionRect(&place, &place, &other);
     }
     SetForegroundWindow(window);
-    send(window, WM_NCACTIVATE, TRUE);  // a button pressed from outside leaves the title bar grey
+    send(window, WM_NCACTIVATE, TRUE);  // pressing a button from outside leaves the title bar grey
     const std::filesystem::path request = sandbox.directory() / "picture.request";
     const std::filesystem::path draft = sandbox.directory() / "picture.draft";
     writeFileBytes(draft, name + " " + area(place) + "\n");
-    std::filesystem::rename(draft, request);  // only now can it be seen, whole
+    std::filesystem::rename(draft, request);  // so that nobody reads half of it
     waitFor("the picture " + name, [&] { return !std::filesystem::exists(request); });
     std::cout << "    (picture " << name << ".png)" << std::endl;
 }

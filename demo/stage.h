@@ -9,8 +9,8 @@
 
 namespace driver::demo {
 
-/// Where the demonstration is played: the program, a trial CAD session and sample documents. All
-/// that happens is told on the standard output.
+/// Where the demonstration is played: the program, a trial CAD session and sample documents. Each
+/// step is printed on the standard output.
 class Stage {
  public:
     explicit Stage(const std::filesystem::path& directory);
@@ -18,20 +18,20 @@ class Stage {
     /// Announces what comes next.
     void tell(const std::string& step) const;
 
-    /// Presses a button and tells its caption.
+    /// Presses a button and prints its caption.
     void press(int button) const;
 
-    /// Waits for a call that holds this text among those not shown yet, and shows all up to it.
+    /// Waits for a call with this text among those not printed yet, and prints all up to it.
     void showCallsUpTo(const std::string& text);
 
     void showLines(int list) const;
     void showListFile() const;
     void showConfigurationFile() const;
-    /// Waits for a file beside the program, and shows its text.
+    /// Waits for a file beside the program, and prints its text.
     void showFile(const std::string& name) const;
 
-    /// Leaves NAME.png with this window as it looks on the screen; of another one what is seen
-    /// behind and beside it.
+    /// Makes NAME.png, a picture of this window as it looks on the screen, and of what is visible
+    /// of another one behind it.
     void picture(const std::string& name, HWND window, HWND behind = nullptr) const;
 
     Sandbox sandbox;

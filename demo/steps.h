@@ -2,7 +2,7 @@
 
 #include "demo/stage.h"
 
-// The acts of the demonstration, in the order they are played.
+// The acts of the demonstration, in order.
 namespace driver::demo {
 
 /// Prepares a pass in the selection window and launches it.
@@ -19,14 +19,14 @@ void playTrackingWindow(Stage& stage);
 /// Starts again and accepts the list file that the pass left.
 void playResuming(Stage& stage);
 
-/// What the session must be told for playRefusals: the file of its documents.
+/// What the session has to be told for playRefusals: the text of its file of documents.
 std::string documentsThatSayNo();
 
-/// Works through another list, whose documents do not open or are not saved.
+/// Works through another list, with documents that do not open or are not saved.
 void playRefusals(Stage& stage);
 
-/// Has a pass of ten documents go on alone, in a session of its own that refuses one of them and
-/// does not save another.
+/// Lets a pass of ten documents go on alone, in a session of its own that refuses to open one of
+/// them and to save another.
 void playAlone(Stage& stage);
 
 }  // namespace driver::demo

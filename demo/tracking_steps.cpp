@@ -54,7 +54,7 @@ void exportReport(Stage& stage, const std::string& file) {
     stage.showFile(file);
 }
 
-/// Both windows as a user has them, the tracking window in a corner of the screen.
+/// A picture of both windows as users have them, the tracking window in a corner of the screen.
 void pictureBesideCad(Stage& stage) {
     HWND window = stage.app.window(kTracking);
     const RECT place = placeOf(window);

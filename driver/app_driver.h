@@ -11,8 +11,8 @@
 
 namespace driver {
 
-/// Drives a running tarnwick.exe through its windows, as its user would. Controls are named by
-/// their ids, which are unique in the whole program; a control that is not there yet is waited for.
+/// Drives a running tarnwick.exe through its windows, as a user would. Controls are named by their
+/// ids, which are unique in the whole program; a control that does not exist yet is waited for.
 class AppDriver {
  public:
     explicit AppDriver(const Sandbox& sandbox) : sandbox_(sandbox) {}
@@ -26,12 +26,12 @@ class AppDriver {
     void kill() const { process_->kill(); }
     Resources resourcesInUse() const { return process_->resourcesInUse(); }
 
-    /// Waits until its user closes it.
+    /// Waits until the user closes it.
     void waitUntilClosed() const { process_->waitUntilClosed(); }
 
-    /// The shown top-level window with this caption.
+    /// The visible top-level window with this caption.
     HWND window(const std::string& caption) const;
-    /// The captions of all top-level windows that are shown, message boxes included.
+    /// The captions of all visible top-level windows, message boxes included.
     std::vector<std::string> shownWindows() const;
     /// Closes a window by its frame.
     void closeByFrame(const std::string& caption) const;
@@ -51,23 +51,23 @@ class AppDriver {
     /// Double-clicks the line of a list that ends with this text.
     void open(int list, const std::string& ending) const;
 
-    /// Waits until the control's text is `text`; throws with the text it has if it never is.
+    /// Waits until the control has this text; throws with its last text if it never has.
     void waitForText(int id, const std::string& text) const;
 
-    /// The message box that is shown; waited for.
+    /// Waits for a message box.
     ModalBox box() const;
     bool showsBox() const;
 
-    /// Waits for the end of the command at work: what is pressed before does not count. It clears
-    /// a list by its button, which waits, too.
+    /// Waits for the running command to end, since presses before that don't count: presses the
+    /// button that clears a list's selection, which has to wait as well.
     void waitForCommandEnd(int list, int clearButton) const;
 
     void chooseInSystemMenu(const std::string& caption, int item) const;
 
-    /// Waits for a dialog of the system with this title that proposes this file, and accepts it.
+    /// Waits for a dialog of the system with this title that proposes this file, and accepts that.
     void saveAsProposed(const std::string& title, const std::string& file) const;
 
-    /// Waits for a dialog of the system with this title, and opens this file by it.
+    /// Waits for a dialog of the system with this title, and opens this file in it.
     void openFile(const std::string& title, const std::filesystem::path& file) const;
 
     /// All windows of the program with their controls, for the report of a failed test.

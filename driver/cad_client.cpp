@@ -9,7 +9,7 @@ namespace driver {
 
 namespace {
 
-/// Puts an argument into a VARIANT, which owns what it holds.
+/// Puts an argument into a VARIANT, which then owns it.
 struct PutInto {
     VARIANT& variant;
 

@@ -11,22 +11,22 @@
 
 namespace driver {
 
-/// What a call by name came to.
+/// The outcome of a call by name.
 struct CallOutcome {
     HRESULT code = S_OK;
-    LONG number = 0;  ///< what it answered: a number or a truth
+    LONG number = 0;  ///< the answer: a number or a boolean
     std::string text = {};
     ComPtr<IDispatch> object = {};
 };
 
-/// One argument of such a call; a number that the session is to write is pointed to.
+/// One argument of such a call; a pointer for a number that the session writes.
 using CallArgument = std::variant<std::string, LONG, bool, LONG*>;
 
-/// Calls a method of an object of the session, as any program may do beside ours.
+/// Calls a method of an object of the session, as a program other than ours might.
 CallOutcome callByName(IDispatch* object, const wchar_t* name,
                        const std::vector<CallArgument>& arguments = {});
 
-/// The application object that a process registered under its own number; null when it did not.
+/// The application object that a process registered under its own number; null for none.
 ComPtr<IDispatch> sessionOfProcess(DWORD processId);
 
 /// What OpenDoc6 answers for a document.

@@ -39,7 +39,7 @@ void chooseLine(HWND comboBox, const std::string& line) {
 }
 
 void openLine(HWND list, const std::string& ending) {
-    // The list may still be showing what an earlier double click left.
+    // The list may still show what it did before an earlier double click.
     waitFor("a line \"" + ending + "\"", [&] {
         const std::vector<std::string> lines = listLines(list);
         for (size_t i = 0; i < lines.size(); ++i) {

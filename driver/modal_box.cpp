@@ -8,14 +8,14 @@
 namespace driver {
 namespace {
 
-constexpr int kTextId = 0xFFFF;  // of the label that holds a message box's text
+constexpr int kTextId = 0xFFFF;  // of the label with a message box's text
 
 bool isButton(HWND window) {
     const int id = GetDlgCtrlID(window);
     return classOf(window) == "Button" && IsWindowVisible(window) && id >= IDOK && id <= IDCONTINUE;
 }
 
-// Asks for the picture, too: Wine keeps an empty icon control in boxes without icon.
+// Looks for the picture as well: Wine's boxes without an icon have an empty icon control.
 bool isIcon(HWND window) {
     return classOf(window) == "Static" &&
            (GetWindowLongW(window, GWL_STYLE) & SS_TYPEMASK) == SS_ICON &&
@@ -61,7 +61,7 @@ std::vector<int> ModalBox::buttons() const {
     return ids;
 }
 
-// Asks the buttons: Wine's boxes do not tell DM_GETDEFID which one the caller made the default.
+// Asks the buttons: Wine's boxes do not answer DM_GETDEFID with the caller's default.
 int ModalBox::defaultButton() const {
     for (HWND button : buttonWindows()) {
         if ((send(button, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON) != 0) return GetDlgCtrlID(button);

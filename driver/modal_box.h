@@ -18,13 +18,13 @@ class ModalBox {
     std::string title() const;
     std::string text() const;
 
-    /// The ids of its buttons (IDOK, IDYES …), ascending. A lone button is IDOK, whatever id the
-    /// system gives it: Windows' is IDCANCEL, so that Escape presses it.
+    /// The ids of its buttons (IDOK, IDYES …), ascending. A lone button is returned as IDOK,
+    /// although on Windows its id is IDCANCEL, so that Escape presses it.
     std::vector<int> buttons() const;
     int defaultButton() const;
     bool hasIcon() const;
 
-    /// Presses one of its buttons, a lone one whatever its id, and waits until the box has gone.
+    /// Presses one of its buttons, a lone one whatever its id, and waits until the box is gone.
     void answer(int button) const;
 
  private:

@@ -6,14 +6,14 @@
 namespace driver {
 namespace {
 
-/// Quotes an argument that holds no quotation mark of its own.
+/// Quotes an argument that contains no quotation mark.
 std::wstring quoted(const std::wstring& argument) {
     std::wstring quoted = L"\"" + argument;
     if (!argument.empty() && argument.back() == L'\\') quoted += L'\\';
     return quoted + L"\"";
 }
 
-/// A handle to an emptied file, for a process to inherit; null when no file is named.
+/// A handle to an emptied file for a process to inherit; null when no file is named.
 HANDLE inheritableFile(const std::wstring& file) {
     SECURITY_ATTRIBUTES inheritable{sizeof inheritable, nullptr, TRUE};
     return file.empty() ? nullptr

@@ -9,10 +9,10 @@
 
 namespace driver {
 
-/// A process that we started; ended, if it still runs, when this object goes.
+/// A process that we started. If it still runs when this object is destroyed, it is ended.
 class Process {
  public:
-    /// What it writes to its error output goes into a file, if one is named.
+    /// Its error output goes into a file, if one is named.
     Process(const std::wstring& program, const std::vector<std::wstring>& arguments,
             const std::wstring& directory, const std::wstring& errorFile = {});
     ~Process();

@@ -6,7 +6,7 @@
 
 namespace driver {
 
-/// What a process holds of the system.
+/// The system's resources that a process uses.
 struct Resources {
     DWORD kernelHandles = 0;
     DWORD gdiObjects = 0;

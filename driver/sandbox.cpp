@@ -19,7 +19,7 @@ fs::path newTemporaryDirectory() {
     return fs::temp_directory_path() / name;
 }
 
-/// Removes all that can be removed, read-only files too.
+/// Removes all that can be removed, even read-only files.
 void removeDirectoryTree(const fs::path& directory) {
     std::error_code ignored;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory, ignored)) {
@@ -82,7 +82,7 @@ std::string Sandbox::describe() const {
 }
 
 std::optional<std::string> readFileBytes(const fs::path& file) {
-    // A stream of the standard library would keep others from replacing the file.
+    // A stream of the standard library would prevent others from replacing the file.
     constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     HANDLE handle =
         CreateFileW(file.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr);

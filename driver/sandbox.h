@@ -7,8 +7,8 @@
 
 namespace driver {
 
-/// A directory with a copy of the program (its list and configuration files stand beside it) and
-/// with documents.
+/// A directory with documents and a copy of the program, beside which its list and configuration
+/// files are.
 class Sandbox {
  public:
     /// A temporary directory, removed at the end.
@@ -27,7 +27,7 @@ class Sandbox {
     /// Where this test program and the programs under test were built.
     static std::filesystem::path builtPrograms();
 
-    /// Creates a document below documents(), with its directories; gives its full path in UTF-8.
+    /// Creates a document below documents(), with its directories; returns its full path in UTF-8.
     std::string addDocument(std::string_view relativePath) const;
 
     void writeList(std::string_view bytes) const;

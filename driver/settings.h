@@ -6,8 +6,8 @@
 
 namespace driver {
 
-/// The program's per-user settings. While this object lives the program finds none but the test's
-/// own; the user's own are put back afterwards.
+/// The program's settings. While this object lives the program finds only those that the test
+/// writes; afterwards the user's own are restored.
 class Settings {
  public:
     Settings();
@@ -20,7 +20,7 @@ class Settings {
     void set(const std::string& application, const std::string& section, const std::string& key,
              const std::string& value) const;
 
-    /// Every value there is, a line each.
+    /// All values, one on each line.
     std::string describe() const;
 
  private:

@@ -5,7 +5,7 @@
 
 namespace driver {
 
-// The scenarios speak UTF-8; Windows is spoken to in UTF-16.
+// The scenarios use UTF-8, Windows UTF-16.
 std::wstring wide(std::string_view utf8);
 std::string utf8(std::wstring_view wide);
 

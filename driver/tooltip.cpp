@@ -12,7 +12,7 @@ namespace {
 
 constexpr size_t kLongest = 512;  // characters
 
-/// What TTM_GETTEXT fills, laid out as one block of the other process's memory.
+/// What TTM_GETTEXT fills, as one block of the other process's memory.
 struct Request {
     TOOLINFOW tool;
     wchar_t text[kLongest];

@@ -6,8 +6,8 @@
 
 namespace driver {
 
-/// The text of the tool that a tooltip window of the same process keeps for a control; empty if
-/// there is none.
+/// The text that a tooltip window of the control's process keeps for this control; empty if there
+/// is none.
 std::string toolTipOf(HWND control);
 
 }  // namespace driver

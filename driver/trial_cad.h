@@ -17,7 +17,7 @@ class TrialCad {
 
     /// Starts it with these command-line options and waits until programs can attach to it.
     void start(const std::vector<std::string>& options = {});
-    /// Ends it by its window, and waits.
+    /// Closes its window, and waits for its end.
     void close();
 
     /// Ends it as a crash would.
@@ -25,10 +25,10 @@ class TrialCad {
 
     HWND window() const;
 
-    /// The session itself, for what other programs than ours do with it.
+    /// The session itself, for what programs other than ours do with it.
     ComPtr<IDispatch> application() const { return sessionOfProcess(process_->id()); }
 
-    /// Every call received so far, as the journal tells it.
+    /// All calls received so far, as the journal has them.
     std::vector<std::string> calls() const;
 
  private:

@@ -96,8 +96,8 @@ std::vector<std::string> listLines(HWND list) {
     const LRESULT count = send(list, LB_GETCOUNT);
     for (WPARAM i = 0; i < static_cast<WPARAM>(count); ++i) {
         const LRESULT length = send(list, LB_GETTEXTLEN, i);
-        if (length < 0) break;             // the list shrank meanwhile
-        constexpr size_t kLongest = 4096;  // another line may stand there by now
+        if (length < 0) break;             // the list has become shorter
+        constexpr size_t kLongest = 4096;  // the line may be another one by now
         std::wstring line(static_cast<size_t>(length) + kLongest, L'\0');
         send(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(line.data()));
         lines.push_back(utf8(line.c_str()));

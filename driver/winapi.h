@@ -18,14 +18,14 @@ HWND descendant(HWND window, int id);
 
 std::string classOf(HWND window);
 
-/// The text as the window itself answers it (works for controls of other processes).
+/// The text that the window itself answers, also for controls of other processes.
 std::string textOf(HWND window);
 
-/// Sends a message; throws if the other process does not answer in time. A window that has gone
-/// meanwhile answers 0.
+/// Sends a message; throws if the other process does not answer in time. A window that is gone by
+/// then answers 0.
 LRESULT send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
-/// Posts a message and does not wait: what it starts may open a modal box.
+/// Posts a message without waiting, since it may open a modal box.
 void post(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 /// Where a window stands on the screen.
@@ -44,7 +44,7 @@ std::vector<int> selectedLines(HWND list);
 /// parent.
 void selectLines(HWND list, const std::vector<int>& lines);
 
-/// A readable picture of a window and all that is in it, for the report of a failed test.
+/// A readable description of a window and all that is in it, for the report of a failed test.
 std::string describe(HWND window);
 
 }  // namespace driver

@@ -69,7 +69,7 @@ void ApplicationObject::openDoc6(Call& call) {
 }
 
 void ApplicationObject::activateDoc2(Call& call) {
-    call.boolean(1);  // refuses an argument that is no Boolean, though no dialog is ever shown
+    call.boolean(1);  // refuses an argument that is no Boolean, although it makes no difference
     DocumentObject* document = session_.activate(call.text(0));
     call.giveBack(2, document ? 0 : kActivateError);
     if (!document) call.tell(L"aucun document de ce nom n'est ouvert", L" -> no document");

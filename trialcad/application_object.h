@@ -7,7 +7,7 @@
 
 class Session;
 
-/// The application object, as clients find it in the running object table.
+/// The application object that clients find in the running object table.
 class ApplicationObject : public DispatchObject {
  public:
     ApplicationObject(Session& session, std::wstring revision, MemberNames& names, CallDesk& desk);

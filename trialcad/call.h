@@ -5,10 +5,10 @@
 #include <oleauto.h>
 #include <string>
 
-/// A call that ends in an error: its HRESULT and, where one argument is to blame, which.
+/// An error that ends a call: its HRESULT and, where one argument is to blame, which one.
 struct CallError {
     HRESULT code;
-    UINT argument = 0;  ///< as IDispatch counts them: the last argument sent is 0
+    UINT argument = 0;  ///< counted as IDispatch does: the last one sent is 0
 };
 
 /// One call as received: its arguments in the order the caller wrote them, and its answer.
@@ -22,12 +22,12 @@ class Call {
     UINT count() const { return parameters_.cArgs; }
     VARIANT& argument(UINT index) const;
 
-    /// The argument's value, by value or by reference; throws CallError on another type.
+    /// The value of an argument, sent by value or by reference; throws CallError for another type.
     std::wstring text(UINT index) const;
     long integer(UINT index) const;
     bool boolean(UINT index) const;
 
-    /// Writes to a by-reference argument; one sent by value is left alone.
+    /// Writes to an argument sent by reference; ignores one sent by value.
     void giveBack(UINT index, long value) const;
 
     void answer(const std::wstring& text);
@@ -35,13 +35,13 @@ class Call {
     void answer(bool yes);
     void answer(IDispatch* object);  ///< null: an empty object
 
-    /// What came of a call that did return: in French for the window and, when it brought nothing
-    /// about, for the journal.
+    /// Says how a call that returned turned out: in French for the window and, when it had no
+    /// effect, for the journal.
     void tell(std::wstring news, const wchar_t* outcome = L"");
     const std::wstring& news() const { return news_; }
     const wchar_t* outcome() const { return outcome_; }
 
-    /// Hands the answer over to the caller's variant, if there is one.
+    /// Hands the answer over to the caller's VARIANT, if there is one.
     void deliver(VARIANT* result);
 
  private:

@@ -28,8 +28,8 @@ std::wstring newsOf(const Reply& reply, const Call& call) {
     return FAILED(reply.code) ? L"échec" : call.news();
 }
 
-/// Lets the given time pass while this thread's messages, and so other calls, go on being handled.
-/// False when the session ended meanwhile.
+/// Waits, while this thread's messages, and so other calls, are still handled. False when the
+/// session has ended meanwhile.
 bool waitWithMessages(DWORD milliseconds) {
     const ULONGLONG end = GetTickCount64() + milliseconds;
     for (ULONGLONG now = GetTickCount64(); now < end; now = GetTickCount64()) {
@@ -40,7 +40,7 @@ bool waitWithMessages(DWORD milliseconds) {
     return true;
 }
 
-/// The action that the member has for this use of it; throws CallError when it has none.
+/// The member's action for this kind of call; throws CallError when it has none.
 Member::Action actionOf(const Request& request, const Call& call) {
     const Member::Action action = request.put ? request.member->put : request.member->invoke;
     if (!action) throw CallError{DISP_E_MEMBERNOTFOUND};
@@ -60,7 +60,7 @@ void describe(const Reply& reply, EXCEPINFO& exception) {
 }
 
 Reply CallDesk::receive(const Request& request, Call& call) {
-    // The line shows the arguments as sent, so it is made before any is written back.
+    // The line shows the arguments as sent, so it is made before any of them is written.
     const std::wstring line = lineOf(request, call);
     Reply reply = perform(request, call);
     record(line, reply, call);

@@ -13,7 +13,7 @@
 /// What a call is about: the object, its member and the name to journal.
 struct Request {
     DispatchObject& object;
-    const Member* member;  ///< null: the object never gave that DISPID out
+    const Member* member;  ///< null: the object never gave out that DISPID
     std::wstring name;
     bool put;
 };
@@ -28,14 +28,14 @@ struct Reply {
 /// Fills the caller's exception record from a reply.
 void describe(const Reply& reply, EXCEPINFO& exception);
 
-/// Where every call of every object passes: faults asked for, the call itself, the journal.
+/// Handles every call of every object: the faults asked for, the call itself, the journal.
 class CallDesk {
  public:
     using Watcher = std::function<void(const std::wstring& line)>;
 
     CallDesk(Faults& faults, Journal& journal) : faults_(faults), journal_(journal) {}
 
-    /// Has each call told to the given watcher, and in a line of its own what came of it.
+    /// Tells the watcher each call and, in a line of its own, how it turned out.
     void watch(Watcher watcher) { watcher_ = std::move(watcher); }
 
     std::optional<HRESULT> refuseLookUp(std::wstring_view name) {

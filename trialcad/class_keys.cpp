@@ -18,15 +18,15 @@ constexpr wchar_t kOwnClassKey[] =
 constexpr CLSID kOwnClass = {
     0x6e1b5b0a, 0x3c0f, 0x4c58, {0x9c, 0x57, 0x2a, 0x7d, 0x8f, 0x1e, 0x40, 0xb3}};
 
-/// A key below this root, made where it is missing; null when that is not allowed.
+/// Opens or makes a key below this root; null when that is not allowed.
 UniqueKey openKey(HKEY root, const wchar_t* key, DWORD lifetime) {
     HKEY opened = nullptr;
     RegCreateKeyExW(root, key, 0, nullptr, lifetime, KEY_SET_VALUE, nullptr, &opened, nullptr);
     return UniqueKey(opened);
 }
 
-/// Writes a key's default text. The key goes when its part of the registry is unloaded: the user's
-/// at log-off, even when the session could not remove it.
+/// Writes a key's default text. The key vanishes when its part of the registry is unloaded: the
+/// user's at log-off, even if the session could not remove it.
 bool writeDefault(HKEY root, const std::wstring& key, const std::wstring& text) {
     const UniqueKey opened = openKey(root, key.c_str(), REG_OPTION_VOLATILE);
     const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
@@ -35,7 +35,8 @@ bool writeDefault(HKEY root, const std::wstring& key, const std::wstring& text) 
                           reinterpret_cast<const BYTE*>(text.c_str()), size) == ERROR_SUCCESS;
 }
 
-/// Other programs' classes stay, and could not be registered below a key that does not.
+/// Makes the key of all classes a lasting one: other programs' classes could not be kept below a
+/// key that vanishes.
 void keepKeyOfAllClasses(HKEY root) { openKey(root, kClassesKey, REG_OPTION_NON_VOLATILE); }
 
 void removeKeys(HKEY root) {
@@ -55,7 +56,7 @@ bool writeKeys(HKEY root) {
     return written;
 }
 
-/// The class registered under that root's ProgID is the one of our own.
+/// Whether the class registered for the ProgID below this root is our own.
 bool isOwn(HKEY root) {
     wchar_t text[40];
     DWORD size = sizeof text;

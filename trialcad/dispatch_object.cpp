@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Whether the value of a property is named as such, which servers insist on (IDispatch::Invoke).
+/// Whether a property's value is marked as such, as servers require (IDispatch::Invoke).
 bool bearsTheNameOfAValue(const DISPPARAMS& parameters) {
     return parameters.cNamedArgs == 1 && parameters.rgdispidNamedArgs[0] == DISPID_PROPERTYPUT;
 }
@@ -21,7 +21,7 @@ HRESULT DispatchObject::QueryInterface(REFIID iid, void** object) {
     return S_OK;
 }
 
-// Everything runs on the one apartment's thread, so plain counting will do.
+// Everything runs on the apartment's one thread, so plain counting is enough.
 ULONG DispatchObject::AddRef() { return ++references_; }
 
 ULONG DispatchObject::Release() {
@@ -46,7 +46,7 @@ HRESULT DispatchObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
     if (!names || !ids || count == 0) return E_INVALIDARG;
     if (!isConnected()) return RPC_E_DISCONNECTED;
     if (const auto refusal = desk_.refuseLookUp(names[0])) return *refusal;
-    // Further names would be those of arguments, which have none here.
+    // Further names would be names of arguments, which have none here.
     for (UINT i = 0; i < count; ++i) ids[i] = DISPID_UNKNOWN;
     const std::optional<DISPID> id = names_.lookUp(names[0]);
     if (id) ids[0] = *id;

@@ -9,7 +9,8 @@
 
 class CallDesk;
 
-/// An IDispatch over a table of members: finds them by name, passes every call to the call desk.
+/// An IDispatch over a table of members: finds them by name, and passes every call to the call
+/// desk.
 class DispatchObject : public IDispatch {
  public:
     DispatchObject(MemberNames& names, CallDesk& desk) : names_(names), desk_(desk) {}
@@ -27,7 +28,7 @@ class DispatchObject : public IDispatch {
                                      DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
                                      UINT* badArgument) override;
 
-    /// False when nobody answers behind the object any more.
+    /// False once nothing behind the object answers any more.
     virtual bool isConnected() const { return true; }
 
  protected:

@@ -7,14 +7,14 @@
 #include "document_file.h"
 #include "document_script.h"
 
-/// A document and how it was opened.
+/// A document, and how it was opened.
 struct Document {
     std::wstring path;
     DocumentKind kind;
     std::wstring title = {};
     bool silent = false;
     std::wstring configuration = {};
-    ScriptedCode* save = nullptr;  ///< what its saves answer; null: as usual
+    ScriptedCode* save = nullptr;  ///< the answers to its saves; null: the usual ones
 };
 
 /// The automation object of an open document.
@@ -27,11 +27,11 @@ class DocumentObject : public DispatchObject {
     const Document& document() const { return document_; }
     const std::wstring& title() const { return document_.title; }
 
-    /// Whether closing it loses something.
+    /// Whether closing it loses changes.
     bool isModified() const { return modified_; }
     void modify() { modified_ = true; }
 
-    /// From now on the object does not answer any more.
+    /// From now on the object no longer answers.
     void close() { open_ = false; }
     bool isConnected() const override { return open_; }
 
@@ -46,7 +46,7 @@ class DocumentObject : public DispatchObject {
     std::wstring journalPrefix() const override;
 
  private:
-    /// What Save2 answers, having saved the document when that is 0.
+    /// Saves the document if it can be saved; returns what Save2 answers.
     long save() const;
 
     Document document_;

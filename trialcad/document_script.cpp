@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::wstring_view kBetweenActs = L";, \t";
 
-/// Takes what stands before the first of these separators off the front of a text.
+/// Takes the part before the first of these separators off the front of a text.
 std::wstring_view takePart(std::wstring_view& text, std::wstring_view separators) {
     const std::wstring_view part = text.substr(0, text.find_first_of(separators));
     text.remove_prefix(std::min(part.size() + 1, text.size()));
@@ -28,7 +28,7 @@ ScriptedCode ScriptedDocument::*codeNamed(std::wstring_view name) {
     return nullptr;
 }
 
-/// Reads one of the things that a document does; false when it is none.
+/// Reads one thing that a document does; false when it isn't understood.
 bool readAct(ScriptedDocument& document, std::wstring_view act) {
     if (equalIgnoringCase(act, L"open")) return document.usersOwn = true;
     const auto code = codeNamed(takePart(act, L"="));

@@ -4,14 +4,14 @@
 #include <string>
 #include <vector>
 
-/// A number that a document answers: always, or the first times only.
+/// A number that a document answers: always, or the first few times only.
 class ScriptedCode {
  public:
     ScriptedCode() = default;
-    /// Without a number of times: always.
+    /// Without `times`: always.
     ScriptedCode(long code, std::optional<long> times) : code_(code), left_(times) {}
 
-    /// The number for this call, nothing when it goes as usual.
+    /// The number for this call; nothing when the call proceeds as usual.
     std::optional<long> next();
 
  private:
@@ -19,27 +19,27 @@ class ScriptedCode {
     std::optional<long> left_;
 };
 
-/// What --documents says of one document.
+/// What --documents says about one document.
 struct ScriptedDocument {
-    std::wstring name;      ///< as the file has it: a path or a file name
-    std::wstring path;      ///< the name made absolute from the session's working directory
+    std::wstring name;      ///< as in the file: a path or a file name
+    std::wstring path;      ///< the name relative to the session's working directory, made absolute
     ScriptedCode refuse;    ///< OpenDoc6 answers an empty object and this error
     ScriptedCode error;     ///< OpenDoc6 answers the document and this error
-    ScriptedCode warning;   ///< the same with a warning
-    ScriptedCode save;      ///< Save2 answers this; other than 0: without having saved
-    bool usersOwn = false;  ///< the user had it open, with changes that are not saved
+    ScriptedCode warning;   ///< the same with this warning
+    ScriptedCode save;      ///< Save2 answers this, and saves only if it is 0
+    bool usersOwn = false;  ///< the user had it open, with unsaved changes
 };
 
 /// The documents that don't simply open and save.
 using DocumentScript = std::vector<ScriptedDocument>;
 
-/// A file of --documents that can't be read, with the French line that says where and why.
+/// Why a file of --documents can't be read: a French line that says where and why.
 struct ScriptError {
     std::wstring text;
 };
 
-/// Reads the file of --documents, its relative paths from that directory; throws ScriptError.
+/// Reads the file of --documents, whose paths are relative to `directory`; throws ScriptError.
 DocumentScript readDocumentScript(const std::wstring& file, const std::wstring& directory);
 
-/// The first that names this document by its path or file name; null when none does.
+/// The first entry that names this document by its path or file name; null when none does.
 ScriptedDocument* scriptedDocument(DocumentScript& script, const std::wstring& path);

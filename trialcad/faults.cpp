@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Both codes in turn, since a caller may meet either.
+/// Both codes in turn, since callers can meet either.
 HRESULT nextCode(bool& retryLater) {
     return std::exchange(retryLater, !retryLater) ? RPC_E_SERVERCALL_RETRYLATER
                                                   : RPC_E_CALL_REJECTED;

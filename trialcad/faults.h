@@ -8,21 +8,21 @@
 
 #include "options.h"
 
-/// The faults asked for by --fail, --busy and --delay. Names are matched without regard to case.
+/// The faults asked for by --fail, --busy and --delay. Names are matched in any case.
 class Faults {
  public:
     explicit Faults(const Options& options);
 
-    /// The code to refuse a call with while its method is busy; the first call starts that time.
+    /// The code that refuses a call while its method is busy; the first call starts that time.
     std::optional<HRESULT> refuseCall(std::wstring_view method);
 
-    /// The same for the look-up of a name, which only the name look-up's own rule starts.
+    /// The same for the look-up of a name, which starts that time only for --busy GetIDsOfNames.
     std::optional<HRESULT> refuseLookUp(std::wstring_view method);
 
-    /// Counts a call that was let through and tells whether it must fail.
+    /// Counts a call that was not refused; returns whether it must fail.
     bool mustFail(std::wstring_view method);
 
-    /// How long the answer is to be held back, in milliseconds.
+    /// How long to hold back the answer, in milliseconds.
     DWORD delayOf(std::wstring_view method) const;
 
  private:

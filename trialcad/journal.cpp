@@ -11,7 +11,7 @@ bool Journal::open(const std::wstring& path) {
 
 void Journal::write(const std::wstring& line) {
     if (!isValid(file_)) return;
-    // One write per line: a reader never sees half of one, and none is lost if we are killed.
+    // One write for each line, so that nobody reads half of one, and none is lost if we are killed.
     const std::string bytes = toUtf8(line) + '\n';
     DWORD written = 0;
     WriteFile(file_.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);

@@ -4,10 +4,10 @@
 
 #include "win32/process/handles.h"
 
-/// The file that records the calls received, one UTF-8 line each, readable while it is written.
+/// The file that records the calls received, one UTF-8 line each. It can be read at any time.
 class Journal {
  public:
-    /// Starts the file afresh; false when it can't be created.
+    /// Creates or empties the file; false when that fails.
     bool open(const std::wstring& path);
 
     /// Appends a line; does nothing when no file was opened.

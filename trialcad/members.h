@@ -16,9 +16,9 @@ struct Member {
 
     const wchar_t* name;  ///< as the release's own documentation spells it
     UINT arity;
-    Action invoke;            ///< the method, or the property's reading
-    Action put = nullptr;     ///< the property's setting
-    bool isProperty = false;  ///< read without parentheses
+    Action invoke;            ///< calls the method, or reads the property
+    Action put = nullptr;     ///< sets the property
+    bool isProperty = false;  ///< it is journalled without parentheses
 };
 
 template <typename Object>
@@ -26,21 +26,21 @@ Object& ownerOf(DispatchObject& object, void (Object::*)(Call&)) {
     return static_cast<Object&>(object);
 }
 
-/// Turns a member function into what a table of members holds.
+/// Makes an entry of a table of members from a member function.
 template <auto Function>
 void perform(DispatchObject& object, Call& call) {
     (ownerOf(object, Function).*Function)(call);
 }
 
-/// The DISPIDs of one kind of object, and how clients last spelt the name of each.
+/// The DISPIDs of one kind of object, and how clients last spelled each name.
 class MemberNames {
  public:
     MemberNames(std::span<const Member> members, DISPID first);
 
-    /// The DISPID of a name, matched without regard to case. Notes the spelling.
+    /// The DISPID of a name, matched in any case. Notes the spelling.
     std::optional<DISPID> lookUp(std::wstring_view name);
 
-    /// Null for a DISPID that was never given out.
+    /// The member of a DISPID; null for one that was never given out.
     const Member* find(DISPID id) const;
 
     const std::wstring& spelling(DISPID id) const;

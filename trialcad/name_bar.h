@@ -6,6 +6,6 @@
 
 #include "win32/window/window_look.h"
 
-/// Draws the bar on top of the window that tells what this is: never a real session.
+/// Draws the bar on top of the window that says that this is no real session.
 void drawNameBar(HDC context, const RECT& bar, const WindowFonts& fonts, UINT dpi,
                  const std::wstring& facts);

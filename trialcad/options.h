@@ -16,7 +16,7 @@ struct MethodRule {
     unsigned long number;
 };
 
-/// The command line, read.
+/// The options of the command line.
 struct Options {
     std::wstring journal;  ///< empty: none is written
     std::wstring workingDirectory;
@@ -26,13 +26,13 @@ struct Options {
     std::vector<MethodRule> fail;
     std::vector<MethodRule> busy;
     std::vector<MethodRule> delay;
-    std::wstring documents;  ///< the file that says what single documents do; empty: none does
+    std::wstring documents;  ///< the file that says what single documents do; empty: none
     bool hidden = false;
-    bool endingsHidden = false;    ///< titles without the file's ending
+    bool endingsHidden = false;    ///< titles without the file's extension
     bool processNameOnly = false;  ///< not registered as SldWorks.Application
 };
 
-/// A command line that can't be obeyed, with the French text that says why.
+/// Why a command line can't be obeyed, in French.
 struct OptionError {
     std::wstring text;
 };

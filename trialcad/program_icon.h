@@ -1,4 +1,4 @@
 #pragma once
 
-// The lowest number of all, so that the shell shows the icon for the file too.
+// The lowest number, so that the Explorer shows this icon for the file, too.
 #define IDI_PROGRAM 1

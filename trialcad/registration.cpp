@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Whether the object registered under that class, if any, still lives in its process.
+/// Whether an object is registered under this class, and its process is alive.
 bool isRunning(REFCLSID classId) {
     ComPtr<IUnknown> other;
     ComPtr<IDispatch> dispatch;
@@ -22,7 +22,7 @@ ComPtr<IRunningObjectTable> runningObjects() {
     return table;
 }
 
-/// The name of this process's session, which is displayed without any delimiter.
+/// The name of this process's session, without a delimiter.
 ComPtr<IMoniker> processName() {
     const std::wstring name = L"SolidWorks_PID_" + std::to_wstring(GetCurrentProcessId());
     ComPtr<IMoniker> moniker;

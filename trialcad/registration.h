@@ -5,25 +5,25 @@
 #include <string>
 #include <unknwn.h>
 
-/// A session that can't be registered, with the French text that says why.
+/// Why a session can't be registered, in French.
 struct RegistrationError {
     std::wstring text;
 };
 
-/// Presence in the running object table for the life of this object: as SldWorks.Application, and
-/// as SolidWorks_PID_<process id>, by which several sessions can be told apart.
+/// While it lives the session is in the running object table: as SldWorks.Application, and as
+/// SolidWorks_PID_<process id>, by which several sessions can be distinguished.
 class Registration {
  public:
     enum class Names { Both, ProcessOnly };
 
-    /// Throws RegistrationError when Windows refuses or another session bears the name that all
+    /// Throws RegistrationError when Windows refuses, or another session has the name that all
     /// share.
     Registration(IUnknown& application, Names names);
     ~Registration();
     Registration(const Registration&) = delete;
     Registration& operator=(const Registration&) = delete;
 
-    /// Ends the presence now, once.
+    /// Removes it from the table now.
     void withdraw();
 
  private:

@@ -15,7 +15,7 @@ constexpr long kSameTitleIsOpen = 65536;
 constexpr long kReadOnlyDocument = 2;
 constexpr long kAlreadyOpen = 128;
 
-// Each kind has DISPIDs of its own, so that a client that mixes them up is found out here.
+// Each kind has DISPIDs of its own, so that a client that mixes them up fails here.
 constexpr DISPID kFirstOfParts = 0x10001;
 constexpr DISPID kFirstOfAssemblies = 0x20001;
 constexpr DISPID kFirstOfDrawings = 0x30001;
@@ -46,7 +46,7 @@ Session::Session(const SessionStart& start, CallDesk& desk)
 void Session::openUsersOwn(ScriptedDocument& script, const std::wstring& path) {
     const auto kind = kindOfFile(path);
     if (!script.usersOwn || !kind || !fileExists(path) || namesake(path)) return;
-    script.usersOwn = false;  // when it is closed it stays closed
+    script.usersOwn = false;  // once closed it stays closed
     active_ = add({.path = path, .kind = *kind}, &script);
     active_->modify();
 }
@@ -54,7 +54,7 @@ void Session::openUsersOwn(ScriptedDocument& script, const std::wstring& path) {
 DocumentObject* Session::open(OpenRequest request, OpenCodes& codes) {
     const std::wstring& path = request.path = absolutePath(request.path, workingDirectory_);
     ScriptedDocument* script = scriptedDocument(script_, path);
-    // A line with a file name alone tells only now which document the user has open.
+    // Only now is it known which document a line with a mere file name means.
     if (script) openUsersOwn(*script, path);
     if (const auto refusal = refusalOf(request, script)) {
         codes = {.error = *refusal};

@@ -21,42 +21,43 @@ struct OpenRequest {
     std::wstring configuration;
 };
 
-/// What OpenDoc6 says of an opening: bits of swFileLoadError_e and of swFileLoadWarning_e.
+/// What OpenDoc6 says about an opening: bits of swFileLoadError_e and of swFileLoadWarning_e.
 struct OpenCodes {
     long error = 0;
     long warning = 0;
 };
 
-/// What became of a document that was to be closed.
+/// The outcome of closing a document.
 enum class Closing { NotOpen, Closed, ChangesLost };
 
 /// How a session begins.
 struct SessionStart {
     std::wstring workingDirectory;
     DocumentScript script;
-    bool endingsHidden = false;  ///< as the Explorer's setting has it, which titles follow
+    bool endingsHidden = false;  ///< the Explorer's setting, which the titles follow
 };
 
-/// The session's state: its open documents, its search folders, whether it is to be seen.
+/// The session's state: its open documents, its search folders, whether it is visible.
 class Session {
  public:
-    /// Search folders for referenced documents, the type that the window shows.
+    /// The type of the search folders for referenced documents, which the window shows.
     static constexpr long kReferencedDocuments = 0;
 
     Session(const SessionStart& start, CallDesk& desk);
 
-    /// Has every change of the state told to the given watcher.
+    /// Calls the watcher at every change of the state.
     void watch(std::function<void()> watcher) { watcher_ = std::move(watcher); }
 
-    /// Opens and activates a document, or the one already open under that path. Null when the
-    /// script says so, the file is missing, its ending is another type's, or a document of the same
+    /// Opens and activates a document, or the one already open with that path. Null when the script
+    /// says so, the file is missing, its extension is another type's, or a document of the same
     /// name is open.
     DocumentObject* open(OpenRequest request, OpenCodes& codes);
 
-    /// Makes an open document the active one; the name is its path or title. Null when none is.
+    /// Activates an open document by its path or title. Null when there is none.
     DocumentObject* activate(const std::wstring& name);
 
-    /// Closes the document of that path or title, without a name the active one, without saving it.
+    /// Closes the document with this path or title, for an empty name the active one, without
+    /// saving.
     Closing close(const std::wstring& name);
 
     const std::vector<DocumentPointer>& documents() const { return documents_; }
@@ -66,7 +67,7 @@ class Session {
     bool setWorkingDirectory(const std::wstring& directory);
     size_t scriptedDocuments() const { return script_.size(); }
 
-    /// Folders joined by ";".
+    /// The folders, joined by ";".
     std::wstring searchFolders(long type) const;
     void setSearchFolders(long type, const std::wstring& folders);
 
@@ -77,7 +78,7 @@ class Session {
     std::optional<long> refusalOf(const OpenRequest& request, ScriptedDocument* script) const;
     void openUsersOwn(ScriptedDocument& script, const std::wstring& path);
     DocumentPointer add(Document document, ScriptedDocument* script);
-    /// The open document of that file name: there is never more than one.
+    /// The open document with that file name; there is never more than one.
     DocumentPointer namesake(const std::wstring& path) const;
     DocumentPointer find(const std::wstring& name) const;
     MemberNames& namesOf(DocumentKind kind);

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-/// Where everything stands in the window's client area.
+/// The places of everything in the window's client area.
 struct SessionLayout {
     RECT nameBar;
     RECT documentsLabel;

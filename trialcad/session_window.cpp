@@ -136,7 +136,7 @@ LRESULT SessionWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void SessionWindow::createControls() {
-    // A label comes right before its list: screen readers take it for the list's name.
+    // Each label comes right before its list, so that screen readers take it for the list's name.
     documentsLabel_ = createLabel(window_, L"Documents ouverts :");
     documents_ = createDocumentList(window_);
     foldersLabel_ = createLabel(window_, L"Répertoires de recherche :");

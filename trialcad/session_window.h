@@ -11,10 +11,10 @@
 #include "session.h"
 #include "win32/window/window_look.h"
 
-/// The session's main window: its title in the release's way, what is open, the last calls.
+/// The session's main window: a title like the release's, the open documents, the last calls.
 class SessionWindow {
  public:
-    /// Creates the window without showing it. With --hidden it never shows, but takes WM_CLOSE.
+    /// Creates the window without showing it. With --hidden it is never shown, but takes WM_CLOSE.
     SessionWindow(HINSTANCE instance, const Options& options, const Session& session);
     ~SessionWindow();
     SessionWindow(const SessionWindow&) = delete;
@@ -22,13 +22,13 @@ class SessionWindow {
 
     HWND handle() const { return window_; }
 
-    /// Has the end of the user's Windows session told: the process may be ended right after.
+    /// `last` is called when the user's Windows session ends, after which the process may be ended.
     void atEndOfWindowsSession(std::function<void()> last) { last_ = std::move(last); }
 
-    /// Brings title and lists up to date with the session.
+    /// Updates title and lists from the session.
     void refresh();
 
-    /// Adds a call to the list of the last ones.
+    /// Adds a call to the list of the last calls.
     void showCall(const std::wstring& line);
 
  private:

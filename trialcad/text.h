@@ -6,5 +6,5 @@
 /// A non-negative decimal number of at most nine digits; -1 for anything else.
 long parseNumber(std::wstring_view text);
 
-/// UTF-8 for the journal, with U+FFFD for what is no valid UTF-16, as file names may be.
+/// UTF-8 for the journal, with U+FFFD for what is no valid UTF-16, as in some file names.
 std::string toUtf8(std::wstring text);

@@ -8,7 +8,7 @@ namespace {
 
 constexpr LRESULT kMostLines = 1000;
 
-/// Widens what can be scrolled to, so that a long line can be read to its end.
+/// Widens the scrolling range, so that a long line can be read to its end.
 void makeRoomFor(HWND list, const std::wstring& line) {
     const FontContext context(list, reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0)));
     SIZE size{};

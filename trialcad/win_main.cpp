@@ -70,7 +70,7 @@ void complain(const std::wstring& text) {
     MessageBoxW(nullptr, text.c_str(), L"Session d'essai", MB_OK | MB_ICONERROR);
 }
 
-/// For whoever started the session: a line on the error output or, without one, a box.
+/// Tells whoever started the session: by a line on the error output or, without one, in a box.
 void complainToStarter(const std::wstring& text) {
     const std::string line = toUtf8(text) + '\n';
     DWORD written = 0;
@@ -89,7 +89,7 @@ void runMessageLoop(HWND window) {
     }
 }
 
-/// Documents that clients still hold must answer with an error, not with silence.
+/// Makes documents that clients still hold answer with an error rather than with silence.
 void disconnect(const Session& session) {
     for (const DocumentPointer& document : session.documents()) {
         CoDisconnectObject(document.get(), 0);

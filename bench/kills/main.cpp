@@ -1,7 +1,7 @@
-// tarnwick-kills.exe N [alone]: kills the program N times at random moments of a running pass,
-// which is led by presses or goes on alone, and counts the marks that are not offered at the next
-// start although they were made before the last call that went out, and the documents that were
-// marked unsaved. Ends with 1 when there are any, or when a start fails.
+// tarnwick-kills.exe N [alone]: kills the program N times at random moments of a pass that is
+// advanced by presses or goes on alone. Counts the marks that were made before the last call and
+// are not offered at the next start, and the documents that were marked although they were not
+// saved. Ends with 1 when there are any, or when a start fails.
 
 #include <windows.h>
 
@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kDocuments = 200;
 constexpr int kKillsAList = 50;
-constexpr int kKillsAListAlone = 3;  // it is quicker than who presses
+constexpr int kKillsAListAlone = 3;  // it is faster than presses
 const std::string kTracking = "Tarnwick - suivi du travail -";
 const std::string kMarked = "Documents marqués depuis : ";
 
@@ -59,7 +59,7 @@ class Kills {
         seen_ = marks_ = 0;
     }
 
-    /// Starts the program on the list, takes over the marks that it offers, and counts them.
+    /// Starts the program on the list, accepts the marks that it offers, and counts them.
     void start() {
         app_.start();
         app_.click(IDC_FORM2_CMDOK);
@@ -97,7 +97,7 @@ class Kills {
         }
     }
 
-    /// Goes past an opening that the last run did not survive, and goes on alone.
+    /// Passes over the document whose opening the last run did not survive, and goes on alone.
     void goAlone() {
         waitFor("the pass", [&] {
             if (app_.showsBox()) app_.box().answer(IDYES);
@@ -109,7 +109,7 @@ class Kills {
         Sleep(static_cast<DWORD>(random_() % 400));
     }
 
-    /// A document that was closed before the next one was asked for has been marked in between.
+    /// A document has been marked if it was closed and the next one was asked for.
     size_t newMarks() {
         const auto calls = cad_.calls();
         size_t marks = 0;
@@ -130,8 +130,8 @@ class Kills {
     std::mt19937 random_{1};
     const bool alone_;
     bool begun_ = false;
-    size_t seen_ = 0;   ///< calls of the session
-    size_t marks_ = 0;  ///< that the next start must offer
+    size_t seen_ = 0;   ///< how many calls have been looked at
+    size_t marks_ = 0;  ///< how many the next start must offer
 };
 
 }  // namespace

@@ -54,8 +54,8 @@ class PassAlone {
     std::string path_;
 };
 
-/// A session that answers each of a document's calls in 50 ms. Hidden, for what it draws itself is
-/// no work of ours.
+/// A session that answers each of a document's calls in 50 ms. It is hidden, since its own drawing
+/// is no work of ours.
 std::vector<std::string> slowSession() {
     std::vector<std::string> options{"--hidden"};
     for (const char* call : {"OpenDoc6", "ActivateDoc2", "Visible", "ForceRebuild3", "GetTitle",

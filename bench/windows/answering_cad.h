@@ -7,7 +7,8 @@
 
 #include "ports/automation.h"
 
-/// An object that answers every call at once: a text to a question for one, else a document.
+/// An object that answers every call at once: with a text if asked for one, otherwise with a
+/// document.
 struct AnsweringObject : ServedObject {
     explicit AnsweringObject(std::wstring directory = {})
         : workingDirectory(std::move(directory)) {}

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/// A late-bound object as bare as it gets: member numbers asked for before, then Invoke alone.
+/// A late-bound object reduced to Invoke: the numbers of its members are looked up beforehand.
 class BareObject {
  public:
     /// Takes over one reference.
@@ -16,7 +16,7 @@ class BareObject {
     BareObject& operator=(const BareObject&) = delete;
 
     DISPID numberOf(const wchar_t* name) const;
-    /// Arguments in their order; they are cleared. Gives the object that the call answered, or
+    /// Takes the arguments in order, and clears them. Returns the object that the call answers, or
     /// null.
     IDispatch* invoke(DISPID member, std::vector<VARIANT> arguments,
                       WORD flags = DISPATCH_METHOD) const;

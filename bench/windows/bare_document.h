@@ -7,7 +7,8 @@
 
 #include "bare_calls.h"
 
-/// The eight calls of a document made bare. Member numbers are asked for once per kind of object.
+/// The eight calls of a document, made bare. Member numbers are looked up once for each kind of
+/// object.
 class BareDocument {
  public:
     explicit BareDocument(const std::wstring& path) : path_(path), application_(runningSession()) {

@@ -24,7 +24,7 @@ double timed(const Work& work) {
 
 Comparison compareTimes(const Rounds& rounds, const std::function<double()>& floor,
                         const std::function<double()>& subject) {
-    // The first of each pays for what is done only once.
+    // The first run of each also does what is done only once.
     floor();
     subject();
     std::vector<double> floors;

@@ -2,13 +2,13 @@
 
 #include <functional>
 
-/// What is timed, and what is made ready for it each time without being timed.
+/// What is timed, and how it is prepared each time, untimed.
 struct Work {
     std::function<void()> run;
     std::function<void()> prepare = [] {};
 };
 
-/// The time of a work against its floor: medians, the ratio that of the pairs.
+/// The time of a work compared with its floor: medians, for the ratio of the pairs' ratios.
 struct Comparison {
     double ratio = 0;
     double floorMilliseconds = 0;
@@ -22,7 +22,7 @@ struct Rounds {
     double enoughMilliseconds = 2000;
 };
 
-/// Runs floor and subject alternately, so that what else the machine does strikes both alike.
+/// Runs floor and subject alternately, so that other work of the machine affects both alike.
 Comparison compare(const Rounds& rounds, const Work& floor, const Work& subject);
 
 /// The same for works that time themselves, in milliseconds.

@@ -1,4 +1,4 @@
-// Documents that a file names: looked for, and listed.
+// Looking for the documents that a file names, and listing them.
 
 #include <windows.h>
 

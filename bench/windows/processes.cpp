@@ -39,7 +39,7 @@ void waitForWindow(const Process& process) {
     }
 }
 
-/// Until the first window is shown; the program is ended afterwards.
+/// The time until the first window is shown. The program is ended afterwards.
 double startTime(const fs::path& program) {
     std::unique_ptr<Process> process;
     return timed({[&] {

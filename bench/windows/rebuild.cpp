@@ -40,8 +40,8 @@ Comparison compareRebuild(const Setting& setting, const std::filesystem::path& d
     const auto floor = [&] {
         require(barePass(directory.wstring(), deep) == documents, "all documents found");
     };
-    // By its box, which empties the table first: a search that follows one of 8001 bare names takes
-    // its last document for present.
+    // By the check box, which empties the table first: after a search with 8001 bare names the next
+    // one would take the last document for present.
     const auto subject = [&] { window.form().sousrep_Click(); };
     const Comparison result = compare(setting.rounds, {floor}, {subject});
     require(window.lineCount() == documents, "all documents listed");

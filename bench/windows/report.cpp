@@ -24,7 +24,7 @@ Cells heading(const std::vector<int>& sizes) {
 Cells cellsOf(const std::vector<int>& sizes, const Row& row) {
     Cells cells{row.work, row.floor};
     for (const int size : sizes) {
-        // A figure without a size of its own stands in the last column.
+        // A figure that doesn't depend on the size goes into the last column.
         const auto found =
             row.ratios.find(row.ratios.contains(0) && size == sizes.back() ? 0 : size);
         cells.push_back(found == row.ratios.end() ? "" : ratio(found->second));

@@ -6,20 +6,20 @@
 
 /// A tree searched and shown, against one pass of FindFirstFileEx over it.
 Row rebuildOfTree(const Setting& setting);
-/// The same of one directory, where bare names are told apart.
+/// The same for one directory, whose bare names are compared.
 Row rebuildOfDirectory(const Setting& setting);
-/// A tree whose directories answer late, read ahead, against one after the other.
+/// A tree whose directories answer late, read ahead, against one after another.
 Row searchOfSlowServer(const Setting& setting);
 /// The documents that a file names, looked for and listed, against reading the file and asking for
-/// each; and looked for where each answers late, against one after the other.
+/// each; and looked for where each answers late, against one after another.
 Row importOfList(const Setting& setting);
 Row importFromSlowServer(const Setting& setting);
 /// The work list's lines put into its list box, against LB_ADDSTRING with drawing off.
 Row listFill(const Setting& setting);
-/// The window's answer while it searches, and from the key that stops it to the box.
+/// How soon the window answers while it searches; the time from Escape to the box.
 Row answerWhileSearching(const Setting& setting);
 Row stopOfSearch(const Setting& setting);
-/// From one document to the next but for the CAD calls, against one repaint of the list and its
+/// From one document to the next without the CAD calls, against one repaint of the list and its
 /// scroll bars, which Wine draws slowly.
 Row nextDocument(const Setting& setting);
 /// A filter that matches nothing, against a search in texts folded before.
@@ -29,8 +29,7 @@ Row depthOfLines(const Setting& setting);
 Row choiceOfLines(const Setting& setting);
 /// A document's eight CAD calls, against Invoke with member numbers known.
 Row cadCalls(const Setting& setting);
-/// A pass that goes on alone, against the same calls made bare; from the key that stops it to the
-/// box.
+/// A pass that goes on alone, against the same calls made bare; the time from Escape to the box.
 Row documentsAlone(const Setting& setting);
 Row stopOfAlone(const Setting& setting);
 /// From the process's creation to its first window, against a bare dialog.

@@ -26,7 +26,7 @@ void makeFile(const fs::path& path) {
     CloseHandle(file);
 }
 
-/// Makes a directory unless an earlier run made all of it.
+/// Makes a directory unless an earlier run has made all of it.
 fs::path madeOnce(const fs::path& directory, const std::function<void()>& make) {
     const fs::path complete = directory.wstring() + L".complete";
     if (!fs::exists(complete)) {
@@ -38,7 +38,7 @@ fs::path madeOnce(const fs::path& directory, const std::function<void()>& make) 
     return directory;
 }
 
-/// Directory `index` of a tree in which each has eight below it.
+/// Directory `index` of a tree in which each directory has eight sub-directories.
 fs::path treeDirectory(const fs::path& root, int index) {
     if (index == 0) return root;
     return treeDirectory(root, (index - 1) / 8) / (L"ensemble " + padded(index));

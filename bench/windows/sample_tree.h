@@ -16,5 +16,5 @@ std::filesystem::path flatDirectory(const std::filesystem::path& below, int docu
 std::vector<std::wstring> samplePaths(int count);
 
 class FoundDocuments;
-/// The same, as documents found.
+/// The same as found documents.
 void fillFound(FoundDocuments& found, int count);

@@ -1,4 +1,4 @@
-// The search of a file server that takes its time, read ahead and one directory after the other.
+// The search of a slow file server, read ahead, and one directory after another.
 
 #include <windows.h>
 

@@ -11,7 +11,7 @@
 #include "storage/program_files.h"
 #include "storage/window_places.h"
 
-/// A desktop where every window is found.
+/// A desktop on which every window is found.
 struct DesktopWithAll : Desktop {
     WindowHandle findWindow(const std::wstring&) override { return 1; }
     WindowHandle findWindow(const std::function<bool(const std::wstring&)>&) override { return 1; }
@@ -21,7 +21,7 @@ struct DesktopWithAll : Desktop {
     bool open(const std::wstring&) override { return false; }
 };
 
-/// The ways out of the selection window, none of which is taken.
+/// Exits of the selection window that lead nowhere.
 struct NoExits : SelectionExits {
     void closeSplash() override {}
     void launchPass() override {}
@@ -29,12 +29,12 @@ struct NoExits : SelectionExits {
     void showAbout() override {}
 };
 
-/// For a window without a form.
+/// The events of a window that nobody handles.
 struct NoEvents : EventSink {
     void raise(int, Event) override {}
 };
 
-/// What the program's windows need to live in this process: the real shell, but a CAD application
+/// What the program's windows need to run in this process: the real shell, but a CAD application
 /// that answers at once.
 class Stage {
  public:
@@ -58,5 +58,5 @@ class Stage {
 /// The control of this process with this id.
 HWND controlOf(int id);
 
-/// Draws, in this window and all below it, what is due.
+/// Draws what is due in this window and all its descendants.
 void drawNow(HWND window);

@@ -26,8 +26,8 @@ class SearchingProgram {
         list_ = app_.control(IDC_FORM1_LIST1);
     }
 
-    /// Has it search with sub-directories, or without. What is pressed before the end of a search
-    /// is dropped: it is waited for, and what came in its last moment is pressed again.
+    /// Has it search with sub-directories, or without. Presses before the end of a search are
+    /// dropped: waits for it, and presses again if the press came too early.
     void toggle() const {
         const bool before = checked();
         while (checked() == before) {
@@ -39,7 +39,8 @@ class SearchingProgram {
     int found() const { return static_cast<int>(SendMessageW(list_, LB_GETCOUNT, 0, 0)); }
     void answer() const { SendMessageW(GetAncestor(list_, GA_ROOT), WM_NULL, 0, 0); }
 
-    /// From the key that stops a search to the box that says so, unless it has found all by then.
+    /// The time from the key that stops a search to the box that says so, unless all was found by
+    /// then.
     double stop(int all) const {
         const double time = timed({[&] {
             PostMessageW(list_, WM_KEYDOWN, VK_ESCAPE, 1);
