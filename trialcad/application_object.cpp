@@ -1,5 +1,6 @@
 #include "application_object.h"
 
+#include <cstdint>
 #include <utility>
 
 #include "document_file.h"
@@ -7,8 +8,8 @@
 
 namespace {
 
-constexpr long kSilentOption = 1;
-constexpr long kActivateError = 1;
+constexpr std::int32_t kSilentOption = 1;
+constexpr std::int32_t kActivateError = 1;
 
 constexpr Member kApplicationMembers[] = {
     {L"RevisionNumber", 0, perform<&ApplicationObject::revisionNumber>},
@@ -98,7 +99,7 @@ void ApplicationObject::setSearchFolders(Call& call) {
 }
 
 void ApplicationObject::getDocumentCount(Call& call) {
-    call.answer(static_cast<long>(session_.documents().size()));
+    call.answer(static_cast<std::int32_t>(session_.documents().size()));
 }
 
 void ApplicationObject::activeDoc(Call& call) { call.answer(session_.active()); }

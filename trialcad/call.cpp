@@ -1,5 +1,6 @@
 #include "call.h"
 
+#include <cstdint>
 #include <utility>
 
 VARIANT& Call::argument(UINT index) const {
@@ -21,11 +22,11 @@ std::wstring Call::text(UINT index) const {
     return text;
 }
 
-long Call::integer(UINT index) const { return converted(index, VT_I4).lVal; }
+std::int32_t Call::integer(UINT index) const { return converted(index, VT_I4).lVal; }
 
 bool Call::boolean(UINT index) const { return converted(index, VT_BOOL).boolVal != VARIANT_FALSE; }
 
-void Call::giveBack(UINT index, long value) const {
+void Call::giveBack(UINT index, std::int32_t value) const {
     const VARIANT& target = argument(index);
     switch (target.vt) {
         case VT_BYREF | VT_I2:
@@ -53,7 +54,7 @@ void Call::answer(const std::wstring& text) {
     answer_.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
 }
 
-void Call::answer(long number) {
+void Call::answer(std::int32_t number) {
     VariantClear(&answer_);
     answer_.vt = VT_I4;
     answer_.lVal = number;

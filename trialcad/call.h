@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <oleauto.h>
 #include <string>
 
@@ -24,14 +25,14 @@ class Call {
 
     /// The value of an argument, sent by value or by reference; throws CallError for another type.
     std::wstring text(UINT index) const;
-    long integer(UINT index) const;
+    std::int32_t integer(UINT index) const;
     bool boolean(UINT index) const;
 
     /// Writes to an argument sent by reference; ignores one sent by value.
-    void giveBack(UINT index, long value) const;
+    void giveBack(UINT index, std::int32_t value) const;
 
     void answer(const std::wstring& text);
-    void answer(long number);
+    void answer(std::int32_t number);
     void answer(bool yes);
     void answer(IDispatch* object);  ///< null: an empty object
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,7 +23,7 @@ bool isReadOnly(const std::wstring& path);
 bool touchFile(const std::wstring& path);
 
 /// The document kinds, with the type codes that callers send.
-enum class DocumentKind : long { Part = 1, Assembly = 2, Drawing = 3 };
+enum class DocumentKind : std::int32_t { Part = 1, Assembly = 2, Drawing = 3 };
 
 /// The kind of a file by its extension, in any case.
 std::optional<DocumentKind> kindOfFile(std::wstring_view path);

@@ -1,5 +1,6 @@
 #include "document_object.h"
 
+#include <cstdint>
 #include <utility>
 
 #include "document_file.h"
@@ -7,9 +8,9 @@
 namespace {
 
 // Of swFileSaveError_e.
-constexpr long kSaved = 0;
-constexpr long kNotSaved = 1;
-constexpr long kReadOnlyFile = 2;
+constexpr std::int32_t kSaved = 0;
+constexpr std::int32_t kNotSaved = 1;
+constexpr std::int32_t kReadOnlyFile = 2;
 
 constexpr Member kDocumentMembers[] = {
     {L"GetTitle", 0, perform<&DocumentObject::getTitle>},
@@ -33,7 +34,7 @@ void DocumentObject::getTitle(Call& call) { call.answer(title()); }
 
 void DocumentObject::getPathName(Call& call) { call.answer(document_.path); }
 
-void DocumentObject::getType(Call& call) { call.answer(static_cast<long>(document_.kind)); }
+void DocumentObject::getType(Call& call) { call.answer(static_cast<std::int32_t>(document_.kind)); }
 
 void DocumentObject::forceRebuild3(Call& call) {
     call.boolean(0);  // refuses an argument that is no Boolean
@@ -43,7 +44,7 @@ void DocumentObject::forceRebuild3(Call& call) {
 
 void DocumentObject::save2(Call& call) {
     call.boolean(0);
-    const long code = save();
+    const std::int32_t code = save();
     if (code == kSaved) {
         modified_ = false;
     } else {
@@ -53,8 +54,8 @@ void DocumentObject::save2(Call& call) {
     call.answer(code);
 }
 
-long DocumentObject::save() const {
-    const long scripted = document_.save ? document_.save->next().value_or(kSaved) : kSaved;
+std::int32_t DocumentObject::save() const {
+    const std::int32_t scripted = document_.save ? document_.save->next().value_or(kSaved) : kSaved;
     if (scripted != kSaved) return scripted;
     if (touchFile(document_.path)) return kSaved;
     return isReadOnly(document_.path) ? kReadOnlyFile : kNotSaved;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string>
 
@@ -47,7 +48,7 @@ class DocumentObject : public DispatchObject {
 
  private:
     /// Saves the document if it can be saved; returns what Save2 answers.
-    long save() const;
+    std::int32_t save() const;
 
     Document document_;
     bool open_ = true;

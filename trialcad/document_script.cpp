@@ -1,6 +1,7 @@
 #include "document_script.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <string_view>
 
 #include "common/runtime_error.h"
@@ -33,8 +34,8 @@ bool readAct(ScriptedDocument& document, std::wstring_view act) {
     if (equalIgnoringCase(act, L"open")) return document.usersOwn = true;
     const auto code = codeNamed(takePart(act, L"="));
     const bool counted = act.find(L':') != act.npos;
-    const long number = parseNumber(takePart(act, L":"));
-    const long times = counted ? parseNumber(trimmed(act)) : 1;
+    const std::int32_t number = parseNumber(takePart(act, L":"));
+    const std::int32_t times = counted ? parseNumber(trimmed(act)) : 1;
     if (!code || number < 0 || times < 1) return false;
     document.*code = {number, counted ? std::optional(times) : std::nullopt};
     return true;
@@ -67,7 +68,7 @@ ScriptedDocument readLine(const std::wstring& file, size_t number, std::wstring_
 
 }  // namespace
 
-std::optional<long> ScriptedCode::next() {
+std::optional<std::int32_t> ScriptedCode::next() {
     if (left_ && (*left_)-- <= 0) return std::nullopt;
     return code_;
 }

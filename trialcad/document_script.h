@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -9,14 +10,15 @@ class ScriptedCode {
  public:
     ScriptedCode() = default;
     /// Without `times`: always.
-    ScriptedCode(long code, std::optional<long> times) : code_(code), left_(times) {}
+    ScriptedCode(std::int32_t code, std::optional<std::int32_t> times)
+        : code_(code), left_(times) {}
 
     /// The number for this call; nothing when the call proceeds as usual.
-    std::optional<long> next();
+    std::optional<std::int32_t> next();
 
  private:
-    std::optional<long> code_;
-    std::optional<long> left_;
+    std::optional<std::int32_t> code_;
+    std::optional<std::int32_t> left_;
 };
 
 /// What --documents says about one document.

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -32,7 +33,7 @@ class Faults {
     };
     struct Failure {
         MethodRule rule;
-        unsigned long calls = 0;
+        std::uint32_t calls = 0;
     };
 
     bool isBusy(std::wstring_view method, bool mayStart);

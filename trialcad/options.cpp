@@ -1,6 +1,7 @@
 #include "options.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -41,9 +42,9 @@ std::wstring knownMethod(std::wstring_view option, const std::wstring& value,
 
 MethodRule milliseconds(std::wstring_view option, const std::wstring& value) {
     const size_t colon = value.find(L':');
-    const long number = colon == value.npos ? -1 : parseNumber(value.substr(colon + 1));
+    const std::int32_t number = colon == value.npos ? -1 : parseNumber(value.substr(colon + 1));
     if (number < 0) refuse(option, value);
-    return {knownMethod(option, value, value.substr(0, colon)), static_cast<unsigned long>(number)};
+    return {knownMethod(option, value, value.substr(0, colon)), static_cast<std::uint32_t>(number)};
 }
 
 void readTitle(Options& options, const std::wstring& value) {
@@ -60,10 +61,10 @@ void readTitle(Options& options, const std::wstring& value) {
 
 void readFail(Options& options, const std::wstring& value) {
     const size_t colon = value.find(L':');
-    const long number = colon == value.npos ? 1 : parseNumber(value.substr(colon + 1));
+    const std::int32_t number = colon == value.npos ? 1 : parseNumber(value.substr(colon + 1));
     if (number < 1) refuse(L"--fail", value);
     options.fail.push_back({knownMethod(L"--fail", value, value.substr(0, colon)),
-                            static_cast<unsigned long>(number)});
+                            static_cast<std::uint32_t>(number)});
 }
 
 void readJournal(Options& options, const std::wstring& value) {

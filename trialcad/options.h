@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,7 +14,7 @@ enum class TitleStyle { Plain, Bracket, None };
 /// One use of --fail, --busy or --delay: the method's name and N or milliseconds.
 struct MethodRule {
     std::wstring method;
-    unsigned long number;
+    std::uint32_t number;
 };
 
 /// The options of the command line.

@@ -1,6 +1,7 @@
 #include "session.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include "common/text.h"
@@ -9,20 +10,20 @@
 namespace {
 
 // Of swFileLoadError_e and swFileLoadWarning_e.
-constexpr long kFileNotFound = 2;
-constexpr long kInvalidFileType = 1024;
-constexpr long kSameTitleIsOpen = 65536;
-constexpr long kReadOnlyDocument = 2;
-constexpr long kAlreadyOpen = 128;
+constexpr std::int32_t kFileNotFound = 2;
+constexpr std::int32_t kInvalidFileType = 1024;
+constexpr std::int32_t kSameTitleIsOpen = 65536;
+constexpr std::int32_t kReadOnlyDocument = 2;
+constexpr std::int32_t kAlreadyOpen = 128;
 
 // Each kind has DISPIDs of its own, so that a client that mixes them up fails here.
 constexpr DISPID kFirstOfParts = 0x10001;
 constexpr DISPID kFirstOfAssemblies = 0x20001;
 constexpr DISPID kFirstOfDrawings = 0x30001;
 
-bool isOfType(const std::wstring& path, long type) {
+bool isOfType(const std::wstring& path, std::int32_t type) {
     const auto kind = kindOfFile(path);
-    return kind && static_cast<long>(*kind) == type;
+    return kind && static_cast<std::int32_t>(*kind) == type;
 }
 
 std::wstring titleOf(const std::wstring& path, bool endingHidden) {
@@ -75,7 +76,8 @@ DocumentObject* Session::open(OpenRequest request, OpenCodes& codes) {
     return document.get();
 }
 
-std::optional<long> Session::refusalOf(const OpenRequest& request, ScriptedDocument* script) const {
+std::optional<std::int32_t> Session::refusalOf(const OpenRequest& request,
+                                               ScriptedDocument* script) const {
     if (script) {
         if (const auto refusal = script->refuse.next()) return refusal;
     }
@@ -141,12 +143,12 @@ MemberNames& Session::namesOf(DocumentKind kind) {
     return names_[static_cast<size_t>(kind) - static_cast<size_t>(DocumentKind::Part)];
 }
 
-std::wstring Session::searchFolders(long type) const {
+std::wstring Session::searchFolders(std::int32_t type) const {
     const auto found = searchFolders_.find(type);
     return found == searchFolders_.end() ? L"" : found->second;
 }
 
-void Session::setSearchFolders(long type, const std::wstring& folders) {
+void Session::setSearchFolders(std::int32_t type, const std::wstring& folders) {
     searchFolders_[type] = folders;
     changed();
 }

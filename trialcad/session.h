@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <optional>
@@ -16,15 +17,15 @@ using DocumentPointer = ComPtr<DocumentObject>;
 /// What a caller asks OpenDoc6 for.
 struct OpenRequest {
     std::wstring path;
-    long type;
+    std::int32_t type;
     bool silent;
     std::wstring configuration;
 };
 
 /// What OpenDoc6 says about an opening: bits of swFileLoadError_e and of swFileLoadWarning_e.
 struct OpenCodes {
-    long error = 0;
-    long warning = 0;
+    std::int32_t error = 0;
+    std::int32_t warning = 0;
 };
 
 /// The outcome of closing a document.
@@ -41,7 +42,7 @@ struct SessionStart {
 class Session {
  public:
     /// The type of the search folders for referenced documents, which the window shows.
-    static constexpr long kReferencedDocuments = 0;
+    static constexpr std::int32_t kReferencedDocuments = 0;
 
     Session(const SessionStart& start, CallDesk& desk);
 
@@ -68,14 +69,15 @@ class Session {
     size_t scriptedDocuments() const { return script_.size(); }
 
     /// The folders, joined by ";".
-    std::wstring searchFolders(long type) const;
-    void setSearchFolders(long type, const std::wstring& folders);
+    std::wstring searchFolders(std::int32_t type) const;
+    void setSearchFolders(std::int32_t type, const std::wstring& folders);
 
     bool visible() const { return visible_; }
     void setVisible(bool visible);
 
  private:
-    std::optional<long> refusalOf(const OpenRequest& request, ScriptedDocument* script) const;
+    std::optional<std::int32_t> refusalOf(const OpenRequest& request,
+                                          ScriptedDocument* script) const;
     void openUsersOwn(ScriptedDocument& script, const std::wstring& path);
     DocumentPointer add(Document document, ScriptedDocument* script);
     /// The open document with that file name; there is never more than one.
@@ -92,7 +94,7 @@ class Session {
     std::array<MemberNames, 3> names_;
     std::vector<DocumentPointer> documents_;
     DocumentPointer active_;
-    std::map<long, std::wstring> searchFolders_;
+    std::map<std::int32_t, std::wstring> searchFolders_;
     bool visible_ = false;
     std::function<void()> watcher_;
 };

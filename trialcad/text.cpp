@@ -1,13 +1,14 @@
 #include "text.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "common/encoding.h"
 #include "common/runtime_error.h"
 
-long parseNumber(std::wstring_view text) {
+std::int32_t parseNumber(std::wstring_view text) {
     if (text.empty() || text.size() > 9) return -1;
-    long number = 0;
+    std::int32_t number = 0;
     for (const wchar_t digit : text) {
         if (digit < L'0' || digit > L'9') return -1;
         number = number * 10 + (digit - L'0');

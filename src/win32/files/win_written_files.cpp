@@ -25,8 +25,8 @@ bool WinReplacementSteps::isProtected(const std::wstring& path) {
 }
 
 std::wstring WinReplacementSteps::nameBeside(const std::wstring& path) {
-    return path + L"." + decimal(static_cast<long>(GetCurrentProcessId())) + L"-" +
-           decimal(static_cast<long>(GetTickCount64() & 0x7FFFFFFF)) + L".tmp";
+    return path + L"." + decimal(GetCurrentProcessId()) + L"-" +
+           decimal(static_cast<std::int64_t>(GetTickCount64() & 0x7FFFFFFF)) + L".tmp";
 }
 
 std::uint32_t WinReplacementSteps::create(const std::wstring& path) {

@@ -10,7 +10,7 @@
 template <class Given>
 Given require(Given given, const wchar_t* what) {
     if (given) return given;
-    throw errors::system(what + (L" (erreur " + decimal(static_cast<long>(GetLastError())) + L")"));
+    throw errors::system(what + (L" (erreur " + decimal(GetLastError()) + L")"));
 }
 
 /// The same for a function of COM.
