@@ -10,9 +10,6 @@
 
 namespace {
 
-/// Enough to keep a server busy that takes some milliseconds for each answer.
-constexpr int kMostAtOnce = 8;
-
 /// What the main thread and the workers share.
 struct JobDesk : std::enable_shared_from_this<JobDesk> {
     const std::size_t count;

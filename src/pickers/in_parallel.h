@@ -8,6 +8,9 @@
 
 struct SearchServices;
 
+/// How many workers keep a server busy that takes some milliseconds for each answer.
+inline constexpr int kMostAtOnce = 8;
+
 /// Has workers call `job` with each number below `count`, several at a time, while the window is
 /// served; without workers calls it itself, one number after the other. Raises what a job raises,
 /// and what the watch raises. False when the watch ends it: jobs that hang are abandoned, so each

@@ -90,10 +90,8 @@ void ReadingPlan::leave(TreeDirectory& directory) {
 
 namespace {
 
-/// Enough to keep a server busy that takes some milliseconds for each answer.
-constexpr int kMostReaders = 8;
 /// One more, for what the walk waits for, should all the others hang.
-constexpr int kMostWithAwaited = kMostReaders + 1;
+constexpr int kMostWithAwaited = kMostAtOnce + 1;
 
 using Lock = std::unique_lock<std::mutex>;
 
@@ -127,7 +125,7 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
     /// Starts one more worker if there is something to read. Each worker starts the next one.
     void callReader() {
         if (ended || readers == kMostWithAwaited) return;
-        if (!plan.hasNext(awaited, readers < kMostReaders)) return;
+        if (!plan.hasNext(awaited, readers < kMostAtOnce)) return;
         if (workers->start([desk = shared_from_this()] { desk->work(); })) ++readers;
     }
 
@@ -146,7 +144,7 @@ struct ReadAhead::Desk : std::enable_shared_from_this<ReadAhead::Desk> {
 
     /// Reads one directory, without the lock meanwhile. False when there was none to read.
     bool readNext(Lock& lock) {
-        TreeDirectory* directory = ended ? nullptr : plan.next(awaited, readers <= kMostReaders);
+        TreeDirectory* directory = ended ? nullptr : plan.next(awaited, readers <= kMostAtOnce);
         if (!directory) return false;
         callReader();
         lock.unlock();

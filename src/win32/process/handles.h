@@ -28,6 +28,13 @@ inline bool isValid(const UniqueHandle& handle) {
 
 using UniqueHook = Unique<HHOOK, UnhookWindowsHookEx>;
 
+/// The process that a window belongs to.
+inline DWORD processOf(HWND window) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process;
+}
+
 using UniqueWindow = Unique<HWND, DestroyWindow>;
 using UniqueFont = Unique<HFONT, DeleteObject>;
 using UniqueIcon = Unique<HICON, DestroyIcon>;

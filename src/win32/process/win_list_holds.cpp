@@ -125,9 +125,7 @@ bool isForUsers(HWND window) {
 
 BOOL CALLBACK look(HWND window, LPARAM parameter) {
     auto& search = *reinterpret_cast<Search*>(parameter);
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (process != search.process || !isForUsers(window)) return TRUE;
+    if (processOf(window) != search.process || !isForUsers(window)) return TRUE;
     const bool enabled = IsWindowEnabled(window) != FALSE;
     if (enabled || !search.found) search.found = window;
     return !enabled;

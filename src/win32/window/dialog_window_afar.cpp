@@ -9,11 +9,7 @@
 
 namespace {
 
-bool isOurs(HWND window) {
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    return process == GetCurrentProcessId();
-}
+bool isOurs(HWND window) { return processOf(window) == GetCurrentProcessId(); }
 
 /// Gives the keyboard back to the program from which a box of the command has taken it.
 void giveKeyboardBack(HWND before) {

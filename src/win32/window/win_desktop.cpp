@@ -6,6 +6,7 @@
 #include <string>
 
 #include "win32/process/handles.h"
+#include "win32/window/win_controls.h"
 
 namespace {
 
@@ -26,17 +27,10 @@ struct TitleSearch {
 };
 
 /// As Windows keeps it, so that a window that does not answer need not be asked.
-std::wstring titleOf(HWND window) {
-    std::wstring title(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    const int length = GetWindowTextW(window, title.data(), static_cast<int>(title.size()));
-    title.resize(static_cast<std::size_t>(length));
-    return title;
-}
+std::wstring titleOf(HWND window) { return WinControl(window).text(); }
 
 bool isOtherProgramsMainWindow(HWND window) {
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    return process != GetCurrentProcessId() && IsWindowVisible(window) &&
+    return processOf(window) != GetCurrentProcessId() && IsWindowVisible(window) &&
            !GetWindow(window, GW_OWNER);
 }
 
@@ -89,9 +83,8 @@ void WinDesktop::bringToFront(WindowHandle window) { SetForegroundWindow(handleO
 
 // Windows returns 0 when it can't tell; a program with windows always has some.
 std::optional<int> WinDesktop::gdiObjects(WindowHandle window) {
-    DWORD process = 0;
-    GetWindowThreadProcessId(handleOf(window), &process);
-    const UniqueHandle program(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process));
+    const UniqueHandle program(
+        OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, processOf(handleOf(window))));
     const DWORD count = program ? GetGuiResources(program.get(), GR_GDIOBJECTS) : 0;
     return count > 0 ? std::optional(static_cast<int>(count)) : std::nullopt;
 }
