@@ -37,7 +37,8 @@ void noteOpening(Remark& remark, bool given, std::int32_t errorCode) {
     remark.openingNumber = given || errorCode != 0 ? errorCode : errors::emptyObject().number;
 }
 
-/// Does a step of an opening. False when it failed because of the document, and may fail.
+/// Does a step of an opening. Returns false when it failed because of the document and that is
+/// allowed.
 template <class Action>
 bool attempt(bool mayFail, Remark& remark, const Action& action) {
     try {

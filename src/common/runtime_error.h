@@ -3,7 +3,7 @@
 #include <string>
 
 /// A failure that ends the program: its number is the exit code, its text a French sentence for the
-/// user. It is caught at the event gate, unless the program knows better.
+/// user. It is caught at the event gate, unless a caller can handle it.
 struct RuntimeError {
     int number;
     std::wstring text;

@@ -59,13 +59,13 @@ void ReadingPlan::finish(TreeDirectory& directory) {
         if (!subdirectories[i].isLink) plan(directory, i, behind);
     }
     waitingBefore(toRead_.erase(directory.place)) += directory.waitingBefore + 1;
-    if (++waiting_ >= static_cast<int>(kMostWaiting)) catchingUp_ = true;
+    if (++waiting_ >= kMostWaiting) catchingUp_ = true;
 }
 
 void ReadingPlan::meet(TreeDirectory&) {
     // It was the first of those that wait.
     --waitingBefore(toRead_.begin());
-    if (--waiting_ <= static_cast<int>(kMostWaiting / 2)) catchingUp_ = false;
+    if (--waiting_ <= kMostWaiting / 2) catchingUp_ = false;
 }
 
 TreeDirectory& ReadingPlan::plan(TreeDirectory& directory, std::size_t index,

@@ -31,15 +31,15 @@ struct TreeDirectory {
 
     // For the plan, until the directory has been read.
     std::list<TreeDirectory*>::iterator place = {};
-    int waitingBefore =
-        0;  ///< how many read directories wait between the one before it and this one
+    /// How many read directories wait between the one before it and this one.
+    int waitingBefore = 0;
 };
 
 /// Decides which directory of a tree is read next: the one that the walk, which comes behind, will
 /// meet first. Links are not read ahead, since the walk may pass them over.
 class ReadingPlan {
  public:
-    static constexpr std::size_t kMostWaiting = 2000;
+    static constexpr int kMostWaiting = 2000;
 
     ReadingPlan(const std::wstring& root, bool withSubdirectories);
 

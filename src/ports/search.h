@@ -52,7 +52,7 @@ class Searching {
     SearchWatch& watch_;
 };
 
-/// For searches that no window is served during.
+/// For searches during which no window is served.
 class Unwatched : public SearchWatch {
  public:
     void begin(const EventSink&, SearchKind) override {}

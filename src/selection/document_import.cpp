@@ -184,8 +184,8 @@ DocumentImport::End DocumentImport::look() {
 }
 
 bool DocumentImport::lookAtThose(Presence still) {
-    // Jobs that hang own the paths: lent until all have answered, for when they haven't nothing is
-    // imported.
+    // Shared with the jobs: one that hangs may answer after the import has been given up, so the
+    // paths are taken back only when all have answered.
     struct Looks {
         std::vector<std::wstring> paths;
         std::vector<Presence> answers;

@@ -15,7 +15,7 @@ struct ProgramFiles {
     std::wstring previousList() const { return besideList(list, L"-precedente.lst"); }
     /// What others had made of the list file when it was saved over.
     std::wstring othersList() const { return besideList(list, L"-autre.lst"); }
-    /// The same of the configurations.
+    /// The same for the configurations.
     std::wstring othersConfigurations() const { return directory + L"\\tarnwick-precedente.cfg"; }
 
     /// The file that says who has a list open, while it is.

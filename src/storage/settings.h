@@ -24,7 +24,7 @@ constexpr Setting<Value> startUp(const wchar_t* key, Value otherwise) {
     return {L"tarnwick", L"startup", key, otherwise};
 }
 
-/// Of the configuration window.
+/// A setting of the configuration window.
 template <class Value>
 constexpr Setting<Value> searchFolders(const wchar_t* key, Value otherwise) {
     return {L"mervale", L"listerepert", key, otherwise};

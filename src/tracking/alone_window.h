@@ -44,5 +44,5 @@ class AloneWindow : public ProgramWindow<AloneWindow> {
     const Clock& clock_;
     int documents_;
     TimeLeft timeLeft_;
-    std::optional<std::int64_t> began_;  ///< when the command did
+    std::optional<std::int64_t> began_;  ///< when the command began
 };

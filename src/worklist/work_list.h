@@ -99,8 +99,8 @@ class WorkLines {
     }
 
  private:
-    static constexpr std::size_t kRemembered =
-        32;  ///< more changes than a command makes to one line
+    /// More changes than a command makes to one line.
+    static constexpr std::size_t kRemembered = 32;
 
     CheckedTable<WorkLine, kCapacity, kLimit> table_;
     std::array<int, kRemembered> recent_{};

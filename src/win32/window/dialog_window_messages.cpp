@@ -207,7 +207,7 @@ bool DialogWindow::isUnmeantCommand(int id, Event event, Deed::Kind kind) const 
                           .usable = canUse(id)}) == Verdict::Drops;
 }
 
-/// Raises the deferred events. Whether this control's event still counts afterwards.
+/// Raises the deferred events; returns whether this control's event still counts afterwards.
 bool DialogWindow::serveFirst(int id) {
     HWND window = window_.get();
     const int shown = judge().windowsShown();

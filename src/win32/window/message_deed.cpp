@@ -38,7 +38,7 @@ Kind kindOf(UINT message) {
     }
 }
 
-/// On the screen. Mouse messages tell it within their own window.
+/// The place on the screen; mouse messages tell the one within their own window.
 POINT placeOf(const MSG& message) {
     POINT place{static_cast<short>(LOWORD(message.lParam)),
                 static_cast<short>(HIWORD(message.lParam))};
