@@ -42,7 +42,8 @@ void EventGate::run(const std::function<void()>& action) noexcept {
 }
 
 bool EventGate::isRefused(const Delivery& delivery) const {
-    if (!delivery.waited) return false;
+    // The end of the Windows session closes every window, hidden ones, too.
+    if (!delivery.waited && delivery.event != Event::Close) return false;
     const bool usable = delivery.source->isShown() && delivery.source->canUse(delivery.controlId);
     return verdictOn(judge_.situation(), {.kind = Deed::Kind::WaitedEvent, .usable = usable}) ==
            Verdict::Drops;

@@ -141,7 +141,7 @@ void PassRunner::advance(LineState mark) {
         const auto saved = mark == LineState::Done ? save() : Saved::Unknown;
         if (!saved) return;
         if (alone_) mark = countedAlone(*saved);
-        if (!stays_) close();
+        close();
         cad_.forgetDocument();
         if (!pass_.advance(mark, *saved)) return endAt(Redraw::InPlace);
         if (!go(Redraw::InPlace)) return;

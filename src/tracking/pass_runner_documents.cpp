@@ -114,5 +114,6 @@ std::optional<std::int32_t> PassRunner::saveOnce() {
 
 void PassRunner::close() {
     openWarns_ = false;
-    cad_.closeDocument();
+    // Nothing is open at a line that was left to do, and without a name another document would go.
+    if (!stays_) cad_.closeDocument();
 }

@@ -38,6 +38,8 @@ AloneOutcome TrackingWindow::goAlone(int documents) {
         showAlone();
         return goesOn();
     });
+    // Whoever closed the window during the last command wants the program to end, too.
+    goesOn();
     alone_.reset();
     return outcome;
 }

@@ -71,14 +71,6 @@ static_assert(attribute::kHidden == FILE_ATTRIBUTE_HIDDEN &&
               attribute::kReparsePoint == FILE_ATTRIBUTE_REPARSE_POINT &&
               kMountPointTag == IO_REPARSE_TAG_MOUNT_POINT);
 
-/// A read-only file can be neither replaced nor deleted (the DeleteFile function). When this fails
-/// the call that follows reports it.
-void makeWritable(const std::wstring& file) {
-    const DWORD attributes = GetFileAttributesW(longPath(file).c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_READONLY)) return;
-    SetFileAttributesW(longPath(file).c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
-}
-
 /// Others may do with the file what they like meanwhile. One that a program shares with nobody is
 /// waited for: scanners and backups let go of it soon.
 UniqueHandle openToRead(const std::wstring& path) {
@@ -100,6 +92,12 @@ bool isDotEntry(const wchar_t* name) {
 }
 
 }  // namespace
+
+void makeWritable(const std::wstring& file) {
+    const DWORD attributes = GetFileAttributesW(longPath(file).c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_READONLY)) return;
+    SetFileAttributesW(longPath(file).c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
+}
 
 DirectoryEntry entryOf(const WIN32_FIND_DATAW& found) {
     return directoryEntry(found.cFileName, found.dwFileAttributes, found.dwReserved0);

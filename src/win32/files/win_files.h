@@ -36,6 +36,10 @@ class WinFiles : public Files {
     std::wstring currentDirectory(wchar_t drive) override;
 };
 
+/// A read-only file can be neither replaced nor deleted (the DeleteFile function). When this fails
+/// the call that follows reports it.
+void makeWritable(const std::wstring& file);
+
 /// An entry of a directory, as Windows lists it.
 DirectoryEntry entryOf(const WIN32_FIND_DATAW& found);
 

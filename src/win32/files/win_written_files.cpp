@@ -84,6 +84,7 @@ class WinRecordFile : public RecordFile {
 
     void replace(std::string_view bytes) override {
         file_.reset(INVALID_HANDLE_VALUE);
+        makeWritable(path_);
         WinFiles().replace(path_, [&](const ByteSink& file) { file(bytes); });
         // For reading as well: otherwise a file server may refuse a write now and then (the
         // CreateFile function).
@@ -103,6 +104,7 @@ class WinRecordFile : public RecordFile {
 
     bool clear() override {
         if (isValid(file_)) return empty(file_.get());
+        makeWritable(path_);
         if (DeleteFileW(longPath_.c_str()) || GetLastError() == ERROR_FILE_NOT_FOUND) return true;
         // Another program holds it for the moment. An empty record offers nothing, either.
         return isValid(UniqueHandle(CreateFileW(longPath_.c_str(), GENERIC_WRITE, FILE_SHARE_READ,

@@ -9,6 +9,7 @@
 #include <future>
 
 #include "contract/machine.h"
+#include "win32/files/win_written_files.h"
 #include "win32/process/handles.h"
 
 namespace {
@@ -60,7 +61,14 @@ TEST_F(WinFilesTest, KeepsACopyOfAnyBytesOverAReadOnlyFileAndRemovesOne) {
     EXPECT_EQ(files.readBytes(copy), odd);
     files.remove(list);
     EXPECT_EQ(namesIn(directory), Texts{L"tarnwick-precedente.lst"});
+    for (const std::string_view marks : {"marques", ""}) {
+        SetFileAttributesW(copy.c_str(), FILE_ATTRIBUTE_READONLY);
+        const auto record = WinRecordFiles().at(copy);
+        marks.empty() ? void(record->clear()) : record->replace(marks);
+        EXPECT_EQ(record->read().value_or(""), marks);
+    }
 
+    writeBytes(copy, "");
     const UniqueHandle held = heldByAReader(copy);
     EXPECT_EQ(raised([&] { files.remove(copy); }), 70);
 }

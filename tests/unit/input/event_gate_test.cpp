@@ -112,6 +112,10 @@ TEST_F(EventGateTest, DropsWaitingEventsThatTheUserCouldNotCauseAnyMore) {
         click(1);
         EXPECT_EQ(sink.raised, std::vector{1});
     }
+    // Hidden windows, too, are told that the Windows session ends.
+    source.shown = false;
+    gate.deliver(sink, kTheWindow, Event::Close, source);
+    EXPECT_EQ(sink.raised, std::vector{1});
 }
 
 TEST_F(EventGateTest, EndsWithABoxOnceAndHandlesNothingMore) {

@@ -161,15 +161,24 @@ TEST_F(Refusals, FiveInARowAreAskedAbout) {
               Texts(2, L"Cinq documents de suite ne se sont pas ouverts.\r\nContinuer ?"));
     EXPECT_EQ(list().selection(), std::vector{10});
     EXPECT_TRUE(canAdvance() && canStepBack() && cad->hasOpen(L""));
-    // There is nothing to save or to close: all three go on.
-    for (const int button :
-         {IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIVQUITTER, IDC_FORM3_CMDSUIVSAUTER}) {
+    // There is nothing to save or to close.
+    for (const auto& [button, afterwards] :
+         {std::pair(IDC_FORM3_CMDSUIV, L"+g | 0 0 0 0 0 0 0 | 7: 7/7 Aucun"),
+          {IDC_FORM3_CMDSUIVQUITTER, L"+g | 0 0 0 0 0 0 0 | 7: 7/7 Aucun"},
+          {IDC_FORM3_CMDSUIVSAUTER, L"+g | 0 0 0 0 0 0 0 | 7: 7/7 Aucun"},
+          {IDC_FORM3_CMDPRECEDENT, L"+e+d+c+b+a | 3 0 0 0 0 0 0 | 0: 1/7 c:\\a"}}) {
         machine.boxes.answers = {kNo};
         loadStates(L"0000000");
         click(IDC_FORM3_CMDSUIVSAUTER);
         takeCalls();
-        EXPECT_EQ(after({button}), L"+g | 0 0 0 0 0 0 0 | 7: 7/7 Aucun");
+        EXPECT_EQ(after({button}), afterwards);
     }
+    machine.boxes.answers = {kNo};
+    loadStates(L"0000000");
+    click(IDC_FORM3_CMDSUIVSAUTER);
+    takeCalls();
+    EXPECT_THROW(click(IDC_FORM3_CMDSORTIE), ProgramEnd);
+    EXPECT_EQ(calls(), L"");
 }
 
 TEST_F(Refusals, OfASaveAreAskedAboutOrOnlyTold) {
