@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# build.sh PRESET [TARGET...]: configures and builds. Tells how long it took, and more only when something goes wrong.
+# build.sh PRESET [TARGET...]: configures and builds. Prints how long it took, and more only when something goes wrong.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

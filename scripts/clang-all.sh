@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Every source and every header passes a second compiler, Clang, by itself and without a warning: those of Windows against
-# mingw-w64's headers. By hand and in the workflow, for it takes minutes. FILE...: those files only.
+# Compiles every source and header by itself with a second compiler, Clang, without a warning; those for Windows against
+# mingw-w64's headers. Run by hand and in the workflow, since it takes minutes. FILE...: those files only.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

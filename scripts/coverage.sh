@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # What the native tests reach of the core: a table by room, branches too.
 # --missing [ROOM...]: also each branch that no test takes one way or the other.
-# --windows: what the contract and the scenarios reach under Wine, lines only, for GCC counts a branch for whatever may throw.
+# --windows: what the contract and the scenarios reach under Wine; lines only, since GCC counts a branch wherever something
+# may throw.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 place=build/coverage
@@ -34,7 +35,7 @@ of_windows() {
 }
 [[ "${1:-}" != --windows ]] || { of_windows; exit; }
 
-# Clang counts what the source says, so that templates and the library's own code are not counted as ours.
+# Clang counts by the source, so templates and the library's own code are not counted as ours.
 cmake -B "$place" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=clang++ -DTARNWICK_NO_WERROR=ON \
     -DCMAKE_CXX_FLAGS='-fprofile-instr-generate -fcoverage-mapping' >"$place.log" 2>&1 &&
     cmake --build "$place" -j"$(nproc)" --target unit >>"$place.log" 2>&1 || { cat "$place.log" >&2; exit 1; }
@@ -42,7 +43,7 @@ LLVM_PROFILE_FILE="$place/unit.profraw" "$place/tests/unit" --gtest_brief=1 >"$p
 llvm-profdata merge -o "$place/unit.profdata" "$place/unit.profraw"
 counts=(-instr-profile "$place/unit.profdata" "$place/tests/unit")
 
-# Ten figures a file, three times how many, how many missed and per cent.
+# Each file has figures in threes: how many, how many missed, per cent.
 llvm-cov report "${counts[@]}" "$PWD"/src | awk '
 function share(missed, all) { return all ? sprintf("%5.1f", 100 * (all - missed) / all) : "    -" }
 function row(name, lines, missedLines, branches, missedBranches) {

@@ -19,5 +19,5 @@ port=$((20000 + RANDOM % 10000))
 unlocked winedbg --gdb --no-start --port $port "build/win/bin/$program.exe" >/dev/null 2>&1 &
 waiting() { grep -q "$(printf ':%04X 00000000:0000 0A' $port)" /proc/net/tcp; }
 for ((try = 0; try < 150; ++try)); do waiting && break; sleep 0.2; done
-# The program itself goes without symbols, which stand beside it.
+# The program itself has no symbols; they are in a file beside it.
 gdb -ex "target remote localhost:$port" -ex "symbol-file build/win/symbols/$program.exe.debug" "$@"

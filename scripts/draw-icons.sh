@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Draws assets/*.ico from assets/*.svg: by hand, after a drawing was changed. The result is kept with the sources, for
-# another release of these tools would draw other bytes.
+# Draws assets/*.ico from assets/*.svg: run by hand after a drawing has changed. The result is kept with the sources, since
+# another release of these tools would write other bytes.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../assets"
 
@@ -16,7 +16,7 @@ for drawing in *.svg; do
     for size in 16 20 24 32 48 256; do
         picture="$pictures/$name-$size.png"
         rsvg-convert -w "$size" -h "$size" -o "$picture" "$drawing"
-        # Windows wants the largest alone packed.
+        # Windows wants only the largest one compressed.
         ((size == 256)) && arguments+=("--raw=$picture") || arguments+=("$picture")
     done
     icotool --create --output="$name.ico" "${arguments[@]}"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # install-packages.sh [run]: installs what building, testing and running Tarnwick needs on Debian 12; with "run", what
-# ./run needs. Asks the network only for what is missing.
+# ./run needs. Uses the network only for what is missing.
 set -euo pipefail
 
 packages=(
@@ -42,5 +42,5 @@ apt() {
     return 1
 }
 apt update
-# Nothing that is installed may go for what lacks.
+# Nothing already installed may be removed to make room for what is missing.
 apt install --yes --no-install-recommends --no-remove "${missing[@]}"

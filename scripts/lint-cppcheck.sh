@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# cppcheck finds nothing in any source, but for what cppcheck-suppressions.txt excuses.
+# cppcheck finds nothing in any source, except what cppcheck-suppressions.txt excuses.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 find src trialcad driver demo tests/fakes tests/endtoend tests/contract -name '*.cpp' -print0 |

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The built programs are hardened, self-contained and small: ASLR, DEP, only DLLs that every Windows has, 640 KB at most.
-# They say neither when nor where they were built, so that two builds of one commit are the same.
+# They tell neither when nor where they were built, so that two builds of one commit are the same.
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 cd "$root/build/win/bin"
@@ -21,8 +21,8 @@ for program in tarnwick.exe tarnwick-trialcad.exe; do
     [[ -z "$strange" ]] || complain "$program" "needs $(tr '\n' ' ' <<<"$strange")"
 done
 
-# The byte after a PNG's size says its depth, the next one its colours: 6 is red, green, blue and alpha. A plain picture
-# says its depth in bits after its size.
+# In a PNG the byte after the size is the depth, and the next one the kind of colours: 6 is red, green, blue and alpha. A
+# plain bitmap has its depth in bits after its size.
 number() { echo $(($(od -An -tu"$3" -j"$2" -N"$3" "$1"))); }
 for icon in "$root"/assets/*.ico; do
     for ((entry = 6; entry < 6 + 16 * $(number "$icon" 4 2); entry += 16)); do

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The functions that the programs import are those of imported-functions.txt: every new one decides which Windows they
-# start on, so look up since when it is there before you accept it. --accept writes the list anew.
+# The programs import only the functions in imported-functions.txt. A new one decides which versions of Windows they start
+# on, so look up which version brought it before you accept it. --accept rewrites the list.
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 known="$root/scripts/imported-functions.txt"

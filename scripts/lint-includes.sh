@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Each file includes the headers of the standard library that it uses: itself, or by the first header of ours that it
-# includes, its own or the interface that it carries out. What comes by way of other headers goes when those change.
+# Each file includes the headers of the standard library that it uses: directly, or through the first of our headers that
+# it includes, its own or that of the interface it implements. What comes through other headers goes when those change.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -26,7 +26,7 @@ BEGIN {
     needs["utility"] = "(move|exchange|forward|as_const|swap|in_range|cmp_[a-z]+)[(]"
     needs["variant"] = "(variant<|visit[(]|holds_alternative)"
     needs["vector"] = "vector[<{]"
-    # Given by another one as its own purpose.
+    # Another header provides it, since that is its purpose.
     instead["string_view"] = "string"
 }
 FNR == 1 { own[FILENAME] = "" }
@@ -39,7 +39,7 @@ FNR == 1 { own[FILENAME] = "" }
         if (!((FILENAME, header) in uses) && match($0, "std::" needs[header])) uses[FILENAME, header] = FNR
     }
 }
-# What a file includes first of ours: its own header, or the interface that it carries out.
+# The first of our headers that a file includes: its own, or that of the interface it implements.
 function headerOf(file,    path) {
     path = own[file]
     if (path == "") return ""

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# A folder of src includes only what is below it: no arrow up, no circle of folders, and no header that the C++ standard
-# library does not have outside the shell. docs/architecture.md draws the layers.
+# A folder of src includes only what is below it: nothing above, no circle of folders, and, outside the shell, no header
+# but ours and the C++ standard library's. docs/architecture.md draws the layers.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -10,13 +10,13 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
         sed -E 's/^src\/([^:]*):([0-9]+):[[:space:]]*#[[:space:]]*include[[:space:]]*/include \1 \2 /'
 } | awk '
 BEGIN {
-    # From the top down; what stands in one row may include its neighbours, but not in a circle.
+    # From the top down; the folders in one row may include each other, but not in a circle.
     rows = split("app|resume selection tracking searchfolders about|cad storage|worklist pickers|input rules|ports|common", row, "|")
     for (i = 1; i <= rows; ++i) {
         count = split(row[i], names, " ")
         for (j = 1; j <= count; ++j) height[names[j]] = rows - i
     }
-    # What carries out the interfaces on a machine: it may include what stands from here down, and app alone includes it.
+    # These implement the interfaces on a machine: they may include what is from here down, and only app includes them.
     shell = "^(win32|native)(/|$)"
     height["win32"] = height["native"] = height["input"]
 }
@@ -26,14 +26,14 @@ function folderOf(path) { return path ~ /\// ? substr(path, 1, match(path, /\/[^
 function heightOf(folder) { sub(/\/.*/, "", folder); return height[folder] }
 function isKnown(folder) { sub(/\/.*/, "", folder); return folder in height }
 
-# The headers of the C++ standard library have no ending; what has one belongs to a system.
+# The headers of the C++ standard library have no ending; one with an ending belongs to a system.
 function checkSystemHeader(file, where, header) {
     if (header !~ /\.h$/) return
     if (file ~ /\.rc$/ || file == "app/win_main.cpp" || file ~ shell) return
     complain(where, "<" header "> is for src/win32 and app/win_main.cpp")
 }
 
-# Beside the including file first, else from src; a header that the build makes stands there as its template.
+# Beside the including file first, else from src; a header that the build makes is there as its template.
 function found(file, header,    beside) {
     beside = folderOf(file) "/" header
     if (beside in exists) return beside
@@ -67,7 +67,7 @@ $1 == "file" { exists[substr($0, 6)]; next }
     else complain(where, "an include that names no file")
 }
 
-# Depth first; path is where we came through, and a folder met again on it closes a circle.
+# Depth first; path is the way here, and a folder that is on it already closes a circle.
 function visit(folder, path,    i, count, names, circle) {
     if (index(path, "|" folder "|")) {
         circle = substr(path, index(path, "|" folder "|") + 1) folder

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The packages are what SHA256SUMS says. The setup asks for no administrator, for Windows' own DLLs alone, and bears the
-# flags of a hardened program (but for its address, which stays the same: the NSIS of Debian leaves no relocations in it).
+# The packages match SHA256SUMS. The installer needs no administrator and only Windows' own DLLs, and has the flags of a
+# hardened program (except a random address: Debian's NSIS leaves no relocations in it).
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 cmake --build build/win --target package >/dev/null

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# clang-tidy finds nothing in the core, as .clang-tidy says. It reads each folder as one, as the compiler does, and no
-# headers that another compiler has parsed.
+# clang-tidy finds nothing in the core by the rules of .clang-tidy. It reads each folder as one file, as the compiler does,
+# and no headers that another compiler has precompiled.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 cmake --preset dev -B build/tidy -DTARNWICK_EACH_FILE=OFF -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# plant.sh [WORD...]: plants each fault of tests/planted/faults.tsv in a copy of the sources, one at a time, and tells which
-# the native tests do not see; with words, those faults only whose line has one of them. A line is a file, what stands there
-# once or first ==> what is put in its place, and what that breaks, parted by tabs. By hand, for all of them take half an
-# hour; TARNWICK_PLANT_JOBS (1) are tried at a time.
+# plant.sh [WORD...]: plants each fault of tests/planted/faults.tsv in a copy of the sources, one at a time, and lists those
+# that no native test finds; with words, only the faults whose line has one of them. A line is a file, a text of it (its
+# first place counts) ==> what replaces it, and what that breaks, separated by tabs. Run by hand, since all of them take
+# half an hour; TARNWICK_PLANT_JOBS (1) are tried at a time.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 faults=tests/planted/faults.tsv
@@ -20,7 +20,7 @@ prepare() { # place: a copy of the sources as they are, built and green
     build "$1" && "$1/build/tests/unit" --gtest_brief=1 >"$1/log" 2>&1 || { tail -20 "$1/log" >&2; exit 1; }
 }
 
-# Only what has changed is written, so that only that is compiled.
+# Writes only what has changed, so that only that is compiled.
 copy_changed() { # place; file names on standard input
     local file
     while IFS= read -r -d '' file; do

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# The unit tests for Windows, the contract and the scenarios under a second Wine: the one of Debian's newest release, which
-# is laid out in build/second-opinion, without root and without a change to the machine. It downloads 115 MB, so ./test does
-# without it. Where two Wines differ, Microsoft's documentation decides, and the spot is a row of docs/windows.md.
+# The unit tests for Windows, the contract and the scenarios under a second Wine: that of Debian's newest release, unpacked
+# in build/second-opinion, without root and without a change to the machine. It downloads 115 MB, so ./test leaves it out.
+# Where two Wines differ, Microsoft's documentation decides, and docs/windows.md has a row for it.
 # TARNWICK_DEBIAN=sid takes another release. GTEST ARGUMENT...: passed to each of the programs.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -9,7 +9,7 @@ release="${TARNWICK_DEBIAN:-stable}"
 place="$PWD/build/second-opinion/$release"
 packages=(libc6 libgcc-s1 libstdc++6 libwine wine64 fonts-wine libz-mingw-w64 patchelf)
 
-# A state of apt's own: nothing of the machine's is read but where its mirror is and whose keys it trusts.
+# apt gets a state of its own: of the machine's it reads only where the mirror is and whose keys to trust.
 own_apt() {
     apt-get -qq -o Dir::State="$place/apt" -o Dir::State::status="$place/apt/status" -o Dir::Cache="$place/apt" \
         -o Dir::Etc::sourcelist="$place/apt/sources.list" -o Dir::Etc::sourceparts=/dev/null -o Dir::Etc::preferencesparts=/dev/null \
@@ -27,14 +27,14 @@ download() {
     (cd "$place/apt" && own_apt download "${packages[@]}")
 }
 
-# The loader and the libraries of that release, for Wine alone: a path in the environment would reach its children.
+# The loader and the libraries of that release, for Wine only: a path in the environment would reach its children.
 bind_to_its_libraries() { # program
     local libraries="$place/root/usr/lib/x86_64-linux-gnu"
     "$libraries/ld-linux-x86-64.so.2" --library-path "$libraries" "$place/root/usr/bin/patchelf" \
         --set-interpreter "$libraries/ld-linux-x86-64.so.2" --force-rpath --set-rpath "$libraries" "$1"
 }
 
-# What the package's own installation does.
+# What installing the package would do.
 mark_as_builtin() { # library, of which Wine takes its own only when it says so behind the first header
     local library="$place/root/usr/lib/x86_64-linux-gnu/wine/x86_64-windows/$(basename "$1")"
     { head -c 64 "$1"; printf 'Wine builtin DLL%b' '\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0'; tail -c +97 "$1"; } >"$library"

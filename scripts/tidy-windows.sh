@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# clang-tidy over the sources that include <windows.h>, against mingw-w64's headers; by hand, for it takes minutes.
+# clang-tidy over the sources that include <windows.h>, against mingw-w64's headers. Run by hand, since it takes minutes.
 # Reads how the win preset compiles each file. FILE...: those files only.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."

@@ -59,7 +59,7 @@ registered DisplayVersion 1.04
 echo "user's list" >"$place/tarnwick.lst"
 echo "user's configurations" >"$place/tarnwick.cfg"
 
-# A program whose file can't be written for another reason than that it runs: a directory can't be opened as a file.
+# A program whose file can't be written, but not because it runs: a directory can't be opened as a file.
 mv "$place/tarnwick.exe" "$older/kept.exe"
 mkdir "$place/tarnwick.exe"
 expect_code 4 wine "$setup" /S
@@ -92,7 +92,7 @@ kill "$program" "$cad"
 wait "$program" "$cad" 2>/dev/null || true
 echo "Ran; the trial session received: $(tr '\n' ' ' <"$journal")"
 
-# The uninstaller takes the trial session's class with it, and nobody else's.
+# The uninstaller removes the trial session's class from the registry, and nobody else's.
 uninstall() { # class
     registry add "$trial_key\\CLSID" /ve /d "$1" /f
     unlocked wine "$place/uninstall.exe" /S

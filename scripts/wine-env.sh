@@ -1,17 +1,17 @@
-# Sourced by scripts that run Windows programs: a Wine prefix and a screen of our own, ended by the same script.
+# Sourced by scripts that run Windows programs: a Wine prefix and a screen of their own, which end with the script.
 # Sets nothing outside the build tree and touches no process that it did not start.
 
 wine_root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 wine_prefixes="$wine_root/build/wine-prefixes"
-# File names hold accents, which the C locale of a bare machine could not carry.
+# File names have accents, which the C locale of a bare machine can't represent.
 export LC_ALL=C.UTF-8
 export WINEARCH=win64 WINEDEBUG="${WINEDEBUG:--all}"
 # Neither .NET nor the HTML engine is needed, and asking for them would open a box.
 export WINEDLLOVERRIDES="mscoree=;mshtml="
 screen_size=1280x900
 
-# One user of a prefix at a time: the registry and the keyboard focus are shared in it. $1: the prefix; what follows is
-# flock's own.
+# One user of a prefix at a time, since the registry and the keyboard focus are shared in it. $1: the prefix; the rest are
+# flock's arguments.
 take_prefix() {
     export WINEPREFIX="$1"
     mkdir -p "$(dirname "$WINEPREFIX")"
@@ -21,7 +21,7 @@ take_prefix() {
     return 1
 }
 
-# The prefix that TARNWICK_WINEPREFIX names, or the first of ours that nobody uses, so that runs stand side by side.
+# The prefix that TARNWICK_WINEPREFIX names, or the first of ours that nobody uses, so that several can run side by side.
 wine_lock() {
     if [[ -n "${TARNWICK_WINEPREFIX:-}" ]]; then
         take_prefix "$TARNWICK_WINEPREFIX"
@@ -33,7 +33,7 @@ wine_lock() {
     take_prefix "$wine_prefixes/1"
 }
 
-# Programs of a prefix are ended and the prefix is made anew without a question, so it must be ours, or nothing yet.
+# A prefix's programs are ended and the prefix is made again without asking, so it must be ours, or not exist yet.
 require_our_prefix() {
     [[ -z "$(ls -A "$WINEPREFIX" 2>/dev/null)" || -e "$WINEPREFIX/.tarnwick" ]] && return
     echo "$WINEPREFIX is no Wine prefix of ours and not empty: remove it yourself, or name another directory" >&2
@@ -69,9 +69,9 @@ make_prefix() {
     mkdir -p "$WINEPREFIX"
     touch "$WINEPREFIX/.tarnwick"
     unlocked wineboot --init >/dev/null 2>&1
-    # Debian's Wine passes for Windows 7.
+    # Debian's Wine claims to be Windows 7.
     unlocked wine reg add 'HKCU\Software\Wine' /v Version /d win10 /f >/dev/null
-    # It does not look where Debian's package puts Wine's fonts.
+    # It does not look for Wine's fonts where Debian's package puts them.
     cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
     if [[ "$1" == desktop ]]; then
         unlocked wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
@@ -81,7 +81,7 @@ make_prefix() {
     touch "$WINEPREFIX/.ready-windows10"
 }
 
-# A copy of the prefix that is made once. Windows' own files are shared: nobody writes to them.
+# A copy of the prefix that was made first. Windows' own files are shared, since nobody writes to them.
 copy_prefix() {
     local made="$wine_prefixes/made" file
     (
