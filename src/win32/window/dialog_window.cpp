@@ -51,8 +51,6 @@ void registerWindowClass() {
     RegisterClassExW(&windowClass);
 }
 
-HWND firstControl(HWND window) { return GetNextDlgTabItem(window, nullptr, FALSE); }
-
 /// Tab pages are no windows of their own: on a window of another colour the tab strip's frame would
 /// stand out. So the whole window takes the tab strip's colour.
 void colourAsTabPages(HWND window) {

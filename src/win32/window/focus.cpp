@@ -41,9 +41,16 @@ void focusOn(HWND window, HWND control) {
     SendMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
 }
 
+HWND firstControl(HWND window) {
+    // Without a control to start from the search for the next one fails (GetNextDlgTabItem).
+    HWND first = GetWindow(window, GW_CHILD);
+    const bool stops = (GetWindowLongW(first, GWL_STYLE) & WS_TABSTOP) != 0;
+    return stops && canBeUsed(first) ? first : GetNextDlgTabItem(window, first, FALSE);
+}
+
 void keepKeyboard(HWND window, HWND home) {
     if (canBeUsed(GetFocus())) return;
-    focusOn(window, canBeUsed(home) ? home : GetNextDlgTabItem(window, nullptr, FALSE));
+    focusOn(window, canBeUsed(home) ? home : firstControl(window));
 }
 
 void showFocusCues(HWND window) {

@@ -20,6 +20,9 @@ bool isPushButton(HWND control);
 /// and the text of a field is selected.
 void focusOn(HWND window, HWND control);
 
+/// The first one that the Tab key reaches.
+HWND firstControl(HWND window);
+
 /// Moves the focus away from a control that was disabled or hidden: to `home` if that can be used,
 /// otherwise to the first control.
 void keepKeyboard(HWND window, HWND home);

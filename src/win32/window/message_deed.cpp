@@ -54,7 +54,8 @@ HWND receiverOf(const MSG& message, HWND window) {
     if (!isKey(message)) return message.hwnd;
     if (message.message == WM_KEYDOWN && message.wParam == VK_TAB) {
         HWND focus = controlHolding(window, GetFocus());
-        return GetNextDlgTabItem(window, focus, GetKeyState(VK_SHIFT) < 0);
+        return focus ? GetNextDlgTabItem(window, focus, GetKeyState(VK_SHIFT) < 0)
+                     : firstControl(window);
     }
     const int shortcut = shortcutIn(window, message);
     return shortcut != 0 ? GetDlgItem(window, shortcut) : message.hwnd;
