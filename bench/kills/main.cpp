@@ -103,10 +103,20 @@ class Kills {
             if (app_.showsBox()) app_.box().answer(IDYES);
             return std::ranges::count(app_.shownWindows(), kTracking) > 0 && !app_.showsBox();
         });
-        app_.waitForCommandEnd(IDC_FORM3_LIST1, IDC_FORM3_CMDDESELECT);
-        app_.chooseInSystemMenu(kTracking, IDM_FORM3_SEUL);
+        askToGoAlone();
         app_.box().answer(IDYES);
         Sleep(static_cast<DWORD>(random_() % 400));
+    }
+
+    /// What comes before the end of a command is dropped, so it is chosen until the question is
+    /// asked.
+    void askToGoAlone() {
+        waitFor("the question", [&] {
+            if (app_.showsBox()) return true;
+            app_.chooseInSystemMenu(kTracking, IDM_FORM3_SEUL);
+            for (int i = 0; i < 100 && !app_.showsBox(); ++i) Sleep(10);
+            return app_.showsBox();
+        });
     }
 
     /// A document has been marked if it was closed and the next one was asked for.
