@@ -145,7 +145,8 @@ bool isListFile(const std::wstring& path) { return endsWith(path, L".LST"); }
 
 void take(FileLines& lines, const DocumentLine& line, const std::wstring& directory) {
     if (line.namesDocument || lines.nameless < FileLines::kTold) {
-        auto& kept = lines.lines.emplace_back(lines.count, wideText(line.text), std::nullopt);
+        auto& kept = lines.lines.emplace_back(
+            FileLines::Line{lines.count, wideText(line.text), std::nullopt});
         if (line.namesDocument) kept.path = resolvedPath(directory, kept.text);
     }
     if (!line.namesDocument) ++lines.nameless;

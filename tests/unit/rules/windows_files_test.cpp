@@ -49,7 +49,7 @@ TEST(FileReplacement, OpensAFileOnceNobodyIsInTheWay) {
         {kFileNotFound, 1, 0}};
     for (const auto& [error, failing, expected] : cases) {
         int opened = 0, pauses = 0;
-        const auto open = [&] { return opened++ < failing ? error : 0; };
+        const auto open = [&, most = failing, code = error] { return opened++ < most ? code : 0; };
         const bool gone = error == kFileNotFound || failing == 1000;
         EXPECT_EQ(openWhenFree(open, [&] { ++pauses; }), gone ? error : 0);
         EXPECT_EQ(pauses, expected);

@@ -44,7 +44,7 @@ TEST(ConfigurationEditing, RemovesTheSelectedAndWhatFollowsThem) {
     for (const auto& [lines, removal, left] : cases) {
         Configuration edited;
         fill(edited, {L"c:\\P", L"C:\\p\\1", L"c:\\P2", L"d:\\", L"c:\\P\\3"}, 1);
-        const auto selected = [&](int line) { return lines.contains(line); };
+        const auto selected = [&chosen = lines](int line) { return chosen.contains(line); };
         EXPECT_EQ(removeDirectories(edited, 5, selected, removal), std::ssize(left));
         EXPECT_EQ(entriesOf(edited, 1), left);
     }
