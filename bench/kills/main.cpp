@@ -24,19 +24,23 @@
 namespace driver {
 namespace {
 
-constexpr int kDocuments = 200;
-constexpr int kKillsAList = 50;
-constexpr int kKillsAListAlone = 3;  // it is faster than presses
+/// A pass that goes on alone is quicker than who presses.
+struct Round {
+    int documents;
+    int kills;
+};
+constexpr Round kPressed{200, 50};
+constexpr Round kAlone{1000, 3};
 const std::string kTracking = "Tarnwick - suivi du travail -";
 const std::string kMarked = "Documents marqués depuis : ";
 
 class Kills {
  public:
-    explicit Kills(bool alone) : alone_(alone) {}
+    explicit Kills(bool alone) : alone_(alone), round_(alone ? kAlone : kPressed) {}
 
     void run(int kills) {
         for (int kill = 0; kill < kills; ++kill) {
-            if (kill % (alone_ ? kKillsAListAlone : kKillsAList) == 0) beginAnew();
+            if (kill % round_.kills == 0) beginAnew();
             start();
             workAndKill();
         }
@@ -51,7 +55,7 @@ class Kills {
         if (begun_) cad_.close();
         begun_ = true;
         std::string list;
-        for (int i = 0; i < kDocuments; ++i) {
+        for (int i = 0; i < round_.documents; ++i) {
             list += "0  " + sandbox_.addDocument(std::to_string(i) + ".SLDPRT") + "\r\n";
         }
         sandbox_.writeList(list);
@@ -139,6 +143,7 @@ class Kills {
     AppDriver app_{sandbox_};
     std::mt19937 random_{1};
     const bool alone_;
+    const Round round_;
     bool begun_ = false;
     size_t seen_ = 0;   ///< how many calls have been looked at
     size_t marks_ = 0;  ///< how many the next start must offer
