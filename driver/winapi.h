@@ -28,7 +28,7 @@ LRESULT send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 /// Posts a message without waiting, since it may open a modal box.
 void post(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
-/// Where a window stands on the screen.
+/// Where a window is on the screen.
 RECT placeOf(HWND window);
 
 /// Moves a window's top left corner.
@@ -40,8 +40,8 @@ std::vector<std::string> listLines(HWND list);
 /// The indices of the selected lines of a list box, ascending.
 std::vector<int> selectedLines(HWND list);
 
-/// Selects exactly these lines of a list box (one at most if it allows no more), and tells its
-/// parent.
+/// Selects exactly these lines of a list box (one at most if it allows no more), and notifies
+/// its parent.
 void selectLines(HWND list, const std::vector<int>& lines);
 
 /// A readable description of a window and all that is in it, for the report of a failed test.

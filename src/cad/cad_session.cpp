@@ -10,8 +10,8 @@ namespace {
 constexpr std::int32_t kOpenSilently = 1;
 constexpr std::int32_t kReferencedDocuments = 0;  // what the search folders are for
 
-/// Documents of one type have the same numbers for their members. A document whose path tells no
-/// type shares them with no other.
+/// Documents of one type have the same numbers for their members. A document whose path shows
+/// no type shares them with no other.
 std::wstring documentClass(const std::wstring& path) {
     const auto type = documentType(path);
     return type ? L"document " + decimal(*type) : std::wstring();

@@ -14,7 +14,7 @@ struct Sequence {
     bool wellFormed;
 };
 
-/// What the first byte of a longer character tells: how many bytes it has, and the range of the
+/// What the first byte of a longer character says: how many bytes it has, and the range of the
 /// second one (The Unicode Standard, table of well-formed UTF-8 byte sequences). Length 0: no
 /// character begins so.
 struct Lead {

@@ -95,6 +95,6 @@ class CallOut {
     Judge& judge_;
 };
 
-/// The time of a message, which tells its lower 32 bits only (the GetMessageTime function): of all
-/// moments with these bits the one nearest to now.
+/// The time of a message, of which Windows has the lower 32 bits only (the GetMessageTime
+/// function): of all moments with these bits the one nearest to now.
 Moment widened(std::uint32_t time, Moment now);

@@ -77,14 +77,14 @@ class Window {
     virtual TabStrip& tabStrip(int id) = 0;
     virtual ProgressBar& progressBar(int id) = 0;
 
-    /// Where the window stands while it is neither minimised nor maximised.
+    /// Where the window is when it is neither minimised nor maximised.
     virtual Area place() const = 0;
     /// The controls grow and shrink with the window. On a monitor of another resolution it gets
     /// another size.
     virtual void moveTo(const Area& place) = 0;
     /// Pixels to an inch on its monitor.
     virtual int dpi() const = 0;
-    /// The monitor that it stands on or nearest to, without the taskbar.
+    /// The monitor that it is on or nearest to, without the taskbar.
     virtual Area workArea() const = 0;
     /// Shows on the taskbar how far the work has come: steps done of all; 0 of 0 for no progress.
     virtual void showProgress(int done, int total) = 0;
@@ -140,7 +140,7 @@ struct Anchor {
 struct SystemMenuItem {
     int id;
     const wchar_t* text;  ///< after a tab, the name of the key that chooses it
-    /// A separator stands above it, as above the first item in any case.
+    /// A separator is above it, as above the first item in any case.
     bool startsGroup = false;
 };
 
@@ -148,7 +148,7 @@ struct SystemMenuItem {
 /// program has the keyboard.
 struct HotKey {
     int controlId;
-    int place;  ///< in the row, from 1, whatever sign the key bears
+    int place;  ///< in the row, from 1, whatever sign the key has
     const wchar_t* name;
 };
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Without the file's name, which the server's own words may tell and the caller adds.
+/// Without the file's name, which may be in the server's own words and is added by the caller.
 std::optional<RuntimeError> sentenceOf(std::uint32_t number) {
     switch (number) {
         case 53:

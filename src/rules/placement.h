@@ -5,7 +5,7 @@
 #include "ports/area.h"
 #include "ports/window.h"
 
-/// Where the controls of a window stand: as its dialog template says, in the measure of the
+/// Where the controls of a window are: as its dialog template says, in the measure of the
 /// window's present font, and following the window's edges when it grows or shrinks.
 class ControlLayout {
  public:
@@ -30,7 +30,7 @@ class ControlLayout {
     /// The smallest area in which all controls are in sight.
     Size smallestClient() const;
 
-    /// Where the controls stand in an area of this size, in the order in which they were added.
+    /// The controls' places in an area of this size, in the order in which they were added.
     std::vector<Area> arranged(Size client) const;
 
  private:
@@ -57,8 +57,8 @@ struct Monitor {
     Area work;  ///< without the taskbar
 };
 
-/// A window's place, moved as little as possible to stand whole within `work`, and made smaller if
-/// it is larger than that.
+/// A window's place, moved as little as possible to be wholly within `work`, and made smaller if it
+/// is larger than that.
 Area inSight(const Area& place, const Area& work);
 
 /// The place on the screen of a window whose normal place is relative to the work area, as Windows

@@ -154,8 +154,8 @@ std::uint32_t doWhenFree(const std::wstring& path, ReplacementSteps& steps,
     const auto told = [&] {
         const std::uint32_t error = deed();
         if (error != windows_error::kAccessDenied) return error;
-        // Windows speaks of denied access as often as of sharing (the MoveFileEx function): opening
-        // the file tells which. One that can be opened was let go of in the meantime.
+        // Windows may say "access denied" when a file is merely in use (the MoveFileEx function):
+        // opening it shows which. One that can be opened has been released in the meantime.
         const std::uint32_t looking = steps.openAlone(path);
         return looking == 0 || isHeld(looking) ? windows_error::kSharingViolation : error;
     };

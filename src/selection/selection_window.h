@@ -89,8 +89,8 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
 
     using ImportStep = std::function<DocumentImport::End(DocumentImport&)>;
     void importDocuments(const ImportStep& gather);
-    /// Does a step of an import, which the user can stop. False when it did not complete: tells
-    /// why.
+    /// Does a step of an import, which the user can stop. When it did not complete, tells the user
+    /// why and returns false.
     bool completes(DocumentImport& import, const ImportStep& step);
     /// False when there is none: the list stays as it was.
     bool listDocuments(std::vector<std::wstring> documents);

@@ -17,7 +17,7 @@ struct SharedFile {
     std::optional<ContentIdentity> known = std::nullopt;
 };
 
-/// Writes the file anew. If others have changed it, their version is kept, and the user told. If
+/// Replaces the file. If others have changed it, their version is kept, and the user told. If
 /// that fails, nothing is written, the user is told, and the answer is false. Raises 70, 75 or 76,
 /// or what `write` raises.
 bool save(Platform& platform, SharedFile& file, const WriteContent& write);

@@ -32,7 +32,7 @@ constexpr Setting<Value> searchFolders(const wchar_t* key, Value otherwise) {
 
 constexpr SwitchSetting option(const wchar_t* key) { return {L"tarnwick", L"options", key, false}; }
 
-// Where the windows stand, in twips.
+// Where the windows are, in twips.
 inline constexpr std::int16_t kUsualTop = 1416;
 inline constexpr std::int16_t kUsualLeft = 2964;
 inline constexpr auto kSelectionTop = startUp(L"toppos", kUsualTop);

@@ -27,7 +27,7 @@ class WindowPlaces {
     /// Puts a window in the place last read, but whole within the nearest monitor's work area.
     void restore(PlacedWindow which, Window& window) const;
 
-    /// Saves where a window stands now. Values are limited to 16 bits, so that the next run can
+    /// Saves where a window is now. Values are limited to 16 bits, so that the next run can
     /// read them.
     void save(PlacedWindow which, const Window& window);
 

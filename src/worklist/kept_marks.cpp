@@ -14,8 +14,8 @@ constexpr std::string_view kMagic = "Tarnwick reprise 2\n";
 constexpr std::string_view kMagicWithoutRemarks = "Tarnwick reprise 1\n";
 constexpr std::size_t kHeaderSize = kMagic.size() + 8 + 8 + 4 + 8 + 4;
 
-// An entry's first byte tells the state and what else follows, its second one the same for the
-// remark.
+// An entry's first byte says which state it is and what else follows; the second byte says the
+// same about the remark.
 constexpr unsigned kStateBits = 0x07;
 constexpr unsigned kManyLines = 0x08;  ///< how many lines it is for follows
 constexpr unsigned kMarked = 0x10;     ///< the time of the mark follows

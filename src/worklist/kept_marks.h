@@ -11,7 +11,7 @@
 #include "worklist/work_list.h"
 
 /// What a line of the list file has become since the file was written. A line in progress counts as
-/// to do: where a pass goes on is found out anew.
+/// to do: where a pass goes on is found out again.
 struct KeptLine {
     enum class State : std::uint8_t { ToDo, Done, Seen, Eliminated, AsInFile };
 

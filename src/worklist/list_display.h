@@ -65,7 +65,7 @@ class WorkListView {
  public:
     explicit WorkListView(ListBox& list) : list_(list) {}
 
-    /// Draws all lines anew. With `allToDo` every line but the first is shown as to do.
+    /// Draws all lines again. With `allToDo` every line but the first is shown as to do.
     void rebuild(const WorkList& list, int depth, bool allToDo);
 
     /// Redraws in place, with no line selected: as if every line had been removed and inserted

@@ -199,7 +199,7 @@ void MarkKeeper::put(Lines changed, std::optional<std::int32_t> opening, RecordF
 }
 
 bool MarkKeeper::canAppend() const {
-    // A record that has outgrown the list is written anew, without what is out of date.
+    // A record that has outgrown the list is written again, without what is out of date.
     constexpr std::size_t kAlwaysEnough = 4096;
     return !behind_ && written_ <= std::max<std::size_t>(listFile_.length(), kAlwaysEnough);
 }

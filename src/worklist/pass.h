@@ -36,7 +36,7 @@ class Pass {
     /// The path of the current line.
     std::wstring currentPath() const { return pathOf(current_); }
     std::wstring pathOf(int line) const;
-    /// Where a line of the list file stands now; nothing when it was eliminated.
+    /// Where a line of the list file is now; nothing when it was eliminated.
     std::optional<int> lineOfFile(std::int32_t fileLine) const;
 
     /// Reads the text of a list file. False when it has no line. Raises 5, and 9 past 8001 lines;

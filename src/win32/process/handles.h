@@ -11,7 +11,7 @@ struct Releaser {
     void operator()(Handle handle) const { release(handle); }
 };
 
-/// Owns a handle; `release` is the function that gives it back to Windows.
+/// Owns a handle; `release` is the function that returns it to Windows.
 template <class Handle, auto release>
 using Unique = std::unique_ptr<std::remove_pointer_t<Handle>, Releaser<Handle, release>>;
 

@@ -66,8 +66,8 @@ HWND makeDialog(int dialogId, DLGPROC procedure) {
         L"une fenêtre");
 }
 
-/// Otherwise Windows would resize the window and its controls as well, and undo what we do. The
-/// function exists since Windows 10 1703, and Wine lacks it.
+/// Otherwise Windows would resize the window and its controls as well, and undo what we do. Windows
+/// has the function since Windows 10 1703; Wine doesn't.
 void leaveResolutionToUs(HWND window) {
     using SetBehavior = BOOL WINAPI(HWND, DIALOG_DPI_CHANGE_BEHAVIORS, DIALOG_DPI_CHANGE_BEHAVIORS);
     static const auto setBehavior =
@@ -158,7 +158,7 @@ void DialogWindow::show() {
     takeForeground(window);
     if (!wasVisible) {
         // Windows may tell a window only now which monitor it is on.
-        place_.standInSight();
+        place_.moveIntoSight();
         focusOn(window, focusId_ != 0 ? item(focusId_) : firstControl(window));
     }
     // The splash is shown before the program serves any messages.
@@ -167,7 +167,7 @@ void DialogWindow::show() {
 
 void DialogWindow::showAside() {
     judge().windowShown();
-    place_.standInSight();
+    place_.moveIntoSight();
     ShowWindow(window_.get(), SW_SHOWNOACTIVATE);
     UpdateWindow(window_.get());
 }

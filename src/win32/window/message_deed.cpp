@@ -38,7 +38,7 @@ Kind kindOf(UINT message) {
     }
 }
 
-/// The place on the screen; mouse messages tell the one within their own window.
+/// The place on the screen; mouse messages have the one within their own window.
 POINT placeOf(const MSG& message) {
     POINT place{static_cast<short>(LOWORD(message.lParam)),
                 static_cast<short>(HIWORD(message.lParam))};

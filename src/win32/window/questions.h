@@ -19,7 +19,7 @@ class ModalQuestion {
     ModalQuestion& operator=(const ModalQuestion&) = delete;
 
     HWND owner() const { return owner_; }
-    /// Whether its owner stands above the windows of all programs.
+    /// Whether its owner is above the windows of all programs.
     bool topmost() const;
 
  private:

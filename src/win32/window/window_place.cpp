@@ -126,7 +126,7 @@ void WindowPlace::moveTo(const Area& place) {
     layout_.arrange();
 }
 
-void WindowPlace::standInSight() {
+void WindowPlace::moveIntoSight() {
     if (IsIconic(window_) || IsZoomed(window_)) return;
     const Area whole = inSight(place(), workArea());
     if (whole != place()) moveTo(whole);
@@ -159,7 +159,7 @@ void WindowPlace::changeScreen() {
     if (!IsWindowVisible(window_)) return;
     chooseFonts();
     layout_.arrange();
-    standInSight();
+    moveIntoSight();
 }
 
 /// The usual fonts, or, where even the smallest window would not fit on the screen, smaller ones,

@@ -16,7 +16,7 @@ inline int dpiOf(HWND window) { return static_cast<int>(GetDpiForWindow(window))
 /// Puts the controls of a window where its layout says.
 class WindowLayout {
  public:
-    /// Make it while every control still stands where the template puts it.
+    /// Make it while every control is still where the template puts it.
     WindowLayout(HWND window, const WindowTemplate& source);
 
     /// From now on measures by this font.
@@ -37,7 +37,7 @@ class WindowLayout {
     std::vector<HWND> controls_;
 };
 
-/// Where a window stands, how large it is, and how large its letters and icons are.
+/// Where a window is, how large it is, and how large its letters and icons are.
 class WindowPlace {
  public:
     /// `tips`: the window's tooltips, which follow its font.
@@ -49,8 +49,8 @@ class WindowPlace {
     Area workArea() const;
     /// Makes a new window as large as its template, in letters that fit the screen.
     void takeTemplateSize();
-    /// Moves a window that does not stand whole on the screen.
-    void standInSight();
+    /// Moves a window that is not wholly on the screen.
+    void moveIntoSight();
 
     // What Windows reports.
 
