@@ -1,12 +1,9 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <string>
-#include <vector>
 
 #include "driver/app_driver.h"
 #include "driver/expected_calls.h"
-#include "driver/sandbox.h"
 #include "driver/settings.h"
 #include "driver/text.h"
 #include "driver/trial_cad.h"

@@ -58,24 +58,24 @@ struct ScriptedSession : Scenario {
 };
 
 TEST_F(ScriptedSession, DocumentsAnswerAsTheirLinesSay) {
-    const std::string locked = sandbox.addDocument("un\\verrou.SLDPRT");
-    const std::string readOnly = sandbox.addDocument("lecture.SLDPRT");
-    const std::string users = sandbox.addDocument("deux\\ouvert.SLDPRT");
+    const auto document = [&](const char* name) { return sandbox.addDocument(name); };
+    const std::string locked = document("un\\verrou.SLDPRT");
+    const std::string readOnly = document("lecture.SLDPRT");
     SetFileAttributesW(wide(readOnly).c_str(), FILE_ATTRIBUTE_READONLY);
     startOn("\xEF\xBB\xBFrefus\xC3\xA9.SLDPRT;refuse=65536\r\n\n fois.SLDPRT ; refuse=0:1\n" +
             locked + ";save=16\nincomplet.SLDASM;error=2, warning=33\nOUVERT.SLDPRT;open");
     const std::vector<std::pair<std::string, std::string>> expected = {
-        {sandbox.addDocument("refus\xC3\xA9.SLDPRT"), "65536/0/rien"},
-        {sandbox.addDocument("fois.SLDPRT"), "0/0/rien"},
-        {sandbox.addDocument("fois.SLDPRT"), "0/0/0"},
-        {sandbox.addDocument("fois.SLDPRT"), "0/128/0"},
-        {sandbox.addDocument("un\\fois.SLDPRT"), "65536/0/rien"},
+        {document("refus\xC3\xA9.SLDPRT"), "65536/0/rien"},
+        {document("fois.SLDPRT"), "0/0/rien"},
+        {document("fois.SLDPRT"), "0/0/0"},
+        {document("fois.SLDPRT"), "0/128/0"},
+        {document("un\\fois.SLDPRT"), "65536/0/rien"},
         {locked, "0/0/16"},
-        {sandbox.addDocument("incomplet.SLDASM"), "2/33/0"},
-        {users, "0/128/0"},
+        {document("incomplet.SLDASM"), "2/33/0"},
+        {document("deux\\ouvert.SLDPRT"), "0/128/0"},
         {readOnly, "0/2/2"},
         {"absent.SLDPRT", "2/0/rien"},
-        {sandbox.addDocument("autre.txt"), "1024/0/rien"},
+        {document("autre.txt"), "1024/0/rien"},
     };
     for (const auto& [path, answers] : expected) EXPECT_EQ(answersFor(path), answers) << path;
 }

@@ -1,7 +1,5 @@
 #include "fakes/fake_automation.h"
 
-#include "common/runtime_error.h"
-
 namespace {
 
 struct ArgumentText {

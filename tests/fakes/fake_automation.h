@@ -2,9 +2,6 @@
 
 #include <functional>
 #include <map>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include "fakes/fake_services.h"
 #include "fakes/fake_waiting.h"

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <string>
-#include <vector>
 
 #include "resume/existing_list_window.h"
 #include "selection/selection_window.h"

@@ -1,9 +1,6 @@
 #include "fakes/fake_files.h"
 
-#include <functional>
-
 #include "common/encoding.h"
-#include "common/runtime_error.h"
 #include "rules/windows_files.h"
 
 namespace {

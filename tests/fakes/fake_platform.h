@@ -1,14 +1,8 @@
 #pragma once
 
-#include <memory>
-#include <utility>
-
 #include "fakes/fake_automation.h"
 #include "fakes/fake_files.h"
-#include "fakes/fake_services.h"
-#include "fakes/fake_waiting.h"
 #include "fakes/fake_window.h"
-#include "ports/machine.h"
 #include "storage/program_files.h"
 #include "storage/window_places.h"
 

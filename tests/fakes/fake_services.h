@@ -3,12 +3,9 @@
 #include <deque>
 #include <functional>
 #include <map>
-#include <optional>
 #include <stdexcept>
-#include <string>
 #include <tuple>
 #include <utility>
-#include <vector>
 
 #include "common/text.h"
 #include "ports/dialogs.h"

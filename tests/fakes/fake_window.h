@@ -2,12 +2,8 @@
 
 #include <algorithm>
 #include <map>
-#include <memory>
 #include <set>
-#include <string>
-#include <vector>
 
-#include "ports/controls.h"
 #include "ports/window.h"
 
 /// What every fake control can do; what a test looks at is public.

@@ -8,7 +8,6 @@
 #include "contract/win32/real_windows.h"
 #include "fakes/fake_services.h"
 #include "fakes/fake_waiting.h"
-#include "rules/patience.h"
 #include "win32/window/waiting.h"
 
 namespace {

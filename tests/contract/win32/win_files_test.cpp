@@ -82,27 +82,18 @@ TEST_F(WinFilesTest, TellsWhatIsWrongWithAPath) {
     EXPECT_EQ(raised([&] { namesIn(path(L"fichier")); }), 76);
 }
 
-TEST_F(WinFilesTest, TakesPathsOfAnyLength) {
+TEST_F(WinFilesTest, TakesPathsOfAnyLengthAndNamesThatEndWithADotOrABlank) {
     std::wstring deep = directory;
-    for (int i = 0; i < 8; ++i) {
-        deep += L'\\' + std::wstring(60, L'a');
-        machine->addDirectory(deep);
-    }
-    ASSERT_GT(deep.size(), 480U);
-    files.replaceText(deep + L"\\f.SLDPRT", L"contenu");
-    EXPECT_EQ(files.readText(deep + L"\\f.SLDPRT"), L"contenu");
-    EXPECT_EQ(namesIn(deep), Texts{L"f.SLDPRT"});
-    EXPECT_FALSE(files.identify(deep) == files.identify(directory));
-}
-
-TEST_F(WinFilesTest, TakesNamesThatEndWithADotOrABlank) {
-    machine->addDirectory(path(L"etc."));
+    for (int i = 0; i < 8; ++i) machine->addDirectory(deep += L'\\' + std::wstring(60, L'a'));
     machine->addDirectory(path(L"etc"));
-    files.replaceText(path(L"etc.\\fin ."), L"contenu");
-    EXPECT_EQ(files.readText(path(L"etc.\\fin .")), L"contenu");
-    EXPECT_EQ(namesIn(path(L"etc.")), Texts{L"fin ."});
-    EXPECT_EQ(namesIn(path(L"etc")), Texts());
-    EXPECT_FALSE(files.identify(path(L"etc.")) == files.identify(path(L"etc")));
+    machine->addDirectory(path(L"etc."));
+    for (const std::wstring& where : {deep, path(L"etc.")}) {
+        files.replaceText(where + L"\\fin .", L"contenu");
+        EXPECT_EQ(files.readText(where + L"\\fin ."), L"contenu");
+        EXPECT_EQ(namesIn(where), Texts{L"fin ."});
+        EXPECT_EQ(namesIn(path(L"etc")), Texts());
+        EXPECT_FALSE(files.identify(where) == files.identify(path(L"etc")));
+    }
 }
 
 // Whoever put it there: it must not take all memory at a start.

@@ -1,11 +1,8 @@
 #include "win32/process/win_machine.h"
 
-#include <windows.h>
-
 #include "contract/machine.h"
 #include "contract/win32/real_windows.h"
 #include "rules/windows_files.h"
-#include "win32/files/win_files.h"
 #include "win32/files/win_written_files.h"
 
 namespace {

@@ -3,8 +3,6 @@
 
 #include <windows.h>
 
-#include <array>
-
 #include "common/encoding.h"
 #include "contract/contract_ids.h"
 #include "contract/machine.h"

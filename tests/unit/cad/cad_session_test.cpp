@@ -8,10 +8,9 @@
 namespace {
 
 constexpr wchar_t kPath[] = L"c:\\été\\a.SLDPRT";
-using Rebuild = LoadingOptions::Rebuild;
 
 struct CadSessionTest : testing::Test {
-    void attach() {
+    void SetUp() override {
         EXPECT_TRUE(session.attach(automation));
         session.identify();
         automation.takeJournal();
@@ -31,7 +30,6 @@ TEST_F(CadSessionTest, KeepsThePathThatTheServerChanges) {
         *std::get<std::int16_t*>(arguments[1]) = 3;
         return ObjectPtr();
     };
-    attach();
     session.open(kPath, {}, remark);
     EXPECT_TRUE(session.hasOpen(kPath));
     EXPECT_EQ(automation.journal[1], L"ActivateDoc2(&\"c:\\été\\a.SLDPRT\", True, &0:i4)");
@@ -39,12 +37,9 @@ TEST_F(CadSessionTest, KeepsThePathThatTheServerChanges) {
 
 TEST_F(CadSessionTest, FailuresNameTheDocument) {
     automation.documents[L"a.SLDPRT"].opens = false;
-    attach();
     const std::function<void()> calls[] = {
-        [&] { session.open(kPath, {.rebuild = Rebuild::TopLevel}, remark); },
-        [&] { session.save(); },
-        [&] { session.bringForward(); },
-    };
+        [&] { session.open(kPath, {.rebuild = LoadingOptions::Rebuild::TopLevel}, remark); },
+        [&] { session.save(); }, [&] { session.bringForward(); }};
     for (const auto& call : calls) {
         const RuntimeError error = raisedError(call);
         EXPECT_EQ(error.number, 91);

@@ -56,15 +56,12 @@ struct EventGateTest : testing::Test {
 }  // namespace
 
 TEST_F(EventGateTest, RunsOneHandlerAtATimeUnderTheHourglass) {
-    Pointer busy{};
     sink.handlers[1] = [&] {
-        busy = keeper.pointer;
-        click(2);
-        click(3);
+        EXPECT_EQ(keeper.pointer, Pointer::Wait);
+        for (const int id : {2, 3}) click(id);
         EXPECT_EQ(sink.raised, std::vector{1});
     };
     click(1);
-    EXPECT_EQ(busy, Pointer::Wait);
     EXPECT_EQ(sink.raised, (std::vector{1, 2, 3}));
     EXPECT_EQ(keeper.pointer, Pointer::Arrow);
 }
@@ -93,11 +90,10 @@ TEST_F(EventGateTest, MakesANewerSearchOnceAndNoneThatWasStopped) {
     EXPECT_EQ(handledAfterSearch([&] { typeAndChoose(), stop(); }), std::vector{1});
     EXPECT_EQ(handledAfterSearch([&] { click(3), stop(), click(4); }), (std::vector{1, 4}));
     FakeSink another;
-    const auto closeAnother = [&] { gate.deliver(another, kTheWindow, Event::Close, source); };
-    EXPECT_EQ(handledAfterSearch(closeAnother), std::vector{1});
+    const auto close = [&](FakeSink& of) { gate.deliver(of, kTheWindow, Event::Close, source); };
+    EXPECT_EQ(handledAfterSearch([&] { close(another); }), std::vector{1});
     EXPECT_EQ(another.raised, std::vector{kTheWindow});
-    const auto closeThis = [&] { gate.deliver(sink, kTheWindow, Event::Close, source); };
-    handledAfterSearch([&] { closeThis(), judge.searchGoesOn(); });
+    handledAfterSearch([&] { close(sink), judge.searchGoesOn(); });
     expectEnd(0);
 }
 

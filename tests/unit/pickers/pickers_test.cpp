@@ -4,8 +4,6 @@
 #include "fakes/fake_waiting.h"
 #include "fakes/fake_window.h"
 #include "pickers/paths.h"
-#include "ports/search.h"
-#include "ports/window.h"
 #include "unit/unit_test.h"
 
 TEST(DirectoryPicker, ShowsAndOpensAncestorsAndSubdirectories) {

@@ -2,7 +2,6 @@
 
 #include <atomic>
 #include <latch>
-#include <mutex>
 #include <random>
 #include <thread>
 
@@ -10,7 +9,6 @@
 #include "fakes/fake_waiting.h"
 #include "pickers/in_parallel.h"
 #include "pickers/read_ahead.h"
-#include "ports/search.h"
 #include "rules/windows_files.h"
 #include "unit/unit_test.h"
 
@@ -219,10 +217,9 @@ TEST(InParallel, DoesEachJobOnceAndTellsOfTheFirstThatFails) {
 namespace {
 
 /// Reads a directory: these are in it, those that end with an arrow as links.
-void read(ReadingPlan& plan, TreeDirectory& directory, const std::vector<std::wstring>& names) {
-    for (const std::wstring& name : names) {
-        directory.contents.subdirectories.push_back({name, name.ends_with(L'>')});
-    }
+void read(ReadingPlan& plan, TreeDirectory& directory, const Texts& names) {
+    auto& below = directory.contents.subdirectories;
+    for (const std::wstring& name : names) below.push_back({name, name.ends_with(L'>')});
     plan.finish(directory);
 }
 
@@ -230,19 +227,6 @@ TreeDirectory& next(ReadingPlan& plan, TreeDirectory* awaited = nullptr) {
     EXPECT_TRUE(plan.hasNext(awaited));
     return *plan.next(awaited);
 }
-
-/// A plan in which as many directories wait as may.
-struct FullPlan : testing::Test {
-    FullPlan() {
-        read(plan, next(plan), std::vector<std::wstring>(3000, L"d"));
-        plan.meet(plan.root());
-        slow = &next(plan);
-        for (std::size_t i = 0; i < ReadingPlan::kMostWaiting; ++i) read(plan, next(plan), {});
-    }
-
-    ReadingPlan plan{L"c:\\r", true};
-    TreeDirectory* slow = nullptr;  ///< the first of all, not yet read
-};
 
 }  // namespace
 
@@ -263,21 +247,27 @@ TEST(ReadingPlan, ReadsFirstWhatTheWalkMeetsFirst) {
     EXPECT_EQ(next(plan, &plan.subdirectory(plan.root(), 2)).path, L"c:\\r\\c>");
 }
 
-TEST_F(FullPlan, LetsTheWalkCatchUp) {
-    EXPECT_EQ(plan.next(nullptr), nullptr);
-    read(plan, *slow, {});
-    for (std::size_t i = 0; i <= ReadingPlan::kMostWaiting / 2; ++i) {
+TEST(ReadingPlan, ThatIsFullLetsTheWalkCatchUpButReadsWhatItMeetsBefore) {
+    for (const bool catchesUp : {true, false}) {
+        ReadingPlan plan(L"c:\\r", true);
+        read(plan, next(plan), Texts(3000, L"d"));
+        plan.meet(plan.root());
+        TreeDirectory& slow = next(plan);
+        for (std::size_t i = 0; i < ReadingPlan::kMostWaiting; ++i) read(plan, next(plan), {});
         EXPECT_EQ(plan.next(nullptr), nullptr);
-        plan.meet(plan.subdirectory(plan.root(), i));
+        read(plan, slow, catchesUp ? Texts() : Texts{L"a", L"b"});
+        for (std::size_t i = 0; catchesUp && i <= ReadingPlan::kMostWaiting / 2; ++i) {
+            EXPECT_EQ(plan.next(nullptr), nullptr);
+            plan.meet(plan.subdirectory(plan.root(), i));
+        }
+        if (catchesUp) {
+            EXPECT_EQ(next(plan).index, ReadingPlan::kMostWaiting + 1);
+            continue;
+        }
+        plan.meet(slow);
+        TreeDirectory& a = next(plan, &plan.subdirectory(slow, 0));
+        EXPECT_EQ(a.path, L"c:\\r\\d\\a");
+        EXPECT_EQ(next(plan).path, L"c:\\r\\d\\b");
+        EXPECT_EQ(plan.next(&a), nullptr);
     }
-    EXPECT_EQ(next(plan).index, ReadingPlan::kMostWaiting + 1);
-}
-
-TEST_F(FullPlan, StillReadsWhatTheWalkMeetsBeforeAllThatWait) {
-    read(plan, *slow, {L"a", L"b"});
-    plan.meet(*slow);
-    TreeDirectory& a = next(plan, &plan.subdirectory(*slow, 0));
-    EXPECT_EQ(a.path, L"c:\\r\\d\\a");
-    EXPECT_EQ(next(plan).path, L"c:\\r\\d\\b");
-    EXPECT_EQ(plan.next(&a), nullptr);
 }

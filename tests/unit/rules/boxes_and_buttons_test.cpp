@@ -2,13 +2,11 @@
 
 #include "rules/boxes_and_buttons.h"
 
-#include "ports/dialogs.h"
 #include "unit/unit_test.h"
 
 namespace {
 
 using Answer = MessageBoxes::Answer;
-
 using Told = std::vector<ButtonProgress>;
 
 struct FakeButton : TaskbarButton {
@@ -31,7 +29,7 @@ TEST(MessageBoxTexts, KeepQuotesOnTheLineOfWhatTheyQuote) {
     EXPECT_EQ(withBoundQuotes(L"« Oui » « Non »« "), L"«\u00A0Oui\u00A0» «\u00A0Non\u00A0»«\u00A0");
 }
 
-TEST(TaskbarProgress, IsToldOnceTheButtonIsThere) {
+TEST(TaskbarProgress, IsToldOnceTheButtonIsThereAndHasAColourBeforeAnythingIsDone) {
     FakeButton button;
     TaskbarProgress progress(button);
     progress.set(1, 3);
@@ -41,19 +39,16 @@ TEST(TaskbarProgress, IsToldOnceTheButtonIsThere) {
     progress.set(2, 3);
     progress.onButtonMade();  // the Explorer was started again
     progress.set(0, 0);
-    EXPECT_EQ(button.told, (Told{{1, 3}, {2, 3}, {2, 3}, {0, 0}}));
-}
-
-TEST(TaskbarProgress, HasAColourThatIsSeenBeforeAnythingIsDone) {
-    FakeButton button;
-    TaskbarProgress progress(button);
-    progress.onButtonMade();
     progress.set(0, 25);
     progress.set(Alert::Warning);
     progress.set(7, 25);
     progress.set(Alert::Refusal);
     progress.set(Alert::None);
-    EXPECT_EQ(button.told, (Told{{0, 25},
+    EXPECT_EQ(button.told, (Told{{1, 3},
+                                 {2, 3},
+                                 {2, 3},
+                                 {0, 0},
+                                 {0, 25},
                                  {3, 25, Alert::Warning},
                                  {7, 25, Alert::Warning},
                                  {7, 25, Alert::Refusal},

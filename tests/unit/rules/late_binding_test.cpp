@@ -1,8 +1,6 @@
 #include "rules/late_binding.h"
 
 #include "fakes/fake_automation.h"
-#include "fakes/fake_services.h"
-#include "fakes/fake_waiting.h"
 #include "storage/program_files.h"
 #include "unit/unit_test.h"
 
@@ -107,17 +105,15 @@ TEST_F(LateBindingTest, WaitsForARunningObjectThatIsBusy) {
     EXPECT_EQ(boxes.shown.size(), 1U);
 }
 
-TEST(AutomationResult, BecomesTextWhenItIsOneOrEmpty) {
+TEST(AutomationResult, BecomesTextWhenItIsOneOrEmptyAndIsTrueWithAllBitsSetOnly) {
     EXPECT_EQ(textOf(Value(std::wstring(L"12.0"))), L"12.0");
     EXPECT_EQ(textOf(Value()), L"");
-    EXPECT_EQ(raised([] { textOf(Value(true)); }), 13);
-    EXPECT_EQ(raised([] { textOf(Value(ObjectPtr())); }), 13);
-}
-
-TEST(AutomationResult, IsTrueWithAllBitsSetOnly) {
-    EXPECT_TRUE(isTrue(true));
-    EXPECT_TRUE(isTrue(std::int16_t{-1}));
-    EXPECT_TRUE(isTrue(std::int32_t{-1}));
+    for (const Value& other : {Value(true), Value(ObjectPtr())}) {
+        EXPECT_EQ(raised([&] { textOf(other); }), 13);
+    }
+    for (const Value& all : {Value(true), Value(std::int16_t{-1}), Value(std::int32_t{-1})}) {
+        EXPECT_TRUE(isTrue(all)) << all.index();
+    }
     for (const Value& other : {Value(false), Value(std::int16_t{1}), Value(std::int32_t{1}),
                                Value(), Value(std::wstring(L"True"))}) {
         EXPECT_FALSE(isTrue(other)) << other.index();

@@ -1,4 +1,3 @@
-#include "rules/patience.h"
 
 #include "fakes/fake_services.h"
 #include "fakes/fake_waiting.h"

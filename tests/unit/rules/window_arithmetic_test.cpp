@@ -1,8 +1,7 @@
 // Where windows and their controls stand, on plain numbers.
 
-#include <gtest/gtest.h>
-
 #include "rules/placement.h"
+#include "unit/unit_test.h"
 
 namespace {
 
@@ -41,17 +40,6 @@ TEST(ControlLayout, MeasuresByTheFontInUse) {
     EXPECT_EQ(layout.templateClient(), (Size{600, 600}));
     EXPECT_EQ(layout.smallestClient(), (Size{591, 574}));
     EXPECT_EQ(layout.arranged({610, 600}).front(), (Area{25, 40, 115, 80}));
-}
-
-TEST(InSight, MovesAWindowNoFurtherThanItMust) {
-    const Area above{0, -1200, 1600, -40};
-    const std::pair<Area, Area> cases[] = {
-        {{100, -600, 500, -100}, {100, -600, 500, -100}},
-        {{-5, -1201, 395, -701}, {0, -1200, 400, -700}},
-        {{1500, -100, 1900, 400}, {1200, -540, 1600, -40}},
-        {{200, -900, 1900, 900}, {0, -1200, 1600, -40}},
-    };
-    for (const auto& [place, seen] : cases) EXPECT_EQ(inSight(place, above), seen);
 }
 
 TEST(InSight, FindsThePlaceOfAMinimisedWindow) {

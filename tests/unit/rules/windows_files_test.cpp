@@ -3,7 +3,6 @@
 
 #include "rules/windows_files.h"
 
-#include "ports/files.h"
 #include "unit/unit_test.h"
 
 using namespace windows_error;
@@ -90,39 +89,32 @@ TEST(FileReplacement, LeavesTheOldFileOrWaitsTwoSecondsForAnotherProgram) {
     }
 }
 
-TEST(DirectoryEntry, LeavesOutHiddenFilesAndWhatTheExplorerKeepsToItself) {
+// Tags as Windows gives them to directories; they count only with the attribute.
+TEST(DirectoryEntry, IsWhatItsAttributesAndTagSay) {
     using namespace attribute;
-    constexpr std::uint32_t kBoth = kHidden | kSystem;
-    for (const auto& [attributes, leftOut] : {std::pair(kSystem, false),
-                                              {kHidden, true},
-                                              {kBoth, true},
-                                              {kDirectory | kSystem, false},
-                                              {kDirectory | kHidden, false},
-                                              {kDirectory | kBoth, true}}) {
-        const DirectoryEntry entry = directoryEntry(L"nom", attributes, 0);
+    constexpr std::uint32_t kBoth = kHidden | kSystem, kReparse = kDirectory | kReparsePoint;
+    const std::tuple<std::uint32_t, std::uint32_t, bool, bool> cases[] = {
+        {kSystem, 0, false, false},
+        {kHidden, 0, true, false},
+        {kBoth, 0, true, false},
+        {kDirectory | kSystem, 0, false, false},
+        {kDirectory | kHidden, 0, false, false},
+        {kDirectory | kBoth, 0, true, false},
+        {kReparse, kMountPointTag, false, true},  // junction, mounted folder
+        {kDirectory, kMountPointTag, false, false},
+        {kReparse, 0xA000000C, false, true},   // symbolic link
+        {kReparse, 0x9000001A, false, false},  // in a cloud
+        {kReparse, 0x80000013, false, false},  // deduplicated
+    };
+    for (const auto& [attributes, tag, leftOut, link] : cases) {
+        const DirectoryEntry entry = directoryEntry(L"nom", attributes, tag);
         EXPECT_EQ(entry.isLeftOut, leftOut) << attributes;
+        EXPECT_EQ(entry.isLink, link) << attributes << ' ' << tag;
         EXPECT_EQ(entry.isDirectory, (attributes & kDirectory) != 0) << attributes;
     }
 }
 
-// Tags as Windows gives them to directories.
-TEST(DirectoryEntry, IsALinkWhenItsTagStandsForAnotherName) {
-    using namespace attribute;
-    const std::pair<std::uint32_t, bool> cases[] = {
-        {kMountPointTag, true},  // junction, mounted folder
-        {0xA000000C, true},      // symbolic link
-        {0x9000001A, false},     // in a cloud
-        {0x80000013, false},     // deduplicated
-    };
-    for (const auto& [tag, link] : cases) {
-        EXPECT_EQ(directoryEntry(L"nom", kDirectory | kReparsePoint, tag).isLink, link) << tag;
-        EXPECT_FALSE(directoryEntry(L"nom", kDirectory, tag).isLink)
-            << tag << ": no such attribute";
-    }
-}
-
 TEST(LongPath, IsTheFormThatWindowsTakesAtAnyLength) {
-    EXPECT_EQ(longPath(L"c:\\plans\\a"), L"\\\\?\\c:\\plans\\a");
     EXPECT_EQ(longPath(L"c:/plans\\\\a"), L"\\\\?\\c:\\plans\\a");
     EXPECT_EQ(longPath(L"\\\\serveur\\partage\\\\a"), L"\\\\?\\UNC\\serveur\\partage\\a");
     for (const wchar_t* other :

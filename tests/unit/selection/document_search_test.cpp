@@ -1,7 +1,6 @@
 #include "selection/document_search.h"
 
 #include "fakes/fake_files.h"
-#include "ports/search.h"
 #include "rules/windows_files.h"
 #include "unit/unit_test.h"
 

@@ -1,4 +1,3 @@
-#include "selection/document_search.h"
 #include "unit/selection/selection_window_fixture.h"
 
 namespace {

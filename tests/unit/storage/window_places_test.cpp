@@ -1,3 +1,4 @@
+
 #include "storage/window_places.h"
 
 #include "fakes/fake_services.h"
@@ -35,6 +36,7 @@ struct WindowPlacesTest : testing::Test, EventSink {
 const FakeMonitor kPlain{.area = {0, 0, 1920, 1080}, .work = {0, 0, 1920, 1040}};
 const FakeMonitor kFine{
     .area = {1920, -300, 5760, 1860}, .work = {1920, -300, 5760, 1780}, .dpi = 192};
+const FakeMonitor kAbove{.area = {0, -1'200, 1'600, -40}};
 const FakeMonitor kSmall{.area = {0, 0, 1280, 1024}, .work = {0, 40, 1280, 1024}, .dpi = 144};
 
 }  // namespace
@@ -90,6 +92,7 @@ TEST_F(WindowPlacesTest, StandWholeInTheNearestWorkArea) {
         {L"30000", L"-9000", {600, 400}, kPlain, {1'320, 0, 1'920, 400}},
         {L"-75", L"15000", {600, 400}, kPlain, {0, 640, 600, 1'040}},
         {L"2964", L"1416", {1'284, 985}, kSmall, {0, 40, 1'280, 1'024}},
+        {L"-75", L"-18015", {400, 500}, kAbove, {0, -1'200, 400, -700}},
         {L"2964", L"1416", {1'284, 400}, kSmall, {0, 142, 1'280, 542}},
     };
     for (const auto& [left, top, size, monitor, place] : cases) {

@@ -37,7 +37,12 @@ TEST_F(Display, DepthHidesLevelsOfAllLines) {
     const Texts whole = list().texts();
     const Texts oneLevel = {L"0001   EnCours  C:\\..\\B\\f", L"0002   Fait          ",
                             L"0003   Vu            C:\\..\\h"};
-    clickAll({IDC_FORM3_CMDPLUS1, IDC_FORM3_CMDPLUS1, IDC_FORM3_CMDMOINS1});
+    for (int i = 0; i < 10; ++i) click(IDC_FORM3_CMDPLUS1);
+    EXPECT_EQ(text(IDC_FORM3_NNIVEAU1), L"9");
+    for (int i = 0; i < 10; ++i) click(IDC_FORM3_CMDMOINS1);
+    EXPECT_EQ(text(IDC_FORM3_NNIVEAU1), L"0");
+    EXPECT_EQ(list().texts(), whole);
+    click(IDC_FORM3_CMDPLUS1);
     EXPECT_EQ(text(IDC_FORM3_NNIVEAU1), L"1");
     EXPECT_EQ(list().texts(), oneLevel);
     click(IDC_FORM3_CMDSUIV);

@@ -20,6 +20,11 @@ const struct {
     {{}, L"+s-", "1", L""},
     {{.opens = false}, L"+", "0", L"Non ouvert : document non rendu (91)"},
     {{.fails = L"OpenDoc6"}, L"+", "0", L"Non ouvert : l'appel a échoué (440)"},
+    {{.errorCode = 2, .fails = L"ForceRebuild3"}, L"+-", "0", L"Non ouvert : l'appel a échoué"},
+    {{.opens = false, .errorCode = 2, .warningCode = 2},
+     L"+",
+     "0",
+     L"Non ouvert : fichier ou composant introuvable (2) | Lecture seule (2)"},
 };
 
 struct LongPass : TrackingFixture {
@@ -27,6 +32,7 @@ struct LongPass : TrackingFixture {
     void goThrough(int count) {
         switchOn(L"passerrefus");
         switchOn(L"laisserouverts");
+        machine.settings.write(L"tarnwick", L"startup", L"regcheck", L"1110");
         std::wstring text;
         for (int i = 0; i < count; ++i) {
             const std::wstring name = std::to_wstring(i);
@@ -55,6 +61,7 @@ TEST_F(LongPass, OfTwoThousandDocumentsGoesAsEachOfThemSays) {
         EXPECT_EQ(work().lines[i].code.text(), way(i).code) << i;
         EXPECT_TRUE(remark(i).starts_with(way(i).remark)) << i;
         EXPECT_EQ(remark(i).empty(), !*way(i).remark) << i;
+        EXPECT_EQ(work().lines[i].history.secondsOpen >= 0, *way(i).code == '1') << i;
     }
     EXPECT_EQ(calls(), expected);
 }

@@ -66,27 +66,23 @@ TEST_F(Refusals, AreMetByEachMarkAtEachCommand) {
 
 TEST_F(Refusals, ArePassedOverToTheEndOfTheDirection) {
     switchOn(L"passerrefus");
-    const struct {
-        const wchar_t *states, *refused, *loading;
-        std::vector<int> buttons;
-        const wchar_t* after;
-    } cases[] = {
+    constexpr int kSee = IDC_FORM3_CMDSUIVQUITTER, kSkip = IDC_FORM3_CMDSUIVSAUTER;
+    constexpr int kBack = IDC_FORM3_CMDPRECEDENT;
+    // The list, the refused documents, the calls of the load, the buttons, and what is after them.
+    using Text = const wchar_t*;
+    const std::tuple<Text, Text, Text, std::vector<int>, Text> cases[] = {
         {L"000", L"ab", L"+a+b+c", {}, L" | 0 0 3 | 2: 3/3 c:\\c"},  // the last line, too
         {L"000", L"abc", L"+a+b+c", {}, L" | 0 0 0 | 3: 3/3 Aucun"},
-        {L"0000", L"bcd", L"+a", {IDC_FORM3_CMDSUIVQUITTER}, L"-a+b+c+d | 2 0 0 0 | 4: 4/4 Aucun"},
-        {L"00000",
-         L"bc",
-         L"+a",
-         {IDC_FORM3_CMDSUIVSAUTER, IDC_FORM3_CMDPRECEDENT},
-         L"-a+b+c+d-d-d+c+b+a | 3 0 0 0 0 | 0: 1/5 c:\\a"},
-        {L"0100", L"a", L"+a+c", {IDC_FORM3_CMDPRECEDENT}, L"-c-c+a | 0 1 0 0 | -1: 1/4 aucun"},
+        {L"0000", L"bcd", L"+a", {kSee}, L"-a+b+c+d | 2 0 0 0 | 4: 4/4 Aucun"},
+        {L"0000", L"bc", L"+a", {kSkip, kBack}, L"-a+b+c+d-d-d+c+b+a | 3 0 0 0 | 0: 1/4 c:\\a"},
+        {L"0100", L"a", L"+a+c", {kBack}, L"-c-c+a | 0 1 0 0 | -1: 1/4 aucun"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.after);
+    for (const auto& [codes, refused, loading, buttons, outcome] : cases) {
+        SCOPED_TRACE(outcome);
         machine.automation.documents.clear();
-        refuse(c.refused);
-        EXPECT_EQ(loadStates(c.states), c.loading);
-        EXPECT_EQ(after(c.buttons), c.after);
+        refuse(refused);
+        EXPECT_EQ(loadStates(codes), loading);
+        EXPECT_EQ(after(buttons), outcome);
         EXPECT_EQ(canAdvance(), !has(shown(), L"Aucun"));
         EXPECT_EQ(canStepBack(), !has(shown(), L"aucun"));
         EXPECT_EQ(machine.boxes.takeTexts(), Texts());
@@ -100,32 +96,8 @@ TEST_F(Refusals, ArePassedOverToTheEndOfTheDirection) {
     }
 }
 
-TEST_F(Refusals, OfEachKindAreNotOpenAndCloseWhatWasGiven) {
+TEST_F(Refusals, CloseWhatWasGivenAndEndTheProgramWhenTheSessionIsLostOrTheMarkIsOff) {
     switchOn(L"passerrefus");
-    const struct {
-        FakeDocument said;
-        const wchar_t *calls, *remark;
-    } cases[] = {
-        {{.opens = false}, L"-a+b+c", L"Non ouvert : document non rendu (91)"},
-        {{.opens = false, .errorCode = 2, .warningCode = 2},
-         L"-a+b+c",
-         L"Non ouvert : fichier ou composant introuvable (2) | Lecture seule (2)"},
-        {{.fails = L"OpenDoc6"}, L"-a+b+c", L"Non ouvert : l'appel a échoué (440)"},
-        {{.fails = L"ActivateDoc2"}, L"-a+b-b+c", L"Non ouvert : l'appel a échoué (440)"},
-        {{.errorCode = 2, .fails = L"ForceRebuild3"},
-         L"-a+b-b+c",
-         L"Non ouvert : l'appel a échoué (440)"},
-    };
-    for (const auto& c : cases) {
-        loadStates(L"000");
-        document(L"b") = c.said;
-        tickOptions(L"1110");
-        EXPECT_EQ(after({IDC_FORM3_CMDSUIVSAUTER}),
-                  c.calls + std::wstring(L" | 0 0 3 | 2: 3/3 c:\\c"));
-        EXPECT_EQ(remark(1), c.remark);
-        EXPECT_EQ(work().lines[1].history.secondsOpen, -1);
-    }
-    machine.automation.documents.clear();
     machine.automation.overrides[L"ActivateDoc2"] = [](auto) -> Value { return ObjectPtr(); };
     EXPECT_EQ(loadStates(L"00"), L"+a-a+b-b");
     EXPECT_EQ(remark(0), L"Non ouvert : document non rendu (91)");

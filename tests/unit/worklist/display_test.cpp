@@ -1,7 +1,6 @@
 // What a user reads of a list: its lines, the report, the time that is left.
 
 #include "fakes/fake_services.h"
-#include "fakes/fake_window.h"
 #include "tracking/alone_window.h"
 #include "unit/unit_test.h"
 #include "worklist/list_display.h"
@@ -29,19 +28,6 @@ TEST(StateLabels, BelongToExactCodes) {
             EXPECT_EQ(labelOf(StateCode(code)).value_or(L"none"), label) << code;
         }
     }
-}
-
-TEST(DisplayDepth, StaysBetweenNoughtAndNine) {
-    FakeControl label;
-    DisplayDepth depth(label);
-    depth.reset();
-    EXPECT_FALSE(depth.hideOneLess());
-    EXPECT_EQ(label.content, L"0");
-    for (int i = 0; i < 9; ++i) EXPECT_TRUE(depth.hideOneMore());
-    EXPECT_FALSE(depth.hideOneMore());
-    EXPECT_EQ(label.content, L"9");
-    EXPECT_TRUE(depth.hideOneLess());
-    EXPECT_EQ(depth.levels(), 8);
 }
 
 TEST(shortPath, HidesTheFirstLevels) {

@@ -1,6 +1,4 @@
-#include "worklist/kept_marks.h"
 
-#include <array>
 #include <random>
 
 #include "common/bytes.h"
@@ -31,11 +29,7 @@ struct KeptMarks : PassFixture {
     }
 
     void advance(LineState mark, Saved saved = Saved::Unknown) {
-        if (pass->advance(mark, saved)) {
-            open();
-        } else {
-            keeper->keep(pass->list());
-        }
+        pass->advance(mark, saved) ? open() : keeper->keep(pass->list());
     }
 
     std::string record() { return files.contents[kRecord]; }
@@ -43,18 +37,15 @@ struct KeptMarks : PassFixture {
 
     /// What a next run reads of these bytes.
     std::optional<KeptState> read(const std::string& bytes) {
-        Pass next(clock);
-        next.read(listFile);
-        return readKeptMarks(bytes, ContentIdentity(listFile),
-                             static_cast<std::size_t>(next.list().lineCount()));
+        const auto lines = std::ranges::count(listFile, '\n');
+        return readKeptMarks(bytes, ContentIdentity(listFile), static_cast<std::size_t>(lines));
     }
 
     /// A next run that takes over what was kept.
     Pass nextRun() {
         Pass next(clock);
         next.read(listFile);
-        const auto kept = hasRecord() ? read(record()) : std::nullopt;
-        if (kept) next.restore(*kept);
+        if (const auto kept = read(record())) next.restore(*kept);
         return next;
     }
 
@@ -137,11 +128,12 @@ TEST_F(KeptMarks, GiveBackTheWorkOfAnyCommands) {
         [&] { pass->reset(some); },
         [&] { pass->change(some, LineState::Done); },
     };
-    const std::array kinds{"3", "12", "x"};
+    const std::vector<const char*> kinds{"3", "12", "x"};
     for (int step = 0; step < 16000; ++step) {
         if (step % 40 == 0) {
             std::vector<std::string> codes;
-            for (int i = upTo(16); i >= 0; --i) codes.push_back(i % 4 ? "0" : kinds[upTo(2)]);
+            for (int i = upTo(16); i >= 0; --i)
+                codes.push_back(i % 4 ? "0" : kinds[static_cast<std::size_t>(upTo(2))]);
             begin(listOf(codes));
         }
         clock.seconds += 7;
@@ -276,11 +268,9 @@ TEST_F(KeptMarks, OfALongPassTakeLessThanTwiceTheList) {
     std::size_t largest = 0;
     for (int i = 0; i < kLines + 40; ++i) {
         clock.seconds += 61;
-        if (i < kLines)
-            advance(i % 3 == 0 ? LineState::Seen : LineState::Done, Saved::Yes);
-        else
-            pass->change([](int line) { return line % 2 == 0; },
-                         i % 2 ? LineState::Done : LineState::Seen);
+        const LineState mark = i % 3 == 0 ? LineState::Seen : LineState::Done;
+        const auto everyOther = [](int line) { return line % 2 == 0; };
+        i < kLines ? advance(mark, Saved::Yes) : void(pass->change(everyOther, mark));
         keeper->keep(pass->list());
         largest = std::max(largest, record().size());
     }

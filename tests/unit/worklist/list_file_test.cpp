@@ -14,37 +14,34 @@ std::string linesToDo(int count) {
 
 TEST(ListFile, EachLineIsACodeAndAPath) {
     using std::string_literals::operator""s;
-    const struct {
-        std::string line, code, path;
-        bool reload = false;
-    } cases[] = {
-        {"0  c:\\a b.SLDPRT", "0", "c:\\a b.SLDPRT"},
-        {"9  c:\\f", "9", "c:\\f"},
+    const std::tuple<std::string, std::string, std::string, bool> cases[] = {
+        {"0  c:\\a b.SLDPRT", "0", "c:\\a b.SLDPRT", false},
+        {"9  c:\\f", "9", "c:\\f", false},
         {"12  c:\\f", "2", "c:\\f", true},
         {"110  c:\\f", "100", "c:\\f", true},  // three characters are taken, and not four
         {"1100  c:\\f", "100", "0  c:\\f", true},
-        {"010  c:\\f", "0", "c:\\f", true},  // a number over nine, however it is spelled
-        {"003  c:\\f", "003", "c:\\f"},      // up to nine the code stays as it is spelled
-        {" 1 c:\\f", "1", "c:\\f"},
-        {"1 0c:\\f", "1 0", "c:\\f"},
+        {"010  c:\\f", "0", "c:\\f", true},     // a number over nine, however it is spelled
+        {"003  c:\\f", "003", "c:\\f", false},  // up to nine the code stays as it is spelled
+        {" 1 c:\\f", "1", "c:\\f", false},
+        {"1 0c:\\f", "1 0", "c:\\f", false},
         {"12xc:\\f", "2", "c:\\f", true},  // the leading digits count
-        {"-5 c:\\f", "-5", "c:\\f"},
-        {"0c:\\f.SLDPRT", "0c:", "\\f.SLDPRT"},
-        {"0       c:\\f   ", "0", "c:\\f"},
-        {"0  \tc:\\f", "0", "\tc:\\f"},  // blanks are trimmed, tabs aren't
-        {"   c:\\f", "", "c:\\f"},
-        {"é€  c:\\été", "é€", "c:\\été"},  // characters count, not bytes
-        {"0  ", "0", ""},
-        {"0  a\0b"s, "0", "a\0b"s},
+        {"-5 c:\\f", "-5", "c:\\f", false},
+        {"0c:\\f.SLDPRT", "0c:", "\\f.SLDPRT", false},
+        {"0       c:\\f   ", "0", "c:\\f", false},
+        {"0  \tc:\\f", "0", "\tc:\\f", false},  // blanks are trimmed, tabs aren't
+        {"   c:\\f", "", "c:\\f", false},
+        {"é€  c:\\été", "é€", "c:\\été", false},  // characters count, not bytes
+        {"0  ", "0", "", false},
+        {"0  a\0b"s, "0", "a\0b"s, false},
     };
-    for (const auto& c : cases) {
+    for (const auto& [line, code, path, reload] : cases) {
         WorkList list;
         list.lines.edit(0)->reload = true;
-        ASSERT_TRUE(parseListFile(c.line, list)) << c.line;
-        EXPECT_EQ(list.lines[0].code.text(), c.code) << c.line;
-        EXPECT_EQ(list.lines[0].path, c.path) << c.line;
-        EXPECT_EQ(list.lines[0].reload, c.reload) << c.line;
-        EXPECT_EQ(list.last, 0) << c.line;
+        ASSERT_TRUE(parseListFile(line, list)) << line;
+        const WorkLine& read = list.lines[0];
+        EXPECT_EQ(std::tuple(read.code.text(), read.path, read.reload, list.last),
+                  std::tuple(code, path, reload, 0))
+            << line;
     }
 }
 

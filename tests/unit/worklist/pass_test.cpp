@@ -1,99 +1,72 @@
-#include "worklist/pass.h"
 
 #include "unit/worklist/pass_fixture.h"
 
-namespace {
-
-/// A step of a pass, and what stands after it.
-struct Step {
-    const char* before;
-    std::function<bool(Pass&)> take;
-    const char* after;
-    int current;
-    bool opens;  ///< the document of the current line is to be opened
-};
-
 using Steps = PassFixture;
 
-void check(const std::vector<Step>& steps, const std::function<Pass&(const char*)>& prepare) {
-    for (const Step& step : steps) {
-        Pass& pass = prepare(step.before);
-        EXPECT_EQ(step.take(pass), step.opens) << step.before << " -> " << step.after;
-        EXPECT_EQ(codesOf(pass), step.after) << step.before;
-        EXPECT_EQ(pass.current(), step.current) << step.before << " -> " << step.after;
-    }
-}
-
-}  // namespace
-
-TEST_F(Steps, StartAtTheFirstLineToDoOrBesideAGivenOne) {
-    const auto start = [](Pass& p) { return p.start(); };
-    const auto at1 = [](Pass& p) { return p.startAt(1); };
-    const auto after1 = [](Pass& p) { return p.startAfter(1); };
-    check(
-        {
-            {"00", start, "30", 0, true},
-            {"1200", start, "1230", 2, true},
-            {"1330", start, "1300", 1, true},  // lines left in progress are to do again
-            {"1x00", start, "1x30", 2, true},
-            {"120", start, "123", 3, false},  // the last line is never opened
-            {"3", start, "3", 1, false},
-            {"12", start, "12", 2, false},
-            {"000", at1, "030", 1, true},
-            {"00", at1, "03", 1, true},
-            {"0000", after1, "0030", 2, true},
-            {"000", after1, "003", 2, true},
-            {"001", after1, "001", 3, false},
-        },
-        [&](const char* codes) -> Pass& { return begin(listOf(std::string(codes))); });
-}
-
 TEST_F(Steps, LeadFromOneLineToAnother) {
-    const auto done = [](Pass& p) { return p.advance(LineState::Done); };
-    const auto skip = [](Pass& p) { return p.advance(LineState::ToDo); };
-    const auto back = [](Pass& p) { return p.stepBack(); };
-    const auto skipAndBack = [=](Pass& p) { return skip(p) && back(p); };
-    const auto endAndBack = [=](Pass& p) { return !skip(p) && back(p); };
-    const auto noneAndOn = [=](Pass& p) { return !back(p) && done(p); };
-    check(
-        {
-            {"0012", done, "1312", 1, true},
-            {"0120", skip, "0123", 3, true},
-            {"010", back, "010", -1, false},
-            {"00", skipAndBack, "30", 0, true},
-            {"0110", skipAndBack, "3110", 0, true},
-            {"01", endAndBack, "31", 0, true},   // the search begins at the last line
-            {"100", noneAndOn, "130", 1, true},  // without a current line none is marked
-            {"120", back, "123", -1, false},     // the line in progress past the end stays
-        },
-        [&](const char* codes) -> Pass& { return started(codes); });
-}
-
-TEST_F(Steps, EditsFindTheCurrentLineAgain) {
-    const auto change = [](std::vector<int> lines) {
-        return [=](Pass& p) { return p.change(only(lines), LineState::Seen); };
+    using Step = std::function<bool(Pass&)>;
+    const auto all = [](const std::vector<Step>& steps) {
+        return [=](Pass& p) {
+            bool opens = false;
+            for (const Step& step : steps) opens = step(p);
+            return opens;
+        };
     };
-    const auto eliminate = [](LineSelected chosen, Eliminate states) {
+    const auto on = [](LineState mark) { return [=](Pass& p) { return p.advance(mark); }; };
+    const Step done = on(LineState::Done), skip = on(LineState::ToDo);
+    const Step start = [](Pass&p) { return p.start(); }, back = [](Pass&p) { return p.stepBack(); };
+    const Step at1 = [](Pass& p) { return p.startAt(1); };
+    const Step after1 = [](Pass& p) { return p.startAfter(1); };
+    const auto see = [](int line) -> Step {
+        return [=](Pass& p) { return p.change(only({line}), LineState::Seen); };
+    };
+    const auto eliminate = [](const LineSelected& chosen, Eliminate states) -> Step {
         return [=](Pass& p) { return p.eliminate(chosen, states); };
     };
-    const auto reset = [](std::vector<int> lines) {
+    const auto reset = [](const std::vector<int>& lines) -> Step {
         return [=](Pass& p) { return p.reset(only(lines)), true; };
     };
-    const auto resume = [](int line) { return [=](Pass& p) { return p.resumeAt(line); }; };
-    check(
-        {
-            {"x00", change({0}), "230", 1, true},
-            {"10200", eliminate(kAllLines, Eliminate::DoneAndSeen), "300", 0, true},
-            {"10200", eliminate(only({0, 1}), Eliminate::DoneAndSeen), "3200", 0, true},
-            {"1122", eliminate(kAllLines, Eliminate::Seen), "11", 4, false},
-            {"12", eliminate(kAllLines, Eliminate::DoneAndSeen), "", 2, false},
-            {"10200", reset({0, 2}), "30000", 0, true},
-            {"12", reset({1}), "13", 1, true},
-            {"102002", resume(2), "102302", 3, true},
-            {"102002", resume(1), "132002", 1, true},
-            {"102002", resume(5), "102002", 5, false},  // the last line, as it is
-        },
-        [&](const char* codes) -> Pass& { return started(codes); });
+    const auto resume = [](int line) -> Step { return [=](Pass& p) { return p.resumeAt(line); }; };
+    constexpr auto kBoth = Eliminate::DoneAndSeen;
+    // The codes before and after, which line is current, and whether its document is to be opened.
+    const std::tuple<const char*, Step, const char*, int, bool> cases[] = {
+        {"00", start, "30", 0, true},
+        {"1200", start, "1230", 2, true},
+        {"1330", start, "1300", 1, true},  // lines left in progress are to do again
+        {"1x00", start, "1x30", 2, true},
+        {"120", start, "123", 3, false},  // the last line is never opened
+        {"3", start, "3", 1, false},
+        {"12", start, "12", 2, false},
+        {"000", at1, "030", 1, true},
+        {"00", at1, "03", 1, true},
+        {"0000", after1, "0030", 2, true},
+        {"000", after1, "003", 2, true},
+        {"001", after1, "001", 3, false},
+        {"0012", all({start, done}), "1312", 1, true},
+        {"0120", all({start, skip}), "0123", 3, true},
+        {"010", all({start, back}), "010", -1, false},
+        {"00", all({start, skip, back}), "30", 0, true},
+        {"0110", all({start, skip, back}), "3110", 0, true},
+        {"01", all({start, skip, back}), "31", 0, true},    // the search begins at the last line
+        {"100", all({start, back, done}), "130", 1, true},  // without a current line none is marked
+        {"120", all({start, back}), "123", -1, false},  // the line in progress past the end stays
+        {"x00", all({start, see(0)}), "230", 1, true},
+        {"10200", all({start, eliminate(kAllLines, kBoth)}), "300", 0, true},
+        {"10200", all({start, eliminate(only({0, 1}), kBoth)}), "3200", 0, true},
+        {"1122", all({start, eliminate(kAllLines, Eliminate::Seen)}), "11", 4, false},
+        {"12", all({start, eliminate(kAllLines, kBoth)}), "", 2, false},
+        {"10200", all({start, reset({0, 2})}), "30000", 0, true},
+        {"12", all({start, reset({1})}), "13", 1, true},
+        {"102002", all({start, resume(2)}), "102302", 3, true},
+        {"102002", all({start, resume(1)}), "132002", 1, true},
+        {"102002", all({start, resume(5)}), "102002", 5, false},  // the last line, as it is
+    };
+    for (const auto& [before, take, codes, current, opens] : cases) {
+        Pass& begun = begin(listOf(std::string(before)));
+        EXPECT_EQ(take(begun), opens) << before << " -> " << codes;
+        EXPECT_EQ(codesOf(begun), codes) << before;
+        EXPECT_EQ(begun.current(), current) << before << " -> " << codes;
+    }
 }
 
 TEST_F(Steps, EliminatingMovesAllButTheReloadFlags) {
