@@ -7,9 +7,9 @@ TEST_F(Advance, EachButtonAndItsTwinMarkInTheirWay) {
     const struct {
         int button, twin;
         const wchar_t* after;
-    } cases[] = {{IDC_FORM3_CMDSUIV, IDC_FORM3_CMD1, L"s-a+b | 1 3 | 1: 2/2 c:\\b"},
-                 {IDC_FORM3_CMDSUIVQUITTER, IDC_FORM3_CMD2, L"-a+b | 2 3 | 1: 2/2 c:\\b"},
-                 {IDC_FORM3_CMDSUIVSAUTER, IDC_FORM3_CMD3, L"-a+b | 0 3 | 1: 2/2 c:\\b"}};
+    } cases[] = {{kSave, IDC_FORM3_CMD1, L"s-a+b | 1 3 | 1: 2/2 c:\\b"},
+                 {kSee, IDC_FORM3_CMD2, L"-a+b | 2 3 | 1: 2/2 c:\\b"},
+                 {kSkip, IDC_FORM3_CMD3, L"-a+b | 0 3 | 1: 2/2 c:\\b"}};
     for (const auto& c : cases) {
         for (const int button : {c.button, c.twin}) {
             loadStates(L"00");
@@ -23,7 +23,7 @@ TEST_F(Advance, LowerCaseEndingsKeepTheTypeOfTheDocumentBefore) {
     load(
         L"0  c:\\a.sldprt\r\n0  c:\\b.SLDDRW\r\n0  c:\\c.sldasm\r\n0  c:\\d.SLDASM\r\n"
         L"0  c:\\PRT\r\n0  c:\\e.doc\r\n");
-    for (int i = 0; i < 5; ++i) click(IDC_FORM3_CMDSUIVSAUTER);
+    for (int i = 0; i < 5; ++i) click(kSkip);
     std::wstring types;
     for (const auto& call : takeCalls()) {
         const auto type = call.find(L":i2");
@@ -41,7 +41,7 @@ TEST_F(Advance, LoadsAsTheOptionsSay) {
     for (const auto& [options, mode, rebuilds] : cases) {
         loadStates(L"00");
         tickOptions(options);
-        click(IDC_FORM3_CMDSUIVSAUTER);
+        click(kSkip);
         CallJournal expected = {
             L"closedoc(\"c:\\a\")",
             L"OpenDoc6(&\"c:\\b\", &0:i2, " + std::wstring(mode) + L", \"\", &0:i4, &0:i4)",
@@ -57,9 +57,9 @@ TEST_F(Advance, LoadsAsTheOptionsSay) {
 
 TEST_F(StepBack, TakesADocumentOfTheSamePathAsOpen) {
     load(L"0  c:\\Été.SLDPRT\r\n0  C:\\éTÉ.sldprt\r\n");
-    click(IDC_FORM3_CMDSUIVSAUTER);
+    click(kSkip);
     takeCalls();
-    click(IDC_FORM3_CMDPRECEDENT);
+    click(kBack);
     EXPECT_EQ(takeCalls(), (CallJournal{L"closedoc(\"C:\\éTÉ.sldprt\")", L"éTÉ.sldprt.GetTitle()",
                                         L"éTÉ.sldprt.GetTitle()", L"éTÉ.sldprt.ViewZoomtofit2()"}));
     EXPECT_EQ(states(), L"3 0");

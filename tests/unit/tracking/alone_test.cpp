@@ -8,7 +8,7 @@
 namespace {
 
 struct Undo : TrackingFixture {
-    bool canUndo() { return !window().greyedItems.contains(IDM_FORM3_REVENIR); }
+    bool canUndo() { return !window().greyedItems.contains(kUndo); }
 };
 
 struct Alone : TrackingFixture {
@@ -34,9 +34,9 @@ struct Alone : TrackingFixture {
         machine.boxes.whileShown = [&] { machine.boxes.answers = {Answer::Cancel}; };
         while (canAdvance() && !cad->hasOpen(L"")) {
             machine.boxes.shown.clear();
-            click(IDC_FORM3_CMDSUIV);
+            click(kSave);
             for (const std::wstring& text : machine.boxes.takeTexts()) {
-                if (has(text, L"enregistré")) click(IDC_FORM3_CMDSUIVSAUTER);
+                if (has(text, L"enregistré")) click(kSkip);
             }
         }
         machine.boxes.whileShown = [] {};
@@ -49,36 +49,34 @@ TEST_F(Undo, OpensTheLineAgainThatTheLastCommandLeft) {
     const struct {
         int button;
         const wchar_t *calls, *report;
-    } cases[] = {{IDC_FORM3_CMDSUIV, L"s-a+c-c+a", L"\n1;En cours;c:\\a;;0;oui;\r"},
-                 {IDC_FORM3_CMDSUIVQUITTER, L"-a+c-c+a", L"\n1;En cours;c:\\a;;0;;\r"},
-                 {IDC_FORM3_CMDSUIVSAUTER, L"-a+c-c+a", L"\n1;En cours;c:\\a;;0;;\r"}};
+    } cases[] = {{kSave, L"s-a+c-c+a", L"\n1;En cours;c:\\a;;0;oui;\r"},
+                 {kSee, L"-a+c-c+a", L"\n1;En cours;c:\\a;;0;;\r"},
+                 {kSkip, L"-a+c-c+a", L"\n1;En cours;c:\\a;;0;;\r"}};
     for (const auto& c : cases) {
         loadStates(L"010");
         EXPECT_FALSE(canUndo());
-        EXPECT_EQ(after({c.button, IDC_FORM3_CMDFICHIERLISTE, IDM_FORM3_REVENIR}),
+        EXPECT_EQ(after({c.button, kSaveList, kUndo}),
                   c.calls + std::wstring(L" | 3 1 0 | 0: 1/3 c:\\a"));
         EXPECT_EQ(list().selection(), std::vector{0});
         EXPECT_TRUE(has(report(), c.report));
         EXPECT_FALSE(canUndo());
         // What was saved stays so, whatever it is marked now.
-        EXPECT_EQ(after({IDM_FORM3_REVENIR, IDC_FORM3_CMDSUIVQUITTER}),
-                  L"-a+c | 2 1 3 | 2: 3/3 c:\\c");
-        EXPECT_EQ(work().lines[0].history.saved == Saved::Yes, c.button == IDC_FORM3_CMDSUIV);
+        EXPECT_EQ(after({kUndo, kSee}), L"-a+c | 2 1 3 | 2: 3/3 c:\\c");
+        EXPECT_EQ(work().lines[0].history.saved == Saved::Yes, c.button == kSave);
     }
 }
 
 TEST_F(Undo, GoesBackThroughTheWholeRunAcrossItsEnd) {
     loadStates(L"000");
-    EXPECT_EQ(after({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIVSAUTER, IDC_FORM3_CMDSUIVQUITTER}),
-              L"s-a+b-b+c-c | 1 0 2 | 3: 3/3 Aucun");
+    EXPECT_EQ(after({kSave, kSkip, kSee}), L"s-a+b-b+c-c | 1 0 2 | 3: 3/3 Aucun");
     for (const wchar_t* step : {L"+c | 1 0 3 | 2: 3/3 c:\\c", L"-c+b | 1 3 0 | 1: 2/3 c:\\b",
                                 L"-b+a | 3 0 0 | 0: 1/3 c:\\a"}) {
-        EXPECT_EQ(after({IDM_FORM3_REVENIR}), step);
+        EXPECT_EQ(after({kUndo}), step);
         EXPECT_TRUE(canAdvance() && canStepBack());
     }
     EXPECT_FALSE(canUndo());
     // After a kill the marks are as they were left, and there is nothing to undo.
-    clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIV, IDM_FORM3_REVENIR});
+    clickAll({kSave, kSave, kUndo});
     machine.boxes.answers = {kYes};
     start();
     EXPECT_EQ(states(), L"1 3 0");
@@ -86,15 +84,19 @@ TEST_F(Undo, GoesBackThroughTheWholeRunAcrossItsEnd) {
 }
 
 TEST_F(Undo, IsForgottenByAllThatChangesTheList) {
-    const std::tuple<int, int, bool> cases[] = {
-        {IDC_FORM3_CMDPRECEDENT, 0, true}, {IDC_FORM3_CMDREPA, 1, true},
-        {IDC_FORM3_CMDCHAF, 3, true},      {IDC_FORM3_CMDCHAF, 0, false},
-        {IDC_FORM3_CMDCHARAZ, 0, true},    {IDC_FORM3_CMDELIF, 0, true},
-        {IDC_FORM3_CMDELIV, 0, false},     {IDC_FORM3_CMDPURGE, 0, true},
-        {IDC_FORM3_CMDPLUS1, 0, false},    {IDC_FORM3_CMDFICHIERLISTE, 0, false}};
+    const std::tuple<int, int, bool> cases[] = {{kBack, 0, true},
+                                                {kResume, 1, true},
+                                                {IDC_FORM3_CMDCHAF, 3, true},
+                                                {IDC_FORM3_CMDCHAF, 0, false},
+                                                {kReset, 0, true},
+                                                {IDC_FORM3_CMDELIF, 0, true},
+                                                {IDC_FORM3_CMDELIV, 0, false},
+                                                {IDC_FORM3_CMDPURGE, 0, true},
+                                                {IDC_FORM3_CMDPLUS1, 0, false},
+                                                {kSaveList, 0, false}};
     for (const auto& [button, selected, forgets] : cases) {
         loadStates(L"0000");
-        clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIV});
+        clickAll({kSave, kSave});
         command(button, {selected});
         EXPECT_EQ(canUndo(), !forgets) << button;
     }
@@ -102,16 +104,16 @@ TEST_F(Undo, IsForgottenByAllThatChangesTheList) {
 
 TEST_F(Undo, OfALineThatNoLongerOpensGoesOnOrEnds) {
     loadStates(L"0000");
-    click(IDC_FORM3_CMDSUIV);
+    click(kSave);
     refuse(L"a");
-    EXPECT_EQ(raised([&] { click(IDM_FORM3_REVENIR); }), 91);
+    EXPECT_EQ(raised([&] { click(kUndo); }), 91);
     machine.automation.documents.clear();
     switchOn(L"passerrefus");
     loadStates(L"0000");
-    clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIV});
+    clickAll({kSave, kSave});
     refuse(L"b");
     takeCalls();
-    EXPECT_EQ(after({IDM_FORM3_REVENIR}), L"-c+b+c | 1 0 3 0 | 2: 3/4 c:\\c");
+    EXPECT_EQ(after({kUndo}), L"-c+b+c | 1 0 3 0 | 2: 3/4 c:\\c");
 }
 
 TEST_F(Alone, DoesWhatAPersonWouldWhoPressesTheFirstButton) {
@@ -151,7 +153,7 @@ TEST_F(Alone, AsksForWhatItWillCloseAndTellsWhatBecameOfIt) {
     EXPECT_EQ(calls(), L"");
     EXPECT_EQ(goOn(), told(L"terminé", 2, 0, 0));
     EXPECT_FALSE(canGoOn());
-    click(IDM_FORM3_REVENIR);
+    click(kUndo);
     EXPECT_EQ(states(), L"1 1 3");
     EXPECT_EQ(goOn(kNo), L"Enregistrer et fermer 1 document, jusqu'à la fin de la liste ?");
     machine.boxes.answers = {kNo};
@@ -221,7 +223,7 @@ TEST_F(Alone, StopsByItselfAfterFiveRefusalsOrWhenTheSessionRunsShort) {
     EXPECT_EQ(after({}), L"s-a+b+c+d+e+f | 1 0 0 0 0 0 0 0 | 5: 6/8 c:\\f");
     EXPECT_FALSE(canGoOn());
     EXPECT_TRUE(canAdvance() && canStepBack());
-    click(IDM_FORM3_REVENIR);
+    click(kUndo);
     EXPECT_EQ(states(), L"3 0 0 0 0 0 0 0");
 
     machine.automation.documents.clear();

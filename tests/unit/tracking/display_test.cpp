@@ -7,7 +7,7 @@ TEST_F(Display, OfANewListShowsAllLinesButTheFirstAsToDo) {
     EXPECT_EQ(list().texts(), (Texts{L"0001   Fait          c:\\a", L"0002                c:\\b",
                                      L"0003                c:\\c", L"0004                c:\\d"}));
     // The next redraw shows the states.
-    click(IDC_FORM3_CMDSUIVQUITTER);
+    click(kSee);
     EXPECT_EQ(list().texts(), (Texts{L"0001   Fait          c:\\a", L"0002   Vu            c:\\b",
                                      L"0003   Vu            c:\\c", L"0004   EnCours  c:\\d"}));
 }
@@ -18,14 +18,14 @@ TEST_F(Display, OfAnUnknownStateTakesTheLabelAbove) {
                                      L"0003   Fait          c:\\c", L"0004   Fait          c:\\d",
                                      L"0005   EnCours  c:\\e", L"0006   EnCours  c:\\f"}));
     // And changes with it.
-    click(IDC_FORM3_CMDSUIVQUITTER);
+    click(kSee);
     EXPECT_EQ(list().texts()[5], L"0006   Vu            c:\\f");
 }
 
 TEST_F(Display, RedrawnInPlaceLosesTheUsersSelection) {
     loadStates(L"00120");
     select({0, 3, 4});
-    click(IDC_FORM3_CMDSUIV);
+    click(kSave);
     EXPECT_EQ(list().selection(), std::vector{1});
     click(IDC_FORM3_CMDPLUS1);
     EXPECT_TRUE(list().selection().empty());
@@ -45,7 +45,7 @@ TEST_F(Display, DepthHidesLevelsOfAllLines) {
     click(IDC_FORM3_CMDPLUS1);
     EXPECT_EQ(text(IDC_FORM3_NNIVEAU1), L"1");
     EXPECT_EQ(list().texts(), oneLevel);
-    click(IDC_FORM3_CMDSUIV);
+    click(kSave);
     EXPECT_EQ(list().texts()[0], L"0001   Fait          C:\\..\\B\\f");
     click(IDC_FORM3_CMDMOINS1);
     EXPECT_EQ(list().texts()[1], whole[1]);
@@ -54,8 +54,7 @@ TEST_F(Display, DepthHidesLevelsOfAllLines) {
 TEST_F(Display, CountsTheLinesNoLongerToDoUntilThePassEnds) {
     loadStates(L"01200");
     std::vector<int> shown;
-    for (const int button : {IDC_FORM3_CMDDESELECT, IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIVSAUTER,
-                             IDC_FORM3_CMDSUIVQUITTER, IDC_FORM3_CMDPRECEDENT}) {
+    for (const int button : {IDC_FORM3_CMDDESELECT, kSave, kSkip, kSee, kBack}) {
         click(button);
         shown.insert(shown.end(), {window().progressDone, window().progressTotal});
     }

@@ -36,7 +36,7 @@ const std::wstring kOpening =
 
 TEST_F(Resuming, OffersTheMarksThatWereKept) {
     loadStates(L"00000");
-    clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIVQUITTER});
+    clickAll({kSave, kSee});
     // A box that could not be shown is no No.
     for (const Answer answer : {kYes, Answer{}, kNo}) {
         EXPECT_EQ(restart({answer}), Texts{kMarked});
@@ -45,14 +45,14 @@ TEST_F(Resuming, OffersTheMarksThatWereKept) {
     EXPECT_EQ(record(), "");
     EXPECT_EQ(restart({}), Texts());
     // Neither a save nor a launch of the same list leaves anything to offer.
-    click(IDC_FORM3_CMDSUIV);
+    click(kSave);
     start(Origin::Launched);
     EXPECT_EQ(record(), "");
     EXPECT_EQ(states(), L"3 0 0 0 0");
-    clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDFICHIERLISTE});
+    clickAll({kSave, kSaveList});
     EXPECT_EQ(record(), "");
     machine.boxes.answers = {kYes};
-    clickAll({IDC_FORM3_CMDSUIVQUITTER, IDC_FORM3_CMDPURGE});
+    clickAll({kSee, IDC_FORM3_CMDPURGE});
     EXPECT_EQ(restart({kYes}), Texts{kMarked});
     EXPECT_EQ(states(), L"3 0 0");
 }
@@ -60,13 +60,13 @@ TEST_F(Resuming, OffersTheMarksThatWereKept) {
 TEST_F(Resuming, LeavesTheRecordAtEveryEndAndSaysSoWhenOneIsAnError) {
     for (const bool marked : {false, true}) {
         loadStates(L"0000");
-        if (marked) click(IDC_FORM3_CMDSUIV);
-        EXPECT_THROW(click(IDC_FORM3_CMDSORTIE), ProgramEnd);
+        if (marked) click(kSave);
+        EXPECT_THROW(click(kLeave), ProgramEnd);
         EXPECT_EQ(record() != "", marked);
     }
     dieOpening(L"c");
     restart({kYes});
-    const std::wstring failure = raisedError([&] { click(IDC_FORM3_CMDSUIV); }).text;
+    const std::wstring failure = raisedError([&] { click(kSave); }).text;
     EXPECT_TRUE(has(failure, L"\r\nDocument : c:\\c\r\nLes marques"));
 }
 
@@ -74,8 +74,8 @@ TEST_F(Resuming, GoesPastADocumentThatStopsTheProgramOrOpensItAgain) {
     for (const Answer goesPast : {kYes, kNo}) {
         dieOpening(L"c");
         loadStates(L"0000");
-        click(IDC_FORM3_CMDSUIV);
-        EXPECT_THROW(click(IDC_FORM3_CMDSUIV), RuntimeError);
+        click(kSave);
+        EXPECT_THROW(click(kSave), RuntimeError);
         machine.automation.overrides.clear();
         EXPECT_EQ(restart({kYes, goesPast}), (Texts{kMarked, kOpening}));
         EXPECT_EQ(states(), goesPast == kYes ? L"1 1 0 3" : L"1 1 3 0");
@@ -97,19 +97,19 @@ TEST_F(Resuming, GoesPastADocumentThatStopsTheProgramOrOpensItAgain) {
     // Nor is a document being opened while the one before is closed.
     loadStates(L"00");
     machine.automation.overrides[L"closedoc"] = [](auto) -> Value { throw errors::emptyObject(); };
-    EXPECT_THROW(command(IDC_FORM3_CMDREPA, {1}), RuntimeError);
+    EXPECT_THROW(command(kResume, {1}), RuntimeError);
     EXPECT_EQ(restart({}), Texts());
 }
 
 TEST_F(Resuming, TellsOnceThatMarksCannotBeKept) {
     machine.records.fails = [](int) { return true; };
     loadStates(L"0000");
-    clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIV});
+    clickAll({kSave, kSave});
     EXPECT_EQ(machine.boxes.takeTexts().size(), 1U);
     EXPECT_EQ(states(), L"1 1 3 0");
     EXPECT_FALSE(form->keepsMarks());
     machine.records.fails = [](int) { return false; };
-    click(IDC_FORM3_CMDSUIVQUITTER);
+    click(kSee);
     EXPECT_TRUE(form->keepsMarks());
     EXPECT_EQ(restart({kYes}).size(), 1U);
     EXPECT_EQ(states(), L"1 1 2 3");
@@ -119,7 +119,7 @@ TEST_F(Resuming, TellsOnceThatMarksCannotBeKept) {
 TEST_F(Resuming, AFullListEndsPastTheTable) {
     loadStates(std::wstring(8000, L'1') + L"0");
     window().control(IDC_FORM3_NUMFICHCOUR).content = L"8000";
-    EXPECT_EQ(raised([&] { click(IDC_FORM3_CMDSUIVQUITTER); }), 9);
+    EXPECT_EQ(raised([&] { click(kSee); }), 9);
     EXPECT_EQ(restart({kYes}).size(), 1U);
     EXPECT_EQ(work().lines[8000].code, LineState::Seen);
 }

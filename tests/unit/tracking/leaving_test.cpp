@@ -30,7 +30,7 @@ TEST_F(Leaving, BySortieSavesPlaceAndOptionsAndClosesTheDocument) {
     loadStates(L"00");
     window().leaveAt(2'667, 100);
     tickOptions(L"1001");
-    EXPECT_THROW(click(IDC_FORM3_CMDSORTIE), ProgramEnd);
+    EXPECT_THROW(click(kLeave), ProgramEnd);
     EXPECT_EQ(takeCalls(), CallJournal{L"closedoc(\"c:\\a\")"});
     std::wstring saved;
     for (const wchar_t* key : {L"toppos3", L"leftpos3", L"regcheck"}) {
@@ -42,12 +42,12 @@ TEST_F(Leaving, BySortieSavesPlaceAndOptionsAndClosesTheDocument) {
 
 TEST_F(Leaving, ListFileSavedTwiceLosesItsFlaggedStates) {
     load(L"0  c:\\a\r\n10  c:\\b\r\n0  c:\\c\r\n");
-    click(IDC_FORM3_CMDFICHIERLISTE);
+    click(kSaveList);
     EXPECT_EQ(states(), L"3 10 0");
-    click(IDC_FORM3_CMDFICHIERLISTE);
+    click(kSaveList);
     EXPECT_EQ(listFile(), L"3  c:\\a\r\n110  c:\\b\r\n0  c:\\c\r\n");
     // Flagged and saved, a line is no longer found as to do.
-    click(IDC_FORM3_CMDSUIV);
+    click(kSave);
     EXPECT_EQ(text(IDC_FORM3_NUMFICHCOUR), L"2");
 }
 
@@ -56,34 +56,34 @@ TEST_F(Leaving, SavingKeepsWhatOthersMadeOfTheListFileOrSavesNothing) {
     const std::wstring ours = L"3  c:\\a\r\n0  c:\\b\r\n";
     auto& files = machine.files.texts;
     loadStates(L"00");
-    click(IDC_FORM3_CMDFICHIERLISTE);
+    click(kSaveList);
     listFile() = L"1  c:\\de Zoé\r\n";
     machine.files.failing[copy] = 1;
-    click(IDC_FORM3_CMDFICHIERLISTE);
+    click(kSaveList);
     EXPECT_EQ(listFile(), L"1  c:\\de Zoé\r\n");
-    click(IDC_FORM3_CMDFICHIERLISTE);
+    click(kSaveList);
     EXPECT_EQ(files[copy], L"1  c:\\de Zoé\r\n");
     EXPECT_EQ(listFile(), ours);
     files.erase(copy);
-    click(IDC_FORM3_CMDFICHIERLISTE);
+    click(kSaveList);
     files.erase(machine.programFiles.list);
-    click(IDC_FORM3_CMDFICHIERLISTE);
+    click(kSaveList);
     EXPECT_EQ(listFile(), ours);
     EXPECT_FALSE(files.contains(copy)) << "nobody changed it, or it was gone";
     EXPECT_EQ(machine.boxes.takeTexts().size(), 2U);
     machine.listHolds.takenBy = {L"Zoé", L"PC-12"};  // while the network was away
-    click(IDC_FORM3_CMDSUIV);
+    click(kSave);
     EXPECT_TRUE(has(machine.boxes.takeTexts().at(0), L"par Zoé sur PC-12"));
 }
 
 TEST_F(Leaving, ListFileHasAsManyLinesAsTheCounterShows) {
     loadStates(L"000");
     window().control(IDC_FORM3_CPTFICHIER1).content = L"2";
-    click(IDC_FORM3_CMDFICHIERLISTE);
+    click(kSaveList);
     EXPECT_EQ(listFile(), L"3  c:\\a\r\n0  c:\\b\r\n");
     // It is whole after a load that ends the list.
     loadStates(L"12");
     EXPECT_TRUE(!canAdvance() && canStepBack() && cad->hasOpen(L""));
-    click(IDC_FORM3_CMDFICHIERLISTE);
+    click(kSaveList);
     EXPECT_EQ(listFile(), L"1  c:\\a\r\n2  c:\\b\r\n");
 }

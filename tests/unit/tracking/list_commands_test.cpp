@@ -19,7 +19,7 @@ struct ListCommands : TrackingFixture {
 
     /// Two buttons have a text of their own, by one letter.
     void expectWantsALine(int button) {
-        const bool other = button == IDC_FORM3_CMDCHARAZ || button == IDC_FORM3_CMDREPA;
+        const bool other = button == kReset || button == kResume;
         EXPECT_EQ(box(button, {}),
                   (Content{.text = std::wstring(L"Pour cette fonction , il faut avoir sélectionn") +
                                    (other ? L"er" : L"é") + L" au moins une ligne ",
@@ -39,7 +39,7 @@ const struct {
      L"Passage en mode 'F'"},
     {IDC_FORM3_CMDCHAV, L"passer les lignes sélectionnées \n\ren mode 'Vu'",
      L"Passage en mode 'V'"},
-    {IDC_FORM3_CMDCHARAZ, L"passer les lignes sélectionnées \n\ren mode 'à traiter'",
+    {kReset, L"passer les lignes sélectionnées \n\ren mode 'à traiter'",
      L"Passage en mode 'A Traiter'"},
     {IDC_FORM3_CMDELIF, L"supprimer les fichiers marqués 'F' \n\rparmi les lignes sélectionnées",
      L"Elimination 'F' et 'V' "},
@@ -73,7 +73,7 @@ TEST_F(ListCommands, WantALineAskFirstAndDoNothingWhenTheAnswerIsNo) {
         EXPECT_EQ(takeCalls(), CallJournal()) << q.title;
         if (needsSelection) expectWantsALine(q.button);
     }
-    expectWantsALine(IDC_FORM3_CMDREPA);
+    expectWantsALine(kResume);
     EXPECT_EQ(states(), L"1 3 2 0 1");
 }
 
@@ -87,12 +87,12 @@ TEST_F(ListCommands, ChangeOrRemoveLinesAndKeepTheCurrentOneOpen) {
         {IDC_FORM3_CMDCHAF, {0, 1, 2, 3}, L" | 1 3 1 1 0 | 1: 2/5 c:\\b"},
         {IDC_FORM3_CMDCHAV, {0, 1, 4}, L" | 2 3 2 0 2 | 1: 2/5 c:\\b"},
         // Only going back to do brings the application forward.
-        {IDC_FORM3_CMDCHARAZ, {1, 2}, L" | 1 3 0 0 0 | 1: 2/5 c:\\b", 3},
+        {kReset, {1, 2}, L" | 1 3 0 0 0 | 1: 2/5 c:\\b", 3},
         {IDC_FORM3_CMDELIF, {2}, L" | 1 3 0 0 | 1: 2/4 c:\\b"},  // takes seen lines too
         {IDC_FORM3_CMDELIFV, {0, 1, 2, 3, 4}, L" | 3 0 0 | 0: 1/3 c:\\b"},
         {IDC_FORM3_CMDELIV, {0, 1, 2, 3, 4}, L" | 1 3 0 0 | 1: 2/4 c:\\b"},
         {IDC_FORM3_CMDPURGE, {1}, L" | 3 0 0 | 0: 1/3 c:\\b"},
-        {IDC_FORM3_CMDREPA, {2}, L" | 1 0 2 3 0 | 3: 4/5 c:\\d", 4},
+        {kResume, {2}, L" | 1 0 2 3 0 | 3: 4/5 c:\\d", 4},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.after);

@@ -40,7 +40,7 @@ struct LongPass : TrackingFixture {
             text += L"0  c:\\" + name + L"\r\n";
         }
         load(text);
-        while (canAdvance()) click(IDC_FORM3_CMDSUIV);
+        while (canAdvance()) click(kSave);
     }
     static decltype(kWays[0])& way(int i) {
         return kWays[static_cast<std::size_t>(i) * 7 % std::size(kWays)];

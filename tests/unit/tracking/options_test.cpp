@@ -45,7 +45,7 @@ TEST_F(Options, AnyReleaseIsFoundByTheBeginningOfItsTitle) {
                                {L"SOLIDWORKS Premium 2020 - [a.SLDPRT *]", 4}};
     load(L"0  c:\\a.SLDPRT\r\n0  c:\\b.SLDPRT\r\n");
     EXPECT_EQ(machine.desktop.broughtForward.back(), 4U);
-    clickAll({IDM_FORM3_PREMIERPLAN, IDC_FORM3_CMDSUIVSAUTER});
+    clickAll({IDM_FORM3_PREMIERPLAN, kSkip});
     EXPECT_EQ(machine.desktop.broughtForward.back(), 0U);
     EXPECT_EQ(machine.desktop.restored, std::vector<Desktop::WindowHandle>{4});
 }
@@ -67,6 +67,6 @@ TEST_F(Options, ReportIsWrittenWhereTheUserWantsItOrThePassGoesOnWithoutIt) {
             machine.boxes.takeTexts().at(0).starts_with(L"Le rapport n'a pas pu être écrit."));
     }
     EXPECT_EQ(listFile(), before);
-    click(IDC_FORM3_CMDSUIV);
+    click(kSave);
     EXPECT_EQ(states(), L"1 3");
 }

@@ -10,7 +10,7 @@ struct Refusals : TrackingFixture {
     /// The calls and states that a command leaves, which may end the program.
     std::wstring outcome(int command) {
         select({2});
-        machine.boxes.answers = {command == IDC_FORM3_CMDSUIV ? Answer::Cancel : kYes};
+        machine.boxes.answers = {command == kSave ? Answer::Cancel : kYes};
         try {
             command == kTheWindow ? window().close() : click(command);
         } catch (const ProgramEnd&) {
@@ -30,22 +30,21 @@ TEST_F(Refusals, AreMetByEachMarkAtEachCommand) {
         int command;
         const wchar_t* outcomes[5];  ///< for each mark, and without one
     } rows[] = {
-        {IDC_FORM3_CMDSUIV,
+        {kSave,
          {L"s-b+c+d 0 1 0 3", L"s 0 3 0 0", L"s+c 0 1 3 0", L"s-bd+c 0 1 3 0", L"s-b+c 0 1 3 0"}},
-        {IDC_FORM3_CMDSUIVQUITTER,
+        {kSee,
          {L"-b+c+d 0 2 0 3", L"-b+c 0 2 3 0", L"+c 0 2 3 0", L"-bd+c 0 2 3 0", L"-b+c 0 2 3 0"}},
-        {IDC_FORM3_CMDSUIVSAUTER,
+        {kSkip,
          {L"-b+c+d 0 0 0 3", L"-b+c 0 0 3 0", L"+c 0 0 3 0", L"-bd+c 0 0 3 0", L"-b+c 0 0 3 0"}},
         // What is closed by stepping back still counts as open, as ever.
-        {IDC_FORM3_CMDPRECEDENT,
+        {kBack,
          {L"-b-b+a 0 0 0 0", L"-b-b+a 3 0 0 0", L"+a 3 0 0 0", L"-b-bd+a 3 0 0 0",
           L"-b-b+a 3 0 0 0"}},
-        {IDC_FORM3_CMDREPA,
+        {kResume,
          {L"-b+c+d 0 0 0 3", L"-b+c 0 0 3 0", L"+c 0 0 3 0", L"-bd+c 0 0 3 0", L"-b+c 0 0 3 0"}},
-        {IDC_FORM3_CMDCHARAZ,
+        {kReset,
          {L"-b+a+b 0 3 0 0", L"-b+a 3 0 0 0", L"+a 3 0 0 0", L"-bd+a 3 0 0 0", L"-b+a 3 0 0 0"}},
-        {IDC_FORM3_CMDSORTIE,
-         {L"-b 0 3 0 0", L"-b 0 3 0 0", L" 0 3 0 0", L"-bd 0 3 0 0", L"-b 0 3 0 0"}},
+        {kLeave, {L"-b 0 3 0 0", L"-b 0 3 0 0", L" 0 3 0 0", L"-bd 0 3 0 0", L"-b 0 3 0 0"}},
         {kTheWindow, {L" 0 3 0 0", L" 0 3 0 0", L" 0 3 0 0", L"d 0 3 0 0", L" 0 3 0 0"}},
     };
     for (int mark = kPasses; mark <= kNone; ++mark) {
@@ -56,7 +55,7 @@ TEST_F(Refusals, AreMetByEachMarkAtEachCommand) {
             for (int i = kPasses; i < kNone; ++i) switchOn(keys[i], i == mark ? L"1" : L"0");
             const std::wstring loaded = loadStates(L"0000");
             EXPECT_EQ(loaded, mark == kPasses ? L"+a+b" : mark == kReferences ? L"d+a" : L"+a");
-            if (mark != kPasses) click(IDC_FORM3_CMDSUIVSAUTER);
+            if (mark != kPasses) click(kSkip);
             takeCalls();
             EXPECT_EQ(outcome(row.command), row.outcomes[mark]);
         }
@@ -66,8 +65,6 @@ TEST_F(Refusals, AreMetByEachMarkAtEachCommand) {
 
 TEST_F(Refusals, ArePassedOverToTheEndOfTheDirection) {
     switchOn(L"passerrefus");
-    constexpr int kSee = IDC_FORM3_CMDSUIVQUITTER, kSkip = IDC_FORM3_CMDSUIVSAUTER;
-    constexpr int kBack = IDC_FORM3_CMDPRECEDENT;
     // The list, the refused documents, the calls of the load, the buttons, and what is after them.
     using Text = const wchar_t*;
     const std::tuple<Text, Text, Text, std::vector<int>, Text> cases[] = {
@@ -107,7 +104,7 @@ TEST_F(Refusals, CloseWhatWasGivenAndEndTheProgramWhenTheSessionIsLostOrTheMarkI
     loadStates(L"000");
     click(IDM_FORM3_PASSERREFUS);
     refuse(L"b");
-    EXPECT_EQ(raised([&] { click(IDC_FORM3_CMDSUIVSAUTER); }), 91);
+    EXPECT_EQ(raised([&] { click(kSkip); }), 91);
     EXPECT_EQ(calls(), L"-a+b");
     click(IDM_FORM3_PASSERREFUS);
     loadStates(L"000");
@@ -116,7 +113,7 @@ TEST_F(Refusals, CloseWhatWasGivenAndEndTheProgramWhenTheSessionIsLostOrTheMarkI
         error.sessionLost = true;
         throw error;
     };
-    EXPECT_EQ(raised([&] { click(IDC_FORM3_CMDSUIV); }), 440);
+    EXPECT_EQ(raised([&] { click(kSave); }), 440);
     EXPECT_TRUE(form->keepsMarks());
     EXPECT_EQ(remark(1), L"Non ouvert : l'appel a échoué (440)");
 }
@@ -126,7 +123,7 @@ TEST_F(Refusals, FiveInARowAreAskedAbout) {
     loadStates(L"000000000000");
     refuse(L"bcdefghijk");
     machine.boxes.answers = {kYes, kNo};
-    EXPECT_EQ(after({IDC_FORM3_CMDSUIV}),
+    EXPECT_EQ(after({kSave}),
               L"s-a+b+c+d+e+f+g+h+i+j+k | 1 0 0 0 0 0 0 0 0 0 0 0 | 10: 11/12 c:\\k");
     EXPECT_EQ(machine.boxes.shown.back().defaultButton, 2);
     EXPECT_EQ(machine.boxes.takeTexts(),
@@ -134,33 +131,28 @@ TEST_F(Refusals, FiveInARowAreAskedAbout) {
     EXPECT_EQ(list().selection(), std::vector{10});
     EXPECT_TRUE(canAdvance() && canStepBack() && cad->hasOpen(L""));
     // There is nothing to save or to close.
-    for (const auto& [button, afterwards] :
-         {std::pair(IDC_FORM3_CMDSUIV, L"+g | 0 0 0 0 0 0 0 | 7: 7/7 Aucun"),
-          {IDC_FORM3_CMDSUIVQUITTER, L"+g | 0 0 0 0 0 0 0 | 7: 7/7 Aucun"},
-          {IDC_FORM3_CMDSUIVSAUTER, L"+g | 0 0 0 0 0 0 0 | 7: 7/7 Aucun"},
-          {IDC_FORM3_CMDPRECEDENT, L"+e+d+c+b+a | 3 0 0 0 0 0 0 | 0: 1/7 c:\\a"}}) {
+    const std::pair<int, const wchar_t*> cases[] = {{kSave, L"+g 0 0 0 0 0 0 0"},
+                                                    {kSee, L"+g 0 0 0 0 0 0 0"},
+                                                    {kSkip, L"+g 0 0 0 0 0 0 0"},
+                                                    {kBack, L"+e+d+c+b+a 3 0 0 0 0 0 0"},
+                                                    {kLeave, L" 0 0 0 0 0 0 0"}};
+    for (const auto& [button, expected] : cases) {
         machine.boxes.answers = {kNo};
         loadStates(L"0000000");
-        click(IDC_FORM3_CMDSUIVSAUTER);
+        click(kSkip);
         takeCalls();
-        EXPECT_EQ(after({button}), afterwards);
+        EXPECT_EQ(outcome(button), expected) << button;
     }
-    machine.boxes.answers = {kNo};
-    loadStates(L"0000000");
-    click(IDC_FORM3_CMDSUIVSAUTER);
-    takeCalls();
-    EXPECT_THROW(click(IDC_FORM3_CMDSORTIE), ProgramEnd);
-    EXPECT_EQ(calls(), L"");
 }
 
 TEST_F(Refusals, OfASaveAreAskedAboutOrOnlyTold) {
     loadStates(L"00");
     document(L"a").saved = std::int32_t{16};
-    click(IDC_FORM3_CMDSUIV);
+    click(kSave);
     EXPECT_EQ(remark(0), L"Non enregistré : fichier verrouillé (16)");
     EXPECT_EQ(saved(0), Saved::No);
     EXPECT_EQ(window().alert, Alert::Refusal);
-    click(IDC_FORM3_CMDSUIVSAUTER);
+    click(kSkip);
     EXPECT_EQ(window().alert, Alert::None);
 
     switchOn(L"gardernonsauve");
@@ -168,20 +160,20 @@ TEST_F(Refusals, OfASaveAreAskedAboutOrOnlyTold) {
     document(L"a").saved = false;
     const auto before = list().texts();
     machine.boxes.answers = {Answer::Retry, Answer::Cancel};
-    EXPECT_EQ(after({IDC_FORM3_CMDSUIV}), L"ss | 3 0 | 0: 1/2 c:\\a");
+    EXPECT_EQ(after({kSave}), L"ss | 3 0 | 0: 1/2 c:\\a");
     EXPECT_EQ(machine.boxes.shown.back().buttons, MessageBoxContent::Buttons::RetryCancel);
     EXPECT_EQ(machine.boxes.takeTexts(),
               Texts(2, L"SolidWorks n'a pas enregistré :\r\nc:\\a\r\nautre erreur (1)"));
     EXPECT_EQ(list().texts(), before);
     EXPECT_EQ(remark(0), L"Non enregistré : autre erreur (1)");
     // Marked without a save, it still was not saved.
-    click(IDC_FORM3_CMDSUIVQUITTER);
+    click(kSee);
     EXPECT_EQ(saved(0), Saved::No);
     // Another try that succeeds leaves nothing to say.
     loadStates(L"00");
     machine.boxes.whileShown = [&] { document(L"a").saved = true; };
     machine.boxes.answers = {Answer::Retry};
-    EXPECT_EQ(after({IDC_FORM3_CMDSUIV}), L"ss-a+b | 1 3 | 1: 2/2 c:\\b");
+    EXPECT_EQ(after({kSave}), L"ss-a+b | 1 3 | 1: 2/2 c:\\b");
     EXPECT_EQ(remark(0), L"");
     EXPECT_EQ(saved(0), Saved::Yes);
     EXPECT_EQ(window().alert, Alert::None);
@@ -190,9 +182,9 @@ TEST_F(Refusals, OfASaveAreAskedAboutOrOnlyTold) {
 TEST_F(Refusals, WarningsColourTheTaskbarAndRemarksOutliveTheRun) {
     loadStates(L"000");
     document(L"b") = {.errorCode = 2, .warningCode = 128 | 32 | 1};
-    click(IDC_FORM3_CMDSUIV);
+    click(kSave);
     EXPECT_EQ(window().alert, Alert::Warning);
-    click(IDC_FORM3_CMDSUIV);
+    click(kSave);
     EXPECT_EQ(window().alert, Alert::None);
     machine.boxes.answers = {kYes};
     start();
@@ -205,18 +197,18 @@ TEST_F(Refusals, DocumentsThatTheUserHadOpenAreClosedOnceTheMarkIsOff) {
     switchOn(L"laisserouverts");
     document(L"b").warningCode = 128 | 2;
     loadStates(L"0000");
-    clickAll({IDC_FORM3_CMDSUIV, IDC_FORM3_CMDSUIV});
+    clickAll({kSave, kSave});
     // Nor is anything closed without a name, which closes the active one.
-    EXPECT_EQ(after({IDC_FORM3_CMDPRECEDENT}), L"s-a+bs+c-c | 1 1 0 0 | -1: 3/4 aucun");
+    EXPECT_EQ(after({kBack}), L"s-a+bs+c-c | 1 1 0 0 | -1: 3/4 aucun");
     loadStates(L"1000");
     click(IDM_FORM3_LAISSEROUVERTS);
-    EXPECT_EQ(after({IDC_FORM3_CMDSUIVSAUTER}), L"-b+c | 1 0 3 0 | 2: 3/4 c:\\c");
+    EXPECT_EQ(after({kSkip}), L"-b+c | 1 0 3 0 | 2: 3/4 c:\\c");
 }
 
 TEST_F(Refusals, ReferencesAreLookedForBesideTheDocument) {
     switchOn(L"references");
     load(L"0  c:\\plans\\a\r\n0  c:\\b\r\n0  c\r\n");
-    click(IDC_FORM3_CMDSUIVSAUTER);
+    click(kSkip);
     const auto journal = takeCalls();
     EXPECT_EQ(journal[0], L"SetCurrentWorkingDirectory(\"c:\\plans\")");
     EXPECT_TRUE(journal[1].starts_with(L"OpenDoc6(&\"c:\\plans\\a\""));
@@ -232,7 +224,7 @@ TEST_F(Refusals, ReferencesAreLookedForBesideTheDocument) {
     machine.automation.overrides[L"SetCurrentWorkingDirectory"] = [](auto) -> Value {
         throw errors::unknownMember(L"SetCurrentWorkingDirectory");
     };
-    click(IDC_FORM3_CMDSUIVSAUTER);
+    click(kSkip);
     EXPECT_EQ(states(), L"0 3");
     EXPECT_THROW(window().close(), ProgramEnd);
 }

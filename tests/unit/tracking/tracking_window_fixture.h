@@ -14,6 +14,12 @@ class TrackingFixture : public testing::Test {
     using Origin = TrackingWindow::Origin;
     static constexpr auto kYes = Answer::Yes;
     static constexpr auto kNo = Answer::No;
+    /// The buttons, by what they do.
+    static constexpr int kSave = IDC_FORM3_CMDSUIV, kSee = IDC_FORM3_CMDSUIVQUITTER,
+                         kSkip = IDC_FORM3_CMDSUIVSAUTER, kBack = IDC_FORM3_CMDPRECEDENT,
+                         kSaveList = IDC_FORM3_CMDFICHIERLISTE, kLeave = IDC_FORM3_CMDSORTIE,
+                         kResume = IDC_FORM3_CMDREPA, kReset = IDC_FORM3_CMDCHARAZ,
+                         kUndo = IDM_FORM3_REVENIR;
     /// In the order in which they are saved.
     static constexpr int kOptionBoxes[] = {IDC_FORM3_CKMINIMISE, IDC_FORM3_CKSILENT,
                                            IDC_FORM3_CKRECONS, IDC_FORM3_CKRECONS2};
