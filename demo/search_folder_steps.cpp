@@ -40,7 +40,7 @@ void playSearchFolders(Stage& stage) {
     stage.press(IDC_FORM4_CMDENREGISTER);
     stage.picture("search-folders", stage.app.window(kConfigurations));
     stage.press(IDC_FORM4_CMDCHOISIR);
-    stage.app.box().answer(IDOK);
+    stage.app.answerBox(IDOK);
     stage.showCallsUpTo("setsearchfolders");
     stage.showConfigurationFile();
     stage.press(IDC_FORM4_CMDANNULER);

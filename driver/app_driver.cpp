@@ -101,6 +101,13 @@ ModalBox AppDriver::box() const {
 
 bool AppDriver::showsBox() const { return findBox() != nullptr; }
 
+std::string AppDriver::answerBox(int button) const {
+    const ModalBox shown = box();
+    const std::string text = shown.text();
+    shown.answer(button);
+    return text;
+}
+
 void AppDriver::waitForCommandEnd(int list, int clearButton) const {
     click(clearButton);
     waitFor("the command's end", [&] { return selected(list).empty(); });

@@ -57,6 +57,8 @@ class AppDriver {
     /// Waits for a message box.
     ModalBox box() const;
     bool showsBox() const;
+    /// Answers the message box that is shown; returns its text.
+    std::string answerBox(int button) const;
 
     /// Waits for the running command to end, since presses before that don't count: presses the
     /// button that clears a list's selection, which has to wait as well.

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <objbase.h>
 #include <sstream>
 
@@ -37,6 +38,12 @@ std::vector<std::string> TrialCad::calls() const {
     std::vector<std::string> calls;
     for (std::string call; std::getline(stream, call);) calls.push_back(call);
     return calls;
+}
+
+int TrialCad::countOf(const std::string& text) const {
+    const auto all = calls();
+    return static_cast<int>(std::ranges::count_if(
+        all, [&](const std::string& call) { return call.find(text) != std::string::npos; }));
 }
 
 }  // namespace driver

@@ -30,6 +30,8 @@ class TrialCad {
 
     /// All calls received so far, as the journal has them.
     std::vector<std::string> calls() const;
+    /// How many of them contain this text.
+    int countOf(const std::string& text) const;
 
  private:
     std::filesystem::path journal() const { return sandbox_.directory() / "journal.txt"; }

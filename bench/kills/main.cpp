@@ -78,7 +78,7 @@ class Kills {
             if (const auto at = text.find(kMarked); at != std::string::npos) {
                 offered = std::stoul(text.substr(at + kMarked.size()));
             }
-            app_.box().answer(IDYES);
+            app_.answerBox(IDYES);
             Sleep(30);
         }
         failedStarts += !app_.running();
@@ -104,11 +104,11 @@ class Kills {
     /// Passes over the document whose opening the last run did not survive, and goes on alone.
     void goAlone() {
         waitFor("the pass", [&] {
-            if (app_.showsBox()) app_.box().answer(IDYES);
+            if (app_.showsBox()) app_.answerBox(IDYES);
             return std::ranges::count(app_.shownWindows(), kTracking) > 0 && !app_.showsBox();
         });
         askToGoAlone();
-        app_.box().answer(IDYES);
+        app_.answerBox(IDYES);
         Sleep(static_cast<DWORD>(random_() % 400));
     }
 

@@ -34,7 +34,7 @@ class PassAlone {
         app_.chooseInSystemMenu("Tarnwick - suivi du travail -", IDM_FORM3_SEUL);
     }
 
-    void begin() const { app_.box().answer(IDYES); }
+    void begin() const { app_.answerBox(IDYES); }
     void waitForEnd() const {
         while (!app_.showsBox()) Sleep(1);
     }

@@ -46,7 +46,7 @@ class SearchingProgram {
             PostMessageW(list_, WM_KEYDOWN, VK_ESCAPE, 1);
             while (!app_.showsBox() && found() != all) Sleep(1);
         }});
-        if (app_.showsBox()) app_.box().answer(IDOK);
+        if (app_.showsBox()) app_.answerBox(IDOK);
         return time;
     }
 

@@ -20,7 +20,7 @@ struct Alone : Scenario {
     std::string goOn() {
         app.chooseInSystemMenu(kTracking, IDM_FORM3_SEUL);
         EXPECT_EQ(app.box().defaultButton(), IDNO);
-        const std::string question = answer(IDYES);
+        const std::string question = app.answerBox(IDYES);
         progress = app.window("Tarnwick - Continuer seul");
         return question;
     }
@@ -31,7 +31,7 @@ struct Alone : Scenario {
 TEST_F(Alone, GoesToTheEndPastWhatTheSessionRefusesAndBackByAKey) {
     begin(10, "3.SLDPRT;refuse=2\n5.SLDPRT;save=1\n");
     EXPECT_TRUE(GetForegroundWindow() != progress);
-    EXPECT_EQ(answer(IDOK),
+    EXPECT_EQ(app.answerBox(IDOK),
               "Passage terminé.\r\nEnregistrés : 8\r\nNon ouverts : 1\r\nNon enregistrés : 1");
     EXPECT_FALSE(IsWindow(progress));
     app.click(IDC_FORM3_CMDFICHIERLISTE);
@@ -45,7 +45,7 @@ TEST_F(Alone, StopsWhenAButtonIsPressedDuringACallAndEndsByTheFrame) {
     begin(200, "");
     waitFor("the third document", [&] { return app.textOf(IDC_FORM3_NBFICH1) > "2"; });
     app.click(IDC_ALONE_CMDARRETER);
-    EXPECT_EQ(answer(IDOK).find("Passage interrompu.\r\nEnregistrés : "), 0U);
+    EXPECT_EQ(app.answerBox(IDOK).find("Passage interrompu.\r\nEnregistrés : "), 0U);
     const auto calls = cad.calls();
     EXPECT_EQ(calls.back().find("closedoc"), std::string::npos) << calls.back();
     app.waitForCommandEnd(IDC_FORM3_LIST1, IDC_FORM3_CMDDESELECT);
@@ -53,7 +53,7 @@ TEST_F(Alone, StopsWhenAButtonIsPressedDuringACallAndEndsByTheFrame) {
 
     goOn();
     app.click(IDC_FORM3_CMDPRECEDENT);
-    EXPECT_EQ(answer(IDOK).find("Passage interrompu."), 0U);
+    EXPECT_EQ(app.answerBox(IDOK).find("Passage interrompu."), 0U);
     app.waitForCommandEnd(IDC_FORM3_LIST1, IDC_FORM3_CMDDESELECT);
     EXPECT_EQ(goOn().find("Enregistrer et fermer 1"), 0U);
     expectEnd(kTracking);

@@ -8,7 +8,7 @@ const std::vector<std::string> kFour = {"a.SLDPRT", "b.SLDPRT", "c.SLDPRT", "d.S
 
 struct BusyCad : Scenario {
     void waitForCall(const std::string& text) const {
-        waitFor("the call " + text, [&] { return countOfCalls(text) > 0; });
+        waitFor("the call " + text, [&] { return cad.countOf(text) > 0; });
     }
 
     static void answerBusyBox(const AppDriver& program, int answer) {
@@ -51,7 +51,7 @@ TEST_F(BusyCad, ImpatientPressesAreNotFurtherCommands) {
     // A command that comes after them shows that none of them still waits.
     app.click(IDC_FORM3_CMDFICHIERLISTE);
     expectList(listOf({"1", "3", "0", "0"}));
-    EXPECT_EQ(countOfCalls("save2"), 1);
+    EXPECT_EQ(cad.countOf("save2"), 1);
 }
 
 TEST_F(BusyCad, OtherProgramsCommandsAndTheFrameWaitForTheCall) {
@@ -61,9 +61,9 @@ TEST_F(BusyCad, OtherProgramsCommandsAndTheFrameWaitForTheCall) {
     waitForCall("OpenDoc6(&\"" + paths[1]);
     app.click(IDC_FORM3_CMDSUIVSAUTER);
     waitForCall("OpenDoc6(&\"" + paths[2]);
-    EXPECT_EQ(countOfCalls("b.SLDPRT.ViewZoomtofit2"), 1) << "b was left before it was shown";
+    EXPECT_EQ(cad.countOf("b.SLDPRT.ViewZoomtofit2"), 1) << "b was left before it was shown";
     expectEnd(kTracking);
-    EXPECT_EQ(countOfCalls("c.SLDPRT.ViewZoomtofit2"), 1) << "the command was cut off";
+    EXPECT_EQ(cad.countOf("c.SLDPRT.ViewZoomtofit2"), 1) << "the command was cut off";
 }
 
 }  // namespace

@@ -52,8 +52,7 @@ TEST_F(Desktop, WindowsStandWholeOnTheScreenAndCanBeMadeSmall) {
     EXPECT_EQ(placeOf(window).right, work.right);
 
     HWND list = app.control(IDC_FORM3_LIST1);
-    const SIZE before = sizeOf(window);
-    const SIZE listBefore = sizeOf(list);
+    const SIZE before = sizeOf(window), listBefore = sizeOf(list);
     SetWindowPos(window, nullptr, 0, 0, before.cx + 90, before.cy - 50, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_EQ(sizeOf(list).cx, listBefore.cx + 90);
     EXPECT_EQ(sizeOf(list).cy, listBefore.cy - 50);
@@ -74,10 +73,9 @@ TEST_F(Desktop, ShortcutsReachTheListSelectItsLinesAndPressButtons) {
     bringForward(window);
     for (const WORD key : {'G', 'A', 'D'}) pressKeys({VK_CONTROL, key});
     app.waitForText(IDC_FORM1_NBFICH, "1");
-    keybd_event(VK_F1, 0, 0, 0);
-    keybd_event(VK_F1, 0, KEYEVENTF_KEYUP, 0);
+    pressKeys({VK_F1});
     // Here there is no guide beside the program.
-    EXPECT_NE(answer(IDOK).find("guide.html"), std::string::npos);
+    EXPECT_NE(app.answerBox(IDOK).find("guide.html"), std::string::npos);
 
     expectAllInSightWhenSmall(window);
     app.click(IDC_FORM1_CMDREPDEF);

@@ -79,24 +79,4 @@ TEST_F(Hold, ListsOfTheirOwnAreOpenSideBySide) {
     EXPECT_TRUE(!held("tarnwick.verrou") && held("Été 2026.verrou"));
 }
 
-TEST_F(Hold, ListOpenOnAnotherMachineIsLeftAlone) {
-    const std::wstring file = wide(inDirectory("tarnwick.verrou"));
-    HANDLE held = CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
-                              CREATE_ALWAYS, FILE_ATTRIBUTE_HIDDEN, nullptr);
-    ASSERT_NE(held, INVALID_HANDLE_VALUE);
-    const std::string names = "zoé\r\nPC-12\r\n";
-    DWORD written = 0;
-    WriteFile(held, names.data(), static_cast<DWORD>(names.size()), &written, nullptr);
-    app.start();
-    const std::string text = expectFatalError(70);
-    EXPECT_TRUE(text.ends_with("La liste " + inDirectory("tarnwick.lst") +
-                               " est déjà ouverte par zoé sur PC-12."))
-        << text;
-    EXPECT_EQ(cad.calls(), calls::Calls{});
-    // The file stays, as after a power cut; nobody has it any more.
-    CloseHandle(held);
-    app.start();
-    app.window(kPrompt);
-}
-
 }  // namespace

@@ -26,7 +26,7 @@ TEST_F(Refusals, PassOverKeepOpenAndLeaveOpen) {
               "SolidWorks n'a pas enregistré :\r\n" + paths[2] + "\r\nfichier verrouillé (16)");
     EXPECT_EQ(box.buttons(), (std::vector{IDCANCEL, IDRETRY}));
     EXPECT_EQ(box.defaultButton(), IDRETRY);
-    EXPECT_EQ(countOfCalls("closedoc"), 1);
+    EXPECT_EQ(cad.countOf("closedoc"), 1);
     box.answer(IDRETRY);
     waitUntilOpen(paths[3]);
     const std::string report = exportReport();
@@ -38,7 +38,7 @@ TEST_F(Refusals, PassOverKeepOpenAndLeaveOpen) {
     }
     app.click(IDC_FORM3_CMDSORTIE);
     expectEnd();
-    EXPECT_EQ(countOfCalls("closedoc"), 2);
+    EXPECT_EQ(cad.countOf("closedoc"), 2);
     EXPECT_EQ(cad.calls().back().find("SetCurrentWorkingDirectory("), 0U);
     EXPECT_EQ(cad.calls().back().find("documents"), std::string::npos) << cad.calls().back();
     EXPECT_EQ(callByName(cad.application().get(), L"GetDocumentCount").number, 1);

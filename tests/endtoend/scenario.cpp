@@ -1,6 +1,5 @@
 #include "scenario.h"
 
-#include <algorithm>
 #include <iostream>
 
 namespace driver {
@@ -75,13 +74,6 @@ void Scenario::expectAlone(const char* caption) const {
     EXPECT_EQ(eventually<Lines>({caption}, [this] { return app.shownWindows(); }), Lines{caption});
 }
 
-std::string Scenario::answer(int button) const {
-    const ModalBox box = app.box();
-    const std::string text = box.text();
-    box.answer(button);
-    return text;
-}
-
 std::string Scenario::exportReport() const {
     app.chooseInSystemMenu(kTracking, IDM_FORM3_RAPPORT);
     app.saveAsProposed("Exporter le rapport", "tarnwick-rapport.csv");
@@ -98,16 +90,10 @@ void Scenario::waitUntilOpen(const std::string& path) const {
     app.waitForCommandEnd(IDC_FORM3_LIST1, IDC_FORM3_CMDDESELECT);
 }
 
-int Scenario::countOfCalls(const std::string& text) const {
-    const auto calls = cad.calls();
-    return static_cast<int>(std::ranges::count_if(
-        calls, [&](const std::string& call) { return call.find(text) != std::string::npos; }));
-}
-
 std::string Scenario::expectFatalError(int number) {
     EXPECT_EQ(app.box().title(), "Tarnwick");
     EXPECT_EQ(app.box().buttons(), std::vector{IDOK});
-    const std::string text = answer(IDOK);
+    const std::string text = app.answerBox(IDOK);
     EXPECT_EQ(text.find("Erreur d'exécution '" + std::to_string(number) + "' :"), 0U) << text;
     EXPECT_EQ(app.waitForExit(), number);
     return text;

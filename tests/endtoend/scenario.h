@@ -60,13 +60,10 @@ class Scenario : public testing::Test {
     void expectLines(int list, const Lines& lines) const;
     /// Waits until this is the only window shown.
     void expectAlone(const char* caption) const;
-    /// Answers the box that is shown; returns its text.
-    std::string answer(int button) const;
     /// Exports the report to where the dialog proposes, and returns it.
     std::string exportReport() const;
     /// Waits for the document to be open, and for the end of the command that opened it.
     void waitUntilOpen(const std::string& path) const;
-    int countOfCalls(const std::string& text) const;
     /// Expects the box of a fatal error and the end of the program; returns the box's text.
     std::string expectFatalError(int number);
     /// Expects the program to end without a word, closed by its window's frame if one is named.

@@ -12,9 +12,8 @@ struct SearchFolders : Scenario {
     std::vector<RECT> buttonsInFront() const {
         std::vector<RECT> places;
         for (HWND control : descendants(app.window(kConfigurations))) {
-            const LONG kind = GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK;
-            if (classOf(control) != "Button" || kind == BS_GROUPBOX) continue;
-            if (!IsWindowVisible(control)) continue;
+            const bool isGroup = (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+            if (classOf(control) != "Button" || isGroup || !IsWindowVisible(control)) continue;
             places.push_back(placeOf(control));
             InflateRect(&places.back(), GetSystemMetrics(SM_CXDOUBLECLK) / 2,
                         GetSystemMetrics(SM_CYDOUBLECLK) / 2);
@@ -66,7 +65,7 @@ TEST_F(SearchFolders, AreCreatedSavedAppliedAndFoundAgain) {
     app.click(IDC_FORM4_CMDENREGISTER);
     app.click(IDC_FORM4_CMDCHOISIR);
     EXPECT_FALSE(app.box().hasIcon());
-    EXPECT_EQ(answer(IDOK), "les répertoires de recherche de SOLIDWORKS ont été changés !");
+    EXPECT_EQ(app.answerBox(IDOK), "les répertoires de recherche de SOLIDWORKS ont été changés !");
     expectCalls({"setsearchfolders(0:i4, &\"" + tree[0] + ";" + tree[3] + "\")"});
     EXPECT_EQ(sandbox.readConfigurations().value_or(""),
               "Configuration:  Chaîne n°1\r\n   " + tree[0] + "\r\n   " + tree[3] + "\r\n");

@@ -33,30 +33,26 @@ TEST_F(Selection, FindsMarksAndLaunches) {
     expectAlone(kTracking);
 }
 
-// The report, filtered in a spreadsheet: a pass over what the one before has left to do.
+// The report of a pass, filtered in a spreadsheet: what that one has left to do.
 TEST_F(Selection, ImportsWhatTheReportOfAPassSaysIsLeft) {
-    writeListOf({"a.SLDPRT", "b;c.SLDDRW", "d.SLDASM"});
-    sandbox.writeList(listOf({"1", "0", "0"}));
-    cad.start({"--hidden"});
-    startAndResume();
-    waitUntilOpen(paths[1]);
-    std::string report = exportReport();
-    expectEnd(kTracking);
-    const auto done = report.find("1;Fait;");
-    report.erase(done, report.find('\n', done) + 1 - done);
+    writeListOf({"b;c.SLDDRW", "d.SLDASM"});
     const auto filtered = sandbox.documents() / "reste.csv";
-    writeFileBytes(filtered, report + "4;A faire;absent.SLDPRT\r\n");
-
+    writeFileBytes(filtered,
+                   "\xEF\xBB\xBFN°;Etat;Document;Marqué le;Durée (s);Enregistré;Remarque\r\n"
+                   "2;A faire;\"" +
+                       paths[0] + "\";;;;\r\n3;A faire;" + paths[1] +
+                       ";;;;\r\n4;A faire;absent.SLDPRT\r\n");
+    cad.start({"--hidden"});
     app.start();
     app.click(IDC_FORM2_CMDANNULE);
     app.chooseInSystemMenu(kSelection, IDM_FORM1_ORDRE);
     app.chooseInSystemMenu(kSelection, IDM_FORM1_IMPORTER);
     app.openFile("Importer une liste", filtered);
-    EXPECT_EQ(answer(IDOK), "1 ligne laissée de côté :\r\nabsent.SLDPRT : introuvable");
-    expectLines(IDC_FORM1_LIST1, {kChosen + paths[1], kChosen + paths[2]});
+    EXPECT_EQ(app.answerBox(IDOK), "1 ligne laissée de côté :\r\nabsent.SLDPRT : introuvable");
+    expectLines(IDC_FORM1_LIST1, {kChosen + paths[0], kChosen + paths[1]});
     app.click(IDC_FORM1_CMD_TRACER);
-    app.waitForText(IDC_FORM3_TXTETAT, paths[2]);
-    expectList(listLine("0", paths[2]) + listLine("0", paths[1]));
+    app.waitForText(IDC_FORM3_TXTETAT, paths[1]);
+    expectList(listLine("0", paths[1]) + listLine("0", paths[0]));
     EXPECT_EQ(settings.get("tarnwick", "options", "ordre").value_or(""), "1");
 }
 

@@ -31,7 +31,7 @@ TEST_F(Soak, ResourcesStayFlatWhileAPassGoesOnAlone) {
     resume(names, {"--hidden"});
     app.waitForText(IDC_FORM3_NBFICH1, "1");
     app.chooseInSystemMenu(kTracking, IDM_FORM3_SEUL);
-    answer(IDYES);
+    app.answerBox(IDYES);
 
     const Resources before = heldAt(count > 200 ? 100 : 20);
     const Resources after = heldAt(count - 10);

@@ -26,7 +26,7 @@ struct TrackingPass : Scenario {
     void command(int button, const std::vector<int>& lines) const {
         app.select(IDC_FORM3_LIST1, lines);
         app.click(button);
-        answer(IDYES);
+        app.answerBox(IDYES);
     }
 
     /// The line is current: number, path and selection say so.

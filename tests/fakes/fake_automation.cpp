@@ -29,14 +29,15 @@ struct FakeAutomation::Object : ServedObject {
     std::wstring name;
 
     CallResult lookUp(std::wstring_view member, std::int32_t& number) override {
-        number = static_cast<std::int32_t>(server.members_.size());
-        server.members_.emplace_back(member);
+        number = static_cast<std::int32_t>(server.lookedUp.size());
+        server.lookedUp.emplace_back(server.saidOf(name).kind, member);
         return 0;
     }
     CallResult invoke(std::int32_t number, Access access, std::span<const Argument> arguments,
                       ServersReply& reply) override {
         server.beforeEach();
-        const std::wstring member = server.members_.at(static_cast<std::size_t>(number));
+        const auto& [kind, member] = server.lookedUp.at(static_cast<std::size_t>(number));
+        if (kind != server.saidOf(name).kind) return call_result::kMemberNotFound;
         const std::wstring line = (name.empty() ? name : name + L'.') + member;
         if (access == Access::Put) {
             server.journal.push_back(line + L" = " + std::visit(ArgumentText(), arguments[0]));
@@ -48,9 +49,14 @@ struct FakeAutomation::Object : ServedObject {
         }
         server.journal.push_back(line + L'(' + texts + L')');
         reply = server.answer(name, member, arguments);
-        return 0;
+        return reply.errorCode == 0 ? 0 : call_result::kException;
     }
 };
+
+FakeDocument FakeAutomation::saidOf(const std::wstring& document) const {
+    const auto scripted = documents.find(document);
+    return scripted == documents.end() ? FakeDocument() : scripted->second;
+}
 
 ServersReply FakeAutomation::answer(const std::wstring& object, std::wstring_view name,
                                     std::span<const Argument> arguments) {
@@ -59,9 +65,10 @@ ServersReply FakeAutomation::answer(const std::wstring& object, std::wstring_vie
     const bool opens = name == L"OpenDoc6" || name == L"ActivateDoc2";
     const std::wstring path = opens ? textArgument(arguments[0]) : object;
     const std::wstring document = path.substr(path.rfind(L'\\') + 1);
-    const auto scripted = documents.find(document);
-    const FakeDocument said = scripted == documents.end() ? FakeDocument() : scripted->second;
-    if (said.fails == name) throw errors::automation(L"");
+    const FakeDocument said = saidOf(document);
+    if (said.fails == name) {
+        return {.errorCode = call_result::failure(0x80004005), .description = said.fails + L" !"};
+    }
     if (name == L"OpenDoc6") {
         *std::get<std::int32_t*>(arguments[4]) = said.errorCode;
         *std::get<std::int32_t*>(arguments[5]) = said.warningCode;
@@ -87,19 +94,20 @@ ServersReply FakeAutomation::answer(const std::wstring& object, std::wstring_vie
 
 CallResult FakeAutomation::running(const std::wstring& progId,
                                    std::shared_ptr<ServedObject>& object) {
+    beforeEach();
     journal.push_back(L"attach " + progId);
-    if (!runs) return call_result::failure(0x800401E3);  // MK_E_UNAVAILABLE
-    object = std::make_shared<Object>(*this);
-    return 0;
+    if (attaching == 0) object = std::make_shared<Object>(*this);
+    return attaching;
 }
 
 CallResult FakeAutomation::runningNamed(const std::wstring& beginning,
                                         std::shared_ptr<ServedObject>&) {
     journal.push_back(L"attach " + beginning + L"…");
-    return call_result::failure(0x800401E3);
+    return attaching;
 }
 
 std::shared_ptr<ServedObject> FakeAutomation::make(const std::wstring& progId) {
     journal.push_back(L"create " + progId);
+    if (progId != L"Scripting.FileSystemObject") return nullptr;
     return std::make_shared<Object>(*this, L"Fso");
 }

@@ -18,6 +18,7 @@ struct FakeDocument {
     std::int32_t errorCode = 0, warningCode = 0;
     Value saved = std::int32_t{0};
     std::wstring fails = {};  ///< the method that does, for it
+    std::wstring kind = {};   ///< objects of a kind have numbers of their own for their members
 };
 
 /// A running CAD application whose documents open and close, and a file-system object.
@@ -25,7 +26,7 @@ struct FakeAutomation : ObjectServers {
     using Answer = std::function<Value(std::span<const Argument>)>;
 
     CallJournal journal;
-    bool runs = true;  ///< false: there is none to attach to
+    CallResult attaching = 0;  ///< what it answers who attaches to it
     std::wstring revision = L"12.0.0";
     std::wstring workingDirectory = L"c:\\plans";
     std::wstring searchFolders;
@@ -43,6 +44,10 @@ struct FakeAutomation : ObjectServers {
                             std::shared_ptr<ServedObject>& object) override;
     std::shared_ptr<ServedObject> make(const std::wstring& progId) override;
 
+    std::vector<std::pair<std::wstring, std::wstring>> lookedUp;  ///< members' kinds and names
+    FakeMessageBoxes boxes;
+    FakeWaiting waiting;
+
     /// It is driven by name, as the real one.
     operator Automation&() { return byName_; }
 
@@ -56,9 +61,9 @@ struct FakeAutomation : ObjectServers {
     ServersReply answer(const std::wstring& object, std::wstring_view name,
                         std::span<const Argument> arguments);
 
-    std::vector<std::wstring> members_;  ///< by their numbers
-    FakeMessageBoxes boxes_;
-    FakeWaiting waiting_;
-    Patience patience_{waiting_, boxes_, waiting_.judge};
+    /// What it says of a document.
+    FakeDocument saidOf(const std::wstring& document) const;
+
+    Patience patience_{waiting, boxes, waiting.judge};
     Automation byName_{*this, patience_};
 };

@@ -57,9 +57,7 @@ struct FakeListBox : FakeControlOf<ListBox> {
     }
     void changeText(int index, const std::wstring& line) override { change(index).text = line; }
     void changeTexts(const std::function<std::wstring(int)>& line) override {
-        std::vector<std::wstring> changed;
-        for (int i = 0; i < count(); ++i) changed.push_back(line(i));
-        for (int i = 0; i < count(); ++i) changeText(i, changed[static_cast<std::size_t>(i)]);
+        for (int i = 0; i < count(); ++i) changeText(i, line(i));
     }
     void stopDrawing() override { ++drawingStops; }
     void resumeDrawing() override { --drawingStops; }
@@ -116,13 +114,7 @@ struct FakeTabStrip : FakeControlOf<TabStrip> {
 };
 
 struct FakeProgressBar : FakeControlOf<ProgressBar> {
-    int done = 0;
-    int total = 0;
-
-    void show(int stepsDone, int steps) override {
-        done = stepsDone;
-        total = steps;
-    }
+    void show(int, int) override {}
 };
 
 struct FakeMonitor {

@@ -18,13 +18,12 @@ std::vector<UINT> idsIn(HMENU menu, int from) {
 
 struct Menus : RealWindowTest {
     static void pressControlZ() {
-        BYTE keys[256] = {};
+        BYTE none[256] = {}, control[256] = {};
+        control[VK_CONTROL] = 0x80;
         MSG pressed{dialog(), WM_KEYDOWN, 'Z', 1, 0, {}};
-        for (const bool down : {true, false}) {
-            keys[VK_CONTROL] = down ? 0x80 : 0;
-            SetKeyboardState(keys);
-            EXPECT_EQ(down && translateShortcut(dialog(), pressed), down);
-        }
+        SetKeyboardState(control);
+        EXPECT_TRUE(translateShortcut(dialog(), pressed));
+        SetKeyboardState(none);
     }
 
     std::unique_ptr<Window> window =

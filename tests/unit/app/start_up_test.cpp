@@ -114,7 +114,7 @@ TEST_F(StartUp, EndsBeforeAllElseWhenTheListIsOpenAlready) {
 }
 
 TEST_F(StartUp, WithoutCadSessionShowsOneBoxAndEnds) {
-    machine.automation.runs = false;
+    machine.automation.attaching = call_result::failure(0x800401E3);  // MK_E_UNAVAILABLE
     machine.files.texts[machine.programFiles.list] = L"0  c:\\a\r\n";
     EXPECT_THROW(program.start(), ProgramEnd);
     EXPECT_EQ(

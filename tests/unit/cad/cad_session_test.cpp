@@ -58,3 +58,15 @@ TEST(ReleaseName, FollowsTheRevisionsFirstCharacters) {
             << revision;
     }
 }
+
+TEST(TitleOfAnyRelease, BeginsWithTheNameAndContainsTheDocuments) {
+    const std::tuple<const wchar_t*, const wchar_t*, bool> cases[] = {
+        {L"SOLIDWORKS Premium 2020 - [a.SLDPRT *]", L"a.SLDPRT", true},
+        {L"SOLIDWORKS Premium 2020 - [a.SLDPRT *]", L"b.SLDPRT", false},
+        {L"a.SLDPRT - SolidWorks", L"a.SLDPRT", false},
+        {L"SOLIDWORKS", L"SOLID", false},  // only behind the name
+        {L"SOLIDWORKS", L"", false}};
+    for (const auto& [title, document, isOne] : cases) {
+        EXPECT_EQ(isTitleOfAnyRelease(title, document), isOne) << title << document;
+    }
+}

@@ -2,13 +2,10 @@
 
 #include "unit/unit_test.h"
 
-TEST(Trimmed, LosesBlanksOnly) {
+TEST(Text, LosesBlanksOnlyAndIsEqualInAnyCaseOfAccentedLetters) {
     EXPECT_EQ(trimmed(L"  a b  "), L"a b");
     EXPECT_EQ(trimmed(L"    "), L"");
     EXPECT_EQ(trimmed(L" \ta\x00a0 "), L"\ta\x00a0");
-}
-
-TEST(EqualIgnoringCase, KnowsAccentedLetters) {
     EXPECT_TRUE(equalIgnoringCase(L"C:\\Été\\Pièce.SLDPRT", L"c:\\éTÉ\\pIÈCE.sldprt"));
     EXPECT_FALSE(equalIgnoringCase(L"c:\\ete", L"c:\\été"));
     EXPECT_FALSE(equalIgnoringCase(L"a", L"ab"));

@@ -1,46 +1,9 @@
 #include "pickers/pickers.h"
 
 #include "fakes/fake_files.h"
-#include "fakes/fake_waiting.h"
 #include "fakes/fake_window.h"
 #include "pickers/paths.h"
 #include "unit/unit_test.h"
-
-TEST(DirectoryPicker, ShowsAndOpensAncestorsAndSubdirectories) {
-    FakeFiles files;
-    files.directories = {L"c:\\plans\\moteur\\Bielle", L"c:\\plans\\moteur\\arbre",
-                         L"c:\\plans\\Zone"};
-    files.add({L"c:\\plans\\moteur\\piece.SLDPRT"});
-    FakeListBox list;
-    list.severalSelectable = false;
-    FakeControl label;
-    NoWorkers alone;
-    FakePatience patience;
-    const struct : EventSink {
-        void raise(int, Event) override {}
-    } window;
-    DirectoryPicker picker(list, label, {files, alone, patience}, window);
-    EXPECT_EQ(picker.open(L"c:\\plans\\moteur\\"), Opening::Another);
-    EXPECT_EQ(list.texts(),
-              (Texts{L"c:\\", L"  plans", L"    moteur", L"      arbre", L"      Bielle"}));
-    EXPECT_EQ(list.selection(), std::vector{2});
-    EXPECT_EQ(picker.open(L"c:\\plans\\moteur"), Opening::Same);
-    const std::tuple<int, Opening, const wchar_t*> steps[] = {
-        {3, Opening::Another, L"c:\\plans\\moteur\\arbre"},
-        {3, Opening::Same, L"c:\\plans\\moteur\\arbre"},
-        {1, Opening::Another, L"c:\\plans"},
-        {0, Opening::Another, L"c:\\"},
-        {-1, Opening::Same, L"c:\\"}};
-    for (const auto& [line, opening, path] : steps) {
-        list.clearSelection();
-        list.select(line, true);
-        EXPECT_EQ(picker.openSelected(), opening) << path;
-        EXPECT_EQ(picker.path(), path);
-        if (line == 1) {
-            EXPECT_EQ(list.texts(), (Texts{L"c:\\", L"  plans", L"    moteur", L"    Zone"}));
-        }
-    }
-}
 
 TEST(DrivePicker, FindsTheDriveOfAPathInAnyCase) {
     FakeFiles files;

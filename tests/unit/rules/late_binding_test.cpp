@@ -6,103 +6,56 @@
 
 namespace {
 
-/// Knows its members by a number of its own.
-struct FakeObject : ServedObject {
-    explicit FakeObject(std::int32_t itsNumber) : number(itsNumber) {}
-
-    const std::int32_t number;
-    int lookUps = 0;
-    CallResult answer = 0;
-    std::shared_ptr<ServedObject> document;  ///< that is opened
-
-    CallResult lookUp(std::wstring_view, std::int32_t& member) override {
-        ++lookUps;
-        member = number;
-        return 0;
-    }
-    CallResult invoke(std::int32_t member, Access, std::span<const Argument>,
-                      ServersReply& reply) override {
-        if (member != number) return call_result::kMemberNotFound;
-        reply = {.value = true, .object = document};
-        reply.errorCode = call_result::failure(0x80004005);
-        reply.description = L"OpenDoc6 a échoué.";
-        return answer;
-    }
-};
-
-struct FakeServers : ObjectServers {
-    std::shared_ptr<FakeObject> application = std::make_shared<FakeObject>(1);
-    CallResult answer = 0;
-    std::function<void()> whenAsked = [] {};
-
-    CallResult running(const std::wstring&, std::shared_ptr<ServedObject>& object) override {
-        whenAsked();
-        if (answer == 0) object = application;
-        return answer;
-    }
-    CallResult runningNamed(const std::wstring& name,
-                            std::shared_ptr<ServedObject>& object) override {
-        return running(name, object);
-    }
-    std::shared_ptr<ServedObject> make(const std::wstring&) override { return nullptr; }
-};
-
 struct LateBindingTest : testing::Test {
-    FakeWaiting clock;
-    FakeMessageBoxes boxes;
-    Patience patience{clock, boxes, clock.judge};
-    FakeServers servers;
-    Automation automation{servers, patience};
-    const std::shared_ptr<FakeObject> part = std::make_shared<FakeObject>(7);
-    const std::shared_ptr<FakeObject> drawing = std::make_shared<FakeObject>(8);
+    ObjectPtr attach() { return byName.attach(L"SldWorks.Application"); }
 
-    void save(const ObjectPtr& application, const std::shared_ptr<FakeObject>& document,
-              std::wstring_view documentClass) {
-        servers.application->document = document;
-        const ObjectPtr opened = objectOf(callMethod(application, L"OpenDoc6", {}, documentClass));
-        EXPECT_TRUE(isTrue(callMethod(opened, L"save2")));
-    }
+    FakeAutomation automation;
+    Automation& byName = automation;
 };
 
 }  // namespace
 
 TEST_F(LateBindingTest, LooksANameUpOncePerClassOfObjects) {
-    const ObjectPtr application = automation.attach(L"SldWorks.Application");
-    for (int i = 0; i < 2; ++i) save(application, part, L"part");
-    save(application, drawing, L"drawing");
-    EXPECT_EQ(part->lookUps, 1);
-    EXPECT_EQ(drawing->lookUps, 1);
+    automation.documents[L"drawing"].kind = L"drawing";
+    const ObjectPtr application = attach();
     // And again when the object is of another kind, or its class is not certain.
-    save(application, drawing, L"part");
-    EXPECT_EQ(drawing->lookUps, 2);
-    for (int i = 0; i < 2; ++i) save(application, part, {});
-    EXPECT_EQ(part->lookUps, 3);
+    const std::tuple<const wchar_t*, std::wstring_view, int> cases[] = {
+        {L"part", L"part", 1},    {L"part", L"part", 1}, {L"drawing", L"drawing", 2},
+        {L"drawing", L"part", 3}, {L"part", {}, 4},      {L"part", {}, 5}};
+    for (const auto& [name, documentClass, lookUps] : cases) {
+        const ObjectPtr document =
+            objectOf(callMethod(application, L"ActivateDoc2", {std::wstring(name)}, documentClass));
+        callMethod(document, L"save2");
+        EXPECT_EQ(std::ranges::count(automation.lookedUp, L"save2",
+                                     [](const auto& member) { return member.second; }),
+                  lookUps);
+    }
 }
 
 TEST_F(LateBindingTest, GivesTheServersFailureAsARunTimeError) {
-    const ObjectPtr application = automation.attach(L"SldWorks.Application");
-    servers.application->answer = call_result::kException;
-    const RuntimeError error = raisedError([&] { callMethod(application, L"OpenDoc6"); });
+    automation.documents[L"a"].fails = L"ActivateDoc2";
+    const RuntimeError error =
+        raisedError([&] { callMethod(attach(), L"ActivateDoc2", {std::wstring(L"a")}); });
     EXPECT_EQ(error.number, 440);
-    EXPECT_EQ(error.text, L"OpenDoc6 a échoué.");
-    EXPECT_EQ(raised([&] { automation.create(L"Absent.Object"); }), 440);
+    EXPECT_EQ(error.text, L"ActivateDoc2 !");
+    EXPECT_EQ(raised([&] { byName.create(L"Absent.Object"); }), 440);
 }
 
 TEST_F(LateBindingTest, WaitsForARunningObjectThatIsBusy) {
-    servers.answer = call_result::kRejected;
-    servers.whenAsked = [&] {
-        if (clock.time > 1'005'000) servers.answer = 0;
+    automation.attaching = call_result::kRejected;
+    automation.beforeEach = [&] {
+        if (automation.waiting.time > 1'005'000) automation.attaching = 0;
     };
-    EXPECT_NE(automation.attach(L"SldWorks.Application"), nullptr);
-    servers.answer = call_result::failure(0x800401E3);  // MK_E_UNAVAILABLE
-    servers.whenAsked = [] {};
-    EXPECT_EQ(automation.attach(L"SldWorks.Application"), nullptr);
-    EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_NE(attach(), nullptr);
+    automation.beforeEach = [] {};
+    automation.attaching = call_result::failure(0x800401E3);  // MK_E_UNAVAILABLE
+    EXPECT_EQ(attach(), nullptr);
+    EXPECT_TRUE(automation.boxes.shown.empty());
     // A user who gives up waiting is told that it is there.
-    servers.answer = call_result::kRetryLater;
-    boxes.answers = {MessageBoxes::Answer::Cancel};
-    EXPECT_EQ(raised([&] { automation.attach(L"SldWorks.Application"); }), 440);
-    EXPECT_EQ(boxes.shown.size(), 1U);
+    automation.attaching = call_result::kRetryLater;
+    automation.boxes.answers = {MessageBoxes::Answer::Cancel};
+    EXPECT_EQ(raised([&] { attach(); }), 440);
+    EXPECT_EQ(automation.boxes.shown.size(), 1U);
 }
 
 TEST(AutomationResult, BecomesTextWhenItIsOneOrEmptyAndIsTrueWithAllBitsSetOnly) {

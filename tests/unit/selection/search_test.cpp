@@ -70,6 +70,21 @@ TEST_F(SelectionSearch, EveryChangeOfAnInputFindsAnewAndChoosesNothing) {
     }
 }
 
+TEST_F(SelectionSearch, IsMadeAnewOnlyInAnotherDirectory) {
+    machine.files.directories = {L"c:\\plans\\moteur\\Bielle", L"c:\\plans\\moteur\\arbre",
+                                 L"c:\\Zone"};
+    load(L"c:\\plans\\moteur\\");
+    FakeListBox& tree = window().listBox(IDC_FORM1_REPERT);
+    EXPECT_EQ(tree.texts(),
+              (Texts{L"c:\\", L"  plans", L"    moteur", L"      arbre", L"      Bielle"}));
+    EXPECT_EQ(tree.selection(), std::vector{2});
+    click(IDC_FORM1_CMD_INV);
+    openDirectory(L"moteur");
+    EXPECT_EQ(marks(), L"1");
+    for (const wchar_t* name : {L"arbre", L"plans", L"c:\\"}) openDirectory(name);
+    EXPECT_EQ(tree.texts(), (Texts{L"c:\\", L"  plans", L"  Zone"}));
+}
+
 TEST_F(SelectionSearch, LeavingTheKindsAsTheyAreKeepsWhatIsChosen) {
     load();
     tick(true);

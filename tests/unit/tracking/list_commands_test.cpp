@@ -39,7 +39,7 @@ const struct {
      L"Passage en mode 'F'"},
     {IDC_FORM3_CMDCHAV, L"passer les lignes sélectionnées \n\ren mode 'Vu'",
      L"Passage en mode 'V'"},
-    {kReset, L"passer les lignes sélectionnées \n\ren mode 'à traiter'",
+    {IDC_FORM3_CMDCHARAZ, L"passer les lignes sélectionnées \n\ren mode 'à traiter'",
      L"Passage en mode 'A Traiter'"},
     {IDC_FORM3_CMDELIF, L"supprimer les fichiers marqués 'F' \n\rparmi les lignes sélectionnées",
      L"Elimination 'F' et 'V' "},
@@ -78,28 +78,24 @@ TEST_F(ListCommands, WantALineAskFirstAndDoNothingWhenTheAnswerIsNo) {
 }
 
 TEST_F(ListCommands, ChangeOrRemoveLinesAndKeepTheCurrentOneOpen) {
-    const struct {
-        int button;
-        std::vector<int> selected;
-        const wchar_t* after;
-        std::size_t calls = 0;
-    } cases[] = {
-        {IDC_FORM3_CMDCHAF, {0, 1, 2, 3}, L" | 1 3 1 1 0 | 1: 2/5 c:\\b"},
-        {IDC_FORM3_CMDCHAV, {0, 1, 4}, L" | 2 3 2 0 2 | 1: 2/5 c:\\b"},
+    // The button, the selected lines, what is after it, and how many calls it makes.
+    const std::tuple<int, std::vector<int>, const wchar_t*, std::size_t> cases[] = {
+        {IDC_FORM3_CMDCHAF, {0, 1, 2, 3}, L" | 1 3 1 1 0 | 1: 2/5 c:\\b", 0},
+        {IDC_FORM3_CMDCHAV, {0, 1, 4}, L" | 2 3 2 0 2 | 1: 2/5 c:\\b", 0},
         // Only going back to do brings the application forward.
         {kReset, {1, 2}, L" | 1 3 0 0 0 | 1: 2/5 c:\\b", 3},
-        {IDC_FORM3_CMDELIF, {2}, L" | 1 3 0 0 | 1: 2/4 c:\\b"},  // takes seen lines too
-        {IDC_FORM3_CMDELIFV, {0, 1, 2, 3, 4}, L" | 3 0 0 | 0: 1/3 c:\\b"},
-        {IDC_FORM3_CMDELIV, {0, 1, 2, 3, 4}, L" | 1 3 0 0 | 1: 2/4 c:\\b"},
-        {IDC_FORM3_CMDPURGE, {1}, L" | 3 0 0 | 0: 1/3 c:\\b"},
+        {IDC_FORM3_CMDELIF, {2}, L" | 1 3 0 0 | 1: 2/4 c:\\b", 0},  // takes seen lines too
+        {IDC_FORM3_CMDELIFV, {0, 1, 2, 3, 4}, L" | 3 0 0 | 0: 1/3 c:\\b", 0},
+        {IDC_FORM3_CMDELIV, {0, 1, 2, 3, 4}, L" | 1 3 0 0 | 1: 2/4 c:\\b", 0},
+        {IDC_FORM3_CMDPURGE, {1}, L" | 3 0 0 | 0: 1/3 c:\\b", 0},
         {kResume, {2}, L" | 1 0 2 3 0 | 3: 4/5 c:\\d", 4},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.after);
+    for (const auto& [button, lines, outcome, calls] : cases) {
+        SCOPED_TRACE(outcome);
         loadStates(L"10200");
-        command(c.button, c.selected);
-        EXPECT_EQ(takeCalls().size(), c.calls);
-        EXPECT_EQ(after({}), c.after);
+        command(button, lines);
+        EXPECT_EQ(takeCalls().size(), calls);
+        EXPECT_EQ(after({}), outcome);
         const std::wstring current = text(IDC_FORM3_TXTETAT);
         EXPECT_TRUE(cad->hasOpen(current));
         ASSERT_EQ(list().selection().size(), 1U);
