@@ -20,8 +20,8 @@ struct FakePlatform {
     FakePower power;
     FakeWindowFactory windows;
     FakeWorkers workers;
-    FakePatience patience;
-    SearchServices search{files, workers, patience};
+    FakeSearchWatch watch;
+    SearchServices search{files, workers, watch};
     Platform platform{automation,  settings, files, records, listHolds, clock,          boxes,
                       fileDialogs, desktop,  power, windows, search,    L"c:\\tarnwick"};
 
@@ -47,16 +47,16 @@ struct FakePlatform {
         files.beforeEach = [=, this](const std::wstring& path) {
             if (path == directory) workers.hang = true;
         };
-        patience.goesOn = [=, this] { return !std::exchange(workers.hang, false) || goesOn(); };
+        watch.goesOn = [=, this] { return !std::exchange(workers.hang, false) || goesOn(); };
     }
 
     /// From now on no directory answers; Escape is pressed while one is waited for, and each time
     /// this is done.
     void hangUntilEscape(const std::function<void()>& deed = [] {}) {
         workers.hang = true;
-        patience.goesOn = [this, deed] {
+        watch.goesOn = [this, deed] {
             deed();
-            return patience.stop();
+            return watch.stop();
         };
     }
 

@@ -27,7 +27,7 @@ struct FakeWaiting : BusyWaiting {
 };
 
 /// Waits without a window; goes on as long as it is told to.
-struct FakePatience : SearchWatch {
+struct FakeSearchWatch : SearchWatch {
     std::function<bool()> goesOn = [] { return true; };
     const EventSink* searching = nullptr;
 

@@ -89,13 +89,13 @@ struct TreeWalk : testing::Test {
     /// All workers are waited for.
     WalkEnd walk(Workers& workers) {
         return walkTree(
-            {files, workers, patience}, L"c:\\r", true, isPart,
+            {files, workers, watch}, L"c:\\r", true, isPart,
             [&](const auto& directory, const auto& names) { note(log, directory, names); });
     }
 
     Log log;
     FakeFiles files;
-    FakePatience patience;
+    FakeSearchWatch watch;
 };
 
 }  // namespace
@@ -112,10 +112,10 @@ TEST(TreeWalks, MeetWhatOneThreadMeetsAndFailWhereItFails) {
         };
         const auto logWith = [&](Workers& workers) {
             Log log;
-            FakePatience patience;
+            FakeSearchWatch watch;
             const RuntimeError error = raisedError([&] {
                 EXPECT_EQ(
-                    walkTree({tree.files, workers, patience}, L"c:\\r", true, isPart, visitor(log)),
+                    walkTree({tree.files, workers, watch}, L"c:\\r", true, isPart, visitor(log)),
                     WalkEnd::Complete);
             });
             log.push_back(std::to_wstring(error.number) + error.text);
@@ -145,7 +145,7 @@ TEST_F(TreeWalk, EndsWhenItIsToldAlthoughAServerDoesNotAnswer) {
             asked = true;
             answer.wait();
         };
-        patience.goesOn = [&] { return !asked; };
+        watch.goesOn = [&] { return !asked; };
         log.clear();
         JoiningWorkers hanging;
         EXPECT_EQ(walk(hanging), WalkEnd::Interrupted);
@@ -172,7 +172,7 @@ TEST_F(TreeWalk, ReadsWhatItWaitsForThoughAllThatReadAheadHang) {
         }
     };
     const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    patience.goesOn = [&] { return log.size() < 3 && std::chrono::steady_clock::now() < limit; };
+    watch.goesOn = [&] { return log.size() < 3 && std::chrono::steady_clock::now() < limit; };
     JoiningWorkers workers;
     EXPECT_EQ(walk(workers), WalkEnd::Interrupted);
     answer.count_down();
@@ -199,18 +199,18 @@ TEST_F(TreeWalk, LetsOthersReadWhileItIdentifiesALinkItself) {
 
 TEST(InParallel, DoesEachJobOnceAndTellsOfTheFirstThatFails) {
     FakeFiles files;
-    FakePatience patience;
+    FakeSearchWatch watch;
     for (const int most : {0, 3, 100}) {
         JoiningWorkers workers;
         workers.most = most;
         std::vector<int> times(500);
-        EXPECT_TRUE(inParallel({files, workers, patience}, times.size(),
+        EXPECT_TRUE(inParallel({files, workers, watch}, times.size(),
                                [&](std::size_t number) { ++times[number]; }));
         EXPECT_EQ(times, std::vector<int>(500, 1));
         const auto fail = [](std::size_t number) {
             if (number == 7) throw errors::fileNotFound(L"x");
         };
-        EXPECT_EQ(raised([&] { (void)inParallel({files, workers, patience}, 500, fail); }), 53);
+        EXPECT_EQ(raised([&] { (void)inParallel({files, workers, watch}, 500, fail); }), 53);
     }
 }
 

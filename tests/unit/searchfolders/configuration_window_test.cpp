@@ -119,7 +119,7 @@ TEST_F(ConfigurationFixture, AddsNothingOfATreeThatIsStoppedOrCantBeRead) {
     choose(1);
     click(IDC_FORM4_CMDMODIFIER);
     openP();
-    machine.serveAfter(L"c:\\p\\1", [&] { return machine.patience.stop(); });
+    machine.serveAfter(L"c:\\p\\1", [&] { return machine.watch.stop(); });
     click(IDC_FORM4_CMDAJO2);
     machine.files.unreadable = {L"c:\\p\\2"};
     click(IDC_FORM4_CMDAJO2);

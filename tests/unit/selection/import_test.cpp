@@ -129,7 +129,7 @@ TEST_F(SelectionImport, WhatIsDroppedComesInItsOrder) {
     EXPECT_EQ(box(),
               L"1 ligne laissée de côté :\r\nc:\\x.pdf : n'est pas un document SolidWorks\r\n"
               L"1 ligne déjà dans la liste.");
-    machine.serveAfter(L"c:\\plans\\moteur", [&] { return machine.patience.stop(); });
+    machine.serveAfter(L"c:\\plans\\moteur", [&] { return machine.watch.stop(); });
     window().drop({L"c:\\plans", L"d:\\doc"});
     EXPECT_EQ(list().count(), 6) << "what was found until then";
     EXPECT_EQ(list().line(0), L" X   c:\\plans\\axe.slddrw");

@@ -163,7 +163,7 @@ TEST_F(SelectionSearch, AsksBeforeAWholeDriveIsSearched) {
 
 TEST_F(SelectionSearch, ListsWhatWasFoundWhenItIsStoppedOrBegunAgain) {
     load();
-    machine.serveAfter(L"c:\\plans", [&] { return machine.patience.stop(); });
+    machine.serveAfter(L"c:\\plans", [&] { return machine.watch.stop(); });
     tick(true);
     const Texts found = {L"c:\\plans\\axe.slddrw", L"c:\\plans\\Zoe.SLDDRW"};
     EXPECT_EQ(unchosen(), found);
@@ -174,7 +174,7 @@ TEST_F(SelectionSearch, ListsWhatWasFoundWhenItIsStoppedOrBegunAgain) {
     leaveTypes();
     EXPECT_EQ(unchosen(), found) << "what was stopped is not searched again";
     machine.serveAfter(L"c:\\plans", [&] {
-        EXPECT_EQ(machine.patience.searching, &window().sink);
+        EXPECT_EQ(machine.watch.searching, &window().sink);
         return false;
     });
     type(L"*.SLDDRW");

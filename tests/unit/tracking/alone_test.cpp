@@ -172,7 +172,7 @@ TEST_F(Alone, ShowsHowFarItIsAndHoldsTheMachineAwake) {
     loadStates(L"0000");
     refuse(L"b");
     Texts shown;
-    machine.patience.goesOn = [&] {
+    machine.watch.goesOn = [&] {
         FakeWindow& progress = machine.window(IDD_ALONE);
         EXPECT_TRUE(machine.power.awake && progress.state == FakeWindow::State::Aside);
         machine.clock.milliseconds += 60'000;
@@ -201,7 +201,7 @@ TEST_F(Alone, IsStoppedByTheUserBetweenTwoCommands) {
     for (const auto& c : cases) {
         loadStates(L"0000");
         int left = c.after;
-        machine.patience.goesOn = [&] {
+        machine.watch.goesOn = [&] {
             if (left-- == 0 && c.byFrame) throw ProgramEnd{};
             return left >= 0;
         };

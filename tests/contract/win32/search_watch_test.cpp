@@ -26,18 +26,18 @@ struct SearchOnAWindow : RealWindowTest {
     /// or ends the search.
     void search(const std::function<void()>& user) {
         gate.run([&] {
-            const Searching searching(patience_, *this, SearchKind::Documents);
+            const Searching searching(watch_, *this, SearchKind::Documents);
             const std::jthread other(user);
-            end_ = walkTree({*files_, workers_, patience_}, L"c:\\", true, noFile,
+            end_ = walkTree({*files_, workers_, watch_}, L"c:\\", true, noFile,
                             [](const auto&, const auto&) {});
         });
     }
     /// Its pass goes on alone until the user stops it.
     void goAlone(const std::function<void()>& user) {
         gate.run([&] {
-            const Searching going(patience_, *this, SearchKind::Alone);
+            const Searching going(watch_, *this, SearchKind::Alone);
             const std::jthread other(user);
-            while (patience_.wait()) continue;
+            while (watch_.wait()) continue;
         });
     }
     void answer() { SetEvent(files_->answers); }
@@ -58,7 +58,7 @@ struct SearchOnAWindow : RealWindowTest {
     std::optional<WalkEnd> end_;
     SilentFiles* files_ = new SilentFiles;  // its readers may outlive the test
     PoolWorkers workers_;
-    WinSearchWatch patience_{judge};
+    WinSearchWatch watch_{judge};
     std::unique_ptr<Window> window_ =
         factory.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);
 };
