@@ -53,6 +53,10 @@ RuntimeError errorOf(const CallFailure& failure) {
     if (isBusy(failure.result)) {
         return errors::automation(L"SolidWorks est occupé et n'a pas pris l'appel.");
     }
+    if (failure.result == call_result::kDisconnected) {
+        return errors::automation(
+            L"Le document a été fermé dans SolidWorks, ou la session SolidWorks s'est arrêtée.");
+    }
     if (isGone(failure.result)) {
         return errors::automation(
             L"La session SolidWorks ne répond plus : elle a été fermée ou s'est arrêtée.");

@@ -96,6 +96,8 @@ TEST(CallError, TellsWhatWasWrongAndALostSessionFromADocumentsFailure) {
         EXPECT_EQ(error(lost).number, 440) << lost;
         EXPECT_FALSE(error(lost).text.empty()) << lost;
     }
+    // The object of a document that the user has closed answers so, too.
+    EXPECT_TRUE(error(kDisconnected).text.starts_with(L"Le document"));
     for (const CallResult other : {kException, kUnknownName, kMemberNotFound, kTypeMismatch, -1}) {
         EXPECT_FALSE(error(other).sessionLost) << other;
     }
