@@ -162,7 +162,7 @@ class PassRunner {
     MarkKeeper marks_;
     PassOptions options_;
     AloneOutcome* alone_ = nullptr;  ///< null unless the pass is going on alone
-    bool stays_ = false;             ///< the current line's document did not open
-    bool saveRefused_ = false;       ///< the last command's save was refused
-    bool openWarns_ = false;         ///< the open document opened with warnings or errors
+    bool stays_ = false;  ///< the current line's document did not open, or none of those above
+    bool saveRefused_ = false;  ///< the last command's save was refused
+    bool openWarns_ = false;    ///< the open document opened with warnings or errors
 };

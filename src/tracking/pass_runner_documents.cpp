@@ -21,8 +21,9 @@ bool PassRunner::go(Redraw redraw, Direction direction) {
         keepMarks();
         if (!goesOnAfter(refusals)) return stay(), false;
         if (!pass_.passOver(direction)) {
-            direction == Direction::Down ? endAt(redraw) : endAtTop();
-            return false;
+            if (direction == Direction::Down) return endAt(redraw), false;
+            stays_ = true;
+            return endAtTop(), false;
         }
     }
     view_.showDocument();

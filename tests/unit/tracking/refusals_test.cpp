@@ -73,6 +73,8 @@ TEST_F(Refusals, ArePassedOverToTheEndOfTheDirection) {
         {L"0000", L"bcd", L"+a", {kSee}, L"-a+b+c+d | 2 0 0 0 | 4: 4/4 Aucun"},
         {L"0000", L"bc", L"+a", {kSkip, kBack}, L"-a+b+c+d-d-d+c+b+a | 3 0 0 0 | 0: 1/4 c:\\a"},
         {L"0100", L"a", L"+a+c", {kBack}, L"-c-c+a | 0 1 0 0 | -1: 1/4 aucun"},
+        // Nothing is open there, either, that could be saved or closed.
+        {L"00", L"a", L"+a+b", {kBack, kSave}, L"-b-b+a+a+b | 0 3 | 1: 2/2 c:\\b"},
     };
     for (const auto& [codes, refused, loading, buttons, outcome] : cases) {
         SCOPED_TRACE(outcome);
