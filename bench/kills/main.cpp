@@ -41,8 +41,13 @@ class Kills {
     void run(int kills) {
         for (int kill = 0; kill < kills; ++kill) {
             if (kill % round_.kills == 0) beginAnew();
-            start();
-            workAndKill();
+            try {
+                start();
+                workAndKill();
+            } catch (const TimedOut& late) {
+                std::cerr << "kill " << kill << ": " << late.what() << '\n' << app_.describe();
+                throw;
+            }
         }
     }
 
