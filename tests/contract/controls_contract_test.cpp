@@ -1,8 +1,6 @@
 #include "contract/contract_ids.h"
 #include "contract/machine.h"
 
-namespace {
-
 using Lines = std::vector<int>;
 
 struct ControlContract : ContractTest {
@@ -10,11 +8,11 @@ struct ControlContract : ContractTest {
     ListBox& one = window.listBox(IDC_CONTRACT_ONE);
 };
 
-void fill(ListBox& list, int count) {
+static void fill(ListBox& list, int count) {
     list.setLines(count, [](int i) { return L"ligne " + std::to_wstring(i); });
 }
 
-Lines selection(const ListBox& list) {
+static Lines selection(const ListBox& list) {
     Lines result;
     for (int i = 0; i < list.count(); ++i) {
         if (list.selected(i)) result.push_back(i);
@@ -22,13 +20,11 @@ Lines selection(const ListBox& list) {
     return result;
 }
 
-Texts texts(const ListBox& list) {
+static Texts texts(const ListBox& list) {
     Texts result;
     for (int i = 0; i < list.count(); ++i) result.push_back(list.line(i));
     return result;
 }
-
-}  // namespace
 
 TEST_F(ControlContract, ComboBoxShowsTheLineThatIsSelected) {
     const std::wstring lines[] = {L"c:", L"d:", L"c:"};

@@ -4,8 +4,6 @@
 #include "scenario.h"
 #include "tracking/alone_ids.h"
 
-namespace {
-
 struct Alone : Scenario {
     /// Resumes a list of so many documents in a session that opens them slowly, and goes on alone.
     void begin(int count, const std::string& said) {
@@ -58,5 +56,3 @@ TEST_F(Alone, StopsWhenAButtonIsPressedDuringACallAndEndsByTheFrame) {
     EXPECT_EQ(goOn().find("Enregistrer et fermer 1"), 0U);
     expectEnd(kTracking);
 }
-
-}  // namespace

@@ -2,8 +2,6 @@
 
 #include "scenario.h"
 
-namespace {
-
 const std::vector<std::string> kFour = {"a.SLDPRT", "b.SLDPRT", "c.SLDPRT", "d.SLDPRT"};
 
 struct BusyCad : Scenario {
@@ -65,5 +63,3 @@ TEST_F(BusyCad, OtherProgramsCommandsAndTheFrameWaitForTheCall) {
     expectEnd(kTracking);
     EXPECT_EQ(cad.countOf("c.SLDPRT.ViewZoomtofit2"), 1) << "the command was cut off";
 }
-
-}  // namespace

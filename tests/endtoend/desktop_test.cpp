@@ -3,23 +3,21 @@
 #include "driver/keys.h"
 #include "scenario.h"
 
-namespace {
-
 using Desktop = Scenario;
 
-SIZE sizeOf(HWND window) {
+static SIZE sizeOf(HWND window) {
     const RECT place = placeOf(window);
     return {place.right - place.left, place.bottom - place.top};
 }
 
-bool isFrame(HWND control) {
+static bool isFrame(HWND control) {
     const bool isGroup = (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
     return classOf(control) == "SysTabControl32" || (classOf(control) == "Button" && isGroup);
 }
 
 /// Makes a window as small as every window can be made; all its controls must be in sight then,
 /// none upon another (labels may touch by the rounding of a pixel).
-void expectAllInSightWhenSmall(HWND window) {
+static void expectAllInSightWhenSmall(HWND window) {
     SetWindowPos(window, nullptr, 0, 0, 940, 480, SWP_NOZORDER);
     EXPECT_LE(sizeOf(window).cx, 940);
     EXPECT_LE(sizeOf(window).cy, 480);
@@ -85,5 +83,3 @@ TEST_F(Desktop, ShortcutsReachTheListSelectItsLinesAndPressButtons) {
     waitFor("the other page", [&] { return IsWindowVisible(app.control(IDC_FORM4_CMDVALIDER)); });
     expectAllInSightWhenSmall(configurations);
 }
-
-}  // namespace

@@ -3,8 +3,6 @@
 #include "driver/keys.h"
 #include "scenario.h"
 
-namespace {
-
 struct Hold : Scenario {
     Hold() {
         writeListOf({"a.SLDPRT", "b.SLDPRT"});
@@ -78,5 +76,3 @@ TEST_F(Hold, ListsOfTheirOwnAreOpenSideBySide) {
     expectEnd(kSelection);
     EXPECT_TRUE(!held("tarnwick.verrou") && held("Été 2026.verrou"));
 }
-
-}  // namespace

@@ -2,8 +2,6 @@
 
 #include "scenario.h"
 
-namespace {
-
 struct KeptMarks : Scenario {
     /// Starts again, says OUI, and says it again when so many marks are offered.
     void resumeWith(int marks) {
@@ -64,5 +62,3 @@ TEST_F(KeptMarks, AreOfferedAfterAKillAndAfterTheSessionDied) {
     expectInFatalError("Save2");  // the session's own description
     EXPECT_FALSE(std::filesystem::exists(record));
 }
-
-}  // namespace

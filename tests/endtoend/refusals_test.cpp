@@ -2,8 +2,6 @@
 
 #include "scenario.h"
 
-namespace {
-
 using std::string_literals::operator""s;
 using Refusals = Scenario;
 
@@ -43,5 +41,3 @@ TEST_F(Refusals, PassOverKeepOpenAndLeaveOpen) {
     EXPECT_EQ(cad.calls().back().find("documents"), std::string::npos) << cad.calls().back();
     EXPECT_EQ(callByName(cad.application().get(), L"GetDocumentCount").number, 1);
 }
-
-}  // namespace

@@ -4,8 +4,6 @@
 
 #include "scenario.h"
 
-namespace {
-
 struct SearchFolders : Scenario {
     /// Where the buttons of the page in front stand, with the room around them where the second
     /// press of a double click may fall.
@@ -75,5 +73,3 @@ TEST_F(SearchFolders, AreCreatedSavedAppliedAndFoundAgain) {
     openConfigurations();
     expectLines(IDC_FORM4_LIST1, {"En Cours", "Chaîne n°1"});
 }
-
-}  // namespace

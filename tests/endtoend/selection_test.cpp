@@ -1,7 +1,5 @@
 #include "scenario.h"
 
-namespace {
-
 using Selection = Scenario;
 
 TEST_F(Selection, FindsMarksAndLaunches) {
@@ -55,5 +53,3 @@ TEST_F(Selection, ImportsWhatTheReportOfAPassSaysIsLeft) {
     expectList(listLine("0", paths[1]) + listLine("0", paths[0]));
     EXPECT_EQ(settings.get("tarnwick", "options", "ordre").value_or(""), "1");
 }
-
-}  // namespace

@@ -5,8 +5,6 @@
 
 #include "scenario.h"
 
-namespace {
-
 struct Soak : Scenario {
     /// What the program holds once it has come to this one-based line.
     Resources heldAt(int line) const {
@@ -42,5 +40,3 @@ TEST_F(Soak, ResourcesStayFlatWhileAPassGoesOnAlone) {
     // A thread that COM happens to start on the way takes a megabyte once.
     EXPECT_LE(after.memoryBytes, before.memoryBytes + (2 << 20));
 }
-
-}  // namespace

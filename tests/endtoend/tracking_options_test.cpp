@@ -4,8 +4,6 @@
 #include "driver/keys.h"
 #include "scenario.h"
 
-namespace {
-
 struct TrackingOptions : Scenario {
     void expectOption(const char* key, const char* value) const {
         const auto read = [&] { return settings.get("tarnwick", "options", key).value_or(""); };
@@ -42,6 +40,7 @@ TEST_F(TrackingOptions, KeysLeadThePassInARecentReleaseThatKeepsTheKeyboard) {
     EXPECT_NE(app.answerBox(IDOK).find("Ctrl+Maj+3\r\n"), std::string::npos);
     UnregisterHotKey(nullptr, 1);
     EXPECT_TRUE(keyIsFree('2'));
+    waitUntilOpen(paths[0]);
     HWND window = app.window(kTracking);
     for (const int item : {IDM_FORM3_TOUCHES, IDM_FORM3_PREMIERPLAN, IDM_FORM3_TOUJOURSVISIBLE}) {
         app.chooseInSystemMenu(kTracking, item);
@@ -76,5 +75,3 @@ TEST_F(TrackingOptions, KeysLeadThePassInARecentReleaseThatKeepsTheKeyboard) {
     expectEnd(kTracking);
     EXPECT_TRUE(keyIsFree('1'));
 }
-
-}  // namespace

@@ -1,8 +1,6 @@
 #include "driver/tooltip.h"
 #include "scenario.h"
 
-namespace {
-
 using calls::closing;
 using calls::opening;
 using calls::saving;
@@ -82,5 +80,3 @@ TEST_F(TrackingPass, GoesThroughTheListBackAndForthAndEditsIt) {
     expectEnd();
     EXPECT_EQ(settings.get("tarnwick", "startup", "RegCheck"), "1111");
 }
-
-}  // namespace

@@ -4,11 +4,9 @@
 
 #include "scenario.h"
 
-namespace {
-
 using TrialSession = Scenario;
 
-bool isRegistered() {
+static bool isRegistered() {
     CLSID classId;
     return SUCCEEDED(CLSIDFromProgID(L"SldWorks.Application", &classId));
 }
@@ -125,5 +123,3 @@ TEST_F(ScriptedSession, ABadLineIsNamedAndEndsIt) {
         EXPECT_EQ(told.find('\n'), told.size() - 1) << told;
     }
 }
-
-}  // namespace

@@ -7,10 +7,7 @@ struct ArgumentText {
     std::wstring operator()(bool flag) const { return flag ? L"True" : L"False"; }
     std::wstring operator()(std::int16_t number) const { return std::to_wstring(number) + L":i2"; }
     std::wstring operator()(std::int32_t number) const { return std::to_wstring(number) + L":i4"; }
-    template <class Type>
-    std::wstring operator()(Type* reference) const {
-        return L'&' + (*this)(*reference);
-    }
+    std::wstring operator()(auto* reference) const { return L'&' + (*this)(*reference); }
 };
 
 /// The text of an argument, by value or by reference.

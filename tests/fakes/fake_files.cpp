@@ -44,9 +44,7 @@ void FakeFiles::replace(const std::wstring& path, const WriteContent& write) {
 
 std::uint64_t FakeFiles::sizeOf(const std::wstring& path) {
     attempt(path);
-    const auto file = texts.find(path);
-    if (file == texts.end()) throw errors::fileNotFound(path);
-    return file->second.size();
+    return readBytes(path).size();
 }
 
 PathKind FakeFiles::kindOf(const std::wstring& path) {

@@ -41,17 +41,13 @@ struct FakeMessageBoxes : MessageBoxes {
 /// Records what is asked, and always has the same answer.
 struct FakeFileDialogs : FileDialogs {
     std::vector<SaveQuestion> asked;
-    std::vector<OpenQuestion> askedToOpen;
     std::optional<std::wstring> answer;
 
     std::optional<std::wstring> askWhereToSave(const SaveQuestion& question) override {
         asked.push_back(question);
         return answer;
     }
-    std::optional<std::wstring> askWhatToOpen(const OpenQuestion& question) override {
-        askedToOpen.push_back(question);
-        return answer;
-    }
+    std::optional<std::wstring> askWhatToOpen(const OpenQuestion&) override { return answer; }
 };
 
 /// Knows windows by their titles and records what is brought forward.
@@ -107,15 +103,11 @@ struct FakeClock : Clock {
     }
 };
 
-/// Notes whether the machine is held awake, and how often it was.
+/// Notes whether the machine is held awake.
 struct FakePower : Power {
     bool awake = false;
-    int timesHeld = 0;
 
-    void keepAwake(bool value) override {
-        awake = value;
-        timesHeld += value ? 1 : 0;
-    }
+    void keepAwake(bool value) override { awake = value; }
 };
 
 /// Notes which lists are asked for, by the files that tell of the holds, and answers as told.

@@ -197,13 +197,12 @@ struct FakeWindow : Window {
  private:
     /// The one that most of it is on, or else the first.
     const FakeMonitor& monitor() const {
-        const auto shared = [&](const Area& on) {
+        return *std::ranges::max_element(monitors, {}, [&](const FakeMonitor& monitor) {
+            const Area& on = monitor.area;
             const int across = std::min(area.right, on.right) - std::max(area.left, on.left);
             const int down = std::min(area.bottom, on.bottom) - std::max(area.top, on.top);
             return across > 0 && down > 0 ? std::int64_t{across} * down : 0;
-        };
-        return *std::ranges::max_element(monitors, {},
-                                         [&](const auto& monitor) { return shared(monitor.area); });
+        });
     }
 
     std::map<int, FakeControl> controls_;

@@ -23,8 +23,7 @@ void requireSameAfterSave(WorkList& list) {
         const WorkLine& after = reread.lines[i];
         const std::string code(after.code.text());
         require(before.code.text() == (after.reload ? "1" + code : code));
-        require(before.path == after.path);
-        require(before.reload == after.reload);
+        require(before.path == after.path && before.reload == after.reload);
     }
 }
 

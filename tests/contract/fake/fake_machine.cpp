@@ -3,8 +3,6 @@
 #include "fakes/fake_platform.h"
 #include "rules/windows_files.h"
 
-namespace {
-
 class FakeMachine : public Machine, private EventSink {
  public:
     FakeMachine() {
@@ -32,7 +30,5 @@ class FakeMachine : public Machine, private EventSink {
         fakes_.platform.windows.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);
     int events_ = 0;
 };
-
-}  // namespace
 
 std::unique_ptr<Machine> makeMachine() { return std::make_unique<FakeMachine>(); }

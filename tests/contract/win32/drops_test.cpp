@@ -4,10 +4,8 @@
 
 #include "contract/win32/real_windows.h"
 
-namespace {
-
 /// What the Explorer hands over: paths of any length, each with a zero behind it, and one more.
-HDROP handOver(const std::vector<std::wstring>& paths) {
+static HDROP handOver(const std::vector<std::wstring>& paths) {
     std::wstring names;
     for (const std::wstring& path : paths) names += path + L'\0';
     const DROPFILES header{.pFiles = sizeof header, .pt = {}, .fNC = FALSE, .fWide = TRUE};
@@ -29,8 +27,6 @@ struct Drops : RealWindowTest {
     std::unique_ptr<Window> window =
         factory.create({.dialogId = IDD_CONTRACT, .takesDrops = true}, *this);
 };
-
-}  // namespace
 
 TEST_F(Drops, RaiseAnEventWithTheFullPathsUnlessACommandIsAtWorkOrABoxWaits) {
     window->show();

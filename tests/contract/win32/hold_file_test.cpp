@@ -3,16 +3,12 @@
 #include "contract/machine.h"
 #include "win32/process/win_list_holds.h"
 
-namespace {
-
 const ListHolder kJean{L"jean", L"PC-1"};
 const ListHolder kZoe{L"zoé", L"PC-2"};
 
 struct HoldFileTest : ContractTest {
     std::wstring file = path(L"liste.verrou");
 };
-
-}  // namespace
 
 TEST_F(HoldFileTest, BelongsToOneAndGoesWithIt) {
     std::optional<HoldFile> first(file);
@@ -38,19 +34,17 @@ TEST_F(HoldFileTest, NeverWritesThroughALink) {
 }
 
 TEST_F(HoldFileTest, LeftOverIsTakenOverOnceNobodyReadsIt) {
-    const auto open = [&](DWORD access, DWORD how) {
+    files.replace(file, [](const ByteSink& sink) { sink("\xFF\xFE" + std::string(5000, 'x')); });
+    const auto open = [&](DWORD access) {
         return UniqueHandle(
-            CreateFileW(file.c_str(), access, FILE_SHARE_READ, nullptr, how, 0, nullptr));
+            CreateFileW(file.c_str(), access, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
     };
-    UniqueHandle other = open(GENERIC_READ | GENERIC_WRITE, CREATE_NEW);
-    const std::string bytes = "\xFF\xFE" + std::string(5000, 'x');
-    DWORD written = 0;
-    WriteFile(other.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    UniqueHandle other = open(GENERIC_READ | GENERIC_WRITE);
     HoldFile ours(file);
     EXPECT_EQ(ours.take(kJean), HoldFileState::Theirs);
     EXPECT_FALSE(ours.holder().user.empty()) << "whatever bytes it is named by";
     other.reset();
-    other = open(GENERIC_READ, OPEN_EXISTING);
+    other = open(GENERIC_READ);
     EXPECT_EQ(ours.take(kJean), HoldFileState::Busy);
     other.reset();
     EXPECT_EQ(ours.take(kJean), HoldFileState::Ours);

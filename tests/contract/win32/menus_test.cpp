@@ -4,13 +4,11 @@
 #include "win32/window/system_menu.h"
 #include "win32/window/window_keys.h"
 
-namespace {
-
 constexpr SystemMenuItem kItems[] = {{IDM_CONTRACT_ONE, L"Un"},
                                      {IDM_CONTRACT_TWO, L"Deux\tCtrl+Z", true}};
 
 /// From a position on; 0 for a separator.
-std::vector<UINT> idsIn(HMENU menu, int from) {
+static std::vector<UINT> idsIn(HMENU menu, int from) {
     std::vector<UINT> ids;
     for (int i = from; i < GetMenuItemCount(menu); ++i) ids.push_back(GetMenuItemID(menu, i));
     return ids;
@@ -29,8 +27,6 @@ struct Menus : RealWindowTest {
     std::unique_ptr<Window> window =
         factory.create({.dialogId = IDD_CONTRACT, .systemMenu = kItems}, *this);
 };
-
-}  // namespace
 
 TEST_F(Menus, StandBelowSeparatorsAndAreClickedUnlessGreyed) {
     HMENU menu = GetSystemMenu(dialog(), FALSE);

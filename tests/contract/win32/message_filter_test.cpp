@@ -10,15 +10,11 @@
 #include "fakes/fake_waiting.h"
 #include "win32/window/waiting.h"
 
-namespace {
-
 /// COM keeps a filter for each thread that it serves.
 struct MessageFilterTest : RealWindowTest {
     MessageFilterTest() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
     ~MessageFilterTest() override { CoUninitialize(); }
 };
-
-}  // namespace
 
 // COM counts from the call on, which hung for twelve seconds here; we from the first refusal on.
 TEST_F(MessageFilterTest, RepeatsARefusedCallFromTheFirstRefusalOn) {

@@ -7,8 +7,6 @@
 #include "win32/files/win_files.h"
 #include "win32/window/waiting.h"
 
-namespace {
-
 /// A server that does not answer until it is told to.
 struct SilentFiles : WinFiles {
     // std::binary_semaphore of this library may sleep for ever (GCC bug 104928).
@@ -62,8 +60,6 @@ struct SearchOnAWindow : RealWindowTest {
     std::unique_ptr<Window> window_ =
         factory.create({.dialogId = IDD_CONTRACT, .tooltips = {}}, *this);
 };
-
-}  // namespace
 
 TEST_F(SearchOnAWindow, IsOneStepWhenItTakesNoTime) {
     PostMessageW(item(IDC_CONTRACT_BUTTON), BM_CLICK, 0, 0);

@@ -1,18 +1,13 @@
 // What the file layer promises beyond the shared contract: encodings, refusals, odd names, how
-// directories are told apart, and who reads them.
+// directories are told apart.
 
 #include "win32/files/win_files.h"
 
 #include <windows.h>
 
-#include <atomic>
-#include <future>
-
 #include "contract/machine.h"
 #include "win32/files/win_written_files.h"
 #include "win32/process/handles.h"
-
-namespace {
 
 struct WinFilesTest : ContractTest {
     void writeBytes(const std::wstring& file, std::string_view bytes) {
@@ -32,8 +27,6 @@ struct WinFilesTest : ContractTest {
         EXPECT_EQ(namesIn(directory), Texts{L"tarnwick.lst"});
     }
 };
-
-}  // namespace
 
 TEST_F(WinFilesTest, LeavesAListThatCannotBeReplacedAsItIs) {
     const std::wstring list = path(L"tarnwick.lst");
@@ -110,8 +103,6 @@ TEST_F(WinFilesTest, ReadsNoRecordOfMoreThan64Megabytes) {
     }
 }
 
-namespace {
-
 /// A file system that answers as it is told.
 struct Answers : IdentityCalls {
     std::optional<FILE_ID_INFO> wideAnswer;
@@ -127,14 +118,14 @@ struct Answers : IdentityCalls {
     }
 };
 
-DirectoryId idFrom(Answers answers) {
+static DirectoryId idFrom(Answers answers) {
     DirectoryId id{};
     EXPECT_TRUE(identify(nullptr, id, answers));
     return id;
 }
 
 /// A directory by its new identity, of which this is the last byte, each other one `filler`.
-DirectoryId wide(ULONGLONG volume, BYTE last, BYTE filler = 1) {
+static DirectoryId wide(ULONGLONG volume, BYTE last, BYTE filler = 1) {
     Answers answers;
     answers.wideAnswer = {.VolumeSerialNumber = volume, .FileId = {}};
     std::ranges::fill(answers.wideAnswer->FileId.Identifier, filler);
@@ -145,15 +136,13 @@ DirectoryId wide(ULONGLONG volume, BYTE last, BYTE filler = 1) {
     return idFrom(answers);
 }
 
-DirectoryId narrow(DWORD volume, DWORD high, DWORD low) {
+static DirectoryId narrow(DWORD volume, DWORD high, DWORD low) {
     Answers answers;
     answers.narrowAnswer.dwVolumeSerialNumber = volume;
     answers.narrowAnswer.nFileIndexHigh = high;
     answers.narrowAnswer.nFileIndexLow = low;
     return idFrom(answers);
 }
-
-}  // namespace
 
 TEST(DirectoryIdentity, IsAllBitsOrTheOldOneWhereThereAreNone) {
     EXPECT_EQ(wide(7, 2), wide(7, 2));
@@ -170,32 +159,4 @@ TEST(FoundName, IsWhatItsAttributesAndTagSay) {
     found.dwFileAttributes = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
     found.dwReserved0 = IO_REPARSE_TAG_SYMLINK;
     EXPECT_TRUE(entryOf(found).isLink);
-}
-
-namespace {
-
-/// Jobs that wait until eight of them have come.
-struct Meeting {
-    PoolWorkers workers;
-    std::atomic<int> missing{8};
-    std::promise<void> held;
-    std::shared_future<void> all{held.get_future()};
-};
-
-/// As readers do: each calls the next one when it has begun.
-void join(const std::shared_ptr<Meeting>& meeting, int jobs) {
-    if (jobs == 0) return;
-    EXPECT_TRUE(meeting->workers.start([meeting, jobs] {
-        join(meeting, jobs - 1);
-        if (--meeting->missing == 0) meeting->held.set_value();
-        meeting->all.wait();
-    }));
-}
-
-}  // namespace
-
-TEST(PoolWorkers, RunEightJobsAtOnce) {
-    const auto meeting = std::make_shared<Meeting>();
-    join(meeting, 8);
-    EXPECT_EQ(meeting->all.wait_for(std::chrono::minutes(1)), std::future_status::ready);
 }

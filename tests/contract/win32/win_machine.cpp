@@ -5,9 +5,7 @@
 #include "rules/windows_files.h"
 #include "win32/files/win_written_files.h"
 
-namespace {
-
-std::wstring uniquePath() {
+static std::wstring uniquePath() {
     static int number = 0;
     wchar_t temporary[MAX_PATH + 1] = {};
     GetTempPathW(MAX_PATH + 1, temporary);
@@ -15,7 +13,7 @@ std::wstring uniquePath() {
            std::to_wstring(++number);
 }
 
-void removeTree(const std::wstring& directory) {
+static void removeTree(const std::wstring& directory) {
     WinFiles().visit(directory, [&](const DirectoryEntry& entry) {
         const std::wstring path = directory + L'\\' + std::wstring(entry.name);
         if (entry.isDirectory && !entry.isLink) {
@@ -72,7 +70,5 @@ class WinMachine : public Machine, private RealWindows, private EventSink {
     WinRecordFiles records_;
     ScratchDirectory directory_;
 };
-
-}  // namespace
 
 std::unique_ptr<Machine> makeMachine() { return std::make_unique<WinMachine>(); }

@@ -6,8 +6,6 @@
 
 #include "contract/win32/real_windows.h"
 
-namespace {
-
 constexpr wchar_t kTitle[] = L"Une question";
 
 /// A window of another thread, which is to ours what another program is.
@@ -34,15 +32,16 @@ struct OtherProgram {
 };
 
 /// The first window of a class below `parent`, or below none, that is the wanted one.
-HWND findWindow(HWND parent, const wchar_t* className, const std::function<bool(HWND)>& isWanted) {
+static HWND findWindow(HWND parent, const wchar_t* className,
+                       const std::function<bool(HWND)>& isWanted) {
     HWND window = FindWindowExW(parent, nullptr, className, nullptr);
     while (window && !isWanted(window)) window = FindWindowExW(parent, window, className, nullptr);
     return window;
 }
 
-std::function<void(HWND)> whileBoxIsShown;
+static std::function<void(HWND)> whileBoxIsShown;
 
-void CALLBACK onTimer(HWND, UINT, UINT_PTR timer, DWORD) {
+static void CALLBACK onTimer(HWND, UINT, UINT_PTR timer, DWORD) {
     HWND box = FindWindowW(L"#32770", kTitle);
     if (!box || !IsWindowVisible(box)) return;
     KillTimer(nullptr, timer);
@@ -54,8 +53,8 @@ constexpr Anchor kWide[] = {{IDC_CONTRACT_TYPED, Growth::Stretch, Growth::Stay}}
 constexpr Tooltip kTips[] = {{IDC_CONTRACT_BUTTON, L"Marquer comme FAIT"}};
 
 /// What Windows makes of a combo box that is resized: it takes the line that begins like its text.
-LRESULT CALLBACK completing(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                            DWORD_PTR) {
+static LRESULT CALLBACK completing(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                   DWORD_PTR) {
     const LRESULT result = DefSubclassProc(box, message, wParam, lParam);
     if (message == WM_SIZE) {
         SendMessageW(box, CB_SETCURSEL, 0, 0);
@@ -64,9 +63,9 @@ LRESULT CALLBACK completing(HWND box, UINT message, WPARAM wParam, LPARAM lParam
     return result;
 }
 
-int labelsReadOut = 0;
+static int labelsReadOut = 0;
 
-void CALLBACK onLiveRegion(HWINEVENTHOOK, DWORD, HWND label, LONG, LONG, DWORD, DWORD) {
+static void CALLBACK onLiveRegion(HWINEVENTHOOK, DWORD, HWND label, LONG, LONG, DWORD, DWORD) {
     if (GetDlgCtrlID(label) == IDC_CONTRACT_LABEL) ++labelsReadOut;
 }
 
@@ -94,8 +93,6 @@ struct WindowsAndBoxes : RealWindowTest {
     std::unique_ptr<Window> secondWindow = makeWindow(second);
     OtherProgram other;
 };
-
-}  // namespace
 
 TEST_F(WindowsAndBoxes, BoxBelongsToTheVisibleWindowUsedLastThoughNoneIsActive) {
     secondWindow->show();
@@ -251,4 +248,23 @@ TEST_F(WindowsAndBoxes, BoxStandsAboveAWindowThatIsAlwaysVisibleAndUnderNoHourgl
     firstWindow->setTopmost(false);
     EXPECT_FALSE(isTopmost(first));
     EXPECT_TRUE(IsIconic(first));
+}
+
+TEST_F(WindowsAndBoxes, APausedListStaysHiddenAndWhereItWasScrolled) {
+    ListBox& list = firstWindow->listBox(IDC_CONTRACT_SEVERAL);
+    HWND handle = GetDlgItem(first, IDC_CONTRACT_SEVERAL);
+    list.setLines(200, [](int i) { return std::to_wstring(i); });
+    for (const LRESULT top : {1, 50, 170}) {
+        SendMessageW(handle, LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);
+        {
+            const DrawingPause pause(list);
+            list.changeText(100, L"autre");
+            list.changeTexts([&](int i) { return list.line(i) + L"s"; });
+            list.clearSelection();
+        }
+        EXPECT_EQ(SendMessageW(handle, LB_GETTOPINDEX, 0, 0), top);
+    }
+    list.setVisible(false);
+    { const DrawingPause pause(list); }
+    EXPECT_FALSE(IsWindowVisible(handle));
 }

@@ -5,8 +5,6 @@
 #include "selection/selection_ids.h"
 #include "unit/unit_test.h"
 
-namespace {
-
 using State = FakeWindow::State;
 
 struct StartUp : testing::Test {
@@ -24,8 +22,6 @@ struct StartUp : testing::Test {
     FakePlatform machine;
     Program program{machine.platform};
 };
-
-}  // namespace
 
 TEST_F(StartUp, GoesThroughItsStepsInOrder) {
     program.start();

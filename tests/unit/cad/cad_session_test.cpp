@@ -5,8 +5,6 @@
 #include "fakes/fake_services.h"
 #include "unit/unit_test.h"
 
-namespace {
-
 constexpr wchar_t kPath[] = L"c:\\été\\a.SLDPRT";
 
 struct CadSessionTest : testing::Test {
@@ -21,8 +19,6 @@ struct CadSessionTest : testing::Test {
     CadSession session{desktop};
     Remark remark;
 };
-
-}  // namespace
 
 TEST_F(CadSessionTest, KeepsThePathThatTheServerChanges) {
     automation.overrides[L"OpenDoc6"] = [](auto arguments) -> Value {

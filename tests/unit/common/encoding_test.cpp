@@ -2,27 +2,23 @@
 
 #include "unit/unit_test.h"
 
-namespace {
-
 using std::string_literals::operator""s;
 using std::string_view_literals::operator""sv;
 
 using Readings = std::vector<std::pair<std::string, std::wstring>>;
 
 /// How files of these bytes are read.
-void expectRead(const Readings& readings) {
+static void expectRead(const Readings& readings) {
     for (const auto& [bytes, text] : readings) {
         EXPECT_EQ(wideText(textInUtf8(bytes)), text) << bytes;
     }
 }
 
-std::string utf8(std::wstring_view text) {
+static std::string utf8(std::wstring_view text) {
     std::string result;
     appendUtf8(result, text);
     return result;
 }
-
-}  // namespace
 
 TEST(TextDecoding, TakesEachLineAsUtf8OrElseInTheCodePage) {
     expectRead({

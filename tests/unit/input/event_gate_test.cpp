@@ -5,8 +5,6 @@
 #include "fakes/fake_services.h"
 #include "unit/unit_test.h"
 
-namespace {
-
 struct FakeKeeper : GateKeeper {
     explicit FakeKeeper(const Judge& theJudge) : judge(theJudge) {}
     const Judge& judge;
@@ -52,8 +50,6 @@ struct EventGateTest : testing::Test {
         EXPECT_EQ(keeper.quits, std::vector{code});
     }
 };
-
-}  // namespace
 
 TEST_F(EventGateTest, RunsOneHandlerAtATimeUnderTheHourglass) {
     sink.handlers[1] = [&] {

@@ -56,6 +56,7 @@ TEST(SignKey, IsTheOneThatBearsTheSignOnTheLayoutInUse) {
     EXPECT_FALSE(pressesSign({.key = kSix, .control = true, .alt = true}, kAzertyMinus));
     EXPECT_TRUE(pressesSign({.key = kPlus, .shift = true, .control = true}, kPlusAboveEquals));
     EXPECT_FALSE(pressesSign({.key = 0xFF, .control = true}, kNowhere));
+    EXPECT_FALSE(pressesSign({.key = kSix, .control = true}, 0x0636)) << "behind AltGr";
 }
 
 TEST(FirstLetter, GoesRoundTheLinesThatBeginWithIt) {

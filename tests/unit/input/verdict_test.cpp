@@ -5,8 +5,6 @@
 
 #include "unit/unit_test.h"
 
-namespace {
-
 using Kind = Deed::Kind;
 using Target = Deed::Target;
 using Wish = Situation::Wish;
@@ -28,7 +26,7 @@ constexpr Press kSecond{.time = kWorked + 1, .second = true};
 constexpr Press kOnNewWindow{.time = kWorked + 1, .second = true, .onNewWindow = true};
 
 /// What the program may be busy with, and each time what was pressed last.
-std::vector<std::vector<Situation>> situations() {
+static std::vector<std::vector<Situation>> situations() {
     const Situation atRest{.worked = kWorked};
     const Situation handling{.handling = true, .worked = kWorked};
     Situation callOut = handling;
@@ -55,7 +53,7 @@ std::vector<std::vector<Situation>> situations() {
 }
 
 /// A letter for each: it counts, drops, stops or restarts the search, or ends the program.
-std::string verdictsOn(const Deed& deed) {
+static std::string verdictsOn(const Deed& deed) {
     std::string verdicts;
     for (const auto& group : situations()) {
         for (const Situation& situation : group) {
@@ -67,26 +65,24 @@ std::string verdictsOn(const Deed& deed) {
     return verdicts;
 }
 
-Deed message(Kind kind, Target target, int key = 0, bool withAlt = false) {
+static Deed message(Kind kind, Target target, int key = 0, bool withAlt = false) {
     return {.kind = kind, .target = target, .time = kSince, .key = key, .withAlt = withAlt};
 }
-Deed escapeAt(Moment time) { return {.kind = Kind::Key, .time = time, .key = kEscape}; }
-Deed of(Kind kind, bool usable = true) {
+static Deed escapeAt(Moment time) { return {.kind = Kind::Key, .time = time, .key = kEscape}; }
+static Deed of(Kind kind, bool usable = true) {
     return {.kind = kind, .window = &window, .usable = usable};
 }
-Deed command(bool takesSecond, DuringSearch asks = Drop, const EventSink* sink = &window,
-             bool sent = false) {
+static Deed command(bool takesSecond, DuringSearch asks = Drop, const EventSink* sink = &window,
+                    bool sent = false) {
     return {.kind = Kind::Command,
             .window = sink,
             .duringSearch = asks,
             .takesSecond = takesSecond,
             .fromProgram = sent};
 }
-Deed event(DuringSearch asks, const EventSink* sink = &window, bool closes = false) {
+static Deed event(DuringSearch asks, const EventSink* sink = &window, bool closes = false) {
     return {.kind = Kind::Event, .window = sink, .closes = closes, .duringSearch = asks};
 }
-
-}  // namespace
 
 TEST(Verdict, OnEachDeedInEachSituation) {
     using enum Target;

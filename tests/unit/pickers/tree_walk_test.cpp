@@ -12,14 +12,12 @@
 #include "rules/windows_files.h"
 #include "unit/unit_test.h"
 
-namespace {
-
 /// What a walk comes by: each directory with the names in it, and how it ended.
 using Log = Texts;
 
-bool isPart(std::wstring_view name) { return name.ends_with(L".SLDPRT"); }
+static bool isPart(std::wstring_view name) { return name.ends_with(L".SLDPRT"); }
 
-void note(Log& log, const std::wstring& directory, const Texts& names) {
+static void note(Log& log, const std::wstring& directory, const Texts& names) {
     log.push_back(directory);
     log.insert(log.end(), names.begin(), names.end());
 }
@@ -42,44 +40,37 @@ struct JoiningWorkers : Workers {
     std::vector<std::jthread> threads_;
 };
 
-class RandomTree {
- public:
-    explicit RandomTree(unsigned seed) : random_(seed) {
+struct RandomTree {
+    explicit RandomTree(unsigned seed) {
+        std::mt19937 random(seed);
+        const auto below = [&](std::size_t limit) { return random() % limit; };
+        const auto somewhere = [&] {
+            const auto place = static_cast<std::ptrdiff_t>(below(files.directories.size()));
+            return *std::next(files.directories.begin(), place);
+        };
         files.directories.insert(L"c:\\r");
-        for (int i = 0; i < 60; ++i) addSomething();
-        for (int i = below(3); i > 0; --i) {
-            files.links[somewhere() + L"\\lien" + decimal(i)] = somewhere();
+        for (int i = 0; i < 60; ++i) {
+            std::wstring path = somewhere() + (below(2) ? L"\\A" : L"\\b");
+            path += std::to_wstring(below(99));
+            const bool isFile = below(4) == 0;
+            isFile ? files.add({path + L".SLDPRT"}) : void(files.directories.insert(path));
+            if (below(9) == 0) files.attributes[path] = attribute::kHidden | attribute::kSystem;
+        }
+        for (auto i = below(3); i > 0; --i) {
+            const std::wstring link = somewhere() + L"\\lien" + std::to_wstring(i);
+            files.links[link] = somewhere();
         }
         if (below(3) == 0) files.links[somewhere() + L"\\vide"] = L"c:\\absent";
         if (below(2) == 0) files.unreadable.insert(somewhere());
-        failingVisit = below(2) == 0 ? below(100) : -1;
+        failingVisit = below(2) == 0 ? static_cast<int>(below(100)) : -1;
     }
 
     FakeFiles files;
     int failingVisit;  ///< the visitor raises 9 there
-
- private:
-    static std::wstring decimal(int number) { return std::to_wstring(number); }
-    int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
-    std::wstring somewhere() {
-        return *std::next(files.directories.begin(),
-                          below(static_cast<int>(files.directories.size())));
-    }
-    void addSomething() {
-        const std::wstring path = somewhere() + (below(2) ? L"\\A" : L"\\b") + decimal(below(99));
-        if (below(4) == 0) {
-            files.add({path + L".SLDPRT"});
-        } else {
-            files.directories.insert(path);
-            if (below(9) == 0) files.attributes[path] = attribute::kHidden | attribute::kSystem;
-        }
-    }
-
-    std::mt19937 random_;
 };
 
 /// Polls with a generous limit; whether it came.
-bool comes(const std::function<bool()>& what) {
+static bool comes(const std::function<bool()>& what) {
     const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(10);
     while (!what() && std::chrono::steady_clock::now() < limit) std::this_thread::yield();
     return what();
@@ -98,25 +89,20 @@ struct TreeWalk : testing::Test {
     FakeSearchWatch watch;
 };
 
-}  // namespace
-
 TEST(TreeWalks, MeetWhatOneThreadMeetsAndFailWhereItFails) {
     for (unsigned seed = 0; seed < 200; ++seed) {
         RandomTree tree(seed);
-        const auto visitor = [&](Log& log) {
-            return [&, left = tree.failingVisit](const std::wstring& directory,
-                                                 const Texts& names) mutable {
-                note(log, directory, names);
-                if (left-- == 0) throw errors::subscriptOutOfRange();
-            };
-        };
         const auto logWith = [&](Workers& workers) {
             Log log;
             FakeSearchWatch watch;
+            int left = tree.failingVisit;
+            const auto visit = [&](const std::wstring& directory, const Texts& names) {
+                note(log, directory, names);
+                if (left-- == 0) throw errors::subscriptOutOfRange();
+            };
             const RuntimeError error = raisedError([&] {
-                EXPECT_EQ(
-                    walkTree({tree.files, workers, watch}, L"c:\\r", true, isPart, visitor(log)),
-                    WalkEnd::Complete);
+                EXPECT_EQ(walkTree({tree.files, workers, watch}, L"c:\\r", true, isPart, visit),
+                          WalkEnd::Complete);
             });
             log.push_back(std::to_wstring(error.number) + error.text);
             return log;
@@ -214,21 +200,17 @@ TEST(InParallel, DoesEachJobOnceAndTellsOfTheFirstThatFails) {
     }
 }
 
-namespace {
-
 /// Reads a directory: these are in it, those that end with an arrow as links.
-void read(ReadingPlan& plan, TreeDirectory& directory, const Texts& names) {
+static void read(ReadingPlan& plan, TreeDirectory& directory, const Texts& names) {
     auto& below = directory.contents.subdirectories;
     for (const std::wstring& name : names) below.push_back({name, name.ends_with(L'>')});
     plan.finish(directory);
 }
 
-TreeDirectory& next(ReadingPlan& plan, TreeDirectory* awaited = nullptr) {
+static TreeDirectory& next(ReadingPlan& plan, TreeDirectory* awaited = nullptr) {
     EXPECT_TRUE(plan.hasNext(awaited));
     return *plan.next(awaited);
 }
-
-}  // namespace
 
 TEST(ReadingPlan, ReadsFirstWhatTheWalkMeetsFirst) {
     ReadingPlan plan(L"c:\\r", true);

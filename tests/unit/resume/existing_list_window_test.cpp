@@ -5,8 +5,6 @@
 #include "resume/existing_list_ids.h"
 #include "unit/unit_test.h"
 
-namespace {
-
 struct ExistingListPrompt : testing::Test {
     ExistingListPrompt() { machine.files.texts[machine.programFiles.list] = L"0  c:\\a\r\n"; }
 
@@ -15,8 +13,6 @@ struct ExistingListPrompt : testing::Test {
     ExistingListWindow form{machine.platform, machine.places, machine.programFiles, exits};
     FakeWindow& window = machine.window(IDD_FORM2);
 };
-
-}  // namespace
 
 TEST_F(ExistingListPrompt, EveryAnswerSavesThePlaceAndGoesOnAndClosingItEndsTheProgram) {
     EXPECT_THROW(window.close(), ProgramEnd);

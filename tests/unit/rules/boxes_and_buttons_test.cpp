@@ -4,8 +4,6 @@
 
 #include "unit/unit_test.h"
 
-namespace {
-
 using Answer = MessageBoxes::Answer;
 using Told = std::vector<ButtonProgress>;
 
@@ -13,8 +11,6 @@ struct FakeButton : TaskbarButton {
     Told told;
     void show(const ButtonProgress& progress) override { told.push_back(progress); }
 };
-
-}  // namespace
 
 TEST(MessageBoxButtons, AreFrenchAndALoneOneStaysOk) {
     EXPECT_STREQ(frenchCaption(Answer::Yes, false), L"&Oui");

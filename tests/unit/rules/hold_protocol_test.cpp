@@ -4,8 +4,6 @@
 
 #include "unit/unit_test.h"
 
-namespace {
-
 using enum HoldFileState;
 
 const ListHolder kUs{L"jean", L"PC-1"};
@@ -41,8 +39,6 @@ struct ScriptedSteps : HoldSteps {
     bool hasFile() override { return next(script.there); }
     void pause() override { ++pauses; }
 };
-
-}  // namespace
 
 TEST(HoldProtocol, FindsOutWhoHasAList) {
     const HoldAnswer kHeld{}, kHidden{.hidden = true}, kRaised{HoldAnswer::Kind::RaisedOther};

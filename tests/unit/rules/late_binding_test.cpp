@@ -4,16 +4,12 @@
 #include "storage/program_files.h"
 #include "unit/unit_test.h"
 
-namespace {
-
 struct LateBindingTest : testing::Test {
     ObjectPtr attach() { return byName.attach(L"SldWorks.Application"); }
 
     FakeAutomation automation;
     Automation& byName = automation;
 };
-
-}  // namespace
 
 TEST_F(LateBindingTest, LooksANameUpOncePerClassOfObjects) {
     automation.documents[L"drawing"].kind = L"drawing";

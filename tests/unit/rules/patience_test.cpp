@@ -3,8 +3,6 @@
 #include "fakes/fake_waiting.h"
 #include "unit/unit_test.h"
 
-namespace {
-
 using Answer = MessageBoxes::Answer;
 
 struct PatienceTest : testing::Test {
@@ -21,8 +19,6 @@ struct PatienceTest : testing::Test {
         });
     }
 };
-
-}  // namespace
 
 TEST_F(PatienceTest, RetriesAtOnceThenAtGrowingIntervals) {
     EXPECT_EQ(callRefusedFor(3'000), 0);

@@ -3,18 +3,14 @@
 #include "rules/placement.h"
 #include "unit/unit_test.h"
 
-namespace {
-
 constexpr Size kUnit{6, 13};
 constexpr Area kButton{10, 20, 70, 40};
 
-Area placed(Growth across, Growth down, Size client) {
+static Area placed(Growth across, Growth down, Size client) {
     ControlLayout layout({400, 300}, kUnit, {4, 8});  // 6 and 13 pixels
     layout.add(kButton, across, down);
     return layout.arranged(client).front();
 }
-
-}  // namespace
 
 TEST(Lengths, AreScaledAsWindowsDoes) {
     EXPECT_EQ(scaled(5, 1, 2), 3);
@@ -43,6 +39,6 @@ TEST(ControlLayout, MeasuresByTheFontInUse) {
 }
 
 TEST(InSight, FindsThePlaceOfAMinimisedWindow) {
-    const Monitor taskbarOnTop{{0, 0, 1920, 1080}, {0, 40, 1920, 1080}};
-    EXPECT_EQ(placeOnScreen({100, 200, 700, 800}, taskbarOnTop), (Area{100, 240, 700, 840}));
+    const Monitor barsAbove{{0, 0, 1920, 1080}, {60, 40, 1920, 1080}};
+    EXPECT_EQ(placeOnScreen({100, 200, 700, 800}, barsAbove), (Area{160, 240, 760, 840}));
 }

@@ -7,8 +7,6 @@
 
 using namespace windows_error;
 
-namespace {
-
 /// Steps of which one fails for a while.
 struct FakeSteps : ReplacementSteps {
     std::string failing;
@@ -18,7 +16,7 @@ struct FakeSteps : ReplacementSteps {
     std::string done;
     int pauses = 0;
 
-    bool isProtected(const std::wstring&) override { return false; }
+    bool isProtected(const std::wstring&) override { return failing == "protected"; }
     std::wstring nameBeside(const std::wstring& path) override { return path + L".tmp"; }
     std::uint32_t create(const std::wstring&) override { return take("create"); }
     std::uint32_t write(std::string_view) override { return take("write"); }
@@ -37,8 +35,6 @@ struct FakeSteps : ReplacementSteps {
         return step == failing && times-- > 0 ? error : 0;
     }
 };
-
-}  // namespace
 
 TEST(FileReplacement, OpensAFileOnceNobodyIsInTheWay) {
     const std::tuple<std::uint32_t, int, int> cases[] = {
@@ -61,6 +57,7 @@ TEST(FileReplacement, LeavesTheOldFileOrWaitsTwoSecondsForAnotherProgram) {
     constexpr int kAllPauses = 2000 / kReplacementPause;
     const std::tuple<const char*, std::uint32_t, std::uint32_t, int, int, int, const char*>
         cases[] = {
+            {"protected", 0, 0, 1, 75, 0, ""},
             {"create", kAccessDenied, 0, 1, 75, 0, "create "},
             {"write", kDiskFull, 0, 1, 75, 0, "create write close remove "},
             {"flush", kDiskFull, 0, 1, 75, 0, "create write flush close remove "},

@@ -5,8 +5,6 @@
 #include "searchfolders/configuration_ids.h"
 #include "unit/unit_test.h"
 
-namespace {
-
 constexpr auto kTwo =
     L"Configuration:  A\r\n   c:\\a\r\nConfiguration:  B\r\n   c:\\b\r\n   d:\\b\r\n";
 
@@ -54,8 +52,6 @@ struct ConfigurationFixture : testing::Test {
                              fileSystem,       machine.programFiles, configurations};
     FakeWindow& window = machine.window(IDD_FORM4);
 };
-
-}  // namespace
 
 TEST_F(ConfigurationFixture, OpensOnTheLastConfigurationAndAsksForTheFoldersInForceAtEachClick) {
     EXPECT_EQ(window.area, (Area{198, 20, 198 + 907, 20 + 413}));
@@ -121,12 +117,19 @@ TEST_F(ConfigurationFixture, AddsNothingOfATreeThatIsStoppedOrCantBeRead) {
     openP();
     machine.serveAfter(L"c:\\p\\1", [&] { return machine.watch.stop(); });
     click(IDC_FORM4_CMDAJO2);
+    machine.files.beforeEach = [](const auto&) {};
     machine.files.unreadable = {L"c:\\p\\2"};
     click(IDC_FORM4_CMDAJO2);
-    ASSERT_EQ(machine.boxes.shown.size(), 2U);
-    EXPECT_EQ(machine.boxes.shown[0].text, L"Recherche interrompue : rien n'a été ajouté.");
-    EXPECT_EQ(text(IDC_FORM4_CPT_REP), L"1");
-    EXPECT_EQ(configurations.edited[2], L"");
+    const Texts told = machine.boxes.takeTexts();
+    ASSERT_EQ(told.size(), 2U);
+    EXPECT_EQ(told[0], L"Recherche interrompue : rien n'a été ajouté.");
+    EXPECT_TRUE(told[1].starts_with(L"Ce répertoire")) << told[1];
+    EXPECT_EQ(text(IDC_FORM4_CPT_REP) + configurations.edited[2], L"1");
+    machine.files.unreadable.clear();
+    for (int i = 0; i < 200; ++i) {
+        machine.files.directories.insert(L"c:\\p\\n" + std::to_wstring(i));
+    }
+    EXPECT_EQ(raised([&] { click(IDC_FORM4_CMDAJO2); }), 9);
 }
 
 TEST_F(ConfigurationFixture, LeavesOutDirectoriesThatAListOfFoldersCantHold) {

@@ -1,7 +1,5 @@
 #include "unit/selection/selection_window_fixture.h"
 
-namespace {
-
 struct SelectionChoosing : SelectionFixture {
     /// The list holds, in this order, c:\plans\axe.slddrw, c:\plans\Zoe.SLDDRW and
     /// c:\plans\moteur\bielle.SLDDRW.
@@ -22,8 +20,6 @@ struct SelectionChoosing : SelectionFixture {
         return result;
     }
 };
-
-}  // namespace
 
 TEST_F(SelectionChoosing, FiltersTheLinesAsTheyAreDisplayed) {
     // The lines chosen beforehand, the depth, the button with its filter, and the marks.

@@ -1,10 +1,8 @@
 #include "selection/imported_file.h"
 #include "unit/unit_test.h"
 
-namespace {
-
 /// Each line as its number and the document that it names; an exclamation mark for none.
-std::string linesOf(const char* text, bool isList) {
+static std::string linesOf(const char* text, bool isList) {
     std::string lines;
     (isList ? readListLines : readTable)(text, [&](const DocumentLine& line) {
         lines += std::to_string(line.number) + (line.namesDocument ? "=" : "!");
@@ -13,8 +11,6 @@ std::string linesOf(const char* text, bool isList) {
     });
     return lines;
 }
-
-}  // namespace
 
 TEST(DocumentLines, NameTheFirstDocumentOfEachLine) {
     const std::tuple<const char*, const char*, bool> cases[] = {

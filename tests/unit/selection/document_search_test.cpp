@@ -4,9 +4,7 @@
 #include "rules/windows_files.h"
 #include "unit/unit_test.h"
 
-namespace {
-
-Texts entries(const FoundDocuments& found) {
+static Texts entries(const FoundDocuments& found) {
     Texts result;
     for (int i = 0; i < found.count(); ++i) result.push_back(found.entry(i));
     return result;
@@ -29,8 +27,6 @@ struct Search : testing::Test {
     FoundDocuments found;
     std::vector<int> listed;
 };
-
-}  // namespace
 
 TEST_F(Search, ListsOneDirectoryByNameWhateverTheKind) {
     for (const wchar_t* name :
@@ -65,6 +61,9 @@ TEST_F(Search, WalksATreeDepthFirstReadingEachDirectoryOnce) {
     EXPECT_EQ(listed, (std::vector<int>{1, 1, 1, 1, 1, 2, 1, 0}));
     EXPECT_EQ(files.visits.size(), 8U);
     for (const auto& [directory, times] : files.visits) EXPECT_EQ(times, 1) << directory;
+    files.visits.clear();
+    EXPECT_EQ(run(L"c:\\plans", true, L""), Texts());
+    EXPECT_EQ(files.visits.size(), 1U) << "of no kind there are none further down";
 }
 
 TEST_F(Search, FollowsLinksButNotBackIntoDirectoriesThatAreOpen) {
@@ -84,13 +83,9 @@ TEST_F(Search, FollowsLinksButNotBackIntoDirectoriesThatAreOpen) {
                      L"c:\\plans\\zbas\\b.SLDPRT"}));
 }
 
-namespace {
-
-void store(FoundDocuments& found, const Texts& names) {
+static void store(FoundDocuments& found, const Texts& names) {
     for (const std::wstring& name : names) found.store(L"c:\\x", name);
 }
-
-}  // namespace
 
 TEST(FoundDocuments, KeepsBareNamesOncePerPassAndEveryFullPath) {
     for (const bool fullPaths : {false, true}) {

@@ -1,7 +1,5 @@
 #include "unit/selection/selection_window_fixture.h"
 
-namespace {
-
 struct SelectionLeaving : SelectionFixture {
     std::wstring& listFile() { return machine.files.texts[machine.programFiles.list]; }
     std::wstring previousList() { return machine.files.texts[machine.programFiles.previousList()]; }
@@ -13,8 +11,6 @@ struct SelectionLeaving : SelectionFixture {
         return saved(L"toppos") + L' ' + saved(L"leftpos");
     }
 };
-
-}  // namespace
 
 TEST_F(SelectionLeaving, LaunchingWritesTheChosenDocumentsThenHandsOver) {
     load();

@@ -5,8 +5,6 @@
 #include "fakes/fake_window.h"
 #include "unit/unit_test.h"
 
-namespace {
-
 struct WindowPlacesTest : testing::Test, EventSink {
     void raise(int, Event) override {}
 
@@ -38,8 +36,6 @@ const FakeMonitor kFine{
     .area = {1920, -300, 5760, 1860}, .work = {1920, -300, 5760, 1780}, .dpi = 192};
 const FakeMonitor kAbove{.area = {0, -1'200, 1'600, -40}};
 const FakeMonitor kSmall{.area = {0, 0, 1280, 1024}, .work = {0, 40, 1280, 1024}, .dpi = 144};
-
-}  // namespace
 
 TEST_F(WindowPlacesTest, AreKeptUnderKeysOfTheirOwnWithinSixteenBits) {
     const std::tuple<PlacedWindow, const wchar_t*, const wchar_t*, const wchar_t*> cases[] = {

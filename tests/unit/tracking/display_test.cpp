@@ -49,6 +49,11 @@ TEST_F(Display, DepthHidesLevelsOfAllLines) {
     EXPECT_EQ(list().texts()[0], L"0001   Fait          C:\\..\\B\\f");
     click(IDC_FORM3_CMDMOINS1);
     EXPECT_EQ(list().texts()[1], whole[1]);
+    std::wstring many;
+    for (int i = 0; i < 120; ++i) many += L"0  C:\\A\\f\r\n";
+    load(many);
+    click(IDC_FORM3_CMDPLUS1);
+    for (const auto& line : list().texts()) EXPECT_TRUE(line.ends_with(L"C:\\..\\f")) << line;
 }
 
 TEST_F(Display, CountsTheLinesNoLongerToDoUntilThePassEnds) {

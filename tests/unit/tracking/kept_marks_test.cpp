@@ -1,7 +1,5 @@
 #include "unit/tracking/tracking_window_fixture.h"
 
-namespace {
-
 struct Resuming : TrackingFixture {
     /// Starts again as after a kill, with these answers; returns the boxes that came.
     Texts restart(std::deque<Answer> answers) {
@@ -31,8 +29,6 @@ const std::wstring kMarked =
     L"Documents marqués depuis : 2\r\nRetrouver ces marques ?";
 const std::wstring kOpening =
     L"Tarnwick s'est arrêté pendant l'ouverture de :\r\nc:\\c\r\nPasser au document suivant ?";
-
-}  // namespace
 
 TEST_F(Resuming, OffersTheMarksThatWereKept) {
     loadStates(L"00000");

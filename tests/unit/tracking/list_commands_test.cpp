@@ -1,7 +1,5 @@
 #include "unit/tracking/tracking_window_fixture.h"
 
-namespace {
-
 using Content = MessageBoxContent;
 
 struct ListCommands : TrackingFixture {
@@ -54,8 +52,6 @@ const struct {
      L"Elimination 'F' et 'V' "},
 };
 
-}  // namespace
-
 TEST_F(ListCommands, WantALineAskFirstAndDoNothingWhenTheAnswerIsNo) {
     loadStates(L"10201");
     for (const auto& q : kQuestions) {
@@ -78,21 +74,29 @@ TEST_F(ListCommands, WantALineAskFirstAndDoNothingWhenTheAnswerIsNo) {
 }
 
 TEST_F(ListCommands, ChangeOrRemoveLinesAndKeepTheCurrentOneOpen) {
-    // The button, the selected lines, what is after it, and how many calls it makes.
-    const std::tuple<int, std::vector<int>, const wchar_t*, std::size_t> cases[] = {
-        {IDC_FORM3_CMDCHAF, {0, 1, 2, 3}, L" | 1 3 1 1 0 | 1: 2/5 c:\\b", 0},
-        {IDC_FORM3_CMDCHAV, {0, 1, 4}, L" | 2 3 2 0 2 | 1: 2/5 c:\\b", 0},
+    // The list, the button, the selected lines, what is after it, and how many calls it makes.
+    const std::tuple<const wchar_t*, int, std::vector<int>, const wchar_t*, std::size_t> cases[] = {
+        {L"10200", IDC_FORM3_CMDCHAF, {0, 1, 2, 3}, L" | 1 3 1 1 0 | 1: 2/5 c:\\b", 0},
+        {L"10200", IDC_FORM3_CMDCHAV, {0, 1, 4}, L" | 2 3 2 0 2 | 1: 2/5 c:\\b", 0},
         // Only going back to do brings the application forward.
-        {kReset, {1, 2}, L" | 1 3 0 0 0 | 1: 2/5 c:\\b", 3},
-        {IDC_FORM3_CMDELIF, {2}, L" | 1 3 0 0 | 1: 2/4 c:\\b", 0},  // takes seen lines too
-        {IDC_FORM3_CMDELIFV, {0, 1, 2, 3, 4}, L" | 3 0 0 | 0: 1/3 c:\\b", 0},
-        {IDC_FORM3_CMDELIV, {0, 1, 2, 3, 4}, L" | 1 3 0 0 | 1: 2/4 c:\\b", 0},
-        {IDC_FORM3_CMDPURGE, {1}, L" | 3 0 0 | 0: 1/3 c:\\b", 0},
-        {kResume, {2}, L" | 1 0 2 3 0 | 3: 4/5 c:\\d", 4},
+        {L"10200", kReset, {1, 2}, L" | 1 3 0 0 0 | 1: 2/5 c:\\b", 3},
+        {L"10200",
+         IDC_FORM3_CMDELIF,
+         {2},
+         L" | 1 3 0 0 | 1: 2/4 c:\\b",
+         0},  // takes seen lines too
+        {L"10200", IDC_FORM3_CMDELIFV, {0, 1, 2, 3, 4}, L" | 3 0 0 | 0: 1/3 c:\\b", 0},
+        {L"10200", IDC_FORM3_CMDELIV, {0, 1, 2, 3, 4}, L" | 1 3 0 0 | 1: 2/4 c:\\b", 0},
+        {L"10200", IDC_FORM3_CMDPURGE, {1}, L" | 3 0 0 | 0: 1/3 c:\\b", 0},
+        {L"10200", kResume, {2}, L" | 1 0 2 3 0 | 3: 4/5 c:\\d", 4},
+        {L"10200", kReset, {0, 2}, L" | 3 0 0 0 0 | 0: 1/5 c:\\a", 7},
+        {L"102002", kResume, {1}, L" | 1 3 2 0 0 2 | 1: 2/6 c:\\b", 0},
+        {L"102002", kResume, {5}, L" | 1 0 2 0 0 2 | 5: 6/6 c:\\f", 4},  // the last line, as it is
+        {L"x00", IDC_FORM3_CMDCHAV, {0}, L" | 2 3 0 | 1: 2/3 c:\\b", 0},
     };
-    for (const auto& [button, lines, outcome, calls] : cases) {
+    for (const auto& [codes, button, lines, outcome, calls] : cases) {
         SCOPED_TRACE(outcome);
-        loadStates(L"10200");
+        loadStates(codes);
         command(button, lines);
         EXPECT_EQ(takeCalls().size(), calls);
         EXPECT_EQ(after({}), outcome);
@@ -101,5 +105,12 @@ TEST_F(ListCommands, ChangeOrRemoveLinesAndKeepTheCurrentOneOpen) {
         ASSERT_EQ(list().selection().size(), 1U);
         EXPECT_TRUE(list().line(list().selection()[0]).ends_with(current));
         EXPECT_EQ(list().count(), work().last + 1);
+    }
+    for (const auto& [codes, button, outcome] :
+         {std::tuple(L"1122", IDC_FORM3_CMDELIV, L" | 1 1 | 4: 0/2 Aucun"),
+          {L"12", IDC_FORM3_CMDPURGE, L" |  | 2: 0/0 Aucun"}}) {
+        loadStates(codes);
+        command(button, {1, 2, 3});
+        EXPECT_EQ(after({}), outcome);
     }
 }

@@ -2,8 +2,6 @@
 
 #include "unit/tracking/tracking_window_fixture.h"
 
-namespace {
-
 /// What each document of a long pass does, in turn; most do nothing special.
 const struct {
     FakeDocument said;
@@ -46,8 +44,6 @@ struct LongPass : TrackingFixture {
         return kWays[static_cast<std::size_t>(i) * 7 % std::size(kWays)];
     }
 };
-
-}  // namespace
 
 TEST_F(LongPass, OfTwoThousandDocumentsGoesAsEachOfThemSays) {
     constexpr int kCount = 2000;

@@ -1,7 +1,5 @@
 #include "unit/tracking/tracking_window_fixture.h"
 
-namespace {
-
 struct Options : TrackingFixture {
     /// What is kept of each.
     std::wstring options() {
@@ -12,8 +10,6 @@ struct Options : TrackingFixture {
         return kept;
     }
 };
-
-}  // namespace
 
 TEST_F(Options, AreOffUntilChosenAndKeptAtOnce) {
     loadStates(L"00");

@@ -2,8 +2,6 @@
 
 #include "unit/tracking/tracking_window_fixture.h"
 
-namespace {
-
 struct Refusals : TrackingFixture {
     Saved saved(int line) { return work().lines[line].history.saved; }
 
@@ -19,8 +17,6 @@ struct Refusals : TrackingFixture {
         return calls() + L" " + states();
     }
 };
-
-}  // namespace
 
 TEST_F(Refusals, AreMetByEachMarkAtEachCommand) {
     enum { kPasses, kKeeps, kLeaves, kReferences, kNone };

@@ -6,8 +6,6 @@
 #include "unit/worklist/pass_fixture.h"
 #include "worklist/mark_keeper.h"
 
-namespace {
-
 constexpr wchar_t kRecord[] = L"c:\\liste.reprise";
 
 /// A pass whose marks are kept.
@@ -72,8 +70,6 @@ struct KeptMarks : PassFixture {
     std::string listFile;
     std::optional<MarkKeeper> keeper;
 };
-
-}  // namespace
 
 TEST_F(KeptMarks, AreThereOnlyWhileThereIsSomethingToOffer) {
     begin(listOf("000"));

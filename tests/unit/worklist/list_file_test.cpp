@@ -2,15 +2,11 @@
 
 #include "unit/unit_test.h"
 
-namespace {
-
-std::string linesToDo(int count) {
+static std::string linesToDo(int count) {
     std::string text;
     for (int i = 0; i < count; ++i) appendFreshLine(text, L"c:\\f" + std::to_wstring(i));
     return text;
 }
-
-}  // namespace
 
 TEST(ListFile, EachLineIsACodeAndAPath) {
     using std::string_literals::operator""s;

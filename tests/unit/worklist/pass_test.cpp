@@ -17,17 +17,6 @@ TEST_F(Steps, LeadFromOneLineToAnother) {
     const Step start = [](Pass&p) { return p.start(); }, back = [](Pass&p) { return p.stepBack(); };
     const Step at1 = [](Pass& p) { return p.startAt(1); };
     const Step after1 = [](Pass& p) { return p.startAfter(1); };
-    const auto see = [](int line) -> Step {
-        return [=](Pass& p) { return p.change(only({line}), LineState::Seen); };
-    };
-    const auto eliminate = [](const LineSelected& chosen, Eliminate states) -> Step {
-        return [=](Pass& p) { return p.eliminate(chosen, states); };
-    };
-    const auto reset = [](const std::vector<int>& lines) -> Step {
-        return [=](Pass& p) { return p.reset(only(lines)), true; };
-    };
-    const auto resume = [](int line) -> Step { return [=](Pass& p) { return p.resumeAt(line); }; };
-    constexpr auto kBoth = Eliminate::DoneAndSeen;
     // The codes before and after, which line is current, and whether its document is to be opened.
     const std::tuple<const char*, Step, const char*, int, bool> cases[] = {
         {"00", start, "30", 0, true},
@@ -50,16 +39,6 @@ TEST_F(Steps, LeadFromOneLineToAnother) {
         {"01", all({start, skip, back}), "31", 0, true},    // the search begins at the last line
         {"100", all({start, back, done}), "130", 1, true},  // without a current line none is marked
         {"120", all({start, back}), "123", -1, false},  // the line in progress past the end stays
-        {"x00", all({start, see(0)}), "230", 1, true},
-        {"10200", all({start, eliminate(kAllLines, kBoth)}), "300", 0, true},
-        {"10200", all({start, eliminate(only({0, 1}), kBoth)}), "3200", 0, true},
-        {"1122", all({start, eliminate(kAllLines, Eliminate::Seen)}), "11", 4, false},
-        {"12", all({start, eliminate(kAllLines, kBoth)}), "", 2, false},
-        {"10200", all({start, reset({0, 2})}), "30000", 0, true},
-        {"12", all({start, reset({1})}), "13", 1, true},
-        {"102002", all({start, resume(2)}), "102302", 3, true},
-        {"102002", all({start, resume(1)}), "132002", 1, true},
-        {"102002", all({start, resume(5)}), "102002", 5, false},  // the last line, as it is
     };
     for (const auto& [before, take, codes, current, opens] : cases) {
         Pass& begun = begin(listOf(std::string(before)));
