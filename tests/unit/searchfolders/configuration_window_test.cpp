@@ -60,6 +60,10 @@ TEST_F(ConfigurationFixture, OpensOnTheLastConfigurationAndAsksForTheFoldersInFo
     EXPECT_EQ(list(IDC_FORM4_LIST3).texts(), (Texts{L"c:\\b", L"d:\\b"}));
     EXPECT_EQ(text(IDC_FORM4_CPT_REP) + text(IDC_FORM4_NNIV), L"00");
     EXPECT_FALSE(editing());
+    chooseDrive(1);  // which is not ready
+    EXPECT_EQ(machine.boxes.shown.size(), 1U);
+    EXPECT_EQ(window.comboBox(IDC_FORM4_DRIVE1).chosen, 0);
+    EXPECT_EQ(list(IDC_FORM4_DIR1).line(1), L"  tarnwick");
     machine.automation.searchFolders = L"s:\\3";
     choose(1);
     EXPECT_EQ(list(IDC_FORM4_LIST3).texts(), Texts{L"c:\\a"});
@@ -197,11 +201,4 @@ TEST_F(ConfigurationFixture, OnlySauvegarderWritesTheFile) {
         EXPECT_EQ(std::exchange(kept, L""), kTwo);
     }
     EXPECT_EQ(machine.boxes.takeTexts().size(), 2U);
-}
-
-TEST_F(ConfigurationFixture, StaysOnItsDirectoryWhenADriveIsNotReady) {
-    chooseDrive(1);
-    EXPECT_EQ(machine.boxes.shown.size(), 1U);
-    EXPECT_EQ(window.comboBox(IDC_FORM4_DRIVE1).chosen, 0);
-    EXPECT_EQ(list(IDC_FORM4_DIR1).line(1), L"  tarnwick");
 }

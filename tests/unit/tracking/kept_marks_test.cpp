@@ -51,6 +51,10 @@ TEST_F(Resuming, OffersTheMarksThatWereKept) {
     clickAll({kSee, IDC_FORM3_CMDPURGE});
     EXPECT_EQ(restart({kYes}), Texts{kMarked});
     EXPECT_EQ(states(), L"3 0 0");
+    // A line in progress counts as to do.
+    loadStates(L"0300");
+    click(kSee);
+    EXPECT_TRUE(has(restart({kYes}).at(0), L"depuis : 1\r\n"));
 }
 
 TEST_F(Resuming, LeavesTheRecordAtEveryEndAndSaysSoWhenOneIsAnError) {

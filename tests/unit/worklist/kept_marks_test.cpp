@@ -152,7 +152,8 @@ TEST_F(KeptMarks, AreReadByteByByteAndNothingThatMakesNoSense) {
         {"\0\x09\2"s, {Done, {}}, {Done, {}}},
         {"\0\x09\3"s, none, none},  // a line too many
         {"\0\x09\0"s, none, none},  // no line at all
-        {"\2\1"s, none, none},
+        {"\2\1"s, none, none},      // past the list
+        {"\3\1"s, none, none},
         {"\0\5"s, none, none},  // no such state
         {"\0\xC1"s, none, none},
         {"\0\x21\xFF\xFF\xFF\xFF\7"s, {Done, {0, 0x7FFFFFFF, {}, {}}}, none},
@@ -237,7 +238,14 @@ TEST_F(KeptMarks, ThatCannotBeWrittenStopNoPassAndAreTriedAgainAtEachMark) {
             EXPECT_EQ(keeper->keeps(), wellAtLast);
         }
     }
-    // After a save the next failure is a new one.
+    // Each new failure is told, after a save as well.
+    files = {};
+    begin(listOf("00000"));
+    for (const bool fails : {true, false, true}) {
+        files.fails = [=](int) { return fails; };
+        advance(LineState::Done);
+        EXPECT_EQ(keeper->takeFailure(), fails);
+    }
     files.fails = [](int) { return true; };
     begin(listOf("000"));
     for (int saves = 0; saves < 2; ++saves) {

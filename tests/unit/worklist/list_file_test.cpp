@@ -54,9 +54,11 @@ TEST(ListFile, IsWrittenLineByLineWhateverOfItIsAsItWasRead) {
 }
 
 TEST(ListFile, ALineShorterThanItsCodeIsAnInvalidArgument) {
-    for (const char* text : {"\r\n", "0 ", "0  a\r\n\r\n", "0  a\n\r1  b", "0  a\r\n\x1a"}) {
+    for (const char* text : {"0  a\r\n\r\n", "0  a\n0 ", "0  a\n\r1  b", "0  a\r\n\x1a"}) {
         WorkList list;
-        EXPECT_EQ(raised([&] { parseListFile(text, list); }), 5) << text;
+        const auto error = raisedError([&] { parseListFile(text, list, L"c:\\x.lst"); });
+        EXPECT_EQ(error.number, 5) << text;
+        EXPECT_TRUE(error.text.ends_with(L"\r\nLigne 2 de c:\\x.lst")) << error.text;
     }
 }
 

@@ -91,13 +91,15 @@ TEST_F(Steps, NoteWhenADocumentWasMarkedAndHowLongItWasOpen) {
     // Back to do, a line has not been marked.
     pass->reset(only({1}));
     EXPECT_EQ(lines[1].history, (LineHistory{0, 10, Saved::Unknown, {}}));
-    // A document that is open though its line is gone is nobody's.
-    started("011");
-    pass->resumeAt(2);
-    pass->openCurrent();
-    pass->eliminate(kAllLines, Eliminate::DoneAndSeen);
-    pass->takeAsSaved();
-    clock.seconds += 5;
-    pass->closeOpen();
-    EXPECT_EQ(lines[0].history.secondsOpen, -1);
+    // A document that is open keeps its line, wherever that stands; if it is gone, it is nobody's.
+    for (const bool gone : {false, true}) {
+        started(gone ? "011" : "1100");
+        if (gone) pass->resumeAt(2);
+        pass->openCurrent();
+        pass->eliminate(kAllLines, Eliminate::DoneAndSeen);
+        pass->takeAsSaved();
+        clock.seconds += 5;
+        pass->closeOpen();
+        EXPECT_EQ(lines[0].history.secondsOpen, gone ? -1 : 5);
+    }
 }
