@@ -69,6 +69,8 @@ Alert PassRunner::alert() const {
 void PassRunner::keepMarks(std::optional<std::int32_t> opening) {
     marks_.keep(pass_.list(), opening);
     keepHoldOfList(platform_, files_);
+    // Going alone, nobody may be there to answer: what has passed by the next document is not told.
+    if (alone_ && !marksLag_) return;
     if (marks_.takeFailure()) platform_.messageBoxes.show(marksNotKeptBox());
 }
 
@@ -186,21 +188,27 @@ int PassRunner::documentsLeft() const {
 }
 
 AloneOutcome PassRunner::goAlone(const std::function<bool()>& goesOn) {
+    AloneOutcome outcome;
+    {
+        const CountedIn counting(alone_, outcome);
+        outcome.end = advanceAlone(goesOn);
+    }
+    keepMarks();
+    return outcome;
+}
+
+AloneOutcome::End PassRunner::advanceAlone(const std::function<bool()>& goesOn) {
     using End = AloneOutcome::End;
     // Windows lets a program have 10,000 by default ("GDI Objects", win32 sysinfo). The CAD
     // application warns from about 85 % of these on (vendor's forum, thread 214732).
     constexpr int kMostGdiObjects = 8'500;
-    AloneOutcome outcome;
-    const CountedIn counting(alone_, outcome);
     while (hasDocument()) {
-        if (!goesOn()) return outcome.end = End::Stopped, outcome;
-        if (cad_.gdiObjects().value_or(0) > kMostGdiObjects) {
-            return outcome.end = End::ShortOfGdiObjects, outcome;
-        }
+        if (!goesOn()) return End::Stopped;
+        if (cad_.gdiObjects().value_or(0) > kMostGdiObjects) return End::ShortOfGdiObjects;
+        marksLag_ = marks_.lags();
         advance(LineState::Done);
     }
-    if (stays_) outcome.end = End::FiveRefusals;
-    return outcome;
+    return stays_ ? End::FiveRefusals : End::Finished;
 }
 
 LineState PassRunner::countedAlone(Saved saved) {

@@ -137,6 +137,7 @@ class PassRunner {
     void closeOther();
     void endAt(Redraw redraw);
     void endAtTop();
+    AloneOutcome::End advanceAlone(const std::function<bool()>& goesOn);
     /// Going alone: counts the document. Returns its mark: it is left to do unless it was saved.
     LineState countedAlone(Saved saved);
     /// After every five refusals in a row asks the user whether to go on. Going alone ends there.
@@ -162,7 +163,8 @@ class PassRunner {
     MarkKeeper marks_;
     PassOptions options_;
     AloneOutcome* alone_ = nullptr;  ///< null unless the pass is going on alone
-    bool stays_ = false;  ///< the current line's document did not open, or none of those above
+    bool stays_ = false;     ///< the current line's document did not open, or none of those above
+    bool marksLag_ = false;  ///< going alone: those of the document before could not be kept
     bool saveRefused_ = false;  ///< the last command's save was refused
     bool openWarns_ = false;    ///< the open document opened with warnings or errors
 };

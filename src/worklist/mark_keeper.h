@@ -81,6 +81,8 @@ class MarkKeeper {
 
     /// Whether there are marks, and all of them are on disk to be offered at the next start.
     bool keeps() const { return written_ > 0 && !behind_ && !lines_.allAsInFile(); }
+    /// Whether the record could not be written last time.
+    bool lags() const { return trouble_; }
     /// True once each time that writing the record begins to fail.
     bool takeFailure();
 

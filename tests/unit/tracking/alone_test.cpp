@@ -158,6 +158,26 @@ TEST_F(Alone, AsksForWhatItWillCloseAndTellsWhatBecameOfIt) {
     EXPECT_EQ(after({}), L"s-a+b+cs-c+d | 0 0 1 0 | 4: 4/4 Aucun");
 }
 
+// Nobody may be there to answer: a fault that passes holds nothing up.
+TEST_F(Alone, TellsThatMarksAreNotKeptOnceADocumentLater) {
+    for (const bool lasts : {false, true}) {
+        machine.records.fails = [](int) { return false; };
+        loadStates(L"00000");
+        int documents = 0;
+        machine.watch.goesOn = [&] {
+            const bool fails = ++documents == 2 || (lasts && documents > 2);
+            machine.records.fails = [=](int) { return fails; };
+            return true;
+        };
+        machine.boxes.answers = {kYes};
+        click(IDM_FORM3_SEUL);
+        const Texts told = machine.boxes.takeTexts();
+        ASSERT_EQ(told.size(), lasts ? 3U : 2U);
+        EXPECT_EQ(told[1].starts_with(L"Libérez"), lasts);
+        EXPECT_EQ(form->keepsMarks(), !lasts);
+    }
+}
+
 TEST_F(Alone, ShowsHowFarItIsAndHoldsTheMachineAwake) {
     loadStates(L"0000");
     refuse(L"b");
