@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <random>
 #include <string>
@@ -30,7 +31,7 @@ struct Round {
     int kills;
 };
 constexpr Round kPressed{200, 50};
-constexpr Round kAlone{1000, 3};
+constexpr Round kAlone{200, 3};
 const std::string kTracking = "Tarnwick - suivi du travail -";
 const std::string kMarked = "Documents marqués depuis : ";
 
@@ -64,6 +65,8 @@ class Kills {
             list += "0  " + sandbox_.addDocument(std::to_string(i) + ".SLDPRT") + "\r\n";
         }
         sandbox_.writeList(list);
+        // The list before had the same bytes: its marks would be taken for this one's.
+        std::filesystem::remove(sandbox_.directory() / "tarnwick.reprise");
         cad_.start({"--hidden"});
         seen_ = marks_ = 0;
     }
