@@ -1,7 +1,5 @@
 #include "fakes/fake_automation.h"
 
-namespace {
-
 struct ArgumentText {
     std::wstring operator()(const std::wstring& text) const { return L'"' + text + L'"'; }
     std::wstring operator()(bool flag) const { return flag ? L"True" : L"False"; }
@@ -11,12 +9,10 @@ struct ArgumentText {
 };
 
 /// The text of an argument, by value or by reference.
-std::wstring textArgument(const Argument& argument) {
+static std::wstring textArgument(const Argument& argument) {
     if (auto* const* reference = std::get_if<std::wstring*>(&argument)) return **reference;
     return std::get<std::wstring>(argument);
 }
-
-}  // namespace
 
 struct FakeAutomation::Object : ServedObject {
     explicit Object(FakeAutomation& all, std::wstring itsName = {})

@@ -3,21 +3,17 @@
 #include "common/encoding.h"
 #include "rules/windows_files.h"
 
-namespace {
-
-std::wstring withoutTrailingBackslash(std::wstring path) {
+static std::wstring withoutTrailingBackslash(std::wstring path) {
     while (!path.empty() && path.back() == L'\\') path.pop_back();
     return path;
 }
 
 /// The name right below `directory` that leads to `path`, empty when it does not.
-std::wstring nameBelow(const std::wstring& directory, const std::wstring& path) {
+static std::wstring nameBelow(const std::wstring& directory, const std::wstring& path) {
     const std::wstring prefix = directory + L'\\';
     if (!path.starts_with(prefix) || path.size() == prefix.size()) return {};
     return path.substr(prefix.size(), path.find(L'\\', prefix.size()) - prefix.size());
 }
-
-}  // namespace
 
 std::string FakeFiles::readBytes(const std::wstring& path) {
     const auto file = texts.find(path);

@@ -6,9 +6,7 @@
 #include "pickers/paths.h"
 #include "selection/imported_file.h"
 
-namespace {
-
-void requireFull(const std::wstring& path) {
+static void requireFull(const std::wstring& path) {
     const bool onServer = !serverOf(path).empty();
     require(onServer == path.starts_with(L"\\\\"));
     require(onServer || path.substr(1, 2) == L":\\");
@@ -16,7 +14,7 @@ void requireFull(const std::wstring& path) {
     require(resolvedPath(L"c:\\x", path) == path);
 }
 
-void readAs(bool isList, const std::string& utf8) {
+static void readAs(bool isList, const std::string& utf8) {
     int last = 0;
     (isList ? readListLines : readTable)(utf8, [&](const DocumentLine& line) {
         require(line.number > last && !line.text.empty());
@@ -26,8 +24,6 @@ void readAs(bool isList, const std::string& utf8) {
         if (path) requireFull(*path);
     });
 }
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string utf8 = textInUtf8(std::string(data, data + size));

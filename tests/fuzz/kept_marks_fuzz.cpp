@@ -6,12 +6,10 @@
 #include "worklist/list_file.h"
 #include "worklist/mark_keeper.h"
 
-namespace {
-
 constexpr char kList[] = "0  c:\\a\r\n12  c:\\b\r\n3  c:\\c\r\nx  c:\\d\r\n0  c:\\e\r\n";
 constexpr int kLines = 5;
 
-void takeOver(std::string_view record) {
+static void takeOver(std::string_view record) {
     const auto kept = readKeptMarks(record, ContentIdentity(kList), kLines);
     if (!kept) return;
     require(kept->lines.size() == kLines);
@@ -23,8 +21,6 @@ void takeOver(std::string_view record) {
     restoreLines(list, *kept);
     require(list.lineCount() >= kLines - changed && list.lineCount() <= kLines);
 }
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string bytes(data, data + size);

@@ -5,16 +5,14 @@
 #include "fuzz_input.h"
 #include "worklist/list_file.h"
 
-namespace {
-
 /// Whether a line survives a save: its code must fill the first columns and none else.
-bool survivesSave(const WorkLine& line) {
+static bool survivesSave(const WorkLine& line) {
     const std::size_t length = line.code.text().size();
     return line.reload ? length == 1 : length >= 1 && length <= 3;
 }
 
 /// Saving has put a 1 before the codes of flagged lines, which reading takes off again.
-void requireSameAfterSave(WorkList& list) {
+static void requireSameAfterSave(WorkList& list) {
     WorkList reread;
     require(parseListFile(formatListFile(list, list.lineCount()), reread));
     require(reread.last == list.last);
@@ -26,8 +24,6 @@ void requireSameAfterSave(WorkList& list) {
         require(before.path == after.path && before.reload == after.reload);
     }
 }
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     WorkList list;

@@ -5,15 +5,13 @@
 #include "common/text.h"
 #include "fuzz_input.h"
 
-namespace {
-
-bool isMarked(std::string_view bytes) {
+static bool isMarked(std::string_view bytes) {
     return bytes.starts_with("\xEF\xBB\xBF") || bytes.starts_with("\xFF\xFE") ||
            bytes.starts_with("\xFE\xFF");
 }
 
 /// The lines, each read by itself; nothing when one of them looks marked.
-bool readLineByLine(std::string_view bytes, std::string& text) {
+static bool readLineByLine(std::string_view bytes, std::string& text) {
     while (!bytes.empty()) {
         const std::string_view from = bytes;
         takeLine(bytes);
@@ -23,8 +21,6 @@ bool readLineByLine(std::string_view bytes, std::string& text) {
     }
     return true;
 }
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string bytes(data, data + size);

@@ -24,10 +24,8 @@ struct OtherProgram {
     std::jthread thread{[this] {
         window = CreateWindowW(L"Static", L"Autre", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200,
                                100, nullptr, nullptr, nullptr, nullptr);
-        MSG message;
-        while (IsWindow(window) && GetMessageW(&message, nullptr, 0, 0) > 0) {
-            DispatchMessageW(&message);
-        }
+        MSG next;
+        while (IsWindow(window) && GetMessageW(&next, nullptr, 0, 0) > 0) DispatchMessageW(&next);
     }};
 };
 

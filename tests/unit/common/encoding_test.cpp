@@ -8,10 +8,8 @@ using std::string_view_literals::operator""sv;
 using Readings = std::vector<std::pair<std::string, std::wstring>>;
 
 /// How files of these bytes are read.
-static void expectRead(const Readings& readings) {
-    for (const auto& [bytes, text] : readings) {
-        EXPECT_EQ(wideText(textInUtf8(bytes)), text) << bytes;
-    }
+static void expectRead(const Readings& all) {
+    for (const auto& [bytes, text] : all) EXPECT_EQ(wideText(textInUtf8(bytes)), text) << bytes;
 }
 
 static std::string utf8(std::wstring_view text) {

@@ -85,7 +85,7 @@ static Deed event(DuringSearch asks, const EventSink* sink = &window, bool close
 }
 
 TEST(Verdict, OnEachDeedInEachSituation) {
-    using enum Target;
+    using enum Deed::Target;
     const std::tuple<const char*, Deed, const char*> rows[] = {
         // At rest: nothing pressed, a fresh press, a late one, a held key, a second press, one on a
         // new window. Handling: nothing, fresh. A call out: nothing, fresh, late, fresh in a box.

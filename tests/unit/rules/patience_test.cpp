@@ -1,6 +1,9 @@
 
+#include "rules/patience.h"
+
 #include "fakes/fake_services.h"
 #include "fakes/fake_waiting.h"
+#include "rules/late_binding.h"
 #include "unit/unit_test.h"
 
 using Answer = MessageBoxes::Answer;

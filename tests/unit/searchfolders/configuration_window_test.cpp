@@ -130,9 +130,7 @@ TEST_F(ConfigurationFixture, AddsNothingOfATreeThatIsStoppedOrCantBeRead) {
     EXPECT_TRUE(told[1].starts_with(L"Ce répertoire")) << told[1];
     EXPECT_EQ(text(IDC_FORM4_CPT_REP) + configurations.edited[2], L"1");
     machine.files.unreadable.clear();
-    for (int i = 0; i < 200; ++i) {
-        machine.files.directories.insert(L"c:\\p\\n" + std::to_wstring(i));
-    }
+    for (int i = 0; i < 200; ++i) machine.files.directories.insert(L"c:\\p\\" + std::to_wstring(i));
     EXPECT_EQ(raised([&] { click(IDC_FORM4_CMDAJO2); }), 9);
 }
 

@@ -4,16 +4,14 @@ using Advance = TrackingFixture;
 using StepBack = TrackingFixture;
 
 TEST_F(Advance, EachButtonAndItsTwinMarkInTheirWay) {
-    const struct {
-        int button, twin;
-        const wchar_t* after;
-    } cases[] = {{kSave, IDC_FORM3_CMD1, L"s-a+b | 1 3 | 1: 2/2 c:\\b"},
-                 {kSee, IDC_FORM3_CMD2, L"-a+b | 2 3 | 1: 2/2 c:\\b"},
-                 {kSkip, IDC_FORM3_CMD3, L"-a+b | 0 3 | 1: 2/2 c:\\b"}};
-    for (const auto& c : cases) {
-        for (const int button : {c.button, c.twin}) {
+    const std::tuple<int, int, const wchar_t*> cases[] = {
+        {kSave, IDC_FORM3_CMD1, L"s-a+b | 1 3 | 1: 2/2 c:\\b"},
+        {kSee, IDC_FORM3_CMD2, L"-a+b | 2 3 | 1: 2/2 c:\\b"},
+        {kSkip, IDC_FORM3_CMD3, L"-a+b | 0 3 | 1: 2/2 c:\\b"}};
+    for (const auto& [name, twin, outcome] : cases) {
+        for (const int button : {name, twin}) {
             loadStates(L"00");
-            EXPECT_EQ(after({button}), c.after) << button;
+            EXPECT_EQ(after({button}), outcome) << button;
             EXPECT_EQ(list().selection(), std::vector{1}) << button;
         }
     }

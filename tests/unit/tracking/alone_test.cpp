@@ -201,26 +201,25 @@ TEST_F(Alone, ShowsHowFarItIsAndHoldsTheMachineAwake) {
 
 TEST_F(Alone, IsStoppedByTheUserBetweenTwoCommands) {
     switchOn(L"references");
-    const struct {
-        int after;  ///< commands
-        bool byFrame;
-        const wchar_t* left;
-    } cases[] = {{2, false, L"s-ad+bs-bd+c | 1 1 3 0 | 2: 3/4 c:\\c"},
-                 {2, true, L"s-ad+bs-bd+cd | 1 1 3 0 | 2: 3/4 c:\\c"},
-                 {4, true, L"s-ad+bs-bd+cs-cd+ds-dd | 1 1 1 1 | 4: 4/4 Aucun"}};
-    for (const auto& c : cases) {
+    // After so many commands, by the frame or not, and what is left.
+    const std::tuple<int, bool, const wchar_t*> cases[] = {
+        {2, false, L"s-ad+bs-bd+c | 1 1 3 0 | 2: 3/4 c:\\c"},
+        {2, true, L"s-ad+bs-bd+cd | 1 1 3 0 | 2: 3/4 c:\\c"},
+        {4, true, L"s-ad+bs-bd+cs-cd+ds-dd | 1 1 1 1 | 4: 4/4 Aucun"}};
+    for (const auto& [commands, byFrame, expected] : cases) {
         loadStates(L"0000");
-        int left = c.after;
+        int left = commands;
+        const bool stops = byFrame;
         machine.watch.goesOn = [&] {
-            if (left-- == 0 && c.byFrame) throw ProgramEnd{};
+            if (left-- == 0 && stops) throw ProgramEnd{};
             return left >= 0;
         };
-        if (c.byFrame) {
+        if (byFrame) {
             EXPECT_THROW(goOn(), ProgramEnd);
         } else {
             EXPECT_EQ(goOn(), told(L"interrompu", 2, 0, 0));
         }
-        EXPECT_EQ(after({}), c.left);
+        EXPECT_EQ(after({}), expected);
         EXPECT_FALSE(machine.power.awake);
     }
 }

@@ -54,9 +54,7 @@ class TrackingFixture : public testing::Test {
     std::wstring loadStates(const std::wstring& codes) {
         std::wstring text;
         wchar_t name = L'a';
-        for (const wchar_t code : codes) {
-            text += code + (L"  c:\\" + std::wstring{name++}) + L"\r\n";
-        }
+        for (const wchar_t c : codes) text += c + (L"  c:\\" + std::wstring{name++}) + L"\r\n";
         load(text);
         return calls();
     }
@@ -163,9 +161,7 @@ class TrackingFixture : public testing::Test {
  private:
     bool enabledAlike(const std::vector<int>& buttons) {
         const bool first = window().control(buttons.front()).enabled;
-        for (const int button : buttons) {
-            EXPECT_EQ(window().control(button).enabled, first) << button;
-        }
+        for (const int id : buttons) EXPECT_EQ(window().control(id).enabled, first) << id;
         return first;
     }
 };

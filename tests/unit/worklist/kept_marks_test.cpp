@@ -180,9 +180,7 @@ TEST_F(KeptMarks, AreReadByteByByteAndNothingThatMakesNoSense) {
     }
     EXPECT_EQ(crc32("123456789"), 0xCBF43926U) << "as everybody computes it";
     listFile[4] = 'C';  // another list
-    for (const std::string& other : {header, ""s, "Tarnwick reprise 1\n"s}) {
-        EXPECT_FALSE(read(other));
-    }
+    for (const std::string& bad : {header, ""s, "Tarnwick reprise 1\n"s}) EXPECT_FALSE(read(bad));
 }
 
 TEST_F(KeptMarks, OfATornOrSpoiledRecordAreThoseBefore) {
