@@ -194,6 +194,7 @@ TEST_F(ConfigurationFixture, OnlySauvegarderWritesTheFile) {
         file = kTwo;
         machine.automation.fileExists = [](const auto&) { return false; };
         if (!reached) form.Form_Load();
+        EXPECT_EQ(configurations.last, reached ? 1 : 0);
         click(IDC_FORM4_CMDENREGISTER);
         EXPECT_EQ(file, reached ? L"Configuration:  Y\r\n   c:\\a\r\n" : L"");
         EXPECT_EQ(std::exchange(kept, L""), kTwo);

@@ -4,6 +4,7 @@
 #include "common/bytes.h"
 #include "fakes/fake_files.h"
 #include "unit/worklist/pass_fixture.h"
+#include "worklist/list_file.h"
 #include "worklist/mark_keeper.h"
 
 constexpr wchar_t kRecord[] = L"c:\\liste.reprise";
@@ -153,7 +154,7 @@ TEST_F(KeptMarks, AreReadByteByByteAndNothingThatMakesNoSense) {
         {"\0\x09\3"s, none, none},  // a line too many
         {"\0\x09\0"s, none, none},  // no line at all
         {"\2\1"s, none, none},      // past the list
-        {"\3\1"s, none, none},
+        {"\x80\x80\x80\x80\x80\x20\1"s, none, none},
         {"\0\5"s, none, none},  // no such state
         {"\0\xC1"s, none, none},
         {"\0\x21\xFF\xFF\xFF\xFF\7"s, {Done, {0, 0x7FFFFFFF, {}, {}}}, none},
@@ -179,6 +180,9 @@ TEST_F(KeptMarks, AreReadByteByByteAndNothingThatMakesNoSense) {
         EXPECT_EQ(kept->lines, (std::vector{first, second})) << testing::PrintToString(entries);
     }
     EXPECT_EQ(crc32("123456789"), 0xCBF43926U) << "as everybody computes it";
+    WorkList inProgress;
+    ASSERT_TRUE(parseListFile("3  c:\\a\r\n", inProgress));
+    EXPECT_EQ(changedLines(inProgress, {{{ToDo, {}}}, {}}), 0) << "in progress counts as to do";
     listFile[4] = 'C';  // another list
     for (const std::string& bad : {header, ""s, "Tarnwick reprise 1\n"s}) EXPECT_FALSE(read(bad));
 }
