@@ -145,7 +145,7 @@ void PassRunner::advance(LineState mark) {
         if (alone_) mark = countedAlone(*saved);
         close();
         cad_.forgetDocument();
-        if (!pass_.advance(mark, *saved)) return endAt(Redraw::InPlace);
+        if (!pass_.advance(mark)) return endAt(Redraw::InPlace);
         if (!go(Redraw::InPlace)) return;
         view_.allowStepBack();
         cad_.bringForward();

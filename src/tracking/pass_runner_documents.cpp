@@ -11,6 +11,15 @@
 #include "tracking/pass_runner.h"
 #include "tracking/tracking_texts.h"
 
+namespace {
+
+Saved savedBy(std::optional<std::int32_t> code) {
+    if (!code) return Saved::Unknown;
+    return *code == 0 ? Saved::Yes : Saved::No;
+}
+
+}  // namespace
+
 bool PassRunner::go(Redraw redraw, Direction direction) {
     stays_ = false;
     for (int refusals = 1;; ++refusals) {
@@ -91,9 +100,9 @@ void PassRunner::endAtTop() {
 std::optional<Saved> PassRunner::save() {
     for (;;) {
         const auto code = saveOnce();
-        saveRefused_ = code.value_or(0) != 0;
-        if (!code) return Saved::Unknown;
-        if (*code == 0) return Saved::Yes;
+        const Saved saved = savedBy(code);
+        saveRefused_ = saved == Saved::No;
+        if (!saveRefused_) return saved;
         if (alone_ || !options_.keepsUnsaved) return Saved::No;
         const auto box = saveRefusedBox(pass_.currentPath(), saveRefusalText(*code));
         if (platform_.messageBoxes.show(box) != MessageBoxes::Answer::Retry) return std::nullopt;
@@ -103,12 +112,13 @@ std::optional<Saved> PassRunner::save() {
 std::optional<std::int32_t> PassRunner::saveOnce() {
     try {
         const auto code = cad_.save();
-        const bool refused = code.value_or(0) != 0;
-        pass_.noteSaving(refused ? Remark::Saving::Refused : Remark::Saving::Silent,
+        const Saved saved = savedBy(code);
+        using Saving = Remark::Saving;
+        pass_.noteSaving(saved, saved == Saved::No ? Saving::Refused : Saving::Silent,
                          code.value_or(0));
         return code;
     } catch (const RuntimeError& error) {
-        pass_.noteSaving(Remark::Saving::Failed, error.number);
+        pass_.noteSaving(Saved::No, Remark::Saving::Failed, error.number);
         throw;
     }
 }

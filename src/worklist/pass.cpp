@@ -75,23 +75,17 @@ bool Pass::startHere(int line) {
     return true;
 }
 
-bool Pass::advance(LineState state, Saved saved) {
+bool Pass::advance(LineState state) {
     closeOpen();
     if (current_ >= 0) {
         left_.push_back(current_);
-        markLeft(state, saved);
+        mark(current_, state);
     }
     const int next = nextToDo(list_, current_);
     // The search reads the row at which it stops, even past the last line: that raises 9 at the end
     // of a list that fills the table.
     static_cast<void>(list_.lines[next]);
     return startHere(next);
-}
-
-// A document saved before its mark was undone counts as saved, whatever mark it gets now.
-void Pass::markLeft(LineState state, Saved saved) {
-    const Saved before = list_.lines[current_].history.saved;
-    mark(current_, state, saved == Saved::Unknown ? before : saved);
 }
 
 void Pass::undo() {
@@ -111,21 +105,18 @@ bool Pass::stepBack() {
     if (pastEnd()) {
         current_ = list_.last;
     } else {
-        mark(current_, LineState::ToDo, Saved::Unknown);
+        mark(current_, LineState::ToDo);
         --current_;
     }
     current_ = previousToDo(list_, current_);
     return current_ != kNoLine && startHere(current_);
 }
 
-void Pass::mark(int line, LineState state, Saved saved) {
+// What was saved stays saved, whatever becomes of the mark.
+void Pass::mark(int line, LineState state) {
     const auto marked = list_.lines.edit(line);
-    LineHistory& history = marked->history;
     marked->code = state;
-    history.markedAt = state == LineState::ToDo ? 0 : clock_.now();
-    // A save that was refused since the document was opened still counts as refused.
-    const bool refused = saved == Saved::Unknown && history.remark.saving != Remark::Saving::Silent;
-    history.saved = refused ? Saved::No : saved;
+    marked->history.markedAt = state == LineState::ToDo ? 0 : clock_.now();
 }
 
 template <class Edit>
@@ -140,7 +131,7 @@ bool Pass::change(const LineSelected& selected, LineState state) {
     return edited([&] {
         for (int i = 0; i <= list_.last; ++i) {
             if (list_.lines[i].code != LineState::InProgress && selected(i)) {
-                mark(i, state, Saved::Unknown);
+                mark(i, state);
             }
         }
         return reestablish();
@@ -157,7 +148,7 @@ bool Pass::eliminate(const LineSelected& chosen, Eliminate states) {
 void Pass::reset(const LineSelected& selected) {
     edited([&] {
         for (int i = 0; i <= list_.last; ++i) {
-            if (selected(i)) mark(i, LineState::ToDo, Saved::Unknown);
+            if (selected(i)) mark(i, LineState::ToDo);
         }
         takeBackInProgress(list_);
         return startHere(nextToDo(list_, -1));
@@ -189,10 +180,10 @@ void Pass::noteOpening(const Remark& remark) {
     list_.lines.edit(current_)->history.remark = remark;
 }
 
-void Pass::noteSaving(Remark::Saving saving, std::int32_t number) {
+void Pass::noteSaving(Saved saved, Remark::Saving saving, std::int32_t number) {
     if (current_ < 0) return;
     LineHistory& history = list_.lines.edit(current_)->history;
-    history.saved = saving == Remark::Saving::Silent ? Saved::Yes : Saved::No;
+    if (saved != Saved::Unknown) history.saved = saved;
     history.remark.saving = saving;
     history.remark.savingNumber = number;
 }

@@ -63,7 +63,7 @@ class Pass {
 
     /// Gives the current line this state, and goes to the next line to do or to the end. At the end
     /// of a list that fills the table raises 9, once the line has its state.
-    bool advance(LineState state, Saved saved = Saved::Unknown);
+    bool advance(LineState state);
     /// Sets the current line back to do, and goes to the nearest line to do above; past the end the
     /// search begins at the last line. When there is none, there is no current line.
     bool stepBack();
@@ -95,8 +95,9 @@ class Pass {
     void openCurrent();
     /// Notes what the session said when it opened the document of the current line.
     void noteOpening(const Remark& remark);
-    /// Notes what it said when asked to save that document: the kind of answer, and its number.
-    void noteSaving(Remark::Saving saving, std::int32_t number);
+    /// Notes what it said when asked to save that document: whether it did, unless it did not say;
+    /// the kind of answer, and its number.
+    void noteSaving(Saved saved, Remark::Saving saving, std::int32_t number);
     /// The open document is closed: notes how long it was open.
     void closeOpen();
     /// Notes how long the open document has been open so far.
@@ -109,8 +110,7 @@ class Pass {
     void takeAsSaved();
 
  private:
-    void mark(int line, LineState state, Saved saved);
-    void markLeft(LineState state, Saved saved);
+    void mark(int line, LineState state);
     bool startHere(int line);
     void show(int line);
     bool reestablish();

@@ -186,7 +186,7 @@ struct FakeWindow : Window {
     /// The user's own deeds.
     void leaveAt(int left, int top) { area = areaAt({left, top}, area.size()); }
     void click(int id) {
-        if (!greyedItems.contains(id)) sink.raise(id, Event::Click);
+        if (!greyedItems.contains(id) && control(id).enabled) sink.raise(id, Event::Click);
     }
     void drop(std::vector<std::wstring> paths) {
         dropped = std::move(paths);

@@ -117,8 +117,8 @@ TEST_F(Resuming, TellsOnceThatMarksCannotBeKept) {
 
 // Its end is an error; the last mark is not lost.
 TEST_F(Resuming, AFullListEndsPastTheTable) {
-    loadStates(std::wstring(8000, L'1') + L"0");
-    window().control(IDC_FORM3_NUMFICHCOUR).content = L"8000";
+    loadStates(std::wstring(7999, L'1') + L"00");
+    click(kSave);
     EXPECT_EQ(raised([&] { click(kSee); }), 9);
     EXPECT_EQ(restart({kYes}).size(), 1U);
     EXPECT_EQ(work().lines[8000].code, LineState::Seen);

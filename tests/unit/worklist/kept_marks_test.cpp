@@ -27,9 +27,7 @@ struct KeptMarks : PassFixture {
         if (succeeds) keeper->settle(pass->list());
     }
 
-    void advance(LineState mark, Saved saved = Saved::Unknown) {
-        pass->advance(mark, saved) ? open() : keeper->keep(pass->list());
-    }
+    void advance(LineState mark) { pass->advance(mark) ? open() : keeper->keep(pass->list()); }
 
     std::string record() { return files.contents[kRecord]; }
     bool hasRecord() { return !record().empty(); }
@@ -80,7 +78,7 @@ TEST_F(KeptMarks, AreThereOnlyWhileThereIsSomethingToOffer) {
     EXPECT_FALSE(hasRecord() || keeper->keeps());
     advance(LineState::ToDo);
     EXPECT_FALSE(hasRecord());
-    advance(LineState::Done, Saved::No);
+    advance(LineState::Done);
     EXPECT_TRUE(keeper->keeps());
     EXPECT_EQ(read(record())->opening, std::nullopt);
     EXPECT_EQ(resumed(), "010");
@@ -106,7 +104,7 @@ TEST_F(KeptMarks, GiveBackTheWorkOfAnyCommands) {
     const auto anyLine = [&] { return upTo(pass->list().lineCount()); };
     const auto some = [&](int) { return upTo(3) == 0; };
     const std::vector<std::function<void()>> commands{
-        [&] { pass->advance(upTo(3) ? LineState::Done : LineState::ToDo, Saved::Yes); },
+        [&] { pass->advance(upTo(3) ? LineState::Done : LineState::ToDo); },
         [&] { pass->current() < 0 || pass->stepBack(); },
         [&] { pass->current() < 0 || pass->pastEnd() ? pass->closeOpen() : pass->openCurrent(); },
         [&] {
@@ -115,7 +113,8 @@ TEST_F(KeptMarks, GiveBackTheWorkOfAnyCommands) {
                           .warnings = upTo(1) * 130};
             if (remark.opening != Remark::Opening::Silent) remark.openingNumber = upTo(1) - 1;
             pass->noteOpening(remark);
-            if (upTo(1)) pass->noteSaving(Remark::Saving::Refused, upTo(400));
+            if (upTo(1)) pass->noteSaving(Saved::No, Remark::Saving::Refused, upTo(400));
+            if (upTo(1)) pass->noteSaving(Saved::Yes, Remark::Saving::Silent, 0);
         },
         [&] { pass->moveTo(anyLine()); },
         [&] { pass->startAt(anyLine()); },
@@ -277,7 +276,7 @@ TEST_F(KeptMarks, OfALongPassTakeLessThanTwiceTheList) {
         clock.seconds += 61;
         const LineState mark = i % 3 == 0 ? LineState::Seen : LineState::Done;
         const auto everyOther = [](int line) { return line % 2 == 0; };
-        i < kLines ? advance(mark, Saved::Yes) : void(pass->change(everyOther, mark));
+        i < kLines ? advance(mark) : void(pass->change(everyOther, mark));
         keeper->keep(pass->list());
         largest = std::max(largest, record().size());
     }

@@ -78,7 +78,8 @@ TEST_F(Steps, NoteWhenADocumentWasMarkedAndHowLongItWasOpen) {
     pass->advance(LineState::ToDo);
     pass->openCurrent();
     clock.seconds += 10;
-    pass->advance(LineState::Done, Saved::Yes);
+    pass->noteSaving(Saved::Yes, Remark::Saving::Silent, 0);
+    pass->advance(LineState::Done);
     pass->stepBack();  // past the skipped line's end again
     pass->openCurrent();
     clock.seconds += 5;
@@ -88,9 +89,9 @@ TEST_F(Steps, NoteWhenADocumentWasMarkedAndHowLongItWasOpen) {
     pass->closeOpen();
     EXPECT_EQ(lines[0].history, (LineHistory{0, 35, Saved::Unknown, {}}));
     EXPECT_EQ(lines[1].history, (LineHistory{clock.seconds - 5, 10, Saved::Yes, {}}));
-    // Back to do, a line has not been marked.
+    // Back to do, a line has not been marked; it was saved all the same.
     pass->reset(only({1}));
-    EXPECT_EQ(lines[1].history, (LineHistory{0, 10, Saved::Unknown, {}}));
+    EXPECT_EQ(lines[1].history, (LineHistory{0, 10, Saved::Yes, {}}));
     // A document that is open keeps its line, wherever that stands; if it is gone, it is nobody's.
     for (const bool gone : {false, true}) {
         started(gone ? "011" : "1100");
