@@ -41,6 +41,11 @@ class PassAlone {
     void waitForLine(int line) const {
         while (std::stoi(app_.textOf(IDC_FORM3_NBFICH1)) < line) Sleep(1);
     }
+    /// What the program holds once it has come to this one-based line.
+    driver::Resources heldAt(int line) const {
+        waitForLine(line);
+        return app_.resourcesInUse();
+    }
     void pressEscape() const {
         PostMessageW(app_.control(IDC_FORM3_LIST1), WM_KEYDOWN, VK_ESCAPE, 1);
     }
@@ -111,4 +116,27 @@ Row stopOfAlone(const Setting& setting) {
             .judged = longest,
             .limit = kLimit,
             .note = "the longest of all, " + milliseconds(longest)};
+}
+
+Row heldAlone(const Setting& setting) {
+    const int documents = setting.sizes.back();
+    const PassAlone pass(documents, {"--hidden"});
+    pass.begin();
+    const driver::Resources before = pass.heldAt(std::min(100, documents / 5));
+    const driver::Resources after = pass.heldAt(documents - 10);
+    // A thread that COM happens to start on the way has some.
+    constexpr unsigned kOfAThread = 5;
+    require(before.gdiObjects > 0 && after.gdiObjects <= before.gdiObjects + kOfAThread,
+            "no more GDI objects");
+    require(after.kernelHandles <= before.kernelHandles + kOfAThread, "no more handles");
+    require(after.windows <= before.windows, "no more windows");
+    const double ratio =
+        static_cast<double>(after.memoryBytes) / static_cast<double>(before.memoryBytes);
+    return {.work = "memory near the end of a pass that goes on alone",
+            .floor = "near its beginning",
+            .ratios = {{documents, ratio}},
+            .goal = "<= 1.15",
+            .judged = ratio,
+            .limit = 1.15,
+            .note = before.describe() + "; then " + after.describe()};
 }

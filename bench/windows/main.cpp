@@ -36,6 +36,7 @@ constexpr NamedRow kRows[] = {
     {"cad", cadCalls},
     {"alone", documentsAlone},
     {"halt", stopOfAlone},
+    {"held", heldAlone},
     {"start", start},
     {"save", listFileSave},
     {"load", listFileLoad},

@@ -32,6 +32,9 @@ Row cadCalls(const Setting& setting);
 /// A pass that goes on alone, against the same calls made bare; the time from Escape to the box.
 Row documentsAlone(const Setting& setting);
 Row stopOfAlone(const Setting& setting);
+/// What the program holds of the system near the end of such a pass, against near its beginning.
+/// Raises when handles, GDI objects or windows have become more.
+Row heldAlone(const Setting& setting);
 /// From the process's creation to its first window, against a bare dialog.
 Row start(const Setting& setting);
 /// The list file saved, against one write, flush and replace.

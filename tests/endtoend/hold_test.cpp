@@ -9,9 +9,6 @@ struct Hold : Scenario {
         cad.start();
     }
 
-    std::string inDirectory(const char* name) const {
-        return utf8((sandbox.directory() / wide(name)).wstring());
-    }
     bool held(const char* name) const {
         return readFileBytes(sandbox.directory() / wide(name)).has_value();
     }
@@ -59,8 +56,8 @@ TEST_F(Hold, OneOfTwoStartsAtTheSameMomentGetsTheList) {
 }
 
 TEST_F(Hold, ListsOfTheirOwnAreOpenSideBySide) {
-    const std::string summer = inDirectory("Été 2026.lst");
-    writeFileBytes(wide(summer), listOf({"0", "0"}));
+    const auto summer = sandbox.directory() / L"Été 2026.lst";
+    writeFileBytes(summer, listOf({"0", "0"}));
     app.start();
     EXPECT_EQ(app.textOf(IDC_FORM2_LABEL1), "Un fichier LISTE  existe déja");
     app.click(IDC_FORM2_CMDANNULE);
@@ -70,8 +67,7 @@ TEST_F(Hold, ListsOfTheirOwnAreOpenSideBySide) {
     other.waitForText(IDC_FORM3_TXTETAT, paths[0]);
     EXPECT_TRUE(app.running() && held("tarnwick.verrou") && held("Été 2026.verrou"));
     other.click(IDC_FORM3_CMDFICHIERLISTE);
-    waitFor("the other list to be saved",
-            [&] { return readFileBytes(wide(summer))->starts_with("3"); });
+    waitFor("the other list to be saved", [&] { return readFileBytes(summer)->starts_with("3"); });
     expectList(listOf({"0", "0"}));
     expectEnd(kSelection);
     EXPECT_TRUE(!held("tarnwick.verrou") && held("Été 2026.verrou"));

@@ -103,55 +103,42 @@ TEST_F(WinFilesTest, ReadsNoRecordOfMoreThan64Megabytes) {
     }
 }
 
-/// A file system that answers as it is told.
-struct Answers : IdentityCalls {
-    std::optional<FILE_ID_INFO> wideAnswer;
-    BY_HANDLE_FILE_INFORMATION narrowAnswer{};
-
-    bool wide(HANDLE, FILE_ID_INFO& identity) override {
-        if (wideAnswer) identity = *wideAnswer;
-        return wideAnswer.has_value();
+/// A directory of which the file system tells an identity of 128 bits, the last byte apart all
+/// alike, or none; and the old one.
+static DirectoryId idOf(std::optional<std::pair<BYTE, BYTE>> bytes, ULONGLONG volume, DWORD index) {
+    struct Answers : IdentityCalls {
+        std::optional<FILE_ID_INFO> wideAnswer;
+        BY_HANDLE_FILE_INFORMATION narrowAnswer{};
+        bool wide(HANDLE, FILE_ID_INFO& identity) override {
+            if (wideAnswer) identity = *wideAnswer;
+            return wideAnswer.has_value();
+        }
+        bool narrow(HANDLE, BY_HANDLE_FILE_INFORMATION& information) override {
+            information = narrowAnswer;
+            return true;
+        }
+    } answers;
+    if (bytes) {
+        FILE_ID_INFO& wide = answers.wideAnswer.emplace(FILE_ID_INFO{volume, {}});
+        std::ranges::fill(wide.FileId.Identifier, bytes->first);
+        wide.FileId.Identifier[15] = bytes->second;
     }
-    bool narrow(HANDLE, BY_HANDLE_FILE_INFORMATION& information) override {
-        information = narrowAnswer;
-        return true;
-    }
-};
-
-static DirectoryId idFrom(Answers answers) {
+    answers.narrowAnswer.dwVolumeSerialNumber = static_cast<DWORD>(volume);
+    answers.narrowAnswer.nFileIndexLow = index;
     DirectoryId id{};
     EXPECT_TRUE(identify(nullptr, id, answers));
     return id;
 }
 
-/// A directory by its new identity, of which this is the last byte, each other one `filler`.
-static DirectoryId wide(ULONGLONG volume, BYTE last, BYTE filler = 1) {
-    Answers answers;
-    answers.wideAnswer = {.VolumeSerialNumber = volume, .FileId = {}};
-    std::ranges::fill(answers.wideAnswer->FileId.Identifier, filler);
-    answers.wideAnswer->FileId.Identifier[15] = last;
-    // By the old one it is its own.
-    static DWORD index = 0;
-    answers.narrowAnswer.nFileIndexLow = ++index;
-    return idFrom(answers);
-}
-
-static DirectoryId narrow(DWORD volume, DWORD high, DWORD low) {
-    Answers answers;
-    answers.narrowAnswer.dwVolumeSerialNumber = volume;
-    answers.narrowAnswer.nFileIndexHigh = high;
-    answers.narrowAnswer.nFileIndexLow = low;
-    return idFrom(answers);
-}
-
 TEST(DirectoryIdentity, IsAllBitsOrTheOldOneWhereThereAreNone) {
-    EXPECT_EQ(wide(7, 2), wide(7, 2));
-    EXPECT_FALSE(wide(7, 2) == wide(7, 3) || wide(7, 2) == wide(1ULL << 40, 2));
-    EXPECT_EQ(narrow(7, 1, 2), narrow(7, 1, 2));
-    EXPECT_FALSE(narrow(7, 1, 2) == narrow(7, 2, 2) || narrow(7, 1, 2) == narrow(8, 1, 2));
-    for (const BYTE filler : {BYTE{0}, BYTE{0xFF}}) {
-        EXPECT_FALSE(wide(7, filler, filler) == wide(7, filler, filler));
+    const auto all = std::pair<BYTE, BYTE>(1, 2), others = std::pair<BYTE, BYTE>(1, 3);
+    EXPECT_EQ(idOf(all, 7, 1), idOf(all, 7, 2));
+    EXPECT_FALSE(idOf(all, 7, 1) == idOf(others, 7, 1) || idOf(all, 7, 1) == idOf(all, 1, 1));
+    for (const BYTE none : {BYTE{0}, BYTE{0xFF}}) {
+        EXPECT_FALSE(idOf(std::pair(none, none), 7, 1) == idOf(std::pair(none, none), 7, 2));
     }
+    EXPECT_EQ(idOf({}, 7, 1), idOf({}, 7, 1));
+    EXPECT_FALSE(idOf({}, 7, 1) == idOf({}, 7, 2) || idOf({}, 7, 1) == idOf({}, 8, 1));
 }
 
 TEST(FoundName, IsWhatItsAttributesAndTagSay) {

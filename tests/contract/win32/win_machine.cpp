@@ -1,5 +1,7 @@
 #include "win32/process/win_machine.h"
 
+#include <filesystem>
+
 #include "contract/machine.h"
 #include "contract/win32/real_windows.h"
 #include "rules/windows_files.h"
@@ -7,31 +9,17 @@
 
 static std::wstring uniquePath() {
     static int number = 0;
-    wchar_t temporary[MAX_PATH + 1] = {};
-    GetTempPathW(MAX_PATH + 1, temporary);
-    return temporary + (L"tarnwick-contract-" + std::to_wstring(GetCurrentProcessId())) + L'-' +
-           std::to_wstring(++number);
+    return std::filesystem::temp_directory_path().wstring() + L"tarnwick-contract-" +
+           std::to_wstring(GetCurrentProcessId()) + L'-' + std::to_wstring(++number);
 }
 
-static void removeTree(const std::wstring& directory) {
-    WinFiles().visit(directory, [&](const DirectoryEntry& entry) {
-        const std::wstring path = directory + L'\\' + std::wstring(entry.name);
-        if (entry.isDirectory && !entry.isLink) {
-            removeTree(path);
-            return;
-        }
-        SetFileAttributesW(longPath(path).c_str(), FILE_ATTRIBUTE_NORMAL);
-        entry.isDirectory ? RemoveDirectoryW(longPath(path).c_str())
-                          : DeleteFileW(longPath(path).c_str());
-    });
-    RemoveDirectoryW(longPath(directory).c_str());
-}
-
-/// A directory of its own among the temporary files, removed with all that is in it, whatever its
-/// names, lengths and attributes.
+/// A directory of its own among the temporary files, removed with all that is in it.
 struct ScratchDirectory {
     ScratchDirectory() { CreateDirectoryW(path.c_str(), nullptr); }
-    ~ScratchDirectory() { removeTree(path); }
+    ~ScratchDirectory() {
+        std::error_code left;
+        std::filesystem::remove_all(longPath(path), left);
+    }
     ScratchDirectory(const ScratchDirectory&) = delete;
     ScratchDirectory& operator=(const ScratchDirectory&) = delete;
 

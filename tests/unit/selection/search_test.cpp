@@ -25,9 +25,10 @@ TEST_F(SelectionLoad, ShowsTheDrawingsOfTheWorkingDirectory) {
 }
 
 TEST_F(SelectionLoad, StartsWhereverTheSessionWorks) {
-    machine.files.add({L"\\\\serveur\\part\\plans\\r.SLDDRW"});
+    machine.files.add({L"\\\\serveur\\part\\plans\\r.SLDDRW", L"D:\\Plans\\u.SLDDRW"});
     const std::tuple<const wchar_t*, const wchar_t*, Texts> cases[] = {
         {L"d:\\doc\\", L"d:", {L"d.SLDDRW"}},
+        {L"D:\\Plans", L"d:", {L"u.SLDDRW"}},
         {L"\\\\serveur\\part\\plans", L"", {L"r.SLDDRW"}},
         {L"c:", L"c:", {L"a.SLDDRW"}},
         {L"", L"c:", {L"a.SLDDRW"}},
