@@ -4,11 +4,17 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <thread>
 #include <utility>
 
 #include "ports/search.h"
 
 namespace {
+
+/// How many workers keep the processors busy.
+int processors() {
+    return std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, kMostAtOnce);
+}
 
 /// What the main thread and the workers share.
 struct JobDesk : std::enable_shared_from_this<JobDesk> {
@@ -26,10 +32,10 @@ struct JobDesk : std::enable_shared_from_this<JobDesk> {
     JobDesk(std::size_t theCount, std::function<void(std::size_t)> theJob, SearchWatch& theWatch)
         : count(theCount), job(std::move(theJob)), watch(&theWatch) {}
 
-    void callWorkers(Workers& workers) {
+    void callWorkers(Workers& workers, int most) {
         const std::size_t begun = next;
         for (auto wanted = count - std::min(begun, count); wanted > 0; --wanted) {
-            if (atWork >= kMostAtOnce) return;
+            if (atWork >= most) return;
             ++atWork;
             if (workers.start([desk = shared_from_this()] { desk->work(); })) continue;
             --atWork;
@@ -83,10 +89,16 @@ bool inParallel(const SearchServices& services, std::size_t count,
     if (count == 0) return true;
     const auto desk = std::make_shared<JobDesk>(count, std::move(job), services.watch);
     const JobsEnd end{*desk};
+    // More workers than processors help only where jobs wait for a server: then few end during one
+    // wait of the main thread's.
+    constexpr std::size_t kFew = 100;
+    int workers = processors();
     while (!desk->ended) {
-        desk->callWorkers(services.workers);
+        const std::size_t before = desk->done;
+        desk->callWorkers(services.workers, workers);
         const bool alone = desk->atWork == 0 && desk->doNext();
         if (!(alone ? services.watch.serve() : services.watch.wait())) return false;
+        if (desk->done - before < kFew) workers = kMostAtOnce;
     }
     const std::scoped_lock lock(desk->mutex);
     if (desk->error) throw *desk->error;

@@ -42,21 +42,19 @@ std::wstring rootOf(std::wstring_view path) {
     return std::wstring(path.substr(0, begin + share.size())) + L'\\';
 }
 
-/// The names of a path, joined by backslashes, ".." resolved.
-std::wstring names(std::wstring_view path) {
-    std::wstring way;
-    way.reserve(path.size());
-    while (!path.empty()) {
-        const std::wstring_view name = firstName(path);
-        path.remove_prefix(std::min(name.size() + 1, path.size()));
+/// Adds the names of a path to its root, joined by backslashes, ".." resolved.
+void addNames(std::wstring& path, std::wstring_view names) {
+    const std::size_t root = path.size();
+    while (!names.empty()) {
+        const std::wstring_view name = firstName(names);
+        names.remove_prefix(std::min(name.size() + 1, names.size()));
         if (isPlainName(name)) {
-            (way += way.empty() ? L"" : L"\\") += name;
+            if (path.size() > root) path += L'\\';
+            path += name;
         } else if (name == L"..") {
-            const std::size_t last = way.rfind(L'\\');
-            way.resize(last == std::wstring::npos ? 0 : last);
+            path.resize(std::max(root, path.rfind(L'\\')));
         }
     }
-    return way;
 }
 
 }  // namespace
@@ -96,9 +94,12 @@ std::optional<std::wstring> resolvedPath(const std::wstring& directory, std::wst
     if (!isOnDrive(path) && !path.starts_with(kNetwork)) {
         path = (path.starts_with(L'\\') ? rootOf(directory) : directory + L'\\') + path;
     }
-    const std::wstring root = rootOf(path);
-    if (root.empty()) return std::nullopt;
-    return root + names(std::wstring_view(path).substr(std::min(root.size() - 1, path.size())));
+    std::wstring resolved = rootOf(path);
+    if (resolved.empty()) return std::nullopt;
+    const std::size_t end = std::min(resolved.size() - 1, path.size());
+    resolved.reserve(path.size() + 1);
+    addNames(resolved, std::wstring_view(path).substr(end));
+    return resolved;
 }
 
 std::wstring serverOf(std::wstring_view path) {

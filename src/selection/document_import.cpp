@@ -114,7 +114,8 @@ bool DocumentImport::takeFile(const std::wstring& file) {
         if (line.path) {
             add(place, std::move(line.text), std::move(*line.path), Presence::Unknown);
         } else {
-            leaveOut(place, line.text, Presence::NoDocument);
+            const auto why = line.namesDocument ? Presence::NotFound : Presence::NoDocument;
+            leaveOut(place, line.text, why);
         }
     }
     remains_.leftOut += std::max(0, found->nameless - FileLines::kTold);

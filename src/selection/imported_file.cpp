@@ -32,11 +32,11 @@ std::optional<std::size_t> quotedLength(std::string_view text) {
     return ++end == text.size() || isFieldEnd(text[end]) ? std::optional(end) : std::nullopt;
 }
 
-std::string unquoted(std::string_view field) {
+std::string withoutDoubledQuotes(std::string_view inner) {
     std::string text;
-    for (std::size_t i = 1; i + 1 < field.size(); ++i) {
-        text += field[i];
-        if (field[i] == '"') ++i;
+    for (std::size_t i = 0; i < inner.size(); ++i) {
+        text += inner[i];
+        if (inner[i] == '"') ++i;
     }
     return text;
 }
@@ -49,32 +49,37 @@ std::string_view withoutApostrophe(std::string_view field) {
     return field.substr(guarded ? 1 : 0);
 }
 
-/// The fields of a line, one after the other.
+/// The fields of a line, one after the other. Each is valid until the next one is taken.
 class Fields {
  public:
     explicit Fields(std::string_view line) : rest_(line) {}
 
-    std::optional<std::string> next() {
+    std::optional<std::string_view> next() {
         if (atEnd_) return std::nullopt;
         const auto quoted = rest_.starts_with('"') ? quotedLength(rest_) : std::nullopt;
         const auto plain = std::ranges::find_if(rest_, isFieldEnd) - rest_.begin();
         const auto field = rest_.substr(0, quoted.value_or(static_cast<std::size_t>(plain)));
         atEnd_ = field.size() == rest_.size();
         rest_.remove_prefix(field.size() + (atEnd_ ? 0 : 1));
-        return quoted ? unquoted(field) : std::string(field);
+        return quoted ? unquoted(field.substr(1, field.size() - 2)) : field;
     }
 
  private:
+    std::string_view unquoted(std::string_view inner) {
+        if (inner.find('"') == std::string_view::npos) return inner;
+        return unquoted_ = withoutDoubledQuotes(inner);
+    }
+
     std::string_view rest_;
+    std::string unquoted_;
     bool atEnd_ = false;
 };
 
 /// The first field that names a document, empty for none.
-std::string documentIn(std::string_view line) {
-    Fields fields(line);
+std::string_view documentIn(Fields& fields) {
     while (const auto field = fields.next()) {
         const std::string_view name = withoutApostrophe(trimmed(*field));
-        if (isDocumentName(name)) return std::string(name);
+        if (isDocumentName(name)) return name;
     }
     return {};
 }
@@ -118,7 +123,8 @@ void readTable(std::string_view utf8, const std::function<void(const DocumentLin
     for (int number = 1; !utf8.empty(); ++number) {
         const std::string_view line = takeLine(utf8);
         if (isBlankRow(line) || (number == 1 && isReportHead(line))) continue;
-        const std::string name = documentIn(line);
+        Fields fields(line);
+        const std::string_view name = documentIn(fields);
         visit({number, name.empty() ? line : name, !name.empty()});
     }
 }
@@ -146,7 +152,7 @@ bool isListFile(const std::wstring& path) { return endsWith(path, L".LST"); }
 void take(FileLines& lines, const DocumentLine& line, const std::wstring& directory) {
     if (line.namesDocument || lines.nameless < FileLines::kTold) {
         auto& kept = lines.lines.emplace_back(
-            FileLines::Line{lines.count, wideText(line.text), std::nullopt});
+            FileLines::Line{lines.count, wideText(line.text), line.namesDocument, std::nullopt});
         if (line.namesDocument) kept.path = resolvedPath(directory, kept.text);
     }
     if (!line.namesDocument) ++lines.nameless;

@@ -48,7 +48,8 @@ struct FileLines {
     struct Line {
         int place;                         ///< among the lines that aren't blank
         std::wstring text;                 ///< as written in the file
-        std::optional<std::wstring> path;  ///< nothing when it names no document
+        bool namesDocument;                ///< otherwise `text` is the whole line
+        std::optional<std::wstring> path;  ///< nothing where it leads nowhere
     };
 
     std::vector<Line> lines = {};

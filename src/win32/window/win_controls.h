@@ -89,9 +89,11 @@ class WinListBox : public ControlOf<ListBox> {
     void measureLines();
 
  private:
+    void removeAll();
     std::vector<int> selection() const;
     void setExtent(int pixels) { send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(pixels)); }
 
+    bool hasData_ = false;  ///< some line's data isn't zero
     int pauses_ = 0;
     bool paused_ = false;  ///< whether the control itself was told
     ScrollBars drawnBars_{};

@@ -109,11 +109,14 @@ void WinListBox::clearSelection() {
 
 int WinListBox::data(int index) const { return sendForInt(LB_GETITEMDATA, position(index)); }
 
-void WinListBox::setData(int index, int data) { send(LB_SETITEMDATA, position(index), data); }
+void WinListBox::setData(int index, int data) {
+    if (data != 0) hasData_ = true;
+    send(LB_SETITEMDATA, position(index), data);
+}
 
 void WinListBox::setLines(int count, const std::function<std::wstring(int)>& line) {
     DrawingPause pause(*this);
-    send(LB_RESETCONTENT);
+    removeAll();
     constexpr LPARAM kBytesPerLine = 200;
     send(LB_INITSTORAGE, position(count), count * kBytesPerLine);
     WidestLine widest(handle(), count);
@@ -123,6 +126,15 @@ void WinListBox::setLines(int count, const std::function<std::wstring(int)>& lin
         send(LB_ADDSTRING, 0, asLparam(text));
     }
     setExtent(widest.extent());
+}
+
+// The window is sent a message about each line that is removed with its data (WM_DELETEITEM), which
+// takes longer than to set the data to zero.
+void WinListBox::removeAll() {
+    if (std::exchange(hasData_, false)) {
+        for (int i = count() - 1; i >= 0; --i) setData(i, 0);
+    }
+    send(LB_RESETCONTENT);
 }
 
 void WinListBox::changeText(int index, const std::wstring& line) {

@@ -114,15 +114,15 @@ TEST_F(SelectionImport, StoppedItChangesNothing) {
 }
 
 TEST_F(SelectionImport, WhatIsDroppedComesInItsOrder) {
-    machine.files.texts[kFile] = L"c:\\a.SLDDRW";
-    window().drop(
-        {L"c:\\plans\\Zoe.SLDDRW", kFile, L"c:\\plans\\moteur", L"c:\\x.pdf", L"c:\\a.SLDDRW"});
+    machine.files.texts[L"c:\\l.lst"] = L"0  c:\\a.SLDDRW\r\n0  \\\\serveur";
+    window().drop({L"c:\\plans\\Zoe.SLDDRW", L"c:\\l.lst", L"c:\\plans\\moteur", L"c:\\x.pdf",
+                   L"c:\\a.SLDDRW"});
     EXPECT_EQ(list().texts(), (Texts{L" X   c:\\plans\\Zoe.SLDDRW", L" X   c:\\a.SLDDRW",
                                      L" X   c:\\plans\\moteur\\bielle.SLDDRW",
                                      L" X   c:\\plans\\moteur\\piston.SLDPRT"}));
     EXPECT_EQ(box(),
-              L"1 ligne laissée de côté :\r\nc:\\x.pdf : n'est pas un document SolidWorks\r\n"
-              L"1 ligne déjà dans la liste.");
+              L"2 lignes laissées de côté :\r\n\\\\serveur : introuvable\r\n"
+              L"c:\\x.pdf : n'est pas un document SolidWorks\r\n1 ligne déjà dans la liste.");
     machine.serveAfter(L"c:\\plans\\moteur", [&] { return machine.watch.stop(); });
     window().drop({L"c:\\plans", L"d:\\doc"});
     EXPECT_EQ(list().count(), 6) << "what was found until then";
