@@ -96,10 +96,10 @@ std::optional<std::wstring> resolvedPath(const std::wstring& directory, std::wst
     }
     std::wstring resolved = rootOf(path);
     if (resolved.empty()) return std::nullopt;
-    const std::size_t end = std::min(resolved.size() - 1, path.size());
+    const std::size_t root = resolved.size();
     resolved.reserve(path.size() + 1);
-    addNames(resolved, std::wstring_view(path).substr(end));
-    return resolved;
+    addNames(resolved, std::wstring_view(path).substr(std::min(root - 1, path.size())));
+    return resolved.size() == root ? std::nullopt : std::optional(resolved);
 }
 
 std::wstring serverOf(std::wstring_view path) {

@@ -19,7 +19,7 @@ bool isDriveRoot(std::wstring_view directory);
 
 /// The full path that a name from a file stands for, relative to a directory. However the name was
 /// spelled (slashes, "..", "\\?\UNC\..."), the path shows which drive or share it leads to. Nothing
-/// for a server without a share.
+/// where it names no more than a drive, a server or a share.
 std::optional<std::wstring> resolvedPath(const std::wstring& directory, std::wstring_view name);
 
 /// The server of a network path, in capitals; empty for a path on a drive.

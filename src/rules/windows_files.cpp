@@ -34,6 +34,12 @@ RuntimeError directoryError(std::uint32_t code, const std::wstring& path) {
     }
 }
 
+bool saysNothingIsThere(std::uint32_t code) {
+    using namespace windows_error;
+    return code == kFileNotFound || code == kPathNotFound || code == kInvalidName ||
+           code == kBadPathName || code == kNameTooLong || code == kNotADirectory;
+}
+
 namespace {
 
 std::wstring singleBackslashes(const std::wstring& path, std::size_t from) {

@@ -21,6 +21,7 @@ inline constexpr std::uint32_t kBadNetworkPath = 53;
 inline constexpr std::uint32_t kBadNetworkName = 67;
 inline constexpr std::uint32_t kInvalidName = 123;
 inline constexpr std::uint32_t kBadPathName = 161;
+inline constexpr std::uint32_t kNameTooLong = 206;
 inline constexpr std::uint32_t kNotADirectory = 267;
 }  // namespace windows_error
 
@@ -29,6 +30,10 @@ RuntimeError fileError(std::uint32_t code, const std::wstring& path);
 
 /// The same for a directory that is to be read: denied access is 70.
 RuntimeError directoryError(std::uint32_t code, const std::wstring& path);
+
+/// Whether this error, met when looking for a path, says that nothing can be there: it isn't found,
+/// or Windows allows no such name (System Error Codes). Any other leaves it open.
+bool saysNothingIsThere(std::uint32_t code);
 
 /// A full path in the form that Windows takes at any length and with any name (the \\?\ prefix),
 /// which allows single backslashes only. Other paths stay as they are.

@@ -26,13 +26,37 @@ Presence presenceOf(Files& files, const std::wstring& path) {
             case PathKind::File:
                 return Presence::There;
             case PathKind::Directory:
-                return Presence::NoDocument;
+                return Presence::Directory;
             default:
                 return Presence::NotFound;
         }
     } catch (const RuntimeError&) {
         return Presence::OutOfReach;
     }
+}
+
+/// Shared with the jobs that look: one that hangs may answer after the import has been given up.
+struct Looks {
+    std::vector<std::wstring> paths;
+    std::vector<Presence> answers = std::vector<Presence>(paths.size(), Presence::OutOfReach);
+
+    bool allAnswered() const {
+        return std::ranges::find(answers, Presence::OutOfReach) == answers.end();
+    }
+};
+
+/// Looks what each path leads to; null when the watch ends that.
+std::shared_ptr<Looks> lookFor(const SearchServices& services, std::vector<std::wstring> paths) {
+    const auto looks = std::make_shared<Looks>(Looks{std::move(paths)});
+    const auto ask = [&files = services.files, looks](std::size_t number) {
+        Presence& answer = looks->answers[number];
+        if (answer == Presence::OutOfReach) answer = presenceOf(files, looks->paths[number]);
+    };
+    // A second time for those out of reach: a server may be away for a moment.
+    for (int times = 0; times < 2 && !looks->allAnswered(); ++times) {
+        if (!inParallel(services, looks->paths.size(), ask)) return nullptr;
+    }
+    return looks;
 }
 
 }  // namespace
@@ -55,11 +79,17 @@ DocumentImport::End DocumentImport::gatherFile(const std::wstring& file) {
 
 DocumentImport::End DocumentImport::gatherDropped(const std::vector<std::wstring>& paths,
                                                   const Progress& progress) {
+    bool searches = false;
     const End end = unlessRefused([&] {
-        return std::ranges::all_of(
-            paths, [&](const std::wstring& path) { return takeDropped(path, progress); });
+        const auto looks = lookFor(services_, paths);
+        if (!looks) return false;
+        for (std::size_t i = 0; i < paths.size(); ++i) {
+            searches |= looks->answers[i] == Presence::Directory;
+            if (!takeDropped(paths[i], looks->answers[i], progress)) return false;
+        }
+        return true;
     });
-    if (end == End::Interrupted) {
+    if (end == End::Interrupted && searches) {
         std::erase_if(lines_, [&](const Line& line) {
             return named_[line.document].presence != Presence::There;
         });
@@ -70,20 +100,16 @@ DocumentImport::End DocumentImport::gatherDropped(const std::vector<std::wstring
     return end;
 }
 
-bool DocumentImport::takeDropped(const std::wstring& path, const Progress& progress) {
+bool DocumentImport::takeDropped(const std::wstring& path, Presence presence,
+                                 const Progress& progress) {
     ownServers_.push_back(serverOf(path));
-    if (DocumentKinds(kAllKinds).accepts(path)) {
-        add(place_++, path, path, Presence::Unknown);
-        return true;
-    }
-    const auto kind = std::make_shared<PathKind>();
-    const auto ask = [&files = services_.files, kind, path](std::size_t) {
-        *kind = files.kindOf(path);
-    };
-    if (!inParallel(services_, 1, ask)) return false;
-    if (*kind == PathKind::Directory) return takeDirectory(path, progress);
+    if (presence == Presence::Directory) return takeDirectory(path, progress);
     if (mayNameDocuments(path)) return takeFile(path);
-    leaveOut(place_++, path, Presence::NoDocument);
+    if (DocumentKinds(kAllKinds).accepts(path)) {
+        add(place_++, path, path, presence);
+    } else {
+        leaveOut(place_++, path, presence == Presence::There ? Presence::NoDocument : presence);
+    }
     return true;
 }
 
@@ -174,35 +200,23 @@ void DocumentImport::leaveOutServers(const std::vector<std::wstring>& servers) {
 
 DocumentImport::End DocumentImport::look() {
     return unlessRefused([&] {
-        // A second time for those out of reach: a server may be away for a moment.
-        for (const Presence still : {Presence::Unknown, Presence::OutOfReach}) {
-            if (!lookAtThose(still)) return false;
-        }
+        if (!lookAtUnknown()) return false;
         settle();
         if (documents_.size() > kCapacity) throw tooManyDocuments();
         return true;
     });
 }
 
-bool DocumentImport::lookAtThose(Presence still) {
-    // Shared with the jobs: one that hangs may answer after the import has been given up, so the
-    // paths are taken back only when all have answered.
-    struct Looks {
-        std::vector<std::wstring> paths;
-        std::vector<Presence> answers;
-    };
-    const auto looks = std::make_shared<Looks>();
+bool DocumentImport::lookAtUnknown() {
     std::vector<Document*> documents;
+    std::vector<std::wstring> paths;
     for (Document& document : named_) {
-        if (document.presence != still) continue;
+        if (document.presence != Presence::Unknown) continue;
         documents.push_back(&document);
-        looks->paths.push_back(std::move(document.path));
+        paths.push_back(std::move(document.path));
     }
-    looks->answers.resize(documents.size());
-    const auto ask = [&files = services_.files, looks](std::size_t number) {
-        looks->answers[number] = presenceOf(files, looks->paths[number]);
-    };
-    if (!inParallel(services_, documents.size(), ask)) return false;
+    const auto looks = lookFor(services_, std::move(paths));
+    if (!looks) return false;
     for (std::size_t i = 0; i < documents.size(); ++i) {
         documents[i]->path = std::move(looks->paths[i]);
         documents[i]->presence = looks->answers[i];

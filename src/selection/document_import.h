@@ -10,7 +10,15 @@
 #include "ports/search.h"
 
 /// What is known about a document that a line names. All but the first two leave the line out.
-enum class Presence : std::uint8_t { Unknown, There, NotFound, NoDocument, OutOfReach, Refused };
+enum class Presence : std::uint8_t {
+    Unknown,
+    There,
+    NotFound,
+    NoDocument,
+    Directory,
+    OutOfReach,
+    Refused
+};
 
 /// What an import doesn't add to the list.
 struct ImportRemains {
@@ -74,15 +82,14 @@ class DocumentImport {
 
     template <class Action>
     End unlessRefused(const Action& action);
-    bool takeDropped(const std::wstring& path, const Progress& progress);
+    bool takeDropped(const std::wstring& path, Presence presence, const Progress& progress);
     bool takeDirectory(const std::wstring& directory, const Progress& progress);
     bool takeFile(const std::wstring& file);
     /// Makes room for so many more lines.
     void reserve(std::size_t more);
     void add(int place, std::wstring text, std::wstring path, Presence presence);
     void leaveOut(int place, const std::wstring& text, Presence why);
-    /// Looks for the documents of which no more is known than this.
-    bool lookAtThose(Presence still);
+    bool lookAtUnknown();
     void settle();
 
     SearchServices services_;

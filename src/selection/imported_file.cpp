@@ -84,9 +84,15 @@ std::string_view documentIn(Fields& fields) {
     return {};
 }
 
+/// Even when a spreadsheet has removed columns, added others, or garbled what isn't ASCII.
 bool isReportHead(std::string_view line) {
     Fields fields(line);
-    return fields.next() == "N°" && fields.next() == "Etat" && fields.next() == "Document";
+    bool hasState = false;
+    while (const auto field = fields.next()) {
+        if (hasState && field == "Document") return true;
+        hasState |= field == "Etat";
+    }
+    return false;
 }
 
 bool isBlankRow(std::string_view line) {

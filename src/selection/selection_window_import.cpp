@@ -1,6 +1,8 @@
 // Documents from elsewhere: a file that names them, files and directories dropped on the window.
 
 #include <algorithm>
+#include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -32,6 +34,7 @@ MessageBoxContent serversBox(const std::vector<std::wstring>& servers) {
 const wchar_t* reason(Presence why) {
     switch (why) {
         case Presence::NoDocument:
+        case Presence::Directory:
             return L"n'est pas un document SolidWorks";
         case Presence::OutOfReach:
             return L"inaccessible";
@@ -71,12 +74,13 @@ void SelectionWindow::Importer_Click() {
     const OpenQuestion question{.title = L"Importer une liste",
                                 .kinds = {{L"Textes, tableaux CSV et listes", L"*.txt;*.csv;*.lst"},
                                           {L"Tous les fichiers", L"*.*"}}};
+    std::optional<std::wstring> file;
     try {
-        const auto file = platform_.fileDialogs.askWhatToOpen(question);
-        if (file) importDocuments([&](DocumentImport& import) { return import.gatherFile(*file); });
+        file = platform_.fileDialogs.askWhatToOpen(question);
     } catch (const RuntimeError& error) {
         platform_.messageBoxes.warn(notImportedText(error.text));
     }
+    if (file) importDocuments([&](DocumentImport& import) { return import.gatherFile(*file); });
 }
 
 void SelectionWindow::Form_Drop() {

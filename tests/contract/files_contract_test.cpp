@@ -18,7 +18,9 @@ TEST_F(FilesContract, RemovedOrMissingIsNotFound) {
     EXPECT_EQ(files.kindOf(path(L"tarnwick.lst")), PathKind::File);
     files.remove(path(L"tarnwick.lst"));
     EXPECT_EQ(files.kindOf(path(L"tarnwick.lst")), PathKind::Nothing);
-    EXPECT_EQ(files.kindOf(path(L"absent\\tarnwick.lst")), PathKind::Nothing);
+    for (const wchar_t* nothing : {L"absent\\tarnwick.lst", L"a?.SLDPRT", L"file:\\serveur\\a"}) {
+        EXPECT_EQ(files.kindOf(path(nothing)), PathKind::Nothing) << nothing;
+    }
     EXPECT_EQ(files.kindOf(directory), PathKind::Directory);
     EXPECT_EQ(raised([&] { files.remove(path(L"tarnwick.lst")); }), 53);
     EXPECT_EQ(raised([&] { files.readText(path(L"tarnwick.lst")); }), 53);

@@ -135,7 +135,7 @@ PathKind WinFiles::kindOf(const std::wstring& path) {
         return (attributes & FILE_ATTRIBUTE_DIRECTORY) ? PathKind::Directory : PathKind::File;
     }
     const DWORD error = GetLastError();
-    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) return PathKind::Nothing;
+    if (saysNothingIsThere(error)) return PathKind::Nothing;
     throw fileError(error, path);
 }
 

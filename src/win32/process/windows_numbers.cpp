@@ -17,6 +17,7 @@ static_assert(windows_error::kBadNetworkPath == ERROR_BAD_NETPATH);
 static_assert(windows_error::kBadNetworkName == ERROR_BAD_NET_NAME);
 static_assert(windows_error::kInvalidName == ERROR_INVALID_NAME);
 static_assert(windows_error::kBadPathName == ERROR_BAD_PATHNAME);
+static_assert(windows_error::kNameTooLong == ERROR_FILENAME_EXCED_RANGE);
 static_assert(windows_error::kNotADirectory == ERROR_DIRECTORY);
 
 static_assert(notification::kButtonClicked == BN_CLICKED);

@@ -17,7 +17,7 @@ TEST(Paths, ShowWhereANameLeadsHoweverItIsSpelled) {
         {L"c:\\l", L"//./\\\\?/UNC/srv/part/a.x", L"\\\\srv\\part\\a.x", L"SRV"},
         {L"c:\\l", L"\\\\?\\GLOBALROOT\\Device\\Mup\\srv\\a.x",
          L"c:\\l\\GLOBALROOT\\Device\\Mup\\srv\\a.x", L""},
-        {L"c:\\l", L"\\\\srv\\a.x", L"\\\\srv\\a.x\\", L"SRV"},
+        {L"c:\\l", L"\\\\srv\\a.x", L"", L""},
         {L"c:\\l", L"\\\\srv", L"", L""},
         {L"c:\\l", L"\\\\srv\\..\\a.x", L"", L""},
     };

@@ -122,10 +122,13 @@ TEST(LongPath, IsTheFormThatWindowsTakesAtAnyLength) {
 
 TEST(FileError, TellsWhatIsMissingFromWhatIsRefused) {
     using namespace windows_error;
-    const std::tuple<std::uint32_t, int, int> cases[] = {
-        {kFileNotFound, 53, 76},     {kPathNotFound, 76, 76}, {kBadNetworkPath, 76, 76},
-        {kSharingViolation, 70, 70}, {kAccessDenied, 75, 70}, {1, 75, 76}};
-    for (const auto& [code, file, directory] : cases) {
+    const std::tuple<std::uint32_t, int, int, bool> cases[] = {
+        {kFileNotFound, 53, 76, true},      {kPathNotFound, 76, 76, true},
+        {kBadNetworkPath, 76, 76, false},   {kInvalidName, 76, 76, true},
+        {kSharingViolation, 70, 70, false}, {kNameTooLong, 75, 76, true},
+        {kAccessDenied, 75, 70, false},     {1, 75, 76, false}};
+    for (const auto& [code, file, directory, nothing] : cases) {
+        EXPECT_EQ(saysNothingIsThere(code), nothing) << code;
         EXPECT_EQ(fileError(code, L"c:\\a").number, file) << code;
         EXPECT_EQ(directoryError(code, L"c:\\a").number, directory) << code;
     }

@@ -22,7 +22,7 @@ TEST(DocumentLines, NameTheFirstDocumentOfEachLine) {
         {"\"sans fin;b.sldprt\r\n3/4\";c.sldprt", "1=b.sldprt|2=c.sldprt|", false},
         {"N°;Etat;Document;Marqué le\r\n1;Fait;a.sldprt\r\nN°;Etat;Document;", "2=a.sldprt|3!|",
          false},
-        {"\"N°\"\tEtat\tDocument\r\n", "", false},
+        {"Vu par\tNø\t\"Etat\"\tDocument\tRemarque\r\n", "", false},
         {";;\t;\r\n  \r\nnotes;a.sldprt.bak;sldprt", "3!|", false},
         {"'=a.sldprt\n'a.sldprt", "1==a.sldprt|2='a.sldprt|", false},
         {"0  c:\\a;b.SLDPRT\r\n12 b.sldprt\r\nété c.sldprt\r\n0\r\n   \r\n1  x.txt",

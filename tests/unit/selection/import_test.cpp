@@ -78,6 +78,12 @@ TEST_F(SelectionImport, AFaultThatPassesLeavesNothingOut) {
     machine.files.failing = {{kFile, 9}};
     import(L"c:\\plans\\axe.slddrw");
     EXPECT_TRUE(has(box(), kFile));
+    // What can't be displayed ends the program as it does after a search.
+    click(IDC_FORM1_CMDPLUS);
+    std::wstring deep = L"c:";
+    while (deep.size() < 40) deep += L"\\a";
+    machine.files.add({deep + L".sldprt"});
+    EXPECT_EQ(raised([&] { import(deep + L".sldprt", L"c:\\l.txt"); }), 9);
 }
 
 TEST_F(SelectionImport, AsksBeforeItLooksOnServersThatNobodyUses) {
@@ -115,14 +121,17 @@ TEST_F(SelectionImport, StoppedItChangesNothing) {
 
 TEST_F(SelectionImport, WhatIsDroppedComesInItsOrder) {
     machine.files.texts[L"c:\\l.lst"] = L"0  c:\\a.SLDDRW\r\n0  \\\\serveur";
-    window().drop({L"c:\\plans\\Zoe.SLDDRW", L"c:\\l.lst", L"c:\\plans\\moteur", L"c:\\x.pdf",
-                   L"c:\\a.SLDDRW"});
-    EXPECT_EQ(list().texts(), (Texts{L" X   c:\\plans\\Zoe.SLDDRW", L" X   c:\\a.SLDDRW",
-                                     L" X   c:\\plans\\moteur\\bielle.SLDDRW",
-                                     L" X   c:\\plans\\moteur\\piston.SLDPRT"}));
+    machine.files.add({L"c:\\x.pdf", L"c:\\m.sldasm\\b.SLDASM", L"c:\\m.sldasm\\c.SLDPRT"});
+    machine.files.failing = {{L"c:\\m.sldasm", 1}};
+    window().drop({L"c:\\plans\\Zoe.SLDDRW", L"c:\\l.lst", L"c:\\m.sldasm", L"c:\\x.pdf",
+                   L"c:\\a.SLDDRW", L"c:\\y.pdf"});
+    EXPECT_EQ(list().texts(),
+              (Texts{L" X   c:\\plans\\Zoe.SLDDRW", L" X   c:\\a.SLDDRW",
+                     L" X   c:\\m.sldasm\\b.SLDASM", L" X   c:\\m.sldasm\\c.SLDPRT"}));
     EXPECT_EQ(box(),
-              L"2 lignes laissées de côté :\r\n\\\\serveur : introuvable\r\n"
-              L"c:\\x.pdf : n'est pas un document SolidWorks\r\n1 ligne déjà dans la liste.");
+              L"3 lignes laissées de côté :\r\n\\\\serveur : introuvable\r\n"
+              L"c:\\x.pdf : n'est pas un document SolidWorks\r\nc:\\y.pdf : introuvable\r\n"
+              L"1 ligne déjà dans la liste.");
     machine.serveAfter(L"c:\\plans\\moteur", [&] { return machine.watch.stop(); });
     window().drop({L"c:\\plans", L"d:\\doc"});
     EXPECT_EQ(list().count(), 6) << "what was found until then";
