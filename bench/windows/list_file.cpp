@@ -55,7 +55,7 @@ Row listFileSave(const Setting& setting) {
         parseListFile(bytes, list);
         WinFiles files;
         const auto subject = [&] {
-            files.replace(path, [&](const ByteSink& file) { file(formatListFile(list, size)); });
+            files.replace(path, [&](const ByteSink& file) { formatListFile(list, size, file); });
         };
         const Comparison compared =
             compare(setting.rounds, {[&] { bareSave(path, bytes); }}, {subject});

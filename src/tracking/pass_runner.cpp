@@ -116,7 +116,7 @@ bool PassRunner::startBeside(std::int32_t fileLine) {
 }
 
 void PassRunner::save(std::int32_t lineCount) {
-    const auto write = [&](const ByteSink& file) { file(pass_.fileText(lineCount)); };
+    const auto write = [&](const ByteSink& file) { pass_.write(lineCount, file); };
     if (!::save(platform_, listFile_, write)) return;
     marks_.forget();
     pass_.takeAsSaved();

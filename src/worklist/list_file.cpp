@@ -73,18 +73,25 @@ bool parseListFile(std::string text, WorkList& list, const std::wstring& file) {
     return true;
 }
 
-std::string formatListFile(WorkList& list, std::int32_t lineCount) {
-    std::string text;
+void formatListFile(WorkList& list, std::int32_t lineCount, const ByteSink& file) {
+    // A larger text gets fresh memory from the system each time, which takes longer than to write
+    // it in pieces.
+    constexpr std::size_t kPiece = 1 << 17;
+    std::string piece;
+    piece.reserve(2 * kPiece);
     for (std::int32_t i = 0; i < lineCount; ++i) {
-        if (list.lines[i].reload) {
-            const std::string_view code = list.lines[i].code.text();
-            list.lines.edit(i)->code = StateCode(list.keep(std::string("1").append(code)));
-        }
         const WorkLine& line = list.lines[i];
-        ((text += line.code.text()) += kBetween) += line.path;
-        text += kLineEnd;
+        if (line.reload) {
+            const std::string code = "1" + std::string(line.code.text());
+            list.lines.edit(i)->code = StateCode(list.keep(code));
+        }
+        ((piece += line.code.text()) += kBetween) += line.path;
+        piece += kLineEnd;
+        if (piece.size() < kPiece) continue;
+        file(piece);
+        piece.clear();
     }
-    return text;
+    file(piece);
 }
 
 void appendFreshLine(std::string& text, std::wstring_view path) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "ports/files.h"
 #include "worklist/work_list.h"
 
 /// The path of a file beside a list file: the list's with this ending instead of ".lst".
@@ -15,9 +16,9 @@ std::wstring besideList(std::wstring_view listFile, std::wstring_view ending);
 /// three characters, 9 past 8001 lines; the error names the line of the file.
 bool parseListFile(std::string text, WorkList& list, const std::wstring& file = {});
 
-/// The text for the first `lineCount` lines. As a side effect each call puts a 1 before the code of
-/// every flagged line in the list. Raises 9 past the table.
-std::string formatListFile(WorkList& list, std::int32_t lineCount);
+/// Writes the first `lineCount` lines. As a side effect each call puts a 1 before the code of every
+/// flagged line in the list. Raises 9 past the table.
+void formatListFile(WorkList& list, std::int32_t lineCount, const ByteSink& file);
 
 /// Appends the line of a document to do, as a launch writes it. Raises 5 for a path that can't be
 /// encoded.

@@ -211,7 +211,9 @@ void Pass::countOpenTime() {
     open_->since = now;
 }
 
-std::string Pass::fileText(std::int32_t lineCount) { return formatListFile(list_, lineCount); }
+void Pass::write(std::int32_t lineCount, const ByteSink& file) {
+    formatListFile(list_, lineCount, file);
+}
 
 void Pass::takeAsSaved() {
     const auto open = open_ ? lineOfFile(open_->fileLine) : std::nullopt;

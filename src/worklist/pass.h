@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "ports/files.h"
 #include "worklist/work_list.h"
 
 class Clock;
@@ -103,9 +104,9 @@ class Pass {
     /// Notes how long the open document has been open so far.
     void countOpenTime();
 
-    /// The text of the list file for the first `lineCount` lines. Each call puts a 1 before the
+    /// Writes the first `lineCount` lines as a list file has them. Each call puts a 1 before the
     /// codes of flagged lines. Raises 9 past the table.
-    std::string fileText(std::int32_t lineCount);
+    void write(std::int32_t lineCount, const ByteSink& file);
     /// The list file now holds the lines as they are.
     void takeAsSaved();
 

@@ -4,7 +4,7 @@
 
 static std::string linesToDo(int count) {
     std::string text;
-    for (int i = 0; i < count; ++i) appendFreshLine(text, L"c:\\f" + std::to_wstring(i));
+    for (int i = 0; i < count; ++i) appendFreshLine(text, L"c:\\fichier" + std::to_wstring(i));
     return text;
 }
 
@@ -41,16 +41,21 @@ TEST(ListFile, EachLineIsACodeAndAPath) {
     }
 }
 
+std::string written(WorkList& list, int lineCount) {
+    std::string text;
+    formatListFile(list, lineCount, [&](std::string_view piece) { text += piece; });
+    return text;
+}
+
 TEST(ListFile, IsWrittenLineByLineWhateverOfItIsAsItWasRead) {
     const std::string many = linesToDo(3000);
     WorkList list;
     ASSERT_TRUE(parseListFile(many + "0  c:\\a\r\n 1 c:\\b\n2  c:\\c\r\n2  c:\\d", list));
-    EXPECT_EQ(formatListFile(list, 3004),
-              many + "0  c:\\a\r\n1  c:\\b\r\n2  c:\\c\r\n2  c:\\d\r\n");
+    EXPECT_EQ(written(list, 3004), many + "0  c:\\a\r\n1  c:\\b\r\n2  c:\\c\r\n2  c:\\d\r\n");
     list.lines.edit(3000)->code = LineState::Done;
     list.lines.edit(3002)->path = list.lines[0].path;
-    EXPECT_EQ(formatListFile(list, 3003), many + "1  c:\\a\r\n1  c:\\b\r\n2  c:\\f0\r\n");
-    EXPECT_EQ(formatListFile(list, 0), "");
+    EXPECT_EQ(written(list, 3003), many + "1  c:\\a\r\n1  c:\\b\r\n2  c:\\fichier0\r\n");
+    EXPECT_EQ(written(list, 0), "");
 }
 
 TEST(ListFile, ALineShorterThanItsCodeIsAnInvalidArgument) {
@@ -66,7 +71,7 @@ TEST(ListFile, HoldsAsManyLinesAsTheTable) {
     WorkList list;
     ASSERT_TRUE(parseListFile(linesToDo(8001), list));
     EXPECT_EQ(list.last, 8000);
-    EXPECT_EQ(formatListFile(list, 8001), linesToDo(8001));
-    EXPECT_EQ(raised([&] { formatListFile(list, 8002); }), 9);
+    EXPECT_EQ(written(list, 8001), linesToDo(8001));
+    EXPECT_EQ(raised([&] { written(list, 8002); }), 9);
     EXPECT_EQ(raised([&] { parseListFile(linesToDo(8002), list); }), 9);
 }
