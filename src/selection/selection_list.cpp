@@ -60,9 +60,16 @@ void SelectionList::toggle(const std::vector<int>& lines) {
     std::vector<bool> choose(static_cast<std::size_t>(found_.count()));
     const auto chooses = [&](int line) { return choose[static_cast<std::size_t>(line)]; };
     for (const int line : lines) choose[static_cast<std::size_t>(line)] = !chosen(line);
+    const auto mark = [&](bool chosen) {
+        for (const int line : lines) {
+            if (chooses(line) == chosen) list_.setData(line, chosen);
+        }
+    };
     DrawingPause pause(list_);
+    // A line whose data is zero is changed faster.
+    mark(false);
     changeLines(list_, lines, [&](int line) { return lineText(line, chooses(line)); });
-    for (const int line : lines) list_.setData(line, chooses(line) ? 1 : 0);
+    mark(true);
 }
 
 void SelectionList::toggleHighlighted() {

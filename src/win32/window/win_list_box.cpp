@@ -174,6 +174,7 @@ void WinListBox::changeTexts(const std::function<std::wstring(int)>& line) {
         const int index = static_cast<int>(i);
         changed[i] = {line(index), data(index)};
     }
+    hasData_ = std::ranges::any_of(changed, [](const auto& one) { return one.second != 0; });
     setLines(count(), [&](int i) { return changed[static_cast<std::size_t>(i)].first; });
     for (std::size_t i = 0; i < lines; ++i) {
         if (changed[i].second != 0) setData(static_cast<int>(i), changed[i].second);
