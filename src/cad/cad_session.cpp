@@ -17,13 +17,16 @@ std::wstring documentClass(const std::wstring& path) {
     return type ? L"document " + decimal(*type) : std::wstring();
 }
 
-/// The code in an answer that is a number or a boolean.
-std::optional<std::int32_t> saveCode(const Value& answer) {
+/// What an answer says that is a number or a boolean.
+SaveAnswer saveAnswer(const Value& answer) {
     constexpr std::int32_t kAnyError = 1;
-    if (const auto* number = std::get_if<std::int32_t>(&answer)) return *number;
-    if (const auto* number = std::get_if<std::int16_t>(&answer)) return *number;
-    if (const auto* truth = std::get_if<bool>(&answer)) return *truth ? 0 : kAnyError;
-    return std::nullopt;
+    const auto coded = [](std::int32_t code) {
+        return SaveAnswer{code == 0 ? Saved::Yes : Saved::No, code};
+    };
+    if (const auto* number = std::get_if<std::int32_t>(&answer)) return coded(*number);
+    if (const auto* number = std::get_if<std::int16_t>(&answer)) return coded(*number);
+    if (const auto* truth = std::get_if<bool>(&answer)) return coded(*truth ? 0 : kAnyError);
+    return {};
 }
 
 /// Notes what the error code says about a document that was returned, or was not.
@@ -94,7 +97,7 @@ bool CadSession::hasOpen(const std::wstring& path) const {
 
 bool CadSession::open(const std::wstring& path, const LoadingOptions& options, Remark& remark) {
     openPath_ = path;
-    isUsers_ = false;
+    closed_ = isUsers_ = false;
     typeCode_ = documentType(path).value_or(typeCode_);
     bool opened = false;
     with(path, [&] { opened = load(path, options, remark); });
@@ -171,15 +174,16 @@ void CadSession::rebuild(LoadingOptions::Rebuild wanted) {
     callMethod(document_, L"ForceRebuild3", {wanted == Rebuild::TopLevel});
 }
 
-std::optional<std::int32_t> CadSession::save() {
+SaveAnswer CadSession::save() {
     Value answer;
     with(openPath_, [&] { answer = callMethod(document_, L"save2", {true}); });
-    return saveCode(answer);
+    return saveAnswer(answer);
 }
 
 void CadSession::closeDocument() {
     if (leavesUsers_ && (isUsers_ || openPath_.empty())) return;
     with(openPath_, [&] { callMethod(application_, L"closedoc", {openPath_}); });
+    closed_ = true;
 }
 
 void CadSession::forgetDocument() {

@@ -7,6 +7,7 @@
 #include "ports/machine.h"
 #include "rules/late_binding.h"
 #include "worklist/remark.h"
+#include "worklist/work_list.h"
 
 /// How a document is loaded.
 struct LoadingOptions {
@@ -16,6 +17,13 @@ struct LoadingOptions {
     Rebuild rebuild = Rebuild::None;
     bool mayRefuse = false;   ///< a document that does not open is no error
     bool worksThere = false;  ///< references are first looked for in the document's directory
+};
+
+/// What the application answered when asked to save a document: whether it did, unless it did not
+/// say, and its code.
+struct SaveAnswer {
+    Saved saved = Saved::Unknown;
+    std::int32_t code = 0;
 };
 
 /// The running CAD application, and the document that the program has open in it. Every call has
@@ -35,14 +43,16 @@ class CadSession {
     /// Whether this is the document that counts as open, in any letter case.
     bool hasOpen(const std::wstring& path) const;
     bool hasAnyOpen() const { return !openPath_.empty(); }
+    /// Whether it has not been closed since.
+    bool isOpen() const { return hasAnyOpen() && !closed_; }
+    /// Its path; empty when none counts as open.
+    const std::wstring& openPath() const { return openPath_; }
     /// Opens a document, which counts as open from then on, activates it, shows the application and
     /// rebuilds the document as wanted. Whatever happens, `remark` holds what the application said.
     /// False when the document does not open although the options allow that: then it is closed
     /// again if the application had returned it, and none counts as open.
     bool open(const std::wstring& path, const LoadingOptions& options, Remark& remark);
-    /// The application's answer: 0 when it saved the document, otherwise its code; nothing when it
-    /// does not say.
-    std::optional<std::int32_t> save();
+    SaveAnswer save();
     /// Closes the open document without saving it; the call goes out even when none is open. The
     /// document still counts as open until forgetDocument.
     void closeDocument();
@@ -90,6 +100,7 @@ class CadSession {
     std::int16_t typeCode_ = 0;
     bool anyRelease_ = false;
     bool leavesUsers_ = false;
+    bool closed_ = false;   ///< the document that counts as open has been closed
     bool isUsers_ = false;  ///< the user had the open document open already
     bool movedAway_ = false;
 };

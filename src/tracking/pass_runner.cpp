@@ -129,11 +129,15 @@ std::string PassRunner::report() {
 }
 
 void PassRunner::leave() {
+    marks_.keepOn(pass_.list());
     close();
-    end();
+    cad_.restoreWorkingDirectory();
 }
 
-void PassRunner::end() { cad_.restoreWorkingDirectory(); }
+void PassRunner::end() {
+    marks_.keepOn(pass_.list());
+    cad_.restoreWorkingDirectory();
+}
 
 void PassRunner::advance(LineState mark) {
     settled([&] {
@@ -178,7 +182,7 @@ void PassRunner::undo() {
 }
 
 bool PassRunner::hasDocument() const {
-    return !stays_ && cad_.hasAnyOpen() && pass_.current() >= 0 && !pass_.pastEnd();
+    return !stays_ && cad_.isOpen() && pass_.current() >= 0 && !pass_.pastEnd();
 }
 
 int PassRunner::documentsLeft() const {

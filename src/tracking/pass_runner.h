@@ -13,6 +13,7 @@ class CadSession;
 struct LoadingOptions;
 struct Platform;
 struct ProgramFiles;
+struct SaveAnswer;
 
 /// Shows a pass, as its runner says between the calls to the CAD application.
 class PassView {
@@ -84,9 +85,10 @@ class PassRunner {
     void save(std::int32_t lineCount);
     /// What happened to each document, as a table.
     std::string report();
-    /// Closes the open document, since the program ends.
+    // The program ends. Marks that could not be kept so far are tried once more.
+    /// Closes the open document.
     void leave();
-    /// The program ends without closing anything.
+    /// Closes nothing.
     void end();
 
     /// The user may have moved the pointer to another line.
@@ -130,7 +132,7 @@ class PassRunner {
     bool open(const std::wstring& path);
     /// Saves the open document. Nothing when it was refused, and the user keeps the document open.
     std::optional<Saved> save();
-    std::optional<std::int32_t> saveOnce();
+    SaveAnswer saveOnce();
     void close();
     /// Closes the document that counts as open, if any, before the next one is noted as being
     /// opened: a failure now is not due to that one.

@@ -11,15 +11,6 @@
 #include "tracking/pass_runner.h"
 #include "tracking/tracking_texts.h"
 
-namespace {
-
-Saved savedBy(std::optional<std::int32_t> code) {
-    if (!code) return Saved::Unknown;
-    return *code == 0 ? Saved::Yes : Saved::No;
-}
-
-}  // namespace
-
 bool PassRunner::go(Redraw redraw, Direction direction) {
     stays_ = false;
     for (int refusals = 1;; ++refusals) {
@@ -99,26 +90,23 @@ void PassRunner::endAtTop() {
 
 std::optional<Saved> PassRunner::save() {
     for (;;) {
-        const auto code = saveOnce();
-        const Saved saved = savedBy(code);
+        const auto [saved, code] = saveOnce();
         saveRefused_ = saved == Saved::No;
-        if (!saveRefused_) return saved;
-        if (alone_ || !options_.keepsUnsaved) return Saved::No;
-        const auto box = saveRefusedBox(pass_.currentPath(), saveRefusalText(*code));
+        if (!saveRefused_ || alone_ || !options_.keepsUnsaved) return saved;
+        const auto box = saveRefusedBox(cad_.openPath(), saveRefusalText(code));
         if (platform_.messageBoxes.show(box) != MessageBoxes::Answer::Retry) return std::nullopt;
     }
 }
 
-std::optional<std::int32_t> PassRunner::saveOnce() {
+SaveAnswer PassRunner::saveOnce() {
+    using Saving = Remark::Saving;
     try {
-        const auto code = cad_.save();
-        const Saved saved = savedBy(code);
-        using Saving = Remark::Saving;
-        pass_.noteSaving(saved, saved == Saved::No ? Saving::Refused : Saving::Silent,
-                         code.value_or(0));
-        return code;
+        const SaveAnswer answer = cad_.save();
+        const bool refused = answer.saved == Saved::No;
+        pass_.noteSaving(answer.saved, refused ? Saving::Refused : Saving::Silent, answer.code);
+        return answer;
     } catch (const RuntimeError& error) {
-        pass_.noteSaving(Saved::No, Remark::Saving::Failed, error.number);
+        pass_.noteSaving(Saved::No, Saving::Failed, error.number);
         throw;
     }
 }

@@ -149,6 +149,10 @@ TEST_F(Alone, AsksForWhatItWillCloseAndTellsWhatBecameOfIt) {
     machine.boxes.answers = {kNo};
     click(IDM_FORM3_SEUL);
     EXPECT_EQ(machine.boxes.shown.back().defaultButton, 2);
+    // What stepping back has closed counts as open, but is not.
+    click(kBack);
+    command(kResume, {1});
+    EXPECT_FALSE(canGoOn());
     // Whatever the marks say, it asks nothing.
     switchOn(L"gardernonsauve");
     loadStates(L"0000");
@@ -245,12 +249,9 @@ TEST_F(Alone, StopsByItselfAfterFiveRefusalsOrWhenTheSessionRunsShort) {
             return std::int32_t{0};
         };
         const std::wstring text = goOn();
-        if (inUse == 8'500) {
-            EXPECT_EQ(text, told(L"terminé", 3, 0, 0));
-        } else {
-            EXPECT_TRUE(text.starts_with(told(L"interrompu", 1, 0, 0) +
-                                         L"\r\nSolidWorks utilise trop d'objets"));
-        }
+        EXPECT_TRUE(text.starts_with(inUse == 8'500 ? told(L"terminé", 3, 0, 0)
+                                                    : told(L"interrompu", 1, 0, 0) +
+                                                          L"\r\nSolidWorks utilise trop d'objets"));
     }
     EXPECT_EQ(states(), L"1 3 0");
 }

@@ -101,18 +101,21 @@ TEST_F(Resuming, GoesPastADocumentThatStopsTheProgramOrOpensItAgain) {
     EXPECT_EQ(restart({}), Texts());
 }
 
-TEST_F(Resuming, TellsOnceThatMarksCannotBeKept) {
-    machine.records.fails = [](int) { return true; };
-    loadStates(L"0000");
-    clickAll({kSave, kSave});
-    EXPECT_EQ(machine.boxes.takeTexts().size(), 1U);
-    EXPECT_EQ(states(), L"1 1 3 0");
-    EXPECT_FALSE(form->keepsMarks());
-    machine.records.fails = [](int) { return false; };
-    click(kSee);
-    EXPECT_TRUE(form->keepsMarks());
-    EXPECT_EQ(restart({kYes}).size(), 1U);
-    EXPECT_EQ(states(), L"1 1 2 3");
+TEST_F(Resuming, TellsOnceThatMarksCannotBeKeptAndTriesAgainToTheEnd) {
+    for (const int next : {kSee, kLeave, kTheWindow}) {
+        machine.records.fails = [](int) { return true; };
+        loadStates(L"0000");
+        clickAll({kSave, kSave});
+        EXPECT_EQ(machine.boxes.takeTexts().size(), 1U);
+        EXPECT_FALSE(form->keepsMarks());
+        machine.records.fails = [](int) { return false; };
+        try {
+            next == kTheWindow ? window().close() : click(next);
+        } catch (const ProgramEnd&) {
+        }
+        EXPECT_EQ(restart({kYes}).size(), 1U) << next;
+        EXPECT_EQ(states(), next == kSee ? L"1 1 2 3" : L"1 1 3 0");
+    }
 }
 
 // Its end is an error; the last mark is not lost.

@@ -80,11 +80,8 @@ TEST_F(ListCommands, ChangeOrRemoveLinesAndKeepTheCurrentOneOpen) {
         {L"10200", IDC_FORM3_CMDCHAV, {0, 1, 4}, L" | 2 3 2 0 2 | 1: 2/5 c:\\b", 0},
         // Only going back to do brings the application forward.
         {L"10200", kReset, {1, 2}, L" | 1 3 0 0 0 | 1: 2/5 c:\\b", 3},
-        {L"10200",
-         IDC_FORM3_CMDELIF,
-         {2},
-         L" | 1 3 0 0 | 1: 2/4 c:\\b",
-         0},  // takes seen lines too
+        // Takes seen lines, too.
+        {L"10200", IDC_FORM3_CMDELIF, {2}, L" | 1 3 0 0 | 1: 2/4 c:\\b", 0},
         {L"10200", IDC_FORM3_CMDELIFV, {0, 1, 2, 3, 4}, L" | 3 0 0 | 0: 1/3 c:\\b", 0},
         {L"10200", IDC_FORM3_CMDELIV, {0, 1, 2, 3, 4}, L" | 1 3 0 0 | 1: 2/4 c:\\b", 0},
         {L"10200", IDC_FORM3_CMDPURGE, {1}, L" | 3 0 0 | 0: 1/3 c:\\b", 0},
