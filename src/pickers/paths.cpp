@@ -1,7 +1,6 @@
 #include "pickers/paths.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 #include "common/text.h"
@@ -11,17 +10,17 @@ namespace {
 constexpr std::wstring_view kNetwork = L"\\\\";
 
 /// DOS device paths ("File path formats on Windows systems") don't show plainly where they lead.
-std::wstring withoutDevicePrefix(std::wstring path) {
+std::wstring withoutDevicePrefix(const std::wstring& path) {
     constexpr std::wstring_view kPrefixes[] = {L"\\\\?\\", L"\\\\.\\", L"\\??\\"};
-    const auto begins = [&](std::wstring_view prefix) { return path.starts_with(prefix); };
     constexpr std::wstring_view kShare = L"UNC\\";
+    std::wstring_view rest = path;
+    const auto begins = [&](std::wstring_view prefix) { return rest.starts_with(prefix); };
     // One prefix may hide another.
-    while (std::ranges::any_of(kPrefixes, begins)) {
-        path.erase(0, kPrefixes[0].size());
-        const bool share = equalIgnoringCase(path.substr(0, kShare.size()), kShare);
-        if (share) path.replace(0, kShare.size(), kNetwork);
-    }
-    return path;
+    while (std::ranges::any_of(kPrefixes, begins)) rest.remove_prefix(kPrefixes[0].size());
+    const bool isShare =
+        rest.size() != path.size() && equalIgnoringCase(rest.substr(0, kShare.size()), kShare);
+    if (!isShare) return std::wstring(rest);
+    return std::wstring(kNetwork) += rest.substr(kShare.size());
 }
 
 bool isOnDrive(std::wstring_view path) { return path.size() >= 2 && path[1] == L':'; }
@@ -38,7 +37,8 @@ std::wstring rootOf(std::wstring_view path) {
     const std::size_t begin = kNetwork.size() + server.size() + 1;
     if (begin > path.size()) return {};
     const std::wstring_view share = firstName(path.substr(begin));
-    if (!isPlainName(server) || !isPlainName(share)) return {};
+    // Behind "UNC" another device path could be hidden.
+    if (!isPlainName(server) || server == L"?" || !isPlainName(share)) return {};
     return std::wstring(path.substr(0, begin + share.size())) + L'\\';
 }
 
@@ -90,9 +90,10 @@ std::wstring parentPath(const std::wstring& directory) {
 std::optional<std::wstring> resolvedPath(const std::wstring& directory, std::wstring_view name) {
     std::wstring path(name);
     std::ranges::replace(path, L'/', L'\\');
-    path = withoutDevicePrefix(std::move(path));
+    path = withoutDevicePrefix(path);
     if (!isOnDrive(path) && !path.starts_with(kNetwork)) {
-        path = (path.starts_with(L'\\') ? rootOf(directory) : directory + L'\\') + path;
+        const std::wstring from = withoutDevicePrefix(directory);
+        path = (path.starts_with(L'\\') ? rootOf(from) : from + L'\\') + path;
     }
     std::wstring resolved = rootOf(path);
     if (resolved.empty()) return std::nullopt;

@@ -6,7 +6,7 @@
 TEST(Paths, ShowWhereANameLeadsHoweverItIsSpelled) {
     const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*> cases[] = {
         {L"c:\\l", L"a.x", L"c:\\l\\a.x", L""},
-        {L"c:\\", L".\\b\\..\\a.x", L"c:\\a.x", L""},
+        {L"\\\\?\\c:\\", L".\\b\\..\\a.x", L"c:\\a.x", L""},
         {L"c:\\l", L"..\\..\\..\\a.x", L"c:\\a.x", L""},
         {L"c:\\l", L"d:a.x", L"d:\\a.x", L""},
         {L"c:\\l", L"D:/p//a.x", L"D:\\p\\a.x", L""},
@@ -19,6 +19,7 @@ TEST(Paths, ShowWhereANameLeadsHoweverItIsSpelled) {
          L"c:\\l\\GLOBALROOT\\Device\\Mup\\srv\\a.x", L""},
         {L"c:\\l", L"\\\\srv\\a.x", L"", L""},
         {L"c:\\l", L"\\\\srv", L"", L""},
+        {L"c:\\l", L"\\\\?\\UNC\\?\\c:\\a.x", L"", L""},
         {L"c:\\l", L"\\\\srv\\..\\a.x", L"", L""},
     };
     for (const auto& [directory, name, path, server] : cases) {
