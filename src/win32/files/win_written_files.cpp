@@ -103,7 +103,9 @@ class WinRecordFile : public RecordFile {
     }
 
     bool clear() override {
-        if (isValid(file_)) return empty(file_.get());
+        if (isValid(file_) && empty(file_.get())) return true;
+        // When the network was away, what was open stays out of reach.
+        file_.reset(INVALID_HANDLE_VALUE);
         makeWritable(path_);
         if (DeleteFileW(longPath_.c_str()) || GetLastError() == ERROR_FILE_NOT_FOUND) return true;
         // Another program holds it for the moment. An empty record offers nothing, either.
