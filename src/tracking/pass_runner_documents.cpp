@@ -32,7 +32,11 @@ bool PassRunner::go(Redraw redraw, Direction direction) {
 
 bool PassRunner::openCurrent() {
     const std::wstring path = pass_.currentPath();
-    if (cad_.hasOpen(path)) return keepMarks(), true;
+    if (cad_.hasOpen(path)) {
+        // It may have been opened for another line of the same path.
+        if (cad_.isOpen()) pass_.openCurrent();
+        return keepMarks(), true;
+    }
     view_.showOpening();
     closeOther();
     pass_.openCurrent();

@@ -91,8 +91,7 @@ class Pass {
     /// From now on no earlier advance can be undone.
     void forgetAdvances() { left_.clear(); }
 
-    /// The document of the current line is about to be opened, and the one before is no longer
-    /// open.
+    /// The document of the current line is about to be opened, or is open: from now on it alone is.
     void openCurrent();
     /// Notes what the session said when it opened the document of the current line.
     void noteOpening(const Remark& remark);

@@ -44,11 +44,14 @@ TEST_F(Options, AnyReleaseIsFoundByTheBeginningOfItsTitle) {
 }
 
 TEST_F(Options, ReportIsWrittenWhereTheUserWantsItOrThePassGoesOnWithoutIt) {
-    loadStates(L"00");
+    load(L"0  c:\\a\r\n0  C:\\A\r\n");
     click(IDM_FORM3_RAPPORT);
     const SaveQuestion& asked = machine.fileDialogs.asked.back();
     EXPECT_EQ(asked.directory + L"|" + asked.name, L"c:\\tarnwick|tarnwick-rapport.csv");
-    EXPECT_TRUE(has(report(), L"\r\n2;A faire;c:\\b;;;;\r\n"));
+    machine.clock.seconds += 2;
+    command(kResume, {1});  // the same document, which stays open
+    machine.clock.seconds += 5;
+    EXPECT_TRUE(has(report(), L"\r\n1;A faire;c:\\a;;2;;\r\n2;En cours;C:\\A;;5;;\r\n"));
     EXPECT_EQ(machine.boxes.takeTexts(), Texts());
 
     const std::wstring before = listFile();
@@ -61,5 +64,5 @@ TEST_F(Options, ReportIsWrittenWhereTheUserWantsItOrThePassGoesOnWithoutIt) {
     }
     EXPECT_EQ(listFile(), before);
     click(kSave);
-    EXPECT_EQ(states(), L"1 3");
+    EXPECT_EQ(states(), L"0 1");
 }

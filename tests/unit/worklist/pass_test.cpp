@@ -25,10 +25,8 @@ TEST_F(Steps, LeadFromOneLineToAnother) {
         {"1x00", start, "1x30", 2, true},
         {"120", start, "123", 3, false},  // the last line is never opened
         {"3", start, "3", 1, false},
-        {"12", start, "12", 2, false},
         {"000", at1, "030", 1, true},
         {"00", at1, "03", 1, true},
-        {"0000", after1, "0030", 2, true},
         {"000", after1, "003", 2, true},
         {"001", after1, "001", 3, false},
         {"0012", all({start, done}), "1312", 1, true},
