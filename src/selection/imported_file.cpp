@@ -168,12 +168,14 @@ void take(FileLines& lines, const DocumentLine& line, const std::wstring& direct
 
 FileLines readNames(Files& files, const std::wstring& file) {
     if (files.sizeOf(file) > kLargestFile) {
-        throw ImportProblem{L"Il est trop grand : 16 Mo au plus."};
+        throw ImportProblem{L"Ce fichier est trop grand : 16 Mo au plus.\r\n" + file};
     }
     const std::string utf8 = files.read(file);
     if (utf8.find('\0') != std::string::npos) {
         throw ImportProblem{
-            L"Ce n'est pas un texte. D'un tableur, enregistrez la feuille au format CSV."};
+            L"Ce fichier n'est pas un texte. D'un tableur, enregistrez la feuille au format "
+            L"CSV.\r\n" +
+            file};
     }
     FileLines lines;
     const auto readLines = isListFile(file) ? readListLines : readTable;

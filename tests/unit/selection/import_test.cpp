@@ -54,8 +54,8 @@ TEST_F(SelectionImport, WhatCantBeImportedLeavesTheListAsItWas) {
     }
     const std::pair<std::wstring, const wchar_t*> cases[] = {
         {tooMany, L"plus de 8001 documents"},
-        {std::wstring(L"PK\0\0", 4), L"format CSV"},
-        {std::wstring((16U << 20) + 1, L'x'), L"16 Mo"},
+        {std::wstring(L"PK\0\0", 4), L"format CSV.\r\nc:\\listes\\ordre.csv\r\n"},
+        {std::wstring((16U << 20) + 1, L'x'), L"16 Mo au plus.\r\nc:\\listes\\ordre.csv\r\n"},
         {L"a.sldprt\r\nb.sldprt", L"2 lignes laissées de côté :"},
         {L"a;b", L"1 ligne laissée de côté :"},
         {L"\r\n", L"Aucun document à importer."},
