@@ -1,6 +1,7 @@
 #include "pickers/paths.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "common/text.h"
@@ -10,17 +11,16 @@ namespace {
 constexpr std::wstring_view kNetwork = L"\\\\";
 
 /// DOS device paths ("File path formats on Windows systems") don't show plainly where they lead.
-std::wstring withoutDevicePrefix(const std::wstring& path) {
+std::wstring withoutDevicePrefix(std::wstring path) {
     constexpr std::wstring_view kPrefixes[] = {L"\\\\?\\", L"\\\\.\\", L"\\??\\"};
     constexpr std::wstring_view kShare = L"UNC\\";
     std::wstring_view rest = path;
     const auto begins = [&](std::wstring_view prefix) { return rest.starts_with(prefix); };
     // One prefix may hide another.
     while (std::ranges::any_of(kPrefixes, begins)) rest.remove_prefix(kPrefixes[0].size());
-    const bool isShare =
-        rest.size() != path.size() && equalIgnoringCase(rest.substr(0, kShare.size()), kShare);
-    if (!isShare) return std::wstring(rest);
-    return std::wstring(kNetwork) += rest.substr(kShare.size());
+    if (rest.size() == path.size()) return path;
+    const bool isShare = equalIgnoringCase(rest.substr(0, kShare.size()), kShare);
+    return isShare ? std::wstring(kNetwork) += rest.substr(kShare.size()) : std::wstring(rest);
 }
 
 bool isOnDrive(std::wstring_view path) { return path.size() >= 2 && path[1] == L':'; }
@@ -90,7 +90,7 @@ std::wstring parentPath(const std::wstring& directory) {
 std::optional<std::wstring> resolvedPath(const std::wstring& directory, std::wstring_view name) {
     std::wstring path(name);
     std::ranges::replace(path, L'/', L'\\');
-    path = withoutDevicePrefix(path);
+    path = withoutDevicePrefix(std::move(path));
     if (!isOnDrive(path) && !path.starts_with(kNetwork)) {
         const std::wstring from = withoutDevicePrefix(directory);
         path = (path.starts_with(L'\\') ? rootOf(from) : from + L'\\') + path;
