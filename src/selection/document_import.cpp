@@ -31,7 +31,8 @@ Presence presenceOf(Files& files, const std::wstring& path) {
                 return Presence::NotFound;
         }
     } catch (const RuntimeError&) {
-        return Presence::OutOfReach;
+        // Windows doesn't say what a share is (the GetFileAttributes function).
+        return parentPath(path) == path ? Presence::Directory : Presence::OutOfReach;
     }
 }
 

@@ -122,12 +122,13 @@ TEST_F(SelectionImport, StoppedItChangesNothing) {
 TEST_F(SelectionImport, WhatIsDroppedComesInItsOrder) {
     machine.files.texts[L"c:\\l.lst"] = L"0  c:\\a.SLDDRW\r\n0  \\\\serveur";
     machine.files.add({L"c:\\x.pdf", L"c:\\m.sldasm\\b.SLDASM", L"c:\\m.sldasm\\c.SLDPRT"});
-    machine.files.failing = {{L"c:\\m.sldasm", 1}};
+    machine.files.add({L"\\\\s\\p\\d.SLDPRT"});
+    machine.files.failing = {{L"c:\\m.sldasm", 1}, {L"\\\\s\\p", 9}};
     window().drop({L"c:\\plans\\Zoe.SLDDRW", L"c:\\l.lst", L"c:\\m.sldasm", L"c:\\x.pdf",
-                   L"c:\\a.SLDDRW", L"c:\\y.pdf"});
-    EXPECT_EQ(list().texts(),
-              (Texts{L" X   c:\\plans\\Zoe.SLDDRW", L" X   c:\\a.SLDDRW",
-                     L" X   c:\\m.sldasm\\b.SLDASM", L" X   c:\\m.sldasm\\c.SLDPRT"}));
+                   L"c:\\a.SLDDRW", L"\\\\s\\p", L"c:\\y.pdf"});
+    EXPECT_EQ(list().texts(), (Texts{L" X   c:\\plans\\Zoe.SLDDRW", L" X   c:\\a.SLDDRW",
+                                     L" X   c:\\m.sldasm\\b.SLDASM", L" X   c:\\m.sldasm\\c.SLDPRT",
+                                     L" X   \\\\s\\p\\d.SLDPRT"}));
     EXPECT_EQ(box(),
               L"3 lignes laissées de côté :\r\n\\\\serveur : introuvable\r\n"
               L"c:\\x.pdf : n'est pas un document SolidWorks\r\nc:\\y.pdf : introuvable\r\n"
