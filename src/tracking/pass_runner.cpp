@@ -182,7 +182,8 @@ void PassRunner::undo() {
 }
 
 bool PassRunner::hasDocument() const {
-    return !stays_ && cad_.isOpen() && pass_.current() >= 0 && !pass_.pastEnd();
+    const bool isOnLine = pass_.current() >= 0 && !pass_.pastEnd();
+    return isOnLine && cad_.isOpen() && cad_.hasOpen(pass_.currentPath());
 }
 
 int PassRunner::documentsLeft() const {

@@ -99,7 +99,7 @@ class PassRunner {
     /// Undoes the last advance of this run, if any.
     void undo();
 
-    /// Whether a document is open that advancing would close.
+    /// Whether the current line's document is open.
     bool hasDocument() const;
     /// How many documents are left: the current line's and those to do below it.
     int documentsLeft() const;

@@ -90,7 +90,8 @@ bool Pass::advance(LineState state) {
 
 void Pass::undo() {
     closeOpen();
-    takeBackInProgress(list_);
+    // By its place: a save may have put a 1 before its code.
+    if (!pastEnd()) mark(current_, LineState::ToDo);
     const int line = left_.back();
     left_.pop_back();
     const auto undone = list_.lines.edit(line);

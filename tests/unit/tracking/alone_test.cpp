@@ -43,7 +43,8 @@ struct Alone : TrackingFixture {
 
 TEST_F(Undo, OpensTheLineAgainThatTheLastCommandLeft) {
     for (const int button : {kSave, kSee, kSkip}) {
-        loadStates(L"010");
+        load(L"10 c:\\a\r\n1  c:\\b\r\n10 c:\\c\r\n");
+        takeCalls();
         EXPECT_FALSE(canUndo());
         EXPECT_EQ(after({button, kSaveList, kUndo}),
                   std::wstring(button == kSave ? L"s" : L"") + L"-a+c-c+a | 3 1 0 | 0: 1/3 c:\\a");
@@ -61,7 +62,6 @@ TEST_F(Undo, OpensTheLineAgainThatTheLastCommandLeft) {
 TEST_F(Undo, GoesBackThroughTheWholeRunAcrossItsEnd) {
     loadStates(L"000");
     EXPECT_EQ(after({kSave, kSkip, kSee}), L"s-a+b-b+c-c | 1 0 2 | 3: 3/3 Aucun");
-    EXPECT_EQ(after({kSave}), L" | 1 0 2 | 3: 3/3 Aucun");
     for (const wchar_t* step : {L"+c | 1 0 3 | 2: 3/3 c:\\c", L"-c+b | 1 3 0 | 1: 2/3 c:\\b",
                                 L"-b+a | 3 0 0 | 0: 1/3 c:\\a"}) {
         EXPECT_EQ(after({kUndo}), step);
@@ -140,7 +140,6 @@ TEST_F(Alone, AsksForWhatItWillCloseAndTellsWhatBecameOfIt) {
     EXPECT_EQ(
         goOn(kNo),
         L"Enregistrer et fermer 2 documents l'un après l'autre, jusqu'à la fin de la liste ?");
-    EXPECT_EQ(calls(), L"");
     EXPECT_EQ(goOn(), told(L"terminé", 2, 0, 0));
     EXPECT_FALSE(canGoOn());
     click(kUndo);
@@ -153,6 +152,11 @@ TEST_F(Alone, AsksForWhatItWillCloseAndTellsWhatBecameOfIt) {
     click(kBack);
     command(kResume, {1});
     EXPECT_FALSE(canGoOn());
+    // What is open may be another line's: saved with its flag, its own was no longer found.
+    load(L"1  c:\\a\r\n10 c:\\b\r\n11 c:\\c\r\n");
+    click(kSaveList);
+    command(IDC_FORM3_CMDELIF, {0});
+    EXPECT_TRUE(cad->isOpen() && !canGoOn());
     // Whatever the marks say, it asks nothing.
     switchOn(L"gardernonsauve");
     loadStates(L"0000");
@@ -248,10 +252,10 @@ TEST_F(Alone, StopsByItselfAfterFiveRefusalsOrWhenTheSessionRunsShort) {
             machine.desktop.gdiObjectsOf = {{7, inUse}};
             return std::int32_t{0};
         };
-        const std::wstring text = goOn();
-        EXPECT_TRUE(text.starts_with(inUse == 8'500 ? told(L"terminé", 3, 0, 0)
-                                                    : told(L"interrompu", 1, 0, 0) +
-                                                          L"\r\nSolidWorks utilise trop d'objets"));
+        EXPECT_TRUE(goOn().starts_with(inUse == 8'500
+                                           ? told(L"terminé", 3, 0, 0)
+                                           : told(L"interrompu", 1, 0, 0) +
+                                                 L"\r\nSolidWorks utilise trop d'objets"));
     }
     EXPECT_EQ(states(), L"1 3 0");
 }

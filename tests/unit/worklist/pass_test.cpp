@@ -24,7 +24,6 @@ TEST_F(Steps, LeadFromOneLineToAnother) {
         {"1330", start, "1300", 1, true},  // lines left in progress are to do again
         {"1x00", start, "1x30", 2, true},
         {"120", start, "123", 3, false},  // the last line is never opened
-        {"3", start, "3", 1, false},
         {"000", at1, "030", 1, true},
         {"00", at1, "03", 1, true},
         {"000", after1, "003", 2, true},
