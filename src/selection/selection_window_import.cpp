@@ -45,9 +45,9 @@ const wchar_t* reason(Presence why) {
     }
 }
 
-/// Enough of a line to find it in its file.
+/// Enough of a line to find it in its file: most paths are whole (MAX_PATH).
 std::wstring shownLine(const std::wstring& text) {
-    constexpr std::size_t kLongest = 120;
+    constexpr std::size_t kLongest = 260;
     const std::wstring line = text.substr(0, text.find_first_of(L"\r\n"));
     return line.size() <= kLongest ? line : line.substr(0, kLongest) + L"…";
 }

@@ -57,7 +57,7 @@ TEST_F(SelectionImport, WhatCantBeImportedLeavesTheListAsItWas) {
         {std::wstring(L"PK\0\0", 4), L"format CSV.\r\nc:\\listes\\ordre.csv\r\n"},
         {std::wstring((16U << 20) + 1, L'x'), L"16 Mo au plus.\r\nc:\\listes\\ordre.csv\r\n"},
         {L"a.sldprt\r\nb.sldprt", L"2 lignes laissées de côté :"},
-        {L"a;b", L"1 ligne laissée de côté :"},
+        {std::wstring(250, L'a') + L".sldprt", L"aa.sldprt : introuvable\r\n"},
         {L"\r\n", L"Aucun document à importer."},
     };
     for (const auto& [imported, told] : cases) {
