@@ -22,6 +22,7 @@ inline constexpr CallResult kUnknownName = failure(0x80020006);
 inline constexpr CallResult kException = failure(0x80020009);
 inline constexpr CallResult kRejected = failure(0x80010001);
 inline constexpr CallResult kRetryLater = failure(0x8001010A);
+inline constexpr CallResult kInSentMessage = failure(0x8001010D);
 inline constexpr CallResult kServerDied = failure(0x80010007);
 inline constexpr CallResult kServerDiedUnexecuted = failure(0x80010012);
 inline constexpr CallResult kDisconnected = failure(0x80010108);

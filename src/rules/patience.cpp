@@ -19,7 +19,10 @@ constexpr wchar_t kMarksKept[] =
 
 CallResult Patience::tryOnce(const std::function<CallResult()>& attempt) {
     const CallOut out(judge_);
-    return attempt();
+    const CallResult result = attempt();
+    // COM lets no call out as long as another program waits for the end of a message that it sent.
+    const bool retries = result == call_result::kInSentMessage && machine_.answerSender();
+    return retries ? attempt() : result;
 }
 
 void Patience::waitOut(unsigned milliseconds) {

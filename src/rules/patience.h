@@ -23,6 +23,9 @@ class BusyWaiting {
     virtual void handleInput() = 0;
     /// Interrupts the call that is out after this time, so that `whilePending` is called.
     virtual void wakeIn(unsigned milliseconds) = 0;
+    /// If another program has sent the message that is being handled, lets it go on at once. False
+    /// when none did, or it has gone on already.
+    virtual bool answerSender() = 0;
     /// Ends the program at once, with code 0.
     virtual void endProgram() = 0;
 };

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "input/judge.h"
@@ -14,6 +15,7 @@ struct FakeWaiting : BusyWaiting {
     std::vector<unsigned> waits;
     unsigned wakesIn = 0;
     bool programEnded = false;
+    bool senderWaits = false;
     Judge judge{{}, [this] { return time; }};
 
     std::uint64_t now() const override { return time; }
@@ -24,6 +26,7 @@ struct FakeWaiting : BusyWaiting {
     void handleInput() override {}
     void wakeIn(unsigned milliseconds) override { wakesIn = milliseconds; }
     void endProgram() override { programEnded = true; }
+    bool answerSender() override { return std::exchange(senderWaits, false); }
 };
 
 /// Waits without a window; goes on as long as it is told to.

@@ -169,9 +169,11 @@ void WinFiles::visit(const std::wstring& directory,
                                              FindExSearchNameMatch, nullptr,
                                              FIND_FIRST_EX_LARGE_FETCH));
     if (search.get() == INVALID_HANDLE_VALUE) {
-        // An empty drive root has no entry at all, not even its own.
-        if (GetLastError() == ERROR_FILE_NOT_FOUND) return;
-        throw directoryError(GetLastError(), directory);
+        const DWORD error = GetLastError();
+        // An empty drive root has no entry at all, not even its own; some servers say so in the
+        // other way.
+        if (error == ERROR_FILE_NOT_FOUND || error == ERROR_NO_MORE_FILES) return;
+        throw directoryError(error, directory);
     }
     do {
         if (!isDotEntry(found.cFileName)) visitor(entryOf(found));

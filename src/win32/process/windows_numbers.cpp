@@ -36,6 +36,7 @@ static_assert(call_result::kUnknownName == DISP_E_UNKNOWNNAME);
 static_assert(call_result::kException == DISP_E_EXCEPTION);
 static_assert(call_result::kRejected == RPC_E_CALL_REJECTED);
 static_assert(call_result::kRetryLater == RPC_E_SERVERCALL_RETRYLATER);
+static_assert(call_result::kInSentMessage == RPC_E_CANTCALLOUT_ININPUTSYNCCALL);
 static_assert(call_result::kServerDied == RPC_E_SERVER_DIED);
 static_assert(call_result::kServerDiedUnexecuted == RPC_E_SERVER_DIED_DNE);
 static_assert(call_result::kDisconnected == RPC_E_DISCONNECTED);

@@ -42,6 +42,13 @@ void showNextTab(HWND tabStrip) {
     SendMessageW(tabStrip, TCM_SETCURSEL, static_cast<WPARAM>(next % count), 0);
 }
 
+// Windows tells top-level windows only (the WM_SYSCOLORCHANGE message).
+void tellControlsOfColours(HWND window) {
+    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        SendMessageW(child, WM_SYSCOLORCHANGE, 0, 0);
+    }
+}
+
 }  // namespace
 
 // No exception gets out: Windows would swallow it, or end the program without a word.
@@ -92,7 +99,13 @@ INT_PTR DialogWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
             place_.changeScreen();
             return TRUE;
         case WM_SETTINGCHANGE:
-            if (wParam == SPI_SETWORKAREA) place_.changeScreen();
+            // The second one comes when the user has text made larger or smaller.
+            if (wParam == SPI_SETWORKAREA || wParam == SPI_SETNONCLIENTMETRICS) {
+                place_.changeScreen();
+            }
+            return FALSE;
+        case WM_SYSCOLORCHANGE:
+            tellControlsOfColours(window_.get());
             return FALSE;
         case WM_CLOSE:
             raise(kTheWindow, Event::Close);

@@ -117,7 +117,8 @@ InputSieve::InputSieve(Judge& judge)
 InputSieve::~InputSieve() { hooked_ = nullptr; }
 
 LRESULT CALLBACK InputSieve::onGetMessage(int code, WPARAM wParam, LPARAM lParam) {
-    if (code == HC_ACTION && wParam == PM_REMOVE && hooked_) {
+    // Windows passes on all flags with which the message was taken.
+    if (code == HC_ACTION && (wParam & PM_REMOVE) != 0 && hooked_) {
         auto& message = *reinterpret_cast<MSG*>(lParam);
         const Verdict verdict = hooked_->take(deedOf(message, *hooked_));
         if (verdict != Verdict::Counts) message.message = WM_NULL;

@@ -5,9 +5,6 @@
 
 namespace {
 
-/// The place in a WM_CONTEXTMENU that a key caused.
-constexpr LPARAM kByKey = -1;
-
 UINT stateOf(HWND window, int itemId) {
     return GetMenuState(GetSystemMenu(window, FALSE), static_cast<UINT>(itemId), MF_BYCOMMAND);
 }
@@ -30,6 +27,9 @@ UniqueMenu shortcutMenu(HWND window, std::span<const SystemMenuItem> items) {
 POINT pointOf(LPARAM place) {
     return {static_cast<short>(LOWORD(place)), static_cast<short>(HIWORD(place))};
 }
+
+/// Whether a key caused a WM_CONTEXTMENU: both coordinates are -1.
+bool isByKey(LPARAM place) { return static_cast<DWORD>(place) == MAXDWORD; }
 
 /// The lower left corner of the line with the focus, or the list's upper left one when that line is
 /// out of sight.
@@ -70,7 +70,7 @@ void showShortcutMenu(HWND window, std::span<const SystemMenuItem> items, POINT 
 }
 
 POINT shortcutMenuPlace(HWND control, LPARAM place) {
-    if (place != kByKey) return pointOf(place);
+    if (!isByKey(place)) return pointOf(place);
     HWND focus = GetFocus();
     if (!focus) focus = control;
     POINT corner = classOf(focus) == ControlClass::ListBox ? caretPlace(focus) : POINT{};
@@ -79,7 +79,7 @@ POINT shortcutMenuPlace(HWND control, LPARAM place) {
 }
 
 bool isOnFrame(HWND window, LPARAM place) {
-    if (place == kByKey) return false;
+    if (isByKey(place)) return false;
     POINT point = pointOf(place);
     RECT client{};
     GetClientRect(window, &client);

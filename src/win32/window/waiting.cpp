@@ -16,7 +16,7 @@ constexpr Moment kServing = 20;
 // A posted message has COM look up from the call that is out (the IMessageFilter::MessagePending
 // method).
 void CALLBACK wake(PTP_CALLBACK_INSTANCE, void* thread, PTP_TIMER) {
-    PostThreadMessageW(*static_cast<const DWORD*>(thread), WM_NULL, 0, 0);
+    PostThreadMessageW(static_cast<DWORD>(reinterpret_cast<DWORD_PTR>(thread)), WM_NULL, 0, 0);
 }
 
 }  // namespace
@@ -51,7 +51,9 @@ bool WinSearchWatch::wait() {
 
 WinBusyWaiting::WinBusyWaiting(Judge& judge)
     : judge_(judge),
-      timer_(require(CreateThreadpoolTimer(wake, &thread_, nullptr), L"une minuterie")) {}
+      timer_(require(CreateThreadpoolTimer(
+                         wake, reinterpret_cast<void*>(DWORD_PTR{GetCurrentThreadId()}), nullptr),
+                     L"une minuterie")) {}
 
 void WinBusyWaiting::wait(unsigned milliseconds) {
     const std::uint64_t end = now() + milliseconds;

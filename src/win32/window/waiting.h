@@ -37,10 +37,10 @@ class WinBusyWaiting : public BusyWaiting {
     void wait(unsigned milliseconds) override;
     void handleInput() override;
     void wakeIn(unsigned milliseconds) override;
+    bool answerSender() override { return ReplyMessage(0) != FALSE; }
     void endProgram() override { TerminateProcess(GetCurrentProcess(), 0); }
 
  private:
     Judge& judge_;
-    DWORD thread_ = GetCurrentThreadId();
     Unique<PTP_TIMER, CloseThreadpoolTimer> timer_;
 };

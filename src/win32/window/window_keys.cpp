@@ -156,6 +156,7 @@ bool WinHotKeys::has(int id) const { return std::ranges::find(taken_, id) != tak
 bool WinHotKeys::isHeld(UINT key) {
     if (!isDownNow(key)) return false;
     if (key == held_) return true;
+    KillTimer(window_, held_);
     held_ = key;
     SetTimer(window_, key, USER_TIMER_MINIMUM, nullptr);
     return false;

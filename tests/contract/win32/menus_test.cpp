@@ -66,10 +66,9 @@ TEST_F(Menus, AlsoComeUpByThemselves) {
     // The frame has Windows' own.
     RECT frame{};
     GetWindowRect(dialog(), &frame);
-    EXPECT_FALSE(isOnFrame(dialog(), -1));
     EXPECT_TRUE(isOnFrame(dialog(), MAKELPARAM(frame.left + 20, frame.top + 5)));
     SendMessageW(item(IDC_CONTRACT_ONE), WM_CONTEXTMENU,
-                 reinterpret_cast<WPARAM>(item(IDC_CONTRACT_ONE)), -1);
+                 reinterpret_cast<WPARAM>(item(IDC_CONTRACT_ONE)), MAKELPARAM(-1, -1));
     EXPECT_EQ(items, (std::vector<UINT>{IDM_CONTRACT_ONE, 0, IDM_CONTRACT_TWO}));
     EXPECT_EQ(states, static_cast<UINT>(MF_CHECKED | MF_GRAYED));
     EXPECT_TRUE(eventually([&] { return !raised.empty(); }));

@@ -191,6 +191,19 @@ TEST_F(WindowsAndBoxes, ListsAndTooltipsFollowAChangeOfResolution) {
     EXPECT_EQ(font(tips), font(GetDlgItem(first, IDC_CONTRACT_LABEL)));
 }
 
+// Windows tells top-level windows only.
+TEST_F(WindowsAndBoxes, ControlsAreToldThatColoursChange) {
+    static int told = 0;
+    const auto counting = [](HWND tabs, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                             DWORD_PTR) {
+        told += message == WM_SYSCOLORCHANGE;
+        return DefSubclassProc(tabs, message, wParam, lParam);
+    };
+    SetWindowSubclass(GetDlgItem(first, IDC_CONTRACT_TABS), counting, 0, 0);
+    SendMessageW(first, WM_SYSCOLORCHANGE, 0, 0);
+    EXPECT_EQ(told, 1);
+}
+
 TEST_F(WindowsAndBoxes, EnterPressesTheFocusedButtonAndADroppedListCountsWhenItCloses) {
     firstWindow->show();
     SetFocus(GetDlgItem(first, IDC_CONTRACT_BUTTON));

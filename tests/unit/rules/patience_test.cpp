@@ -92,3 +92,9 @@ TEST_F(PatienceTest, AsksWhoClosedTheWindowWhetherToWaitForACallThatDoesNotRetur
                            .icon = MessageBoxContent::Icon::Warning,
                            .defaultButton = 2}));
 }
+
+TEST_F(PatienceTest, LetsASenderGoOnDuringWhoseMessageNoCallMayGoOut) {
+    machine.senderWaits = true;
+    EXPECT_EQ(patience.call([&] { return machine.senderWaits ? call_result::kInSentMessage : 0; }),
+              0);
+}
