@@ -25,6 +25,16 @@ const std::wstring kTypes[] = {L"*.SLDDRW",
                                L"*.SLDASM ; *.SLDDRW",
                                L"*.SLDPRT ; *.SLDASM ; *.SLDDRW"};
 
+/// The error about a name that no file can hold says which one.
+void appendNamed(std::string& text, const std::wstring& path) {
+    try {
+        appendFreshLine(text, path);
+    } catch (RuntimeError& error) {
+        error.addLine(L"Document : " + path);
+        throw;
+    }
+}
+
 }  // namespace
 
 SelectionWindow::SelectionWindow(Platform& platform, WindowPlaces& places, const CadSession& cad,
@@ -132,7 +142,7 @@ void SelectionWindow::cmd_tracer_Click() {
 
 bool SelectionWindow::writeList() {
     std::string text;
-    for (const int line : linesToWrite()) appendFreshLine(text, fullPath(line));
+    for (const int line : linesToWrite()) appendNamed(text, fullPath(line));
     return replaceList(platform_, files_, [&] {
         platform_.files.replace(files_.list, [&](const ByteSink& file) { file(text); });
     });

@@ -27,6 +27,11 @@ TEST_F(SelectionLeaving, LaunchingWritesTheChosenDocumentsThenHandsOver) {
     click(IDC_FORM1_CMD_TRACER);
     EXPECT_EQ(exits.taken.back(), L"launchPass");
     EXPECT_EQ(window().state, FakeWindow::State::Hidden);
+    machine.files.add({L"c:\\plans\\\xD83D.SLDDRW"});
+    type(L"*.SLDDRW");
+    click(IDC_FORM1_CMD_INV);
+    const RuntimeError error = raisedError([&] { click(IDC_FORM1_CMD_TRACER); });
+    EXPECT_TRUE(error.text.ends_with(L"Document : c:\\plans\\\xD83D.SLDDRW"));
 }
 
 TEST_F(SelectionLeaving, ALaunchKeepsTheOldListWithItsMarksOrChangesNothing) {
