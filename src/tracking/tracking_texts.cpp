@@ -75,13 +75,14 @@ MessageBoxContent refusedInARowBox() {
 }
 
 MessageBoxContent marksNotKeptBox() {
-    return {.text =
-                L"Libérez de la place sur le disque de la liste : les marques ne peuvent plus être "
-                L"conservées à côté d'elle. Tarnwick réessaie à chaque marque.\r\nN'enregistrez "
-                L"pas la liste avant : un enregistrement qui échoue arrête Tarnwick. Si son "
-                L"répertoire est en lecture seule, ou ne répond plus, « Exporter le "
-                L"rapport... » garde ailleurs l'état de chaque document.\r\nLe passage "
-                L"continue."};
+    return {
+        .text =
+            L"Libérez de la place sur le disque de la liste : les marques ne peuvent plus être "
+            L"conservées à côté d'elle. Tarnwick réessaie à chaque marque, et quand vous le "
+            L"quittez.\r\nN'enregistrez pas la liste avant : un enregistrement qui échoue arrête "
+            L"Tarnwick. Si son répertoire est en lecture seule, ou ne répond plus, « Exporter le "
+            L"rapport... » garde ailleurs l'état de chaque document.\r\nLe passage "
+            L"continue."};
 }
 
 std::wstring takenKeysText(std::span<const std::wstring> keys) {
