@@ -14,6 +14,10 @@
 
 namespace {
 
+/// For reading as well, although nothing is read: otherwise a file server may refuse a write now
+/// and then (the CreateFile function).
+constexpr DWORD kReadAndWrite = GENERIC_READ | GENERIC_WRITE;
+
 std::uint32_t errorUnless(bool succeeded) { return succeeded ? 0 : GetLastError(); }
 
 }  // namespace
@@ -30,7 +34,7 @@ std::wstring WinReplacementSteps::nameBeside(const std::wstring& path) {
 }
 
 std::uint32_t WinReplacementSteps::create(const std::wstring& path) {
-    file_.reset(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+    file_.reset(CreateFileW(path.c_str(), kReadAndWrite, 0, nullptr, CREATE_NEW,
                             FILE_ATTRIBUTE_NORMAL, nullptr));
     return errorUnless(isValid(file_));
 }
@@ -86,9 +90,7 @@ class WinRecordFile : public RecordFile {
         file_.reset(INVALID_HANDLE_VALUE);
         makeWritable(path_);
         WinFiles().replace(path_, [&](const ByteSink& file) { file(bytes); });
-        // For reading as well: otherwise a file server may refuse a write now and then (the
-        // CreateFile function).
-        const DWORD error = openNow(GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ);
+        const DWORD error = openNow(kReadAndWrite, FILE_SHARE_READ);
         if (error != 0) throw fileError(error, path_);
         require(SetFilePointerEx(file_.get(), {}, nullptr, FILE_END));
     }
