@@ -52,6 +52,7 @@ void Judge::wish(Wish wish) {
 
 void Judge::note(const Deed& deed) {
     switch (deed.kind) {
+        case Kind::Touch:
         case Kind::Press:
         case Kind::FramePress:
             return notePress(deed);
@@ -84,7 +85,8 @@ Press Judge::pressOf(Moment time, std::int32_t x, std::int32_t y) const {
 }
 
 void Judge::notePress(const Deed& deed) {
-    situation_.press = mouse_ = pressOf(deed.time, deed.x, deed.y);
+    if (!deed.ofTouch) mouse_ = pressOf(deed.time, deed.x, deed.y);
+    situation_.press = mouse_;
 }
 
 void Judge::noteKeyDown(const Deed& deed) {

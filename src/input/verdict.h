@@ -49,9 +49,10 @@ struct Situation {
 struct Deed {
     enum class Kind {
         // Messages as they are taken from the queue.
-        Press,       ///< a mouse button, a pen or a finger goes down
+        Press,       ///< a mouse button goes down, or Windows has made that of a touch
         FramePress,  ///< the same outside a client area: on a window's frame or a scroll bar
-        Release,     ///< it goes up
+        Touch,       ///< a pen or a finger goes down
+        Release,     ///< any of these goes up
         Menu,        ///< the right button goes up, which opens a menu
         Key,         ///< a key goes down
         KeyUp,
@@ -81,6 +82,7 @@ struct Deed {
     int key = 0;            ///< its virtual-key code
     bool repeated = false;  ///< the key is held
     bool withAlt = false;   ///< the key goes down while Alt is held
+    bool ofTouch = false;   ///< Windows has made the press of a touch, which came before
 
     const EventSink* window = nullptr;  ///< the window whose event it is
     bool closes = false;                ///< the window's frame asks to be closed

@@ -15,14 +15,15 @@ using Target = Deed::Target;
 bool isMadeOfTouch(UINT message) {
     constexpr LPARAM kMask = static_cast<LPARAM>(0xFFFFFF00);
     constexpr LPARAM kSignature = static_cast<LPARAM>(0xFF515700);
-    return isMousePress(message) && (GetMessageExtraInfo() & kMask) == kSignature;
+    return isPress(message) && (GetMessageExtraInfo() & kMask) == kSignature;
 }
 
 Kind kindOf(UINT message) {
     if (message == WM_RBUTTONUP) return Kind::Menu;
-    if (isMadeOfTouch(message) || isRelease(message)) return Kind::Release;
+    if (isRelease(message)) return Kind::Release;
+    if (isTouch(message)) return Kind::Touch;
     if (isFramePress(message)) return Kind::FramePress;
-    if (isPress(message)) return Kind::Press;
+    if (isMousePress(message)) return Kind::Press;
     if (isKeyDown(message)) return Kind::Key;
     if (isKeyUp(message)) return Kind::KeyUp;
     if (isScroll(message)) return Kind::Scroll;
@@ -88,7 +89,8 @@ Deed deedOf(const MSG& message, const Judge& judge) {
     if (deed.kind == Kind::Other) return deed;
     deed.time = widened(message.time, judge.now());
     deed.target = targetOf(message, judge.situation());
-    if (deed.kind == Kind::Press || deed.kind == Kind::FramePress) {
+    if (isPress(message.message) || isTouch(message.message)) {
+        deed.ofTouch = isMadeOfTouch(message.message);
         const POINT place = placeOf(message);
         deed.x = place.x;
         deed.y = place.y;

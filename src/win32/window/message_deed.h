@@ -27,11 +27,15 @@ constexpr bool isMousePress(UINT message) {
 /// The same on a window's frame, where it is moved, sized, scrolled or closed.
 constexpr bool isFramePress(UINT message) {
     return message == WM_NCLBUTTONDOWN || message == WM_NCLBUTTONDBLCLK ||
-           message == WM_NCRBUTTONDOWN || message == WM_NCPOINTERDOWN;
+           message == WM_NCRBUTTONDOWN;
 }
 
-constexpr bool isPress(UINT message) {
-    return isMousePress(message) || isFramePress(message) || message == WM_POINTERDOWN;
+constexpr bool isPress(UINT message) { return isMousePress(message) || isFramePress(message); }
+
+/// Whether a pen or a finger goes down. Windows makes a press of it if all messages about it reach
+/// the window (the WM_POINTERDOWN message).
+constexpr bool isTouch(UINT message) {
+    return message == WM_POINTERDOWN || message == WM_NCPOINTERDOWN;
 }
 
 constexpr bool isRelease(UINT message) {

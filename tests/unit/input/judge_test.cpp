@@ -94,6 +94,11 @@ TEST_F(JudgeTest, ADoubleClickIsTwoPressesSoonAndNear) {
     EXPECT_EQ(judge.judgeActivation(205, 100), Verdict::Counts);
     EXPECT_TRUE(pressed(3100, 105).onNewWindow);
     EXPECT_FALSE(pressed(3200, 200).onNewWindow);
+    // What Windows makes of a touch is the same press.
+    judge.take({.kind = Kind::Touch, .time = 5000});
+    judge.take({.kind = Kind::Press, .time = 5100, .ofTouch = true});
+    EXPECT_EQ(judge.situation().press->time, 5000U);
+    EXPECT_FALSE(judge.situation().press->second);
 }
 
 TEST_F(JudgeTest, AHeldKeyIsPressedOnce) {

@@ -95,7 +95,7 @@ TEST(Verdict, OnEachDeedInEachSituation) {
         {"on the type or the tree", message(Kind::Press, SearchControl),
          "CCCCCC CC CCCC CCC CCCCCCC"},
         {"elsewhere", message(Kind::Press, Other), "CCCCCC CC CCCC --- ------C"},
-        {"its end", message(Kind::Release, Button), "CCCCCC CC CCCC CCC CCCCCCC"},
+        {"a finger on one", message(Kind::Touch, Button), "CCCCCC CC CCCC CCC CCCCCCC"},
         {"on the frame", message(Kind::FramePress, Window), "CCCCC- CC CCCC CC- CCCC-CC"},
         {"on a scroll bar", message(Kind::FramePress, Other), "CCCCC- CC CCCC --- ------C"},
         {"the right button there", message(Kind::Menu, SearchControl),
