@@ -85,6 +85,9 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     /// False when the user ended the search early.
     bool rebuild(const SelectionList::Entries& chosen);
     SearchEnd search();
+    /// The directory stays open for whose sake a search may have ended.
+    void stayHere();
+    void tellIncomplete();
     void showCounts(int filesListed);
 
     using ImportStep = std::function<DocumentImport::End(DocumentImport&)>;
@@ -118,6 +121,7 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     std::wstring searched_;                     ///< the directory searched last
     std::wstring searchedKinds_;                ///< the text of the kinds searched last
     std::optional<std::wstring> stoppedKinds_;  ///< their text when that search was stopped
+    bool superseded_ = false;                   ///< that search ended for a newer one
     bool imported_ = false;                     ///< the listed documents come from elsewhere
     bool byKind_ = false;
 };

@@ -14,7 +14,19 @@
 #include "selection/selection_window.h"
 
 void SelectionWindow::repert_DblClick() {
-    if (repert.openSelected() == Opening::Another) repert_Change();
+    const Opening opening = repert.openSelected();
+    if (opening == Opening::GivenUp) return stayHere();
+    if (opening == Opening::Another || superseded_) repert_Change();
+}
+
+void SelectionWindow::stayHere() {
+    if (superseded_ && platform_.search.watch.stopped()) tellIncomplete();
+}
+
+void SelectionWindow::tellIncomplete() {
+    superseded_ = false;
+    stoppedKinds_ = typef.text();
+    platform_.messageBoxes.warn(kIncompleteList);
 }
 
 void SelectionWindow::unite_Change() {
@@ -24,7 +36,7 @@ void SelectionWindow::unite_Change() {
     if (opening == Opening::GivenUp) {
         // The drive before is shown again, unless the user has chosen yet another one.
         if (unite.drive() == drive) unite.setDrive(repert.path());
-        return;
+        return stayHere();
     }
     const bool complete = rebuild({});
     // The directory and the drive each ask for a rebuild. The second would find the same again, so
@@ -81,12 +93,12 @@ bool SelectionWindow::rebuild(const SelectionList::Entries& chosen) {
     searched_ = repert.path();
     searchedKinds_ = typef.text();
     const SearchEnd end = search();
+    superseded_ = end == SearchEnd::Superseded;
     stoppedKinds_.reset();
-    if (end == SearchEnd::Stopped) stoppedKinds_ = typef.text();
     cptfichier.setText(decimal(found_.count()));
     List1.fill(NNiveau.levels(), [&](int line) { return chosen.contains(found_.entry(line)); });
     List1_Click();
-    if (end == SearchEnd::Stopped) platform_.messageBoxes.warn(kIncompleteList);
+    if (end == SearchEnd::Stopped) tellIncomplete();
     return end == SearchEnd::Complete;
 }
 

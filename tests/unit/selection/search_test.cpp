@@ -174,9 +174,18 @@ TEST_F(SelectionSearch, ListsWhatWasFoundWhenItIsStoppedOrBegunAgain) {
         EXPECT_EQ(machine.watch.searching, &window().sink);
         return false;
     });
-    type(L"*.SLDDRW");
-    EXPECT_EQ(unchosen(), found);
-    EXPECT_EQ(machine.boxes.takeTexts(), Texts());
+    for (const bool opens : {true, false}) {
+        type(L"*.SLDDRW");
+        EXPECT_EQ(unchosen(), found);
+        EXPECT_EQ(machine.boxes.takeTexts(), Texts());
+        // It ended for a directory that is open already, or isn't opened after all.
+        const auto before = std::exchange(machine.files.beforeEach, [](const auto&) {});
+        if (!opens) machine.hangUntilEscape();
+        openDirectory(opens ? L"plans" : L"moteur");
+        EXPECT_EQ(list().count(), opens ? 3 : 2);
+        EXPECT_EQ(machine.boxes.takeTexts().size(), opens ? 0U : 1U);
+        machine.files.beforeEach = before;
+    }
 }
 
 TEST_F(SelectionSearch, ListsNothingOlderWhenItIsStoppedBeforeItHasReadAnything) {
