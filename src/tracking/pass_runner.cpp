@@ -116,6 +116,8 @@ bool PassRunner::startBeside(std::int32_t fileLine) {
 }
 
 void PassRunner::save(std::int32_t lineCount) {
+    // A save that fails ends the program.
+    marks_.keepOn(pass_.list());
     const auto write = [&](const ByteSink& file) { pass_.write(lineCount, file); };
     if (!::save(platform_, listFile_, write)) return;
     marks_.forget();

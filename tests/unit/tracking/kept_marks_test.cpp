@@ -102,15 +102,15 @@ TEST_F(Resuming, GoesPastADocumentThatStopsTheProgramOrOpensItAgain) {
 }
 
 TEST_F(Resuming, TellsOnceThatMarksCannotBeKeptAndTriesAgainToTheEnd) {
-    for (const int next : {kSee, kLeave, kTheWindow}) {
+    for (const int next : {kSee, kSaveList, kLeave, kTheWindow}) {
         machine.records.fails = [](int) { return true; };
         loadStates(L"0000");
         clickAll({kSave, kSave});
         EXPECT_EQ(machine.boxes.takeTexts().size(), 1U);
-        EXPECT_FALSE(form->keepsMarks());
         machine.records.fails = [](int) { return false; };
+        if (next == kSaveList) machine.files.failing[machine.programFiles.list] = 1;
         try {
-            next == kTheWindow ? window().close() : click(next);
+            raised([&] { next == kTheWindow ? window().close() : click(next); });
         } catch (const ProgramEnd&) {
         }
         EXPECT_EQ(restart({kYes}).size(), 1U) << next;
