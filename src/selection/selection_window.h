@@ -85,7 +85,7 @@ class SelectionWindow : public ProgramWindow<SelectionWindow> {
     /// False when the user ended the search early.
     bool rebuild(const SelectionList::Entries& chosen);
     SearchEnd search();
-    /// The directory stays open for whose sake a search may have ended.
+    /// No other directory is opened after all. A search that ended for one is incomplete.
     void stayHere();
     void tellIncomplete();
     void showCounts(int filesListed);
