@@ -48,7 +48,7 @@ struct Looks {
 
 /// Looks what each path leads to; null when the watch ends that.
 std::shared_ptr<Looks> lookFor(const SearchServices& services, std::vector<std::wstring> paths) {
-    const auto looks = std::make_shared<Looks>(Looks{std::move(paths)});
+    auto looks = std::make_shared<Looks>(Looks{std::move(paths)});
     const auto ask = [&files = services.files, looks](std::size_t number) {
         Presence& answer = looks->answers[number];
         if (answer == Presence::OutOfReach) answer = presenceOf(files, looks->paths[number]);
