@@ -100,6 +100,7 @@ class DialogWindow : public Window, private EventSource {
     bool serveFirst(int id);
     INT_PTR onSystemCommand(WPARAM command);
     INT_PTR onContextMenu(HWND control, LPARAM place);
+    bool isUnmeantMenu() const;
     void onHotKey(int id, UINT key);
     void onDrop(HDROP files);
     void onHelp();

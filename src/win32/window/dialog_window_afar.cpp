@@ -53,14 +53,19 @@ INT_PTR DialogWindow::onSystemCommand(WPARAM command) {
         if (canUse(itemOf(command))) raise(itemOf(command), Event::Click);
         return TRUE;
     }
-    return itemOf(command) == SC_MOUSEMENU &&
-           judge().judge({.kind = Deed::Kind::OpenMenu}) == Verdict::Drops;
+    return itemOf(command) == SC_MOUSEMENU && isUnmeantMenu();
+}
+
+/// Whether a press that opens the system menu came too early.
+bool DialogWindow::isUnmeantMenu() const {
+    return judge().judge({.kind = Deed::Kind::OpenMenu}) == Verdict::Drops;
 }
 
 // Edit fields show a menu of their own instead, and the frame shows Windows' own.
 INT_PTR DialogWindow::onContextMenu(HWND control, LPARAM place) {
     HWND window = window_.get();
-    if (menuItems_.empty() || isOnFrame(window, place)) return FALSE;
+    if (isOnFrame(window, place)) return isUnmeantMenu();
+    if (menuItems_.empty()) return FALSE;
     if (!isAsideMeant(true)) return TRUE;
     showShortcutMenu(window, menuItems_, shortcutMenuPlace(control, place));
     return TRUE;

@@ -40,7 +40,7 @@ constexpr bool isTouch(UINT message) {
 
 constexpr bool isRelease(UINT message) {
     return message == WM_LBUTTONUP || message == WM_NCLBUTTONUP || message == WM_RBUTTONUP ||
-           message == WM_POINTERUP;
+           message == WM_NCRBUTTONUP || message == WM_POINTERUP;
 }
 
 constexpr bool isKeyDown(UINT message) { return message == WM_KEYDOWN || message == WM_SYSKEYDOWN; }

@@ -58,7 +58,9 @@ WinBusyWaiting::WinBusyWaiting(Judge& judge)
 void WinBusyWaiting::wait(unsigned milliseconds) {
     const std::uint64_t end = now() + milliseconds;
     for (std::uint64_t time = now(); time < end; time = now()) {
-        MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(end - time), QS_ALLINPUT, 0);
+        // COM has seen, and left in the queue, what came during the call.
+        MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(end - time), QS_ALLINPUT,
+                                    MWMO_INPUTAVAILABLE);
         handleWaitingMessages(judge_);
     }
 }
