@@ -59,8 +59,7 @@ TEST_F(Options, ReportIsWrittenWhereTheUserWantsItOrThePassGoesOnWithoutIt) {
     for (const wchar_t* path : {L"c:\\r.csv", L"C:\\Tarnwick\\TARNWICK.LST"}) {
         machine.fileDialogs.answer = path;
         click(IDM_FORM3_RAPPORT);
-        EXPECT_TRUE(
-            machine.boxes.takeTexts().at(0).starts_with(L"Le rapport n'a pas pu être écrit."));
+        EXPECT_TRUE(has(machine.boxes.takeTexts().at(0), L"Le rapport n'a pas pu être écrit."));
     }
     EXPECT_EQ(listFile(), before);
     click(kSave);

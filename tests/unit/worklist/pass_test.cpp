@@ -54,8 +54,7 @@ TEST_F(Steps, EliminatingMovesAllButTheReloadFlags) {
     EXPECT_EQ(lines[0].path, "c:\\1");
     EXPECT_EQ(lines[2].path, "c:\\4");
     EXPECT_EQ(lines[2].fileLine, 4);
-    EXPECT_TRUE(lines[0].reload);
-    EXPECT_FALSE(lines[1].reload || lines[2].reload);
+    EXPECT_TRUE(lines[0].reload && !lines[1].reload && !lines[2].reload);
 }
 
 TEST_F(Steps, SearchForTheCurrentLineReadsTheRowPastTheLastOne) {
