@@ -103,3 +103,12 @@ TEST_F(SearchOnAWindow, IsEndedByEscapeOrWithTheProgramByAFrame) {
     MSG quit;
     EXPECT_TRUE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }
+
+// Windows wants all or none of them, and makes the press that is dropped later.
+TEST_F(SearchOnAWindow, LetsMessagesOfTouchThrough) {
+    const Searching searching(watch_, *this, SearchKind::Documents);
+    PostMessageW(item(IDC_CONTRACT_CHECK), WM_POINTERDOWN, 1, 0);
+    MSG taken{};
+    PeekMessageW(&taken, item(IDC_CONTRACT_CHECK), WM_POINTERDOWN, WM_POINTERDOWN, PM_REMOVE);
+    EXPECT_EQ(taken.message, static_cast<UINT>(WM_POINTERDOWN));
+}

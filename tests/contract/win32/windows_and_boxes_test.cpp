@@ -193,7 +193,8 @@ TEST_F(WindowsAndBoxes, ListsAndTooltipsFollowAChangeOfResolution) {
 
 // Windows tells top-level windows only.
 TEST_F(WindowsAndBoxes, ControlsAreToldThatColoursChange) {
-    static int told = 0;
+    static int told;
+    told = 0;
     const auto counting = [](HWND tabs, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                              DWORD_PTR) {
         told += message == WM_SYSCOLORCHANGE;
