@@ -23,9 +23,13 @@ std::wstring notImportedText(const std::wstring& problem) {
 }
 
 MessageBoxContent serversBox(const std::vector<std::wstring>& servers) {
-    std::wstring text = L"Des documents sont sur d'autres serveurs :";
-    for (const std::wstring& server : servers) text += L"\r\n\\\\" + server;
-    return {.text = text + L"\r\nLes y chercher ? Ces serveurs sauront qui le demande.",
+    // One after the other: with a line for each the buttons could be below the screen.
+    std::wstring names;
+    for (const std::wstring& server : servers) {
+        names += (names.empty() ? L"\\\\" : L", \\\\") + server;
+    }
+    return {.text = L"Des documents sont sur d'autres serveurs :\r\n" + names +
+                    L"\r\nLes y chercher ? Ces serveurs sauront qui le demande.",
             .buttons = MessageBoxContent::Buttons::YesNo,
             .icon = MessageBoxContent::Icon::Warning,
             .defaultButton = 2};
