@@ -13,8 +13,10 @@ static bool survivesSave(const WorkLine& line) {
 
 /// Saving has put a 1 before the codes of flagged lines, which reading takes off again.
 static void requireSameAfterSave(WorkList& list) {
+    std::string saved;
+    formatListFile(list, list.lineCount(), [&](std::string_view piece) { saved += piece; });
     WorkList reread;
-    require(parseListFile(formatListFile(list, list.lineCount()), reread));
+    require(parseListFile(saved, reread));
     require(reread.last == list.last);
     for (int i = 0; i <= list.last; ++i) {
         const WorkLine& before = list.lines[i];
