@@ -100,7 +100,8 @@ std::optional<std::wstring> resolvedPath(const std::wstring& directory, std::wst
     const std::size_t root = resolved.size();
     resolved.reserve(path.size() + 1);
     addNames(resolved, std::wstring_view(path).substr(std::min(root - 1, path.size())));
-    return resolved.size() == root ? std::nullopt : std::optional(resolved);
+    if (resolved.size() == root) return std::nullopt;
+    return resolved;
 }
 
 std::wstring serverOf(std::wstring_view path) {
