@@ -111,9 +111,12 @@ TEST_F(SelectionImport, AsksBeforeItLooksOnServersThatNobodyUses) {
 }
 
 TEST_F(SelectionImport, StoppedItChangesNothing) {
+    machine.files.texts[kFile] = L"";
+    // First both are looked at, then the file is read.
+    machine.watch.goesOn = [&, times = 0]() mutable { return ++times < 3 || machine.watch.stop(); };
+    window().drop({L"c:\\plans\\axe.slddrw", kFile});
     machine.hangUntilEscape();
     import(L"c:\\plans\\axe.slddrw");
-    window().drop({L"c:\\plans\\moteur\\piston.SLDPRT"});
     EXPECT_EQ(machine.boxes.takeTexts(),
               Texts(2, L"Importation interrompue.\r\nLa liste reste comme elle était."));
     expectUnchanged();
